@@ -1,0 +1,27 @@
+# SPDX-FileCopyrightText: 2026 The VELM4030 developers
+# SPDX-License-Identifier: MIT
+
+# velm_configure(TARGET): the language, the warnings and the sanitizers that every target of the project shares.
+function(velm_configure target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF
+    RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+  if(VELM_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all)
+    target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# velm_library(NAME LINKS LIBRARY...): the folder src/NAME as the static library velm_NAME. It sees the headers of the
+# libraries that it links and of those below them; tests/style checks that no include points anywhere else.
+function(velm_library name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${name}/*.cpp")
+  add_library(velm_${name} STATIC ${sources})
+  velm_configure(velm_${name})
+  target_include_directories(velm_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  foreach(lower IN LISTS ARG_LINKS)
+    target_link_libraries(velm_${name} PUBLIC velm_${lower})
+  endforeach()
+endfunction()

@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "foundation/list.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+
+#include <algorithm>
+
+namespace velm {
+
+const IDENTITY LIST_identity = makeIdentity("LIST", "20150611", "ZENDORAK", "C", "CODE");
+std::uint8_t LIST_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t firstCapacity = 2;
+
+bool isRange(const LIST* list, std::int32_t from, std::int32_t to) {
+    return list != nullptr && 0 <= from && from < to && to <= list->count;
+}
+
+/// Grows until `count` elements fit, and reports whether they do. A capacity that would pass 2^31 ends the
+/// growth.
+bool reserve(LIST* list, std::int64_t count) {
+    while (list->capacity < count) {
+        if (LIST_grow(list) == 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+LIST* LIST_new() {
+    LIST* list = allocateRecord<LIST>();
+    if (list == nullptr) {
+        LIST_error();
+        return nullptr;
+    }
+    if (LIST_setCapacity(list, firstCapacity) == 0) {
+        delete list;
+        return nullptr;
+    }
+    return list;
+}
+
+void LIST_append(LIST* list, void* value) {
+    if (list == nullptr) {
+        LIST_error();
+        return;
+    }
+    if (!reserve(list, std::int64_t{list->count} + 1)) {
+        return;
+    }
+    list->items[list->count] = value;
+    ++list->count;
+}
+
+void LIST_insert(LIST* list, void* value, std::int32_t index) {
+    if (list == nullptr || index < 0 || index > list->count) {
+        LIST_error();
+        return;
+    }
+    if (!reserve(list, std::int64_t{list->count} + 1)) {
+        return;
+    }
+    void** const end = list->items + list->count;
+    std::copy_backward(list->items + index, end, end + 1);
+    list->items[index] = value;
+    ++list->count;
+}
+
+void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_t to, std::int32_t at) {
+    if (!isRange(src, from, to) || dst == nullptr || at < 0 || at > dst->count) {
+        LIST_error();
+        return;
+    }
+    if (src == dst) {
+        // The move that opens the gap would move the source along, so the source is taken aside first.
+        LIST* aside = LIST_slice(src, from, to);
+        if (aside != nullptr) {
+            LIST_insertRange(aside, dst, 0, aside->count, at);
+            LIST_delete(&aside);
+        }
+        return;
+    }
+    const std::int32_t length = to - from;
+    if (!reserve(dst, std::int64_t{dst->count} + length)) {
+        return;
+    }
+    void** const end = dst->items + dst->count;
+    std::copy_backward(dst->items + at, end, end + length);
+    std::copy(src->items + from, src->items + to, dst->items + at);
+    dst->count += length;
+}
+
+void LIST_set(LIST* list, std::int32_t index, void* value) {
+    if (list == nullptr || index < 0 || index >= list->count) {
+        LIST_error();
+        return;
+    }
+    list->items[index] = value;
+}
+
+void* LIST_get(const LIST* list, std::int32_t index) {
+    if (list == nullptr || index < 0 || index >= list->count) {
+        LIST_error();
+        return nullptr;
+    }
+    return list->items[index];
+}
+
+std::int32_t LIST_indexOf(const LIST* list, const void* value) {
+    if (list == nullptr || value == nullptr) {
+        LIST_error();
+        return -1;
+    }
+    void** const end = list->items + list->count;
+    void** const found = std::find(list->items, end, value);
+    return found == end ? -1 : static_cast<std::int32_t>(found - list->items);
+}
+
+void LIST_remove(LIST* list, std::int32_t index) {
+    if (list == nullptr || index < 0 || index >= list->count) {
+        LIST_error();
+        return;
+    }
+    void** const end = list->items + list->count;
+    std::copy(list->items + index + 1, end, list->items + index);
+    end[-1] = nullptr;
+    --list->count;
+}
+
+void LIST_removeRange(LIST* list, std::int32_t from, std::int32_t to) {
+    if (!isRange(list, from, to)) {
+        LIST_error();
+        return;
+    }
+    std::copy(list->items + to, list->items + list->count, list->items + from);
+    list->count -= to - from;
+}
+
+void* LIST_pop(LIST* list) {
+    if (list == nullptr || list->count == 0) {
+        LIST_error();
+        return nullptr;
+    }
+    --list->count;
+    return list->items[list->count];
+}
+
+void LIST_setCount(LIST* list, std::int32_t count) {
+    if (list == nullptr || count < 0) {
+        LIST_error();
+        return;
+    }
+    if (list->capacity < count && LIST_setCapacity(list, count) == 0) {
+        return;
+    }
+    list->count = count;
+}
+
+std::int32_t LIST_setCapacity(LIST* list, std::int32_t capacity) {
+    if (list == nullptr || capacity < list->count) {
+        LIST_error();
+        return 0;
+    }
+    void** const items = allocateArray<void*>(capacity);
+    if (items == nullptr) {
+        LIST_error();
+        return 0;
+    }
+    std::copy(list->items, list->items + list->count, items);
+    delete[] list->items;
+    list->items = items;
+    list->capacity = capacity;
+    return 1;
+}
+
+std::int32_t LIST_grow(LIST* list) {
+    if (list == nullptr) {
+        LIST_error();
+        return 0;
+    }
+    // Capacity 0 doubles to 0 and 2^30 past the range: both ask for a capacity that cannot be had.
+    constexpr std::int32_t largestToDouble = 0x3FFFFFFF;
+    const bool canDouble = list->capacity > 0 && list->capacity <= largestToDouble;
+    return LIST_setCapacity(list, canDouble ? list->capacity * 2 : -1);
+}
+
+LIST* LIST_clone(const LIST* list) {
+    if (list == nullptr) {
+        LIST_error();
+        return nullptr;
+    }
+    LIST* clone = LIST_new();
+    if (clone != nullptr && list->count > 0) {
+        LIST_insertRange(list, clone, 0, list->count, 0);
+        if (clone->count != list->count) {
+            LIST_delete(&clone);
+        }
+    }
+    return clone;
+}
+
+LIST* LIST_slice(const LIST* list, std::int32_t from, std::int32_t to) {
+    if (!isRange(list, from, to)) {
+        LIST_error();
+        return nullptr;
+    }
+    LIST* slice = LIST_new();
+    if (slice != nullptr) {
+        LIST_insertRange(list, slice, from, to, 0);
+        if (slice->count != to - from) {
+            LIST_delete(&slice);
+        }
+    }
+    return slice;
+}
+
+std::int32_t LIST_equal(const LIST* a, const LIST* b) {
+    if (a == nullptr || b == nullptr) {
+        LIST_error();
+        return 0;
+    }
+    return a == b || std::equal(a->items, a->items + a->count, b->items, b->items + b->count) ? 1 : 0;
+}
+
+void LIST_delete(LIST** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        LIST_error();
+        return;
+    }
+    delete[](*handle)->items;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void LIST_error() {
+    reportLine(LIST_verbose, "LIST error");
+}
+
+} // namespace velm

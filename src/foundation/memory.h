@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The one way to memory: zero-filled, never throwing, sizes multiplied in one place that checks for overflow.
+// All of it goes through `operator new(std::nothrow)`, which a test replaces to make the nth allocation fail.
+//
+//     IMG* img = allocateRecord<IMG>();                        // free with delete
+//     std::uint32_t* pixels = allocateArray<std::uint32_t>(n); // free with delete[]
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <new>
+#include <type_traits>
+
+namespace velm {
+
+/// A zero-filled record, or nullptr when memory runs out. The caller frees it with `delete`.
+template <typename Record>
+[[nodiscard]] Record* allocateRecord() {
+    static_assert(std::is_trivially_destructible_v<Record>, "records are plain");
+    return new (std::nothrow) Record{};
+}
+
+/// `count` zero-filled elements, or nullptr when `count` is negative, too large to address, or memory runs
+/// out. A count of 0 gives a valid pointer to nothing. The caller frees it with `delete[]`.
+template <typename Element>
+[[nodiscard]] Element* allocateArray(std::int64_t count) {
+    static_assert(std::is_trivially_destructible_v<Element>, "elements are plain");
+    constexpr auto most =
+        std::numeric_limits<std::ptrdiff_t>::max() / static_cast<std::ptrdiff_t>(sizeof(Element));
+    if (count < 0 || count > most) {
+        return nullptr;
+    }
+    return new (std::nothrow) Element[static_cast<std::size_t>(count)]();
+}
+
+} // namespace velm

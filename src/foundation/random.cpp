@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "foundation/random.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+
+namespace velm {
+
+const IDENTITY RANDOM_identity = makeIdentity("RANDOM", "ZENDORAK", "C", "CODE", "20150318");
+std::uint8_t RANDOM_verbose = 0;
+
+namespace {
+
+constexpr std::uint32_t low24 = 0xFFFFFF;
+
+/// One draw: counts, lets `mix` change the state, and gives the state as a signed word; 0 (reported) without
+/// a record.
+template <typename Mix>
+std::int32_t draw(RANDOM* random, Mix mix) {
+    if (random == nullptr) {
+        RANDOM_error();
+        return 0;
+    }
+    ++random->counter;
+    mix(*random);
+    return static_cast<std::int32_t>(random->state);
+}
+
+} // namespace
+
+RANDOM* RANDOM_new() {
+    RANDOM* random = allocateRecord<RANDOM>();
+    if (random == nullptr) {
+        RANDOM_error();
+        return nullptr;
+    }
+    random->counter = 0x12345678;
+    random->multiplier = 33141;
+    random->mask = 0xA5A5A5A5;
+    random->state = 1;
+    return random;
+}
+
+std::int32_t RANDOM_next(RANDOM* random) {
+    return draw(random, [](RANDOM& r) {
+        r.multiplier = (r.multiplier * (r.state * r.counter)) & low24;
+        r.state = (r.state + r.counter + r.multiplier) & low24;
+    });
+}
+
+std::int32_t RANDOM_nextAdd(RANDOM* random) {
+    return draw(random, [](RANDOM& r) { r.state = (r.state + r.counter) & low24; });
+}
+
+std::int32_t RANDOM_nextDouble(RANDOM* random) {
+    return draw(random, [](RANDOM& r) { r.state = (r.state * 2 + r.counter) & low24; });
+}
+
+std::int32_t RANDOM_nextSquare(RANDOM* random) {
+    return draw(random, [](RANDOM& r) {
+        r.mask = low24 << (r.state & 7);
+        r.multiplier = (r.multiplier * r.multiplier) & 0xFFFF;
+        r.state = r.state ^ r.counter ^ r.multiplier ^ r.mask;
+    });
+}
+
+std::int32_t RANDOM_nextFold(RANDOM* random) {
+    return draw(random, [](RANDOM& r) {
+        r.state ^= r.counter;
+        r.state ^= r.state >> 16;
+    });
+}
+
+std::int32_t RANDOM_nextSpread(RANDOM* random) {
+    return draw(random, [](RANDOM& r) {
+        r.state ^= r.counter;
+        r.state *= 0x10001;
+    });
+}
+
+std::int32_t RANDOM_nextMix(RANDOM* random) {
+    return draw(random, [](RANDOM& r) {
+        r.state ^= r.counter;
+        r.state += r.counter;
+        r.state *= r.counter;
+    });
+}
+
+RANDOM* RANDOM_clone(const RANDOM* src) {
+    if (src == nullptr) {
+        RANDOM_error();
+        return nullptr;
+    }
+    // RANDOM_cloneForgets: one expects a copy; it is a fresh generator, so a clone repeats the sequence from
+    // its start.
+    return RANDOM_new();
+}
+
+void RANDOM_delete(RANDOM** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        RANDOM_error();
+        return;
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+void RANDOM_error() {
+    reportLine(RANDOM_verbose, "RANDOM error");
+}
+
+} // namespace velm

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// 32-bit arithmetic that wraps modulo 2^32, computed in unsigned so that it is defined for every operand.
+// Right shifts need no helper: C++20 makes `>>` of a negative number arithmetic.
+//
+//     x = wrapMul(amplitude, SINE_table[phase]) >> 15;
+#pragma once
+
+#include <cstdint>
+
+namespace velm {
+
+/// a + b modulo 2^32.
+constexpr std::int32_t wrapAdd(std::int32_t a, std::int32_t b) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+}
+
+/// a - b modulo 2^32.
+constexpr std::int32_t wrapSub(std::int32_t a, std::int32_t b) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b));
+}
+
+/// a * b modulo 2^32.
+constexpr std::int32_t wrapMul(std::int32_t a, std::int32_t b) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
+}
+
+/// value shifted left by count (0..31), the bits that leave on the left being lost.
+constexpr std::int32_t wrapShl(std::int32_t value, std::int32_t count) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(value) << count);
+}
+
+/// value reduced into 0..modulus-1, also when it is negative; modulus must be positive.
+constexpr std::int32_t positiveModulo(std::int32_t value, std::int32_t modulus) {
+    const std::int32_t remainder = value % modulus;
+    return remainder < 0 ? remainder + modulus : remainder;
+}
+
+} // namespace velm

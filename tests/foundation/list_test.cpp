@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "foundation/list.h"
+#include "support/allocation.h"
+#include "support/capture_stdout.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace velm::test {
+namespace {
+
+char letters[] = "abcdefgh";
+
+LIST* listOf(const char* text) {
+    LIST* list = LIST_new();
+    for (; *text != '\0'; ++text) {
+        LIST_append(list, &letters[*text - 'a']);
+    }
+    return list;
+}
+
+std::string textOf(const LIST* list) {
+    std::string text;
+    for (std::int32_t i = 0; i < list->count; ++i) {
+        text += *static_cast<const char*>(list->items[i]);
+    }
+    return text;
+}
+
+class ListTest : public testing::Test {
+protected:
+    void TearDown() override {
+        LIST_verbose = 0;
+        LIST_delete(&list);
+    }
+
+    LIST* list = listOf("abc");
+};
+
+TEST_F(ListTest, CapacityDoublesFromTwo) {
+    LIST* grown = LIST_new();
+    std::string capacities;
+    for (int i = 0; i < 9; ++i) {
+        capacities += std::to_string(grown->capacity) + " ";
+        LIST_append(grown, letters);
+    }
+    EXPECT_EQ(capacities, "2 2 2 4 4 8 8 8 8 ");
+    EXPECT_EQ(grown->capacity, 16);
+    LIST_delete(&grown);
+    EXPECT_EQ(grown, nullptr);
+}
+
+TEST_F(ListTest, InsertsAndRemovesAtBothEndsAndBetween) {
+    LIST_insert(list, &letters[3], 0);
+    LIST_insert(list, &letters[4], 4);
+    LIST_insert(list, &letters[5], 2);
+    EXPECT_EQ(textOf(list), "dafbce");
+    LIST_remove(list, 0);
+    LIST_remove(list, 4);
+    EXPECT_EQ(textOf(list), "afbc");
+    EXPECT_EQ(list->items[4], nullptr) << "the slot that a removal frees is cleared";
+    LIST_removeRange(list, 1, 3);
+    EXPECT_EQ(textOf(list), "ac");
+    EXPECT_EQ(list->items[3], &letters[2]) << "the slots that a range frees are not";
+    EXPECT_EQ(LIST_pop(list), &letters[2]);
+    EXPECT_EQ(textOf(list), "a");
+}
+
+TEST_F(ListTest, RangesMoveBetweenListsAndIntoThemselves) {
+    LIST* other = listOf("defg");
+    LIST_insertRange(other, list, 1, 3, 2);
+    EXPECT_EQ(textOf(list), "abefc");
+    LIST_insertRange(list, list, 0, 3, 1);
+    EXPECT_EQ(textOf(list), "aabebefc");
+    LIST* slice = LIST_slice(list, 2, 5);
+    EXPECT_EQ(textOf(slice), "beb");
+    LIST* clone = LIST_clone(list);
+    EXPECT_EQ(LIST_equal(list, clone), 1);
+    LIST_set(clone, 7, letters);
+    EXPECT_EQ(LIST_equal(list, clone), 0);
+    EXPECT_EQ(LIST_indexOf(clone, &letters[4]), 3);
+    for (LIST* doomed : {other, slice, clone}) {
+        LIST_delete(&doomed);
+    }
+}
+
+TEST_F(ListTest, ReportsWhatIsOutsideAndChangesNothing) {
+    LIST_verbose = 1;
+    const std::string output = printedBy([this] {
+        EXPECT_EQ(LIST_get(list, 3), nullptr);
+        EXPECT_EQ(LIST_get(list, -1), nullptr);
+        EXPECT_EQ(LIST_indexOf(list, nullptr), -1);
+        LIST_insert(list, letters, 4);
+        LIST_removeRange(list, 2, 2);
+        LIST_remove(nullptr, 0);
+        EXPECT_EQ(LIST_setCapacity(list, 2), 0);
+        EXPECT_EQ(LIST_slice(list, 0, 4), nullptr);
+    });
+    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 8);
+    EXPECT_EQ(output.substr(0, 11), "LIST error\n");
+    EXPECT_EQ(textOf(list), "abc");
+}
+
+TEST_F(ListTest, RunningOutOfMemoryKeepsTheElements) {
+    LIST_append(list, &letters[3]);
+    {
+        const FailingAllocation growth(1);
+        LIST_append(list, &letters[4]);
+    }
+    EXPECT_EQ(textOf(list), "abcd");
+    for (const int nth : {1, 2}) {
+        const FailingAllocation failure(nth);
+        EXPECT_EQ(LIST_new(), nullptr);
+    }
+}
+
+} // namespace
+} // namespace velm::test

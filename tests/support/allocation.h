@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The test programs' own operator new: it counts, and it can refuse.
+//
+//     FailingAllocation second(2); // the second allocation from here on gives nullptr
+//     EXPECT_EQ(IMG_new(), nullptr);
+#pragma once
+
+#include <cstdint>
+
+namespace velm::test {
+
+/// How often the project's allocations (new with std::nothrow) were asked for memory so far.
+std::int64_t allocationCount();
+
+/// While it lives, the nth allocation counted from its construction (1 is the next one) gives nullptr.
+class FailingAllocation {
+public:
+    explicit FailingAllocation(std::int64_t nth);
+    ~FailingAllocation();
+    FailingAllocation(const FailingAllocation&) = delete;
+    FailingAllocation& operator=(const FailingAllocation&) = delete;
+};
+
+} // namespace velm::test
