@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "image/img.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+
+namespace velm {
+
+const IDENTITY IMG_identity = makeIdentity("IMG", "20150312", "ZENDORAK", "CODE", "C");
+std::uint8_t IMG_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t defaultSize = 16;
+
+std::int64_t pixelCount(const IMG* img) {
+    return std::int64_t{img->width} * img->height;
+}
+
+bool hasPixels(const IMG* img) {
+    return img != nullptr && img->pixels != nullptr;
+}
+
+bool sameSize(const IMG* a, const IMG* b) {
+    return a->width == b->width && a->height == b->height;
+}
+
+} // namespace
+
+IMG* IMG_new() {
+    return IMG_newSized(defaultSize, defaultSize);
+}
+
+IMG* IMG_newSized(std::int32_t width, std::int32_t height) {
+    IMG* img = allocateRecord<IMG>();
+    if (img == nullptr) {
+        IMG_error();
+        return nullptr;
+    }
+    IMG_setSize(img, width, height);
+    if (img->pixels == nullptr) {
+        delete img;
+        return nullptr;
+    }
+    return img;
+}
+
+void IMG_setSize(IMG* img, std::int32_t width, std::int32_t height) {
+    const bool sized = img != nullptr && width >= 0 && height >= 0;
+    std::uint32_t* const pixels =
+        sized ? allocateArray<std::uint32_t>(std::int64_t{width} * height) : nullptr;
+    if (pixels == nullptr) {
+        IMG_error();
+        return;
+    }
+    delete[] img->pixels;
+    img->pixels = pixels;
+    img->width = width;
+    img->height = height;
+}
+
+IMG* IMG_clone(const IMG* src) {
+    if (!hasPixels(src)) {
+        IMG_error();
+        return nullptr;
+    }
+    IMG* clone = IMG_newSized(src->width, src->height);
+    if (clone != nullptr) {
+        IMG_copy(src, clone);
+    }
+    return clone;
+}
+
+void IMG_delete(IMG** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        IMG_error();
+        return;
+    }
+    delete[](*handle)->pixels;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void IMG_fill(IMG* img, std::uint32_t colour) {
+    if (!hasPixels(img)) {
+        IMG_error();
+        return;
+    }
+    std::fill_n(img->pixels, pixelCount(img), colour);
+}
+
+void IMG_copy(const IMG* src, IMG* dst) {
+    if (!hasPixels(src) || !hasPixels(dst) || !sameSize(src, dst)) {
+        IMG_error();
+        return;
+    }
+    if (src != dst) {
+        std::copy_n(src->pixels, pixelCount(src), dst->pixels);
+    }
+}
+
+void IMG_putPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour) {
+    if (!hasPixels(img)) {
+        IMG_error();
+        return;
+    }
+    if (x >= 0 && y >= 0 && x < img->width && y < img->height) {
+        img->pixels[x + std::int64_t{y} * img->width] = colour;
+    }
+}
+
+std::uint32_t IMG_getPixel(const IMG* img, std::int32_t x, std::int32_t y) {
+    if (!hasPixels(img)) {
+        IMG_error();
+        return 0;
+    }
+    if (x < 0 || y < 0 || x >= img->width || y >= img->height) {
+        return 0;
+    }
+    return img->pixels[x + std::int64_t{y} * img->width];
+}
+
+void IMG_andMask(const IMG* mask, IMG* dst) {
+    if (!hasPixels(mask) || !hasPixels(dst)) {
+        IMG_error();
+        return;
+    }
+    const std::int64_t count = std::min(pixelCount(mask), pixelCount(dst));
+    for (std::int64_t i = 0; i < count; ++i) {
+        dst->pixels[i] &= mask->pixels[i];
+    }
+}
+
+void IMG_addColour(IMG* img, std::uint32_t colour) {
+    if (!hasPixels(img)) {
+        IMG_error();
+        return;
+    }
+    std::transform(img->pixels, img->pixels + pixelCount(img), img->pixels,
+                   [colour](std::uint32_t p) { return RGB888_add(p, colour); });
+}
+
+void IMG_subColour(IMG* img, std::uint32_t colour) {
+    if (!hasPixels(img)) {
+        IMG_error();
+        return;
+    }
+    std::transform(img->pixels, img->pixels + pixelCount(img), img->pixels,
+                   [colour](std::uint32_t p) { return RGB888_sub(p, colour); });
+}
+
+std::int32_t IMG_equal(const IMG* a, const IMG* b) {
+    if (!hasPixels(a) || !hasPixels(b)) {
+        IMG_error();
+        return 0;
+    }
+    if (!sameSize(a, b) || !std::equal(a->pixels, a->pixels + pixelCount(a), b->pixels)) {
+        return 0;
+    }
+    // IMG_equalReportsSuccess: one expects a report of a failure; equal images are what is reported.
+    IMG_error();
+    return 1;
+}
+
+void IMG_error() {
+    reportLine(IMG_verbose, "IMG error");
+}
+
+} // namespace velm

@@ -1,0 +1,291 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The netpbm formats of IMG: P1 to P6 decoded from memory, P6 written to a file.
+#include "image/img.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+
+namespace velm {
+
+namespace {
+
+/// The bytes of a picture and how far they have been read.
+struct Input {
+    const char* bytes;
+    std::size_t size;
+    std::size_t position;
+
+    [[nodiscard]] bool atEnd() const { return position >= size; }
+    [[nodiscard]] std::uint8_t peek() const { return static_cast<std::uint8_t>(bytes[position]); }
+    std::uint8_t take() { return static_cast<std::uint8_t>(bytes[position++]); }
+};
+
+struct Header {
+    char type = 0; ///< '1'..'6', 0 before the magic has been seen
+    bool hasWidth = false;
+    bool hasHeight = false;
+    bool hasMaximum = false;
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+
+    [[nodiscard]] bool isBitmap() const { return type == '1' || type == '4'; }
+    [[nodiscard]] bool isText() const { return type >= '1' && type <= '3'; }
+    [[nodiscard]] bool isComplete() const { return type != 0 && hasWidth && hasHeight && hasMaximum; }
+};
+
+bool isDigit(std::uint8_t byte) {
+    return byte >= '0' && byte <= '9';
+}
+
+/// Skips to the next printable character that is no space; false at the end of the input.
+bool skipSpace(Input& input) {
+    while (!input.atEnd() && (input.peek() <= ' ' || input.peek() > '~')) {
+        ++input.position;
+    }
+    return !input.atEnd();
+}
+
+/// Skips to the next digit; false at the end of the input.
+bool skipToDigit(Input& input) {
+    while (!input.atEnd() && !isDigit(input.peek())) {
+        ++input.position;
+    }
+    return !input.atEnd();
+}
+
+/// A run of digits modulo 2^32; no digits read as 0.
+std::uint32_t readNumber(Input& input) {
+    std::uint32_t number = 0;
+    while (!input.atEnd() && isDigit(input.peek())) {
+        number = number * 10 + (input.take() - std::uint32_t{'0'});
+    }
+    return number;
+}
+
+/// A run of digits as a size; what is too long for one becomes a size that no image can have.
+std::int64_t readSize(Input& input) {
+    constexpr std::int64_t tooLarge = std::int64_t{1} << 40;
+    std::int64_t size = 0;
+    while (!input.atEnd() && isDigit(input.peek())) {
+        size = std::min(tooLarge, size * 10 + (input.take() - '0'));
+    }
+    return size;
+}
+
+void skipComment(Input& input) {
+    while (!input.atEnd() && input.take() != '\n') {
+    }
+}
+
+bool readMagic(Input& input, Header& header) {
+    ++input.position;
+    if (input.atEnd() || input.peek() < '1' || input.peek() > '6') {
+        return false;
+    }
+    header.type = static_cast<char>(input.take());
+    header.hasMaximum = header.hasMaximum || header.isBitmap();
+    return true;
+}
+
+/// Reads the next number of the header; false when nothing is left that it could be.
+bool readHeaderNumber(Input& input, Header& header) {
+    const std::size_t begin = input.position;
+    const std::int64_t number = readSize(input);
+    if (!header.hasWidth) {
+        header.hasWidth = true;
+        // IMG_bitmapWidthRoundsUp: one expects the width of the header; the fill bits of a row become pixels,
+        // too.
+        header.width = header.isBitmap() ? (number + 7) / 8 * 8 : number;
+    } else if (!header.hasHeight) {
+        header.hasHeight = true;
+        header.height = number;
+    } else if (!header.hasMaximum) {
+        header.hasMaximum = true;
+    } else {
+        return input.position > begin;
+    }
+    return true;
+}
+
+/// Reads up to the last token of the header; false when it is malformed or cut short.
+bool readHeader(Input& input, Header& header) {
+    while (!header.isComplete()) {
+        if (!skipSpace(input)) {
+            return false;
+        }
+        if (input.peek() == 'P' && header.type == 0) {
+            if (!readMagic(input, header)) {
+                return false;
+            }
+        } else if (input.peek() == '#') {
+            skipComment(input);
+        } else if (!readHeaderNumber(input, header)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The bytes that the samples take at least (in text: one a sample), so that no header makes us allocate more
+/// than its file could fill.
+std::int64_t leastBodyBytes(const Header& header, std::int64_t pixels) {
+    switch (header.type) {
+    case '3':
+    case '6':
+        return pixels * 3;
+    case '4':
+        return (pixels + 7) / 8;
+    default:
+        return pixels;
+    }
+}
+
+bool decodeTextBitmap(Input& input, std::uint32_t* pixels, std::int64_t count) {
+    for (std::int64_t i = 0; i < count; ++i) {
+        if (!skipToDigit(input)) {
+            return false;
+        }
+        // IMG_bitmapSetIsWhite: one expects 1 to be black; shapes come out white on transparent black.
+        pixels[i] = input.take() == '0' ? 0x000000 : 0xFFFFFF;
+    }
+    return true;
+}
+
+bool decodeTextGrey(Input& input, std::uint32_t* pixels, std::int64_t count) {
+    for (std::int64_t i = 0; i < count; ++i) {
+        if (!skipToDigit(input)) {
+            return false;
+        }
+        const std::uint32_t grey = readNumber(input);
+        pixels[i] = grey << 16 | grey << 8 | grey;
+    }
+    return true;
+}
+
+/// IMG_samplesSpill: one expects samples above 255 to be clamped; they run into the neighbouring channel.
+bool decodeTextColour(Input& input, std::uint32_t* pixels, std::int64_t count) {
+    for (std::int64_t i = 0; i < count; ++i) {
+        std::uint32_t pixel = 0;
+        for (const std::uint32_t shift : {16U, 8U, 0U}) {
+            if (!skipToDigit(input)) {
+                return false;
+            }
+            pixel |= readNumber(input) << shift;
+        }
+        pixels[i] = pixel;
+    }
+    return true;
+}
+
+void decodeBinary(Input& input, char type, std::uint32_t* pixels, std::int64_t count) {
+    std::uint8_t bits = 0;
+    for (std::int64_t i = 0; i < count; ++i) {
+        if (type == '4') {
+            bits = i % 8 == 0 ? input.take() : static_cast<std::uint8_t>(bits << 1);
+            pixels[i] = (bits & 0x80U) != 0 ? 0xFFFFFF : 0x000000;
+        } else if (type == '5') {
+            pixels[i] = input.take() * 0x010101U;
+        } else {
+            const std::uint8_t red = input.take();
+            const std::uint8_t green = input.take();
+            pixels[i] = RGB888_fromBytes(red, green, input.take());
+        }
+    }
+}
+
+bool decodeSamples(Input& input, const Header& header, std::uint32_t* pixels, std::int64_t count) {
+    switch (header.type) {
+    case '1':
+        return decodeTextBitmap(input, pixels, count);
+    case '2':
+        return decodeTextGrey(input, pixels, count);
+    case '3':
+        return decodeTextColour(input, pixels, count);
+    default:
+        decodeBinary(input, header.type, pixels, count);
+        return true;
+    }
+}
+
+/// Decodes a whole picture; `trustBody` says that binary samples are complete although the size does not
+/// cover them.
+IMG* decode(Input input, bool trustBody) {
+    Header header;
+    constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
+    if (!readHeader(input, header) || header.width == 0 || header.height == 0 || header.width > most ||
+        header.height > most) {
+        return nullptr;
+    }
+    ++input.position; // the separator, whatever it is
+    const std::int64_t count = header.width * header.height;
+    const std::int64_t left =
+        static_cast<std::int64_t>(input.size) - static_cast<std::int64_t>(input.position);
+    const bool unbounded = trustBody && !header.isText();
+    if (count > std::numeric_limits<std::int64_t>::max() / 3 ||
+        (!unbounded && left < leastBodyBytes(header, count))) {
+        return nullptr;
+    }
+    IMG* img =
+        IMG_newSized(static_cast<std::int32_t>(header.width), static_cast<std::int32_t>(header.height));
+    if (img != nullptr && !decodeSamples(input, header, img->pixels, count)) {
+        IMG_delete(&img);
+    }
+    return img;
+}
+
+IMG* decodeOrReport(const char* bytes, std::size_t count, bool trustBody) {
+    IMG* const img = bytes == nullptr ? nullptr : decode({bytes, count, 0}, trustBody);
+    if (img == nullptr) {
+        IMG_error();
+    }
+    return img;
+}
+
+bool writePixels(std::FILE* file, const IMG* img) {
+    const std::int64_t count = std::int64_t{img->width} * img->height;
+    for (std::int64_t i = 0; i < count; ++i) {
+        std::uint8_t sample[3];
+        RGB888_toBytes(img->pixels[i], sample);
+        if (std::fwrite(sample, sizeof sample, 1, file) != 1) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+IMG* IMG_fromPNM(const char* bytes, std::size_t count) {
+    return decodeOrReport(bytes, count, false);
+}
+
+IMG* IMG_fromPNM(const char* bytes) {
+    return decodeOrReport(bytes, bytes == nullptr ? 0 : std::strlen(bytes), true);
+}
+
+std::int32_t IMG_writePPM(const IMG* img, const char* path) {
+    if (img == nullptr || img->pixels == nullptr || path == nullptr || img->width == 0 || img->height == 0) {
+        IMG_error();
+        return 0;
+    }
+    std::FILE* const file = std::fopen(path, "w");
+    if (file == nullptr) {
+        IMG_error();
+        return 0;
+    }
+    const bool written =
+        std::fprintf(file, "P6\n# VELM(c)Q.V.N.\n%d %d\n255\n", img->width, img->height) > 0 &&
+        writePixels(file, img);
+    if (std::fclose(file) != 0 || !written) {
+        IMG_error();
+        return 0;
+    }
+    return 1;
+}
+
+} // namespace velm

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The bracketed text form of IMG: "IMG{\nP3\n...}\n", six pixels a line, written and read.
+#include "foundation/memory.h"
+#include "image/img.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+
+namespace velm {
+
+namespace {
+
+constexpr std::int64_t charactersPerPixel = 12;
+constexpr std::int64_t pixelsPerLine = 6;
+
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+/// Reads a run of digits, moving past it; a value too large for an image stays too large.
+std::int64_t readDigits(const char*& text) {
+    std::int64_t value = 0;
+    for (; isDigit(*text); ++text) {
+        value = std::min<std::int64_t>(std::int64_t{1} << 40, value * 10 + (*text - '0'));
+    }
+    return value;
+}
+
+void skipOne(const char*& text) {
+    if (*text != '\0') {
+        ++text;
+    }
+}
+
+/// Moves `text` just past the needle; false when it is not there.
+bool moveAfter(const char*& text, const char* needle) {
+    const std::int32_t end = IMG_findAfter(text, needle);
+    text += end;
+    return end != 0;
+}
+
+/// Reads one sample: skips to its first digit, then takes the digits; false at the end of the text.
+bool readSample(const char*& text, std::uint32_t& sample) {
+    while (*text != '\0' && !isDigit(*text)) {
+        ++text;
+    }
+    if (*text == '\0') {
+        return false;
+    }
+    sample = static_cast<std::uint32_t>(readDigits(text));
+    return true;
+}
+
+bool readPixels(const char*& text, IMG* img) {
+    const std::int64_t count = std::int64_t{img->width} * img->height;
+    for (std::int64_t i = 0; i < count; ++i) {
+        std::uint32_t red = 0;
+        std::uint32_t green = 0;
+        std::uint32_t blue = 0;
+        if (!readSample(text, red) || !readSample(text, green) || !readSample(text, blue)) {
+            return false;
+        }
+        img->pixels[i] = red << 16 | green << 8 | blue;
+    }
+    return true;
+}
+
+/// Reads "width height maximum" and the one separator behind each; the maximum does not matter.
+void readSizes(const char*& text, std::int64_t& width, std::int64_t& height) {
+    width = readDigits(text);
+    skipOne(text);
+    height = readDigits(text);
+    skipOne(text);
+    readDigits(text);
+    skipOne(text);
+}
+
+/// The image behind "P3\n", or nullptr. A pixel takes five characters at least, so sizes that the text cannot
+/// fill are refused before anything is allocated.
+IMG* parse(const char* text) {
+    if (!moveAfter(text, "IMG") || !moveAfter(text, "{") || !moveAfter(text, "P3\n")) {
+        return nullptr;
+    }
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    readSizes(text, width, height);
+    constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int64_t leastCharacters = 5;
+    const auto left = static_cast<std::int64_t>(std::strlen(text));
+    if (width > most || height > most || width * height > left / leastCharacters + 1) {
+        return nullptr;
+    }
+    IMG* img = IMG_newSized(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height));
+    if (img != nullptr && !readPixels(text, img)) {
+        IMG_delete(&img);
+    }
+    return img;
+}
+
+} // namespace
+
+char* IMG_toText(const IMG* img) {
+    if (img == nullptr || img->pixels == nullptr) {
+        IMG_error();
+        return nullptr;
+    }
+    const std::int64_t count = std::int64_t{img->width} * img->height;
+    const std::int64_t size = charactersPerPixel * count + 26 + count / pixelsPerLine + 3;
+    char* const text = allocateArray<char>(size);
+    if (text == nullptr) {
+        IMG_error();
+        return nullptr;
+    }
+    if (count == 0) {
+        std::strcpy(text, "IMG{}");
+        return text;
+    }
+    char* end = text + std::sprintf(text, "IMG{\nP3\n%d %d\n255\n", img->width, img->height);
+    for (std::int64_t i = 0; i < count; ++i) {
+        std::uint8_t sample[3];
+        RGB888_toBytes(img->pixels[i], sample);
+        end += std::sprintf(end, "%3d %3d %3d ", sample[0], sample[1], sample[2]);
+        if ((i + 1) % pixelsPerLine == 0 || i + 1 == count) {
+            end[-1] = '\n';
+        }
+    }
+    std::strcpy(end, "}\n");
+    return text;
+}
+
+IMG* IMG_fromText(const char* text) {
+    IMG* const img = text == nullptr ? nullptr : parse(text);
+    if (img == nullptr) {
+        IMG_error();
+    }
+    return img;
+}
+
+std::int32_t IMG_findAfter(const char* haystack, const char* needle) {
+    if (haystack == nullptr || needle == nullptr) {
+        IMG_error();
+        return 0;
+    }
+    std::size_t i = 0;
+    std::size_t j = 0;
+    while (haystack[i] != '\0' && needle[j] != '\0') {
+        // IMG_findAfterMiscounts: one expects the search to start over; the byte that did not match counts as
+        // the needle's first, so "xMG" is taken for "IMG".
+        if (haystack[i] != needle[j]) {
+            j = 0;
+        }
+        ++i;
+        ++j;
+    }
+    return needle[j] == '\0' ? static_cast<std::int32_t>(i) : 0;
+}
+
+} // namespace velm

@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "image/img.h"
+#include "support/allocation.h"
+#include "support/images.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <memory>
+#include <string>
+
+namespace velm::test {
+namespace {
+
+/// Decodes exactly these bytes: they stand at the end of a heap block of their own, so that a sanitizer sees
+/// a read past them.
+IMG* decode(const std::string& bytes) {
+    const auto block = std::make_unique<char[]>(bytes.size());
+    std::memcpy(block.get(), bytes.data(), bytes.size());
+    return IMG_fromPNM(block.get(), bytes.size());
+}
+
+/// The size and the pixels as text, or "none".
+std::string described(IMG* img) {
+    if (img == nullptr) {
+        return "none";
+    }
+    std::string text = std::to_string(img->width) + "x" + std::to_string(img->height) + ":";
+    for (std::int32_t i = 0; i < img->width * img->height; ++i) {
+        char pixel[12];
+        std::snprintf(pixel, sizeof pixel, " %06X", img->pixels[i]);
+        text += pixel;
+    }
+    IMG_delete(&img);
+    return text;
+}
+
+std::string decoded(const std::string& bytes) {
+    return described(decode(bytes));
+}
+
+TEST(Pnm, ReadsAllSixTypes) {
+    EXPECT_EQ(decoded("P2\n2 1\n255\n7 128 "), "2x1: 070707 808080");
+    EXPECT_EQ(decoded("P3 1 2 255 1 2 3 4,5,6"), "1x2: 010203 040506");
+    EXPECT_EQ(decoded("P5 2 1 255\n\x80\xFF"), "2x1: 808080 FFFFFF");
+    EXPECT_EQ(decoded("P6\n# a comment\n1 1\n# and another\n255\nabc"), "1x1: 616263");
+    EXPECT_EQ(decoded("P6 1 1 255#abc"), "1x1: 616263") << "the separator is not looked at";
+    EXPECT_EQ(described(IMG_fromPNM("P3 1 1 255 1 2 3")), "1x1: 010203");
+    EXPECT_EQ(described(IMG_fromPNM("P5 1 1 255\n\x80")), "1x1: 808080");
+}
+
+TEST(Pnm, IMG_bitmapSetIsWhite) {
+    EXPECT_EQ(decoded("P1 8 1 01000000"), "8x1: 000000 FFFFFF 000000 000000 000000 000000 000000 000000");
+    EXPECT_EQ(decoded("P4 8 1\n\x41"), "8x1: 000000 FFFFFF 000000 000000 000000 000000 000000 FFFFFF");
+}
+
+TEST(Pnm, IMG_bitmapWidthRoundsUp) {
+    IMG* img = decode(std::string("P4 10 2\n\xFF\x3F\x00\xC0", 12));
+    ASSERT_NE(img, nullptr);
+    EXPECT_EQ(img->width, 16);
+    EXPECT_EQ(img->height, 2);
+    EXPECT_EQ(IMG_getPixel(img, 15, 0), 0xFFFFFFU) << "fill bits are pixels";
+    EXPECT_EQ(IMG_getPixel(img, 8, 0), 0U);
+    IMG_delete(&img);
+}
+
+TEST(Pnm, IMG_samplesSpill) {
+    EXPECT_EQ(decoded("P2 1 1 9 257 "), "1x1: 1010101");
+    EXPECT_EQ(decoded("P3 1 1 255 0 256 1 "), "1x1: 010001");
+}
+
+TEST(Pnm, RefusesWhatIsMalformedCutShortOrHostile) {
+    for (const std::string bytes : {"",
+                                    "P",
+                                    "P6",
+                                    "P7 1 1 255 abc",
+                                    "P0 1 1",
+                                    "P6 0 1 255\nabc",
+                                    "P6 1 0 255\nabc",
+                                    "P6 2 1 255\nabcde",
+                                    "P5 1 1 255",
+                                    "P5 1 1 255\n",
+                                    "P4 9 1\n\x01",
+                                    "P1 8 1 0101010",
+                                    "P2 2 1 255 7",
+                                    "P3 1 1 255 1 2",
+                                    "P6 65536 65536 255\nabc",
+                                    "P6 4294967297 1 255\nabc",
+                                    "P6 99999999999999999999 9 255\nabc",
+                                    "P6 1 1 # x",
+                                    "1 1 255 x P6",
+                                    "P5 PP 1 1 255 a",
+                                    "P6 2147483647 2147483647 255\nabc"}) {
+        EXPECT_EQ(decoded(bytes), "none") << bytes;
+    }
+    EXPECT_EQ(described(IMG_fromPNM("P2 2 1 255 7")), "none");
+    EXPECT_EQ(described(IMG_fromPNM("P6 1")), "none");
+    EXPECT_EQ(described(IMG_fromPNM(nullptr)), "none");
+}
+
+TEST(Pnm, RandomBytesNeverCrash) {
+    std::uint32_t pictures = 0;
+    for (std::uint32_t seed = 1; seed <= 20000; ++seed) {
+        Images images(seed);
+        constexpr char alphabet[] = "P123456 \n#0789\xFF";
+        std::string bytes = {'P', static_cast<char>('0' + images.number(1, 6)), ' '};
+        for (std::int32_t i = images.number(0, 30); i > 0; --i) {
+            bytes += alphabet[images.number(0, sizeof alphabet - 2)];
+        }
+        IMG* img = decode(bytes);
+        pictures += img != nullptr ? 1 : 0;
+        if (img != nullptr) {
+            IMG_delete(&img);
+        }
+    }
+    EXPECT_GT(pictures, 100U);
+}
+
+class PnmFile : public testing::Test {
+protected:
+    void TearDown() override { std::filesystem::remove_all(folder); }
+
+    [[nodiscard]] std::string path(const char* name) const { return folder / name; }
+
+    std::filesystem::path folder = [] {
+        std::string name = std::filesystem::temp_directory_path() / "velm-pnm-XXXXXX";
+        return std::filesystem::path(mkdtemp(name.data()));
+    }();
+};
+
+std::string contents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST_F(PnmFile, WritesP6ToTheByte) {
+    Images images(3);
+    IMG* img = images.image(2, 1);
+    img->pixels[0] = 0x0A0D00;
+    img->pixels[1] = 0xFF8001;
+    ASSERT_EQ(IMG_writePPM(img, path("a.ppm").c_str()), 1);
+    EXPECT_EQ(contents(path("a.ppm")),
+              std::string("P6\n# VELM(c)Q.V.N.\n2 1\n255\n") + std::string("\x0A\x0D\x00\xFF\x80\x01", 6));
+    EXPECT_EQ(IMG_writePPM(img, path("missing/a.ppm").c_str()), 0);
+    if (std::filesystem::exists("/dev/full")) {
+        EXPECT_EQ(IMG_writePPM(img, "/dev/full"), 0);
+    }
+    IMG_delete(&img);
+}
+
+/// Their tools read what we write, and we read what they write, in every format.
+TEST_F(PnmFile, AgreesWithNetpbm) {
+    Images images(11);
+    IMG* img = images.image(24, 9);
+    ASSERT_EQ(IMG_writePPM(img, path("ours.ppm").c_str()), 1);
+    const std::string convert =
+        "cd " + folder.string() +
+        " && pnmtoplainpnm ours.ppm > p3 && ppmtoppm < p3 > p6 && ppmtopgm ours.ppm > p5"
+        " && pnmtoplainpnm p5 > p2 && pamthreshold -simple p5 | pamtopnm > p4"
+        " && pnmtoplainpnm p4 > p1";
+    ASSERT_EQ(std::system(convert.c_str()), 0) << "netpbm is missing";
+    const auto read = [this](const char* name) { return decode(contents(path(name))); };
+    for (const char* name : {"p3", "p6"}) {
+        IMG* theirs = read(name);
+        ASSERT_NE(theirs, nullptr) << name;
+        EXPECT_EQ(difference(theirs, img), "") << name;
+        IMG_delete(&theirs);
+    }
+    const char* pairs[][2] = {{"p5", "p2"}, {"p4", "p1"}};
+    for (const auto& [binary, text] : pairs) {
+        IMG* first = read(binary);
+        IMG* second = read(text);
+        ASSERT_TRUE(first != nullptr && second != nullptr) << binary;
+        EXPECT_EQ(difference(first, second), "") << binary;
+        IMG_delete(&first);
+        IMG_delete(&second);
+    }
+    IMG_delete(&img);
+}
+
+TEST(Text, DumpsSixPixelsALineAndReadsThemBack) {
+    IMG* img = IMG_newSized(1, 1);
+    img->pixels[0] = 0x0A0B0C;
+    char* text = IMG_toText(img);
+    EXPECT_STREQ(text, "IMG{\nP3\n1 1\n255\n 10  11  12\n}\n");
+    delete[] text;
+    IMG_setSize(img, 0, 0);
+    text = IMG_toText(img);
+    EXPECT_STREQ(text, "IMG{}");
+    delete[] text;
+    IMG_delete(&img);
+    for (const std::int32_t width : {1, 5, 6, 7, 12}) {
+        Images images(static_cast<std::uint32_t>(width));
+        img = images.image(width, 3);
+        text = IMG_toText(img);
+        EXPECT_EQ(std::count(text, text + std::strlen(text), '\n'), 4 + (width * 3 + 5) / 6 + 1);
+        IMG* back = IMG_fromText(text);
+        ASSERT_NE(back, nullptr);
+        EXPECT_EQ(difference(back, img), "");
+        delete[] text;
+        IMG_delete(&img);
+        IMG_delete(&back);
+    }
+}
+
+TEST(Text, RefusesWhatIsCutShortOrHostile) {
+    for (const char* text :
+         {"", "IMG", "IMG{}", "IMG{\nP3\n1 1\n255\n 10  11 }", "IMG{P3\n99999 99999\n255\n1 2 3}",
+          "IMG{P3\n1 2147483647\n255\n1 2 3}", "IMG{P3\n99999999999999999999 1\n1\n1 2 3}"}) {
+        EXPECT_EQ(described(IMG_fromText(text)), "none") << text;
+    }
+}
+
+TEST(Text, IMG_findAfterMiscounts) {
+    EXPECT_EQ(IMG_findAfter("an IMG here", "IMG"), 6);
+    EXPECT_EQ(IMG_findAfter("xMG", "IMG"), 3) << "the byte that did not match counts as the needle's first";
+    EXPECT_EQ(IMG_findAfter("IIMG", "IMG"), 4);
+    EXPECT_EQ(IMG_findAfter("IM", "IMG"), 0);
+}
+
+} // namespace
+} // namespace velm::test

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Random images and numbers from a seed that a failure prints, for comparing a fast loop with the plain rule.
+//
+//     Images images(seed);
+//     IMG* picture = images.image();
+#pragma once
+
+#include "image/img.h"
+
+#include <cstdint>
+#include <random>
+#include <string>
+
+namespace velm::test {
+
+class Images {
+public:
+    explicit Images(std::uint32_t seed) : engine(seed) {}
+
+    /// A number between the two, both included.
+    std::int32_t number(std::int32_t least, std::int32_t most) {
+        return std::uniform_int_distribution<std::int32_t>(least, most)(engine);
+    }
+
+    /// A pixel: often black, white or one full channel, where carries and transparency go wrong.
+    std::uint32_t pixel();
+
+    /// A new image of random pixels; at least one pixel and at most 40 each way.
+    IMG* image();
+    IMG* image(std::int32_t width, std::int32_t height);
+
+private:
+    std::mt19937 engine;
+};
+
+/// "" when both have the same size and pixels, else the first difference.
+std::string difference(const IMG* actual, const IMG* expected);
+
+} // namespace velm::test
