@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "vector/font.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/wrap.h"
+#include "image/clip.h"
+#include "image/imgfx.h"
+
+#include <algorithm>
+
+namespace velm {
+
+const IDENTITY FONT_identity = makeIdentity("FONT", "C", "ZENDORAK", "20150522", "CODE");
+std::uint8_t FONT_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newCellSize = 6;
+constexpr char lineFeed = '\n';
+constexpr std::uint32_t highestDecimalUnit = 1000000000;
+
+struct Corner {
+    std::int32_t x, y;
+};
+
+bool canDraw(const FONT* font) {
+    return font != nullptr && font->image != nullptr && font->image->width > 0;
+}
+
+/// Where the cell of the current character begins: cells stand side by side on a strip that wraps at the
+/// sheet's width.
+Corner cellOf(const FONT& font) {
+    const std::int32_t along = wrapMul(font.width, font.character);
+    return {.x = along % font.image->width, .y = wrapMul(along / font.image->width, font.height)};
+}
+
+/// Draws the current cell with a rectangle copy and moves the pen, or reports.
+template <typename Copy>
+void drawWith(FONT* font, Copy copy) {
+    if (!canDraw(font)) {
+        FONT_error();
+        return;
+    }
+    const Corner cell = cellOf(*font);
+    copy(font->image, font->target, cell.x, cell.y, font->x, font->y, font->width, font->height);
+    font->x = wrapAdd(font->x, font->width);
+}
+
+/// Copies every pixel of a rectangle that is clipped as IMG_blit clips it.
+void copyOpaque(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
+                std::int32_t dstY, std::int32_t w, std::int32_t h) {
+    if (!canBlit(src, dst)) {
+        FONT_error();
+        return;
+    }
+    if (BlitArea area; clipBlit(*src, *dst, srcX, srcY, dstX, dstY, w, h, area)) {
+        forEachRow(*src, *dst, area, [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
+            std::copy(from, from + n, to);
+        });
+    }
+}
+
+/// Draws one character code after another. The caller has checked the pen.
+void drawCode(FONT& font, std::uint32_t code) {
+    font.character = static_cast<std::int32_t>(code);
+    FONT_drawChar(&font);
+}
+
+/// Draws the lowest `digits` hexadecimal digits of a value, the highest first, or reports.
+void drawHex(FONT* font, std::uint32_t value, std::int32_t digits) {
+    if (!canDraw(font)) {
+        FONT_error();
+        return;
+    }
+    for (std::int32_t digit = digits - 1; digit >= 0; --digit) {
+        const std::uint32_t nibble = (value >> (4 * digit)) & 15;
+        drawCode(*font, nibble <= 9 ? nibble + '0' : nibble - 10 + 'A');
+    }
+}
+
+} // namespace
+
+FONT* FONT_new() {
+    FONT* font = allocateRecord<FONT>();
+    if (font == nullptr) {
+        FONT_error();
+        return nullptr;
+    }
+    font->width = newCellSize;
+    font->height = newCellSize;
+    return font;
+}
+
+void FONT_drawChar(FONT* font) {
+    drawWith(font, IMG_blit);
+}
+
+void FONT_drawCharVariant1(FONT* font) {
+    drawWith(font, copyOpaque);
+}
+
+void FONT_drawCharVariant2(FONT* font) {
+    drawWith(font, IMGFX_addBlit);
+}
+
+void FONT_drawHexByte(FONT* font, std::uint8_t value) {
+    drawHex(font, value, 2);
+}
+
+void FONT_drawHexWord(FONT* font, std::uint16_t value) {
+    drawHex(font, value, 4);
+}
+
+void FONT_drawHexLong(FONT* font, std::uint32_t value) {
+    drawHex(font, value, 8);
+}
+
+void FONT_drawDecimal(FONT* font, std::uint32_t value) {
+    if (!canDraw(font)) {
+        FONT_error();
+        return;
+    }
+    for (std::uint32_t unit = highestDecimalUnit; unit != 0; unit /= 10) {
+        drawCode(*font, value / unit + '0');
+        value %= unit;
+    }
+}
+
+void FONT_drawString(FONT* font, const char* text) {
+    if (!canDraw(font) || text == nullptr) {
+        FONT_error();
+        return;
+    }
+    for (; *text != '\0' && *text != lineFeed; ++text) {
+        drawCode(*font, static_cast<std::uint8_t>(*text));
+    }
+}
+
+void FONT_drawText(FONT* font, const char* text) {
+    if (!canDraw(font) || text == nullptr) {
+        FONT_error();
+        return;
+    }
+    const std::int32_t left = font->x;
+    for (; *text != '\0'; ++text) {
+        if (*text == lineFeed) {
+            font->x = left;
+            font->y = wrapAdd(font->y, font->height);
+        } else {
+            font->character = static_cast<std::uint8_t>(*text);
+            FONT_drawCharVariant1(font);
+        }
+    }
+}
+
+void FONT_drawBig(FONT* big, FONT* small) {
+    if (!canDraw(big) || big->target == nullptr || !canDraw(small)) {
+        FONT_error();
+        return;
+    }
+    small->target = big->target;
+    const Corner cell = cellOf(*big);
+    for (std::int32_t row = 0; row < big->height; ++row) {
+        for (std::int32_t column = 0; column < big->width; ++column) {
+            if (IMG_getPixel(big->image, wrapAdd(cell.x, column), wrapAdd(cell.y, row)) != 0) {
+                small->x = wrapAdd(big->x, wrapMul(column, small->width));
+                small->y = wrapAdd(big->y, wrapMul(row, small->height));
+                FONT_drawChar(small);
+            }
+        }
+    }
+    big->x = wrapAdd(big->x, wrapMul(big->width, small->width));
+}
+
+void FONT_delete(FONT** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        FONT_error();
+        return;
+    }
+    if ((*handle)->image != nullptr) {
+        IMG_delete(&(*handle)->image);
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+void FONT_error() {
+    reportLine(FONT_verbose, "FONT Error.");
+}
+
+} // namespace velm

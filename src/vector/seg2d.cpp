@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "vector/seg2d.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+
+namespace velm {
+
+const IDENTITY SEG2D_identity = makeIdentity("SEG2D", "CODE", "20150504", "C", "ZENDORAK");
+std::uint8_t SEG2D_verbose = 0;
+
+namespace {
+
+bool isWhole(const SEG2D* segment) {
+    return segment != nullptr && segment->a != nullptr && segment->b != nullptr;
+}
+
+} // namespace
+
+SEG2D* SEG2D_new() {
+    SEG2D* segment = allocateRecord<SEG2D>();
+    if (segment == nullptr) {
+        SEG2D_error();
+        return nullptr;
+    }
+    segment->a = VEC2D_new();
+    segment->b = VEC2D_new();
+    if (!isWhole(segment)) {
+        SEG2D_error();
+        SEG2D_delete(&segment);
+        return nullptr;
+    }
+    segment->b->x = 1;
+    segment->b->y = 1;
+    return segment;
+}
+
+void SEG2D_translate(SEG2D* segment, const VEC2D* offset) {
+    if (!isWhole(segment) || offset == nullptr) {
+        SEG2D_error();
+        return;
+    }
+    VEC2D_add(offset, segment->a);
+    VEC2D_add(offset, segment->b);
+}
+
+void SEG2D_scale(SEG2D* segment, const VEC2D* factor) {
+    if (!isWhole(segment) || factor == nullptr) {
+        SEG2D_error();
+        return;
+    }
+    VEC2D_scale(segment->a, factor);
+    VEC2D_scale(segment->b, factor);
+}
+
+void SEG2D_rotate(SEG2D* segment, std::int32_t angle) {
+    if (!isWhole(segment)) {
+        SEG2D_error();
+        return;
+    }
+    VEC2D_rotate(segment->a, angle);
+    VEC2D_rotate(segment->b, angle);
+}
+
+void SEG2D_draw(const SEG2D* segment, IMG* img) {
+    if (!isWhole(segment) || img == nullptr) {
+        SEG2D_error();
+        return;
+    }
+    IMG_drawLine(img, segment->a->x, segment->a->y, segment->b->x, segment->b->y, segment->a->colour);
+}
+
+void SEG2D_copy(const SEG2D* src, SEG2D* dst) {
+    if (!isWhole(src) || !isWhole(dst)) {
+        SEG2D_error();
+        return;
+    }
+    VEC2D_copy(src->a, dst->a);
+    VEC2D_copy(src->b, dst->b);
+}
+
+void SEG2D_delete(SEG2D** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        SEG2D_error();
+        return;
+    }
+    delete (*handle)->a;
+    delete (*handle)->b;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void SEG2D_error() {
+    reportLine(SEG2D_verbose, "SEG2D error");
+}
+
+} // namespace velm

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "support/allocation.h"
+#include "support/capture_stdout.h"
+#include "vector/cursor.h"
+
+#include <limits>
+
+namespace velm::test {
+
+TEST(Cursor, WrapsAtBothEnds) {
+    CURSOR* cursor = CURSOR_new();
+    ASSERT_NE(cursor, nullptr);
+    cursor->step = -1;
+    CURSOR_advance(cursor);
+    EXPECT_EQ(*static_cast<const char*>(CURSOR_current(cursor)), 'M');
+    const std::int32_t values[25] = {};
+    CURSOR_set(cursor, values, 25, sizeof values[0], 27);
+    CURSOR_advance(cursor);
+    EXPECT_EQ(CURSOR_current(cursor), &values[2]);
+    CURSOR_save(cursor);
+    cursor->step = std::numeric_limits<std::int32_t>::max();
+    CURSOR_advance(cursor); // 2 + 2147483647 wraps to -2147483647 before the remainder is taken
+    EXPECT_EQ(cursor->index, 3);
+    CURSOR_restore(cursor);
+    EXPECT_EQ(cursor->index, 2);
+    CURSOR_delete(&cursor);
+}
+
+TEST(Cursor, ReportsWhatItCannotWalk) {
+    CURSOR_verbose = 1;
+    CURSOR empty{.index = 3, .step = 1, .elementSize = 1, .count = 0, .base = nullptr, .savedIndex = 0};
+    EXPECT_EQ(printedBy([&] {
+                  CURSOR_advance(&empty);
+                  EXPECT_EQ(CURSOR_current(&empty), nullptr);
+                  CURSOR_restore(nullptr);
+                  const FailingAllocation next(1);
+                  EXPECT_EQ(CURSOR_new(), nullptr);
+              }),
+              "CURSOR Error.\nCURSOR Error.\nCURSOR Error.\nCURSOR Error.\n");
+    EXPECT_EQ(empty.index, 3);
+    CURSOR_verbose = 0;
+}
+
+} // namespace velm::test
