@@ -117,7 +117,7 @@ char* IMG_toText(const IMG* img) {
         return nullptr;
     }
     if (count == 0) {
-        std::strcpy(text, "IMG{}");
+        std::memcpy(text, "IMG{}", sizeof "IMG{}");
         return text;
     }
     char* end = text + std::sprintf(text, "IMG{\nP3\n%d %d\n255\n", img->width, img->height);
@@ -129,7 +129,7 @@ char* IMG_toText(const IMG* img) {
             end[-1] = '\n';
         }
     }
-    std::strcpy(end, "}\n");
+    std::memcpy(end, "}\n", sizeof "}\n");
     return text;
 }
 

@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The arithmetic of SAMPLE: every value of a sample, or every pair of two. Products and sums wrap at 32 bits,
+// quotients truncate towards 0, shifts round down. The loops are plain, so that the compiler vectorises them.
+#include "audio/sample.h"
+#include "foundation/wrap.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+namespace {
+
+constexpr std::int32_t mostShift = 32;
+
+bool hasData(const SAMPLE* sample) {
+    return sample != nullptr && sample->data != nullptr;
+}
+
+/// sample[i] = operation(sample[i]); reported when there is no data.
+template <typename Operation>
+void change(SAMPLE* sample, Operation operation) {
+    if (!hasData(sample)) {
+        SAMPLE_error();
+        return;
+    }
+    std::transform(sample->data, sample->data + sample->length, sample->data, operation);
+}
+
+/// a[i] = operation(a[i], b[i]) as far as both reach; reported when one has no data.
+template <typename Operation>
+void combine(SAMPLE* a, const SAMPLE* b, Operation operation) {
+    if (!hasData(a) || !hasData(b)) {
+        SAMPLE_error();
+        return;
+    }
+    std::transform(a->data, a->data + std::min(a->length, b->length), b->data, a->data, operation);
+}
+
+/// value / divisor for any divisor but 0 and -1. A double holds both exactly, and its quotient is closer to
+/// the true one than that is to the next whole number, so truncating it is exact and, unlike an integer
+/// division, quick in bulk.
+std::int32_t quotient(std::int32_t value, std::int32_t divisor) {
+    return static_cast<std::int32_t>(static_cast<double>(value) / static_cast<double>(divisor));
+}
+
+bool hasValues(const SAMPLE* sample) {
+    return hasData(sample) && sample->length > 0;
+}
+
+} // namespace
+
+void SAMPLE_add(SAMPLE* a, const SAMPLE* b) {
+    combine(a, b, [](std::int32_t x, std::int32_t y) { return wrapAdd(x, y); });
+}
+
+void SAMPLE_multiply(SAMPLE* a, const SAMPLE* b) {
+    combine(a, b, [](std::int32_t x, std::int32_t y) { return wrapMul(x, y); });
+}
+
+void SAMPLE_mixScaled(SAMPLE* a, const SAMPLE* b, std::int32_t n, std::int32_t d) {
+    if (d == 0) {
+        SAMPLE_error();
+        return;
+    }
+    if (d == -1) {
+        combine(a, b, [n](std::int32_t x, std::int32_t y) { return wrapSub(x, wrapMul(y, n)); });
+        return;
+    }
+    combine(a, b, [n, d](std::int32_t x, std::int32_t y) { return wrapAdd(x, quotient(wrapMul(y, n), d)); });
+}
+
+void SAMPLE_mixFixed(SAMPLE* a, const SAMPLE* b, std::int32_t f) {
+    constexpr std::int32_t fractionBits = 16;
+    combine(a, b, [f](std::int32_t x, std::int32_t y) { return wrapAdd(x, wrapMul(y, f) >> fractionBits); });
+}
+
+void SAMPLE_scale(SAMPLE* sample, std::int32_t factor) {
+    change(sample, [factor](std::int32_t value) { return wrapMul(value, factor); });
+}
+
+void SAMPLE_divide(SAMPLE* sample, std::int32_t divisor) {
+    if (divisor == 0) {
+        SAMPLE_error();
+        return;
+    }
+    if (divisor == -1) {
+        SAMPLE_scale(sample, -1);
+        return;
+    }
+    change(sample, [divisor](std::int32_t value) { return quotient(value, divisor); });
+}
+
+void SAMPLE_shiftRight(SAMPLE* sample, std::int32_t count) {
+    if (count < 0 || count > mostShift) {
+        SAMPLE_error();
+        return;
+    }
+    change(sample, [shift = count % mostShift](std::int32_t value) { return value >> shift; });
+}
+
+void SAMPLE_shiftLeft(SAMPLE* sample, std::int32_t count) {
+    if (count < 0 || count > mostShift) {
+        SAMPLE_error();
+        return;
+    }
+    change(sample, [shift = count % mostShift](std::int32_t value) { return wrapShl(value, shift); });
+}
+
+std::int32_t SAMPLE_min(const SAMPLE* sample) {
+    if (!hasValues(sample)) {
+        SAMPLE_error();
+        return 0;
+    }
+    std::int32_t least = sample->data[0];
+    for (std::int32_t i = 1; i < sample->length; ++i) {
+        least = std::min(least, sample->data[i]);
+    }
+    return least;
+}
+
+std::int32_t SAMPLE_max(const SAMPLE* sample) {
+    if (!hasValues(sample)) {
+        SAMPLE_error();
+        return 0;
+    }
+    std::int32_t most = sample->data[0];
+    for (std::int32_t i = 1; i < sample->length; ++i) {
+        most = std::max(most, sample->data[i]);
+    }
+    return most;
+}
+
+void SAMPLE_normalize(SAMPLE* sample, std::int32_t peak) {
+    const std::int64_t magnitude = hasValues(sample) ? std::max(std::abs(std::int64_t{SAMPLE_min(sample)}),
+                                                                std::abs(std::int64_t{SAMPLE_max(sample)}))
+                                                     : 0;
+    if (magnitude == 0) {
+        SAMPLE_error();
+        return;
+    }
+    // A 32.32 factor, truncated. Its product with a value stays within peak, so 64 bits hold it; unsigned for
+    // the one that is 2^63.
+    const std::int64_t factor = std::int64_t{peak} * (std::int64_t{1} << 32) / magnitude;
+    change(sample, [factor](std::int32_t value) {
+        const std::uint64_t product = static_cast<std::uint64_t>(value) * static_cast<std::uint64_t>(factor);
+        return static_cast<std::int32_t>(product >> 32);
+    });
+}
+
+void SAMPLE_rescale(SAMPLE* sample, std::int32_t low, std::int32_t high) {
+    if (!hasValues(sample)) {
+        SAMPLE_error();
+        return;
+    }
+    const std::int64_t least = SAMPLE_min(sample);
+    const std::int64_t range = SAMPLE_max(sample) - least;
+    if (range == 0) {
+        SAMPLE_error();
+        return;
+    }
+    // low + (value - least) * (high - low) / range, truncated; magnitudes, since the product fills 64 bits.
+    const auto height = static_cast<std::uint64_t>(std::abs(std::int64_t{high} - low));
+    change(sample, [=](std::int32_t value) {
+        const auto above = static_cast<std::uint64_t>(value - least);
+        const auto move = static_cast<std::int32_t>(above * height / static_cast<std::uint64_t>(range));
+        return high < low ? wrapSub(low, move) : wrapAdd(low, move);
+    });
+}
+
+} // namespace velm

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The generators. Phases and periods are in values with a fraction of 15 bits.
+#include "audio/sound.h"
+
+#include "foundation/report.h"
+#include "foundation/wrap.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY SOUND_identity = makeIdentity("SOUND", "C", "ZENDORAK", "20150408", "CODE");
+std::uint8_t SOUND_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t fractionBits = 15;
+constexpr std::int32_t secondInFractions = SAMPLE_rate << fractionBits;
+constexpr std::int32_t highest = 32767;
+constexpr std::int32_t lowest = -32768;
+
+/// One period, SAMPLE_rate values; made once and never freed.
+SAMPLE* sineTable = nullptr;
+
+/// Lays a quarter wave down four times, mirrored and negated.
+void fillSineTable(SAMPLE* table) {
+    constexpr std::int32_t half = SAMPLE_rate / 2;
+    constexpr std::int32_t quarter = half / 2;
+    // Half of pi as single precision has it: slightly too large, so that the peak truncates to 32766.
+    constexpr double quarterTurn = 1.5707964F;
+    for (std::int32_t i = 0; i <= quarter; ++i) {
+        const auto value = static_cast<std::int32_t>(std::sin(i * quarterTurn / 11025.0) * 32767.0);
+        SAMPLE_set(table, i, value);
+        SAMPLE_set(table, half - i, value);
+        SAMPLE_set(table, half + i, -value);
+        // SOUND_sineTableOverrun: one expects every store to lie inside; the one of i = 0 is one past the
+        // end. SAMPLE_set refuses it, and entry 0 keeps its 0.
+        SAMPLE_set(table, SAMPLE_rate - i, -value);
+    }
+}
+
+/// The table, made by the first call; nullptr (reported) when memory runs out.
+const SAMPLE* requireSineTable() {
+    if (sineTable != nullptr) {
+        return sineTable;
+    }
+    SAMPLE* table = SAMPLE_new();
+    SAMPLE_setLength(table, SAMPLE_rate);
+    if (table == nullptr || table->length != SAMPLE_rate) {
+        if (table != nullptr) {
+            SAMPLE_delete(&table);
+        }
+        SOUND_error();
+        return nullptr;
+    }
+    fillSineTable(table);
+    sineTable = table;
+    return sineTable;
+}
+
+/// One cycle of a square wave: full scale up, 0, full scale down, 0. `next` is where the last cycle ended.
+void squareCycle(SAMPLE* sample, std::int32_t phase, std::int32_t period, std::int32_t& next) {
+    const std::int32_t begin = phase >> fractionBits;
+    const std::int32_t middle = (period / 2 + phase) >> fractionBits;
+    const std::int32_t end = std::max(((period + phase) >> fractionBits) - 1, middle + 1);
+    SAMPLE_set(sample, next, 0);
+    std::fill(sample->data + begin, sample->data + middle, highest);
+    SAMPLE_set(sample, middle, 0);
+    std::fill(sample->data + middle + 1, sample->data + end, lowest);
+    SAMPLE_set(sample, end, 0);
+    next = end;
+}
+
+std::int32_t drawNoise() {
+    return (rand() & 0xFFFF) + lowest;
+}
+
+/// Multiplies by the line from `start` by 32767 in direction `sign`, and scales back.
+///
+/// What SAMPLE_ramp over the whole sample stores, SAMPLE_multiply multiplies by and SAMPLE_shiftRight scales
+/// back, in one pass and without the ramp: before index i the line has moved by (i * height + bias) / width,
+/// rounded down. Half a unit on top of the dividend keeps the quotient off the whole numbers by more than a
+/// double's rounding, so slope and offset give the same.
+void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
+    if (sample == nullptr) {
+        SOUND_error();
+        return;
+    }
+    if (sample->length == 0) {
+        return;
+    }
+    std::int32_t* const data = sample->data;
+    data[0] = wrapMul(data[0], start) >> fractionBits;
+    const std::int32_t width = sample->length - 1;
+    if (width == 0) {
+        return;
+    }
+    constexpr std::int32_t height = highest;
+    const bool steep = width <= height;
+    const std::int32_t bias = steep ? height / 2 - height + width - 1 : width - width / 2;
+    const double slope = double{height} / width;
+    const double offset = (bias + 0.5) / width;
+    for (std::int32_t i = 1; i <= width; ++i) {
+        const auto moved = static_cast<std::int32_t>(i * slope + offset);
+        data[i] = wrapMul(data[i], start + sign * moved) >> fractionBits;
+    }
+}
+
+/// Multiplies by a gain that starts at `gain` and moves by 32768 over the whole sample, in direction `sign`.
+void runGain(SAMPLE* sample, std::int32_t gain, std::int32_t sign) {
+    if (sample == nullptr || sample->data == nullptr || sample->length == 0) {
+        SOUND_error();
+        return;
+    }
+    constexpr std::int32_t fullMove = 0x40000000;
+    const std::int32_t step = fullMove / sample->length;
+    std::int32_t moved = 0;
+    for (std::int32_t i = 0; i < sample->length; ++i) {
+        sample->data[i] = wrapMul(sample->data[i], gain) >> fractionBits;
+        moved += step;
+        gain += sign * (moved >> fractionBits);
+        moved &= highest;
+    }
+}
+
+} // namespace
+
+void SOUND_sine(SAMPLE* sample, std::int32_t frequency) {
+    if (sample == nullptr) {
+        SOUND_error();
+        return;
+    }
+    const SAMPLE* const table = requireSineTable();
+    if (table == nullptr || frequency < 1 || frequency >= SAMPLE_rate) {
+        SOUND_error();
+        return;
+    }
+    // A whole number of hertz moves the phase by whole entries, so it needs no fraction.
+    std::int32_t phase = 0;
+    for (std::int32_t i = 0; i < sample->length; ++i) {
+        sample->data[i] = table->data[phase];
+        phase += frequency;
+        phase -= phase >= SAMPLE_rate ? SAMPLE_rate : 0;
+    }
+}
+
+void SOUND_square(SAMPLE* sample, std::int32_t frequency) {
+    if (sample == nullptr || frequency < 1 || frequency > secondInFractions) {
+        SOUND_error();
+        return;
+    }
+    const std::int32_t period = secondInFractions / frequency;
+    // SOUND_squareLengthLimit: one expects any length to work; the length in fractions wraps, which leaves no
+    // cycle to write from 65536 values on.
+    // SOUND_squareLeavesTail: one expects the sample to be filled; what is left of a cycle keeps its old
+    // values, and the instruments sound of them.
+    const std::int32_t cycles = wrapShl(sample->length, fractionBits) / period;
+    std::int32_t phase = 0;
+    std::int32_t next = 0;
+    for (std::int32_t cycle = 0; cycle < cycles; ++cycle) {
+        squareCycle(sample, phase, period, next);
+        phase += period;
+    }
+}
+
+void SOUND_noise(SAMPLE* sample, std::int32_t rate) {
+    if (sample == nullptr) {
+        SOUND_error();
+        return;
+    }
+    std::int32_t value = drawNoise();
+    std::int32_t counter = SAMPLE_rate / 2;
+    for (std::int32_t i = sample->length - 1; i >= 0; --i) {
+        counter = wrapSub(counter, rate);
+        if (counter < 0) {
+            counter += SAMPLE_rate;
+            value = drawNoise();
+        }
+        sample->data[i] = value;
+    }
+}
+
+void SOUND_fadeOut(SAMPLE* sample) {
+    fade(sample, highest, -1);
+}
+
+void SOUND_fadeIn(SAMPLE* sample) {
+    fade(sample, 0, 1);
+}
+
+void SOUND_decay(SAMPLE* sample) {
+    runGain(sample, 1 << fractionBits, -1);
+}
+
+void SOUND_attack(SAMPLE* sample) {
+    runGain(sample, 0, 1);
+}
+
+void SOUND_check(const void* pointer) {
+    if (pointer == nullptr) {
+        SOUND_error();
+    }
+}
+
+void SOUND_error() {
+    reportLine(SOUND_verbose, "SOUND Error.");
+}
+
+} // namespace velm

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "foundation/dir.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+
+#include <cstring>
+#include <dirent.h>
+
+namespace velm {
+
+const IDENTITY DIR_identity = makeIdentity("DIR", "UNIX", "CODE", "20150111", "ZENDORAK");
+std::uint8_t DIR_verbose = 0;
+
+namespace {
+
+/// Appends a copy of a name, because the stream reuses its own; false when memory runs out.
+bool appendName(LIST* names, const char* name) {
+    const std::size_t size = std::strlen(name) + 1;
+    char* const copy = allocateArray<char>(static_cast<std::int64_t>(size));
+    if (copy == nullptr) {
+        return false;
+    }
+    std::memcpy(copy, name, size);
+    const std::int32_t before = names->count;
+    LIST_append(names, copy);
+    if (names->count == before) {
+        delete[] copy;
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+DIR* DIR_new() {
+    DIR* const dir = allocateRecord<DIR>();
+    if (dir != nullptr && (dir->names = LIST_new()) != nullptr) {
+        return dir;
+    }
+    delete dir;
+    DIR_error();
+    return nullptr;
+}
+
+std::int32_t DIR_read(DIR* dir, const char* path) {
+    ::DIR* const stream = dir != nullptr && path != nullptr ? opendir(path) : nullptr;
+    if (stream == nullptr) {
+        DIR_error();
+        return 0;
+    }
+    if (dir->handle != nullptr) {
+        closedir(static_cast<::DIR*>(dir->handle));
+    }
+    dir->handle = stream;
+    while (const dirent* const entry = readdir(stream)) {
+        if (!appendName(dir->names, entry->d_name)) {
+            DIR_error();
+            return 0;
+        }
+    }
+    return 1;
+}
+
+const char* DIR_getName(const DIR* dir) {
+    if (dir == nullptr) {
+        DIR_error();
+    }
+    return "";
+}
+
+std::int32_t DIR_same(const DIR* a, const DIR* b) {
+    if (a == nullptr || b == nullptr) {
+        DIR_error();
+        return 0;
+    }
+    return 1;
+}
+
+std::int32_t DIR_isValid(const DIR* dir) {
+    if (dir == nullptr) {
+        DIR_error();
+        return 0;
+    }
+    return 1;
+}
+
+void DIR_delete(DIR** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        DIR_error();
+        return;
+    }
+    // DIR_deleteKeepsTheNames: one expects everything to go; the list, its names and the stream outlive the record.
+    delete *handle;
+    *handle = nullptr;
+}
+
+void DIR_error() {
+    reportLine(DIR_verbose, "DIR error");
+}
+
+} // namespace velm

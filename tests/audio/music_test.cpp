@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "audio/music.h"
+#include "audio/samples.h"
+#include "audio/sound.h"
+#include "support/allocation.h"
+#include "support/capture_stdout.h"
+
+#include <gtest/gtest.h>
+
+namespace velm::test {
+namespace {
+
+using List = std::vector<std::int32_t>;
+
+class MusicTest : public testing::Test {
+protected:
+    static constexpr std::int32_t barLength = 1003;
+
+    void SetUp() override {
+        SAMPLE_setLength(music->bar, barLength);
+        for (std::int32_t i = 1; i <= 5; ++i) {
+            SAMPLE* instrument = SAMPLE_new();
+            SAMPLE_append(instrument, 1000 * i);
+            SAMPLE_append(instrument, -3 * i);
+            MUSIC_addInstrument(music, instrument);
+        }
+    }
+    void TearDown() override {
+        if (music->pattern != nullptr) {
+            SAMPLE_delete(&music->pattern);
+        }
+        MUSIC_delete(&music);
+    }
+
+    MUSIC* music = MUSIC_new();
+};
+
+/// Hits and spacing by the density drawn; 0 hits for a generator that draws none.
+struct Figure {
+    void (*generate)(MUSIC*);
+    bool fades;
+    std::int32_t hits[4];
+    std::int32_t parts[4];
+};
+
+/// The pattern as the plain steps make it, drawn from a copy of the generator.
+void composePlainly(const MUSIC* music, RANDOM draws, const Figure& figure, SAMPLE* pattern) {
+    const std::int32_t length = music->bar->length;
+    SAMPLE_setLength(pattern, length);
+    SAMPLE_clear(pattern);
+    const auto* instrument = static_cast<const SAMPLE*>(
+        LIST_get(music->instruments, RANDOM_next(&draws) % music->instruments->count));
+    std::int32_t offset = (RANDOM_next(&draws) & 1) * (length / 2);
+    offset += (RANDOM_next(&draws) & 1) * (length / 4);
+    offset += (RANDOM_next(&draws) & 1) * (length / 16);
+    offset += (RANDOM_next(&draws) & 1) * (length / 8);
+    const bool single = figure.hits[0] == 0;
+    const std::int32_t density = single ? 0 : RANDOM_next(&draws) & 3;
+    for (std::int32_t hit = 0; hit < (single ? 1 : figure.hits[density]); ++hit) {
+        SAMPLE_add(pattern, instrument);
+        if (figure.fades) {
+            SOUND_fadeOut(pattern);
+        }
+        SAMPLE_rotate(pattern, single ? 0 : length / figure.parts[density]);
+    }
+    for (std::int32_t i = 0; i < length && !single; ++i) {
+        pattern->data[i] = pattern->data[i] * (4 - density) >> 2;
+    }
+    SAMPLE_rotate(pattern, offset);
+}
+
+TEST_F(MusicTest, PatternsFollowTheirDraws) {
+    const Figure figures[] = {{MUSIC_genSingle, false, {}, {}},
+                              {MUSIC_genSingleFaded, true, {}, {}},
+                              {MUSIC_genRepeat, false, {1, 2, 4, 8}, {1, 2, 4, 8}},
+                              {MUSIC_genRepeatFaded, true, {1, 2, 4, 8}, {1, 2, 4, 8}},
+                              {MUSIC_genRoll, false, {5, 1, 3, 7}, {6, 2, 4, 8}}};
+    const Sample expected;
+    for (int round = 0; round < 200; ++round) {
+        for (const Figure& figure : figures) {
+            composePlainly(music, *MUSIC_random, figure, expected);
+            figure.generate(music);
+            ASSERT_EQ(values(music->pattern), values(expected)) << "round " << round;
+        }
+    }
+}
+
+TEST_F(MusicTest, TheGeneratorIsSharedAndStartsTheSame) {
+    RANDOM* const before = MUSIC_random;
+    MUSIC* other = MUSIC_new();
+    EXPECT_EQ(MUSIC_random, before);
+    EXPECT_EQ(other->period, 300);
+    EXPECT_EQ(other->bar->length, 132300);
+    MUSIC_delete(&other);
+    const auto makeFirst = [] {
+        MUSIC_random = nullptr;
+        MUSIC_new();
+        const RANDOM& r = *MUSIC_random;
+        std::_Exit(r.counter == 0x12345678 && r.multiplier == 33141 && r.state == 1 ? 0 : 1);
+    };
+    EXPECT_EXIT(makeFirst(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(MusicTest, TicksAndBlendsOnceThereIsAPattern) {
+    MUSIC_tick(music);
+    MUSIC_blend(music, 8);
+    EXPECT_EQ(music->tick, 0);
+    MUSIC_genSingle(music);
+    EXPECT_EQ(music->pattern->length, barLength);
+    MUSIC_tick(music);
+    EXPECT_EQ(music->tick, 1);
+    SAMPLE_setLength(music->bar, 3);
+    MUSIC_genRepeat(music);
+    EXPECT_EQ(music->pattern->length, 3) << "a pattern of another length makes way";
+    for (std::int32_t i = 0; i < 3; ++i) {
+        SAMPLE_set(music->bar, i, 100 * (i - 1));
+        SAMPLE_set(music->pattern, i, 5 - 6 * i);
+    }
+    MUSIC_blend(music, 1);
+    MUSIC_blend(music, 0);
+    EXPECT_EQ(values(music->bar), (List{-100, 0, 100}));
+    MUSIC_blend(music, 8);
+    EXPECT_EQ(values(music->bar), (List{-86, 0, 86})) << "-695 and -1 and 693 eighths, cut towards 0";
+}
+
+TEST_F(MusicTest, MUSIC_deleteLeavesPattern) {
+    MUSIC_genSingle(music);
+    SAMPLE* pattern = music->pattern;
+    MUSIC_delete(&music);
+    EXPECT_EQ(pattern->length, barLength);
+    SAMPLE_delete(&pattern);
+    music = MUSIC_new();
+}
+
+TEST_F(MusicTest, FailuresChangeNothing) {
+    for (const int nth : {1, 2, 3, 4, 5, 6}) {
+        const FailingAllocation failure(nth);
+        EXPECT_EQ(MUSIC_new(), nullptr);
+    }
+    MUSIC_addInstrument(music, nullptr);
+    MUSIC_addInstrument(nullptr, nullptr);
+    MUSIC_genRoll(nullptr);
+    EXPECT_EQ(music->instruments->count, 5);
+    {
+        const FailingAllocation failure(3);
+        MUSIC_genSingle(music);
+    }
+    MUSIC* silent = MUSIC_new();
+    const RANDOM before = *MUSIC_random;
+    MUSIC_verbose = 1;
+    EXPECT_EQ(printedBy([&] { MUSIC_genSingle(silent); }), "MUSIC ERROR\n") << "no instruments";
+    EXPECT_EQ(printedBy([] { MUSIC_delete(nullptr); }), "MUSIC ERROR\n");
+    MUSIC_verbose = 0;
+    EXPECT_EQ(MUSIC_random->counter, before.counter) << "and no draws";
+    EXPECT_EQ(silent->pattern, nullptr);
+    MUSIC_delete(&silent);
+}
+
+} // namespace
+} // namespace velm::test

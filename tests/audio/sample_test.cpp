@@ -1,0 +1,254 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "audio/samples.h"
+#include "support/allocation.h"
+#include "support/capture_stdout.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace velm::test {
+namespace {
+
+using List = std::vector<std::int32_t>;
+
+TEST(Sample, CapacityAndLengthKeepWhatTheyShould) {
+    const Sample s({1, 2, 3});
+    SAMPLE_setLength(s, 1);
+    SAMPLE_setLength(s, 3);
+    EXPECT_EQ(values(s), (List{1, 2, 3})) << "shortening forgets nothing";
+    SAMPLE_setLength(s, 1);
+    SAMPLE_setLength(s, 33);
+    EXPECT_EQ(s->capacity, 33);
+    EXPECT_EQ(s->data[0], 1);
+    EXPECT_EQ(s->data[2], 0) << "only the values in use move to a new array";
+    SAMPLE_setCapacity(s, 2);
+    EXPECT_EQ(values(s), (List{1, 0}));
+    SAMPLE_append(s, 9);
+    EXPECT_EQ(s->capacity, 4);
+    SAMPLE_setCapacity(s, 0);
+    EXPECT_EQ(s->data, nullptr);
+    SAMPLE_append(s, 1);
+    EXPECT_EQ(s->capacity, 0) << "a sample without data takes none";
+    SAMPLE_setLength(s, 2);
+    EXPECT_EQ(values(s), (List{0, 0}));
+}
+
+TEST(Sample, EditsMoveTheTail) {
+    const Sample s({1, 2, 3});
+    const Sample other({7, 8});
+    SAMPLE_insert(s, other, 1);
+    EXPECT_EQ(values(s), (List{1, 7, 8, 2, 3}));
+    SAMPLE_insert(s, s, 2);
+    EXPECT_EQ(values(s), (List{1, 7, 1, 7, 8, 2, 3, 8, 2, 3}));
+    SAMPLE_insertValue(s, 5, 10);
+    SAMPLE_removeAt(s, 0);
+    EXPECT_EQ(values(s), (List{7, 1, 7, 8, 2, 3, 8, 2, 3, 5}));
+    EXPECT_EQ(SAMPLE_find(s, 8, 3), 3);
+    EXPECT_EQ(SAMPLE_find(s, 8, 4), 6);
+    EXPECT_EQ(SAMPLE_find(s, 8, 7), -1);
+    SAMPLE_copy(s, s, 4, 0, 2);
+    EXPECT_EQ(values(s), (List{7, 1, 7, 1, 7, 8, 8, 2, 3, 5}));
+    SAMPLE_resize(s, 4);
+    EXPECT_EQ(values(s), (List{7, 7, 8, 2}));
+    SAMPLE* slice = SAMPLE_slice(s, -3, 2);
+    SAMPLE* nothing = SAMPLE_slice(s, 9, 1);
+    SAMPLE* clone = SAMPLE_clone(s);
+    const std::int8_t bytes[] = {-128, 127};
+    SAMPLE* signedBytes = SAMPLE_fromBytes(bytes, 2);
+    EXPECT_EQ(values(slice), (List{7, 7}));
+    EXPECT_EQ(nothing->length, 0);
+    EXPECT_EQ(SAMPLE_equals(clone, s), 1);
+    EXPECT_EQ(SAMPLE_equals(slice, s), 0);
+    EXPECT_EQ(values(signedBytes), (List{-128, 127}));
+    for (SAMPLE** each : {&slice, &nothing, &clone, &signedBytes}) {
+        SAMPLE_delete(each);
+    }
+}
+
+TEST(Sample, RotatesRound) {
+    const Sample s({1, 2, 3, 4, 5});
+    SAMPLE_rotate(s, 1);
+    EXPECT_EQ(values(s), (List{5, 1, 2, 3, 4}));
+    SAMPLE_rotate(s, 5);
+    SAMPLE_rotate(s, 12);
+    EXPECT_EQ(values(s), (List{3, 4, 5, 1, 2}));
+    SAMPLE_rotateLeft(s, 7);
+    EXPECT_EQ(values(s), (List{5, 1, 2, 3, 4}));
+    SAMPLE_rotate(s, -1);
+    EXPECT_EQ(values(s), (List{1, 2, 3, 4, 5}));
+}
+
+TEST(Sample, ArithmeticWrapsTruncatesAndStopsAtTheShorter) {
+    const Sample s({INT32_MAX, -7, 7, 1});
+    const Sample other({1, 65536, -3});
+    SAMPLE_add(s, other);
+    EXPECT_EQ(values(s), (List{INT32_MIN, 65529, 4, 1}));
+    SAMPLE_multiply(s, other);
+    EXPECT_EQ(values(s), (List{INT32_MIN, -458752, -12, 1}));
+    SAMPLE_divide(s, -1);
+    EXPECT_EQ(values(s), (List{INT32_MIN, 458752, 12, -1}));
+    SAMPLE_shiftRight(s, 32);
+    SAMPLE_shiftRight(s, 1);
+    EXPECT_EQ(values(s), (List{-1073741824, 229376, 6, -1}));
+    SAMPLE_shiftLeft(s, 2);
+    EXPECT_EQ(values(s), (List{0, 917504, 24, -4}));
+    SAMPLE_mixScaled(s, other, -5, 2);
+    EXPECT_EQ(values(s), (List{-2, 753664, 31, -4}));
+    SAMPLE_mixFixed(s, other, 65535);
+    EXPECT_EQ(values(s), (List{-2, 753663, 28, -4})) << "the product wraps, the shift rounds down";
+    SAMPLE_clear(s);
+    EXPECT_EQ(values(s), (List{0, 0, 0, 0}));
+}
+
+TEST(Sample, DivisionTruncatesForEveryValue) {
+    std::mt19937 engine(1);
+    for (int round = 0; round < 2000; ++round) {
+        const List before = randomValues(engine, 8);
+        const std::int32_t divisor = randomValues(engine, 1)[0];
+        if (divisor != 0) {
+            const Sample s(before);
+            SAMPLE_divide(s, divisor);
+            for (std::size_t i = 0; i < before.size(); ++i) {
+                ASSERT_EQ(s->data[i], static_cast<std::int32_t>(std::int64_t{before[i]} / divisor))
+                    << before[i] << " / " << divisor;
+            }
+        }
+    }
+}
+
+TEST(Sample, NormalizesAndRescalesInSixtyFourBits) {
+    const Sample s({-16000, 8000, 1, -1});
+    SAMPLE_normalize(s, 32000);
+    EXPECT_EQ(values(s), (List{-32000, 16000, 2, -2}));
+    SAMPLE_scale(s, -1);
+    SAMPLE_normalize(s, 9999);
+    EXPECT_EQ(values(s), (List{9998, -5000, -1, 0})) << "the factor is cut, the product rounds down";
+    const Sample wide({INT32_MIN, INT32_MAX, 0});
+    SAMPLE_normalize(wide, INT32_MIN);
+    EXPECT_EQ(values(wide), (List{INT32_MIN, -INT32_MAX, 0})) << "2^31 wraps";
+    const Sample range({INT32_MIN, INT32_MAX, 0});
+    SAMPLE_rescale(range, INT32_MAX, INT32_MIN);
+    EXPECT_EQ(values(range), (List{INT32_MAX, INT32_MIN, -1}));
+    SAMPLE_rescale(range, 0, 10);
+    EXPECT_EQ(values(range), (List{10, 0, 4}));
+}
+
+TEST(Sample, SAMPLE_rampStopsShort) {
+    const Sample s({9, 9, 9, 9, 9});
+    SAMPLE_ramp(s, 1, 100, 4, 0);
+    EXPECT_EQ(values(s), (List{9, 100, 83, 50, 16}));
+    SAMPLE_setLength(s, 11025);
+    SAMPLE_ramp(s, 0, 32767, 11024, 0);
+    EXPECT_EQ(s->data[11024], 1);
+}
+
+TEST(Sample, SAMPLE_rampKeepsValuesInPlace) {
+    const Sample s({9, 9, 9, 9, 9, 9});
+    SAMPLE_ramp(s, 5, 100, 2, 0);
+    EXPECT_EQ(values(s), (List{9, 9, 100, 83, 50, 16}));
+    SAMPLE_ramp(s, 4, -1, 0, 1);
+    EXPECT_EQ(values(s), (List{-1, 0, 0, 1, 1, 16}));
+}
+
+TEST(Sample, RampsFollowTheStepwiseRule) {
+    std::mt19937 engine(2);
+    const Sample s;
+    for (int round = 0; round < 3000; ++round) {
+        const std::int32_t width = number(engine, 1, 60);
+        const std::int32_t from = number(engine, -100, 100);
+        const std::int32_t to = number(engine, -100, 100);
+        SAMPLE_setLength(s, width + 1);
+        SAMPLE_ramp(s, 0, from, width, to);
+        const std::int32_t height = std::abs(to - from);
+        const bool steep = width <= height;
+        std::int32_t error = (steep ? height : width) >> 1;
+        std::int32_t y = from;
+        for (std::int32_t i = 0; i <= width; ++i) {
+            ASSERT_EQ(s->data[i], y) << from << " to " << to << " over " << width << ", index " << i;
+            for (error -= steep ? 0 : height; steep ? error > 0 : error < 1;
+                 error += steep ? -width : width) {
+                y += to > from ? 1 : -1;
+            }
+            error += steep ? height : 0;
+        }
+    }
+}
+
+TEST(Sample, TextAndFilesReadBack) {
+    const Sample s({-5, INT32_MIN, 7});
+    char* text = SAMPLE_toText(s);
+    EXPECT_STREQ(text, "SAMPLE { 3\n-5\n-2147483648\n7\n}\n");
+    SAMPLE* copy = SAMPLE_fromText((std::string("a picture? SAMPLE! ") + text).c_str());
+    EXPECT_EQ(values(copy), values(s));
+    delete[] text;
+    SAMPLE_delete(&copy);
+    const Sample empty;
+    text = SAMPLE_toText(empty);
+    EXPECT_STREQ(text, "SAMPLE { 0 }\n");
+    delete[] text;
+    for (const char* malformed : {"", "SAMPLE", "SAMPLE { 2\n1\n}", "SAMPLE { -1\n}",
+                                  "SAMPLE { 999999999\n1\n", "SAMPLE { 1\n2147483648\n}", "3\n1\n2\n3\n"}) {
+        EXPECT_EQ(SAMPLE_fromText(malformed), nullptr) << malformed;
+    }
+    std::FILE* file = std::tmpfile();
+    const Sample raw({0x01020304, -2});
+    EXPECT_EQ(SAMPLE_writeRaw(raw, file, 3, 'm'), 1);
+    EXPECT_EQ(SAMPLE_writeRaw(raw, file, 4, 'l'), 1);
+    std::rewind(file);
+    const Sample read;
+    EXPECT_EQ(SAMPLE_readRaw(read, file, 3, 'm', 2), 2);
+    EXPECT_EQ(SAMPLE_readRaw(read, file, 2, 'l', 3), 3);
+    EXPECT_EQ(SAMPLE_readRaw(read, file, 4, 'l', 9), 0) << "half a value is none";
+    EXPECT_EQ(values(read), (List{0x020304, 0xFFFFFE, 0x0304, 0x0102, 0xFFFE}));
+    std::fclose(file);
+}
+
+TEST(Sample, FailuresAreReportedAndChangeNothing) {
+    const Sample s({4, 4});
+    const Sample empty;
+    SAMPLE* const none = nullptr;
+    SAMPLE_verbose = 1;
+    const std::string output = printedBy([&] {
+        EXPECT_EQ(SAMPLE_get(s, 2), 0);
+        SAMPLE_set(s, 2, 1);
+        SAMPLE_set(s, -1, 1);
+        SAMPLE_divide(s, 0);
+        SAMPLE_mixScaled(s, s, 1, 0);
+        SAMPLE_shiftRight(s, 33);
+        SAMPLE_shiftLeft(s, -1);
+        SAMPLE_rescale(s, 0, 10);
+        SAMPLE_normalize(empty, 10);
+        SAMPLE_rotate(empty, 1);
+        SAMPLE_rotateLeft(empty, 1);
+        SAMPLE_resize(empty, 5);
+        EXPECT_EQ(SAMPLE_min(empty) + SAMPLE_max(empty), 0);
+        SAMPLE_ramp(s, -1, 0, 1, 5);
+        SAMPLE_ramp(s, 0, 0, 2, 5);
+        SAMPLE_copy(s, s, 2, 1, 0);
+        SAMPLE_copy(s, s, -1, 1, 1);
+        SAMPLE_insertValue(s, 1, 3);
+        SAMPLE_removeAt(s, 2);
+        SAMPLE_setLength(s, -1);
+        SAMPLE_add(s, none);
+        EXPECT_EQ(SAMPLE_writeRaw(s, nullptr, 2, 'l'), 0);
+        SAMPLE_delete(nullptr);
+        const FailingAllocation failure(1);
+        SAMPLE_setLength(s, 33);
+    });
+    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 25);
+    EXPECT_EQ(values(s), (List{4, 4}));
+    EXPECT_EQ(printedBy([&] { SAMPLE_ramp(s, 1, 6, 1, 8); }), "SAMPLE error\n") << "no width to rise over";
+    EXPECT_EQ(values(s), (List{4, 6}));
+    SAMPLE_clear(s);
+    EXPECT_EQ(printedBy([&] { SAMPLE_normalize(s, 10); }), "SAMPLE error\n") << "silence stays";
+    SAMPLE_verbose = 0;
+    for (const int nth : {1, 2}) {
+        const FailingAllocation failure(nth);
+        EXPECT_EQ(SAMPLE_new(), nullptr);
+    }
+}
+
+} // namespace
+} // namespace velm::test

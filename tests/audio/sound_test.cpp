@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "audio/samples.h"
+#include "audio/sound.h"
+#include "support/capture_stdout.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace velm::test {
+namespace {
+
+using List = std::vector<std::int32_t>;
+
+TEST(Sound, SineKeepsItsPitchExactly) {
+    const Sample s{List(8)};
+    SOUND_sine(s, 11025);
+    EXPECT_EQ(values(s), (List{0, 32766, 0, -32766, 0, 32766, 0, -32766}));
+    const Sample period{List(SAMPLE_rate)};
+    SOUND_sine(period, 1);
+    EXPECT_EQ(period->data[1], 4);
+    EXPECT_EQ(period->data[7350], 28377);
+    EXPECT_EQ(period->data[36750], -28377);
+    for (std::int32_t i = 1; i < SAMPLE_rate / 2; ++i) {
+        ASSERT_EQ(period->data[SAMPLE_rate / 2 - i], period->data[i]);
+        ASSERT_EQ(period->data[SAMPLE_rate - i], -period->data[i]);
+    }
+    const Sample high{List(1000)};
+    SOUND_sine(high, 44099);
+    for (std::int32_t i = 0; i < 1000; ++i) {
+        ASSERT_EQ(high->data[i], -period->data[i]) << "one hertz below the rate runs backwards";
+    }
+}
+
+TEST(Sound, SOUND_sineTableOverrun) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    // A process of its own, where the table is not built yet.
+    const auto build = [] {
+        SAMPLE_verbose = 1;
+        const Sample s;
+        const bool refused = printedBy([&s] { SOUND_sine(s, 440); }) == "SAMPLE error\n";
+        const bool kept = printedBy([&s] { SOUND_sine(s, 440); }).empty();
+        _exit(refused && kept ? 0 : 1);
+    };
+    EXPECT_EXIT(build(), testing::ExitedWithCode(0), "") << "one store misses the table, once";
+}
+
+TEST(Sound, SOUND_squareLeavesTail) {
+    const Sample s{List(24, 7)};
+    SOUND_square(s, 4410);
+    const std::int32_t high = 32767;
+    const std::int32_t low = -32768;
+    EXPECT_EQ(values(s), (List{high, high, high, high, high, 0,   low, low, low, 0, high, high,
+                               high, high, high, 0,    low,  low, low, 0,   7,   7, 7,    7}));
+}
+
+TEST(Sound, SquareFollowsItsLoop) {
+    std::mt19937 engine(3);
+    for (int round = 0; round < 300; ++round) {
+        const std::int32_t length = number(engine, 0, 3000);
+        const std::int32_t frequency =
+            round % 2 == 0 ? 28160 : number(engine, 1, round % 4 == 1 ? 5000 : 200000);
+        const Sample s{List(static_cast<std::size_t>(length), 7)};
+        const Sample plain{List(static_cast<std::size_t>(length), 7)};
+        SOUND_square(s, frequency);
+        const std::int32_t period = 0x56220000 / frequency;
+        std::int32_t phase = 0;
+        std::int32_t j = 0;
+        for (std::int32_t cycle = (length << 15) / period; cycle > 0; --cycle, phase += period) {
+            SAMPLE_set(plain, j, 0);
+            std::int32_t i = phase >> 15;
+            for (; (period / 2 + phase) >> 15 > i; ++i) {
+                SAMPLE_set(plain, i, 32767);
+            }
+            SAMPLE_set(plain, i, 0);
+            for (j = ((period / 2 + phase) >> 15) + 1; ((period + phase) >> 15) - 1 > j; ++j) {
+                SAMPLE_set(plain, j, -32768);
+            }
+            SAMPLE_set(plain, j, 0);
+        }
+        ASSERT_EQ(values(s), values(plain)) << frequency << " Hz, " << length << " values";
+    }
+}
+
+TEST(Sound, SOUND_squareLengthLimit) {
+    const Sample s{List(65535, 7)};
+    SOUND_square(s, 100);
+    EXPECT_EQ(s->data[0], 32767);
+    for (const std::int32_t length : {65536, 88200}) {
+        const Sample tooLong{List(static_cast<std::size_t>(length), 7)};
+        SOUND_square(tooLong, 100);
+        EXPECT_EQ(std::count(tooLong->data, tooLong->data + length, 7), length);
+    }
+}
+
+TEST(Sound, NoiseDrawsFromTheEnd) {
+    const auto draw = [] { return (rand() & 0xFFFF) - 32768; };
+    srand(1);
+    const Sample every{List(4)};
+    SOUND_noise(every, SAMPLE_rate);
+    const Sample seldom{List(22050)};
+    SOUND_noise(seldom, 2);
+    srand(1);
+    draw(); // the value before the first index, which is never heard at the full rate
+    for (std::int32_t i = 3; i >= 0; --i) {
+        EXPECT_EQ(every->data[i], draw());
+    }
+    const List halves = {draw(), draw()};
+    EXPECT_EQ(std::count(seldom->data + 11025, seldom->data + 22050, halves[0]), 11025);
+    EXPECT_EQ(std::count(seldom->data, seldom->data + 11025, halves[1]), 11025);
+}
+
+TEST(Sound, FadesEqualTheRamps) {
+    std::mt19937 engine(4);
+    List lengths = {11025, 22050, 32766, 32767, 32768, 32769, 44100, 88200, 132300};
+    for (std::int32_t length = 2; length < 400; ++length) {
+        lengths.push_back(length);
+    }
+    for (const std::int32_t length : lengths) {
+        const List before = randomValues(engine, length);
+        const Sample ramp(before);
+        for (const bool out : {true, false}) {
+            const Sample plain(before);
+            const Sample s(before);
+            out ? SAMPLE_ramp(ramp, 0, 32767, length - 1, 0) : SAMPLE_ramp(ramp, 0, 0, length - 1, 32767);
+            SAMPLE_multiply(plain, ramp);
+            SAMPLE_shiftRight(plain, 15);
+            out ? SOUND_fadeOut(s) : SOUND_fadeIn(s);
+            ASSERT_EQ(SAMPLE_equals(s, plain), 1) << length << " values, out " << out;
+        }
+    }
+    const Sample one({-32768});
+    SOUND_fadeOut(one);
+    EXPECT_EQ(one->data[0], -32767);
+    SOUND_fadeIn(one);
+    EXPECT_EQ(one->data[0], 0);
+}
+
+TEST(Sound, GainsRunDownAndUp) {
+    const Sample s({32767, 32767, 32767, -32768});
+    SOUND_decay(s);
+    EXPECT_EQ(values(s), (List{32767, 24575, 16383, -8192}));
+    const Sample rising({32767, 32767, 32767});
+    SOUND_attack(rising);
+    EXPECT_EQ(values(rising), (List{0, 10921, 21844})) << "thirds carry their fraction";
+}
+
+TEST(Sound, FailuresAreReportedAndChangeNothing) {
+    const Sample s({5, 5});
+    const Sample empty;
+    SOUND_verbose = 1;
+    const std::string output = printedBy([&] {
+        SOUND_sine(s, 0);
+        SOUND_sine(s, 44100);
+        SOUND_square(s, 0);
+        SOUND_square(s, -5);
+        SOUND_square(s, 1445068801);
+        SOUND_noise(nullptr, 1);
+        SOUND_fadeOut(nullptr);
+        SOUND_decay(empty);
+        SOUND_check(nullptr);
+        SOUND_check(s);
+        SOUND_fadeOut(empty);
+    });
+    SOUND_verbose = 0;
+    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 9);
+    EXPECT_EQ(output.substr(0, 13), "SOUND Error.\n");
+    EXPECT_EQ(values(s), (List{5, 5}));
+}
+
+} // namespace
+} // namespace velm::test
