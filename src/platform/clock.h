@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Time as the demo sees it, in microseconds: the wall clock here, virtual time without a screen.
+//
+//     const std::int64_t begin = CLOCK_now();
+//     CLOCK_sleep(33333);
+#pragma once
+
+#include <cstdint>
+
+namespace velm {
+
+/// Microseconds of the wall clock.
+std::int64_t CLOCK_now();
+
+/// Sleeps for `micros` (> 0) microseconds; a signal may end it early.
+void CLOCK_sleep(std::int32_t micros);
+
+} // namespace velm

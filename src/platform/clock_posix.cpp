@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "platform/clock.h"
+
+#include <sys/time.h>
+#include <unistd.h>
+
+namespace velm {
+
+std::int64_t CLOCK_now() {
+    timeval now{};
+    gettimeofday(&now, nullptr);
+    return std::int64_t{now.tv_sec} * 1000000 + now.tv_usec;
+}
+
+void CLOCK_sleep(std::int32_t micros) {
+    usleep(static_cast<useconds_t>(micros));
+}
+
+} // namespace velm

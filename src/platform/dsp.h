@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The sound device itself, as XSND sees it: the Open Sound System's "/dev/dsp" here, whatever takes blocks
+// without a machine. A descriptor below 0 is no device.
+//
+//     const std::int32_t device = DSP_open("/dev/dsp");
+//     DSP_request(device, DspRequest::speed, &rate);
+//     DSP_write(device, block, 1024);
+#pragma once
+
+#include <cstdint>
+
+namespace velm {
+
+/// What is asked of a device, by the Open Sound System's numbers. All but `reset` pass a word and may get
+/// another one back.
+enum class DspRequest : std::uint32_t {
+    reset = 0x5000,
+    speed = 0xC0045002,     ///< samples per second
+    stereo = 0xC0045003,    ///< 0 for mono
+    blockSize = 0xC0045004, ///< answer only: bytes of a block
+    format = 0xC0045005,    ///< 16: signed 16-bit, low byte first
+};
+
+/// Opens the device for writing and gives its descriptor, or a negative number.
+std::int32_t DSP_open(const char* path);
+
+/// Makes a request: a negative number when it is refused. `word` is nullptr for `reset`.
+std::int32_t DSP_request(std::int32_t device, DspRequest request, std::int32_t* word);
+
+/// Hands over a block, once, waiting while the device is full. Gives the bytes taken, perhaps fewer than
+/// offered, or -1.
+std::int32_t DSP_write(std::int32_t device, const std::int16_t* block, std::int32_t samples);
+
+void DSP_close(std::int32_t device);
+
+} // namespace velm

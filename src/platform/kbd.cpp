@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "platform/kbd.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+
+namespace velm {
+
+const IDENTITY KBD_identity = makeIdentity("KBD", "20150222", "CODE", "LINUX", "ZENDORAK");
+std::uint8_t KBD_verbose = 0;
+
+KBD* KBD_new() {
+    KBD* table = allocateRecord<KBD>();
+    if (table == nullptr) {
+        KBD_error();
+    }
+    return table;
+}
+
+void KBD_dispatch(KBD* table) {
+    if (table == nullptr || table->current < 0 || table->current >= KBD::keys) {
+        KBD_error();
+        return;
+    }
+    if (table->handlers[table->current] != nullptr) {
+        table->handlers[table->current]();
+    }
+}
+
+std::int32_t KBD_current(const KBD* table) {
+    if (table == nullptr) {
+        KBD_error();
+        return 0;
+    }
+    return table->current;
+}
+
+std::int32_t KBD_flush(const KBD* table) {
+    if (table == nullptr) {
+        KBD_error();
+    }
+    return 0;
+}
+
+std::int32_t KBD_same(const KBD* a, const KBD* b) {
+    if (a == nullptr || b == nullptr) {
+        KBD_error();
+        return 0;
+    }
+    return 1;
+}
+
+void KBD_delete(KBD** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        KBD_error();
+        return;
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+void KBD_error() {
+    reportLine(KBD_verbose, "KBD error");
+}
+
+} // namespace velm

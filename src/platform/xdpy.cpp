@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// What every implementation of the window shares.
+#include "platform/xdpy.h"
+
+#include "foundation/report.h"
+
+#include <cstdio>
+
+namespace velm {
+
+const IDENTITY XDPY_identity = makeIdentity("XDPY", "20150214", "ZENDORAK", "XWINDOWS", "CODE");
+std::uint8_t XDPY_verbose = 0;
+XDPY_DUMP XDPY_dump{};
+XDPY* XDPY_current = nullptr;
+
+bool XDPY_accepts(const XDPY* display, const IMG* img) {
+    return display != nullptr && img != nullptr && img->pixels != nullptr &&
+           static_cast<std::uint32_t>(img->width) == display->width &&
+           static_cast<std::uint32_t>(img->height) == display->height && XDPY_isOpen();
+}
+
+void XDPY_dumpFrame(const IMG* img) {
+    if (XDPY_dump.on == 0) {
+        return;
+    }
+    char path[32];
+    ++XDPY_dump.count;
+    std::snprintf(path, sizeof path, "frame-%05d.ppm", static_cast<int>(XDPY_dump.count));
+    IMG_writePPM(img, path);
+}
+
+const char* XDPY_getName(const XDPY* display) {
+    if (display == nullptr || display != XDPY_current) {
+        XDPY_error();
+        return nullptr;
+    }
+    return "";
+}
+
+std::int32_t XDPY_same(const XDPY* a, const XDPY* b) {
+    return a != nullptr && a == b && a == XDPY_current ? 1 : 0;
+}
+
+XDPY* XDPY_get(XDPY* display) {
+    return display != nullptr && display == XDPY_current ? display : nullptr;
+}
+
+void XDPY_error() {
+    reportLine(XDPY_verbose, "XDPY error");
+}
+
+} // namespace velm

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// What every implementation of the keyboard shares; XKBD_poll is the machine's.
+#include "platform/xkbd.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "platform/xdpy.h"
+
+namespace velm {
+
+const IDENTITY XKBD_identity = makeIdentity("XKBD", "XWINDOWS", "20150226", "ZENDORAK", "CODE");
+std::uint8_t XKBD_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t textBytes = 9;
+
+/// The process's one record.
+XKBD* keyboardOfProcess = nullptr;
+
+XKBD* makeKeyboard() {
+    XKBD* keyboard = allocateRecord<XKBD>();
+    if (keyboard == nullptr) {
+        return nullptr;
+    }
+    keyboard->text = allocateArray<char>(textBytes);
+    if (keyboard->text == nullptr) {
+        delete keyboard;
+        return nullptr;
+    }
+    return keyboard;
+}
+
+} // namespace
+
+XKBD* XKBD_new() {
+    if (keyboardOfProcess == nullptr) {
+        keyboardOfProcess = makeKeyboard();
+    }
+    if (keyboardOfProcess == nullptr) {
+        XKBD_error();
+    }
+    XDPY_selectInput();
+    return keyboardOfProcess;
+}
+
+const char* XKBD_getName(const XKBD* keyboard) {
+    if (keyboard == nullptr) {
+        XKBD_error();
+        return nullptr;
+    }
+    return "XKBD";
+}
+
+std::int32_t XKBD_getState(const XKBD* keyboard) {
+    if (keyboard == nullptr) {
+        XKBD_error();
+    }
+    return 0;
+}
+
+std::int32_t XKBD_same(const XKBD* a, const XKBD* b) {
+    if (a == nullptr || b == nullptr) {
+        XKBD_error();
+        return 0;
+    }
+    return a == b ? 1 : 0;
+}
+
+std::int32_t XKBD_flush(const XKBD* keyboard) {
+    if (keyboard == nullptr) {
+        XKBD_error();
+    }
+    return 0;
+}
+
+void XKBD_delete(XKBD** handle) {
+    if (handle == nullptr || *handle == nullptr || (*handle)->text == nullptr) {
+        XKBD_error();
+        return;
+    }
+    if (*handle == keyboardOfProcess) {
+        keyboardOfProcess = nullptr;
+    }
+    delete[](*handle)->text;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void XKBD_error() {
+    reportLine(XKBD_verbose, "XKBD error");
+}
+
+} // namespace velm

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "platform/x11_display.h"
+#include "platform/xkbd.h"
+
+#include <X11/Xutil.h>
+#include <cstdlib>
+
+namespace velm {
+
+namespace {
+
+constexpr int lookedUpBytes = 8;
+constexpr char escape = 27;
+
+/// True when the window's close button was pressed since the last call.
+bool takeClose() {
+    XEvent event;
+    return XCheckTypedWindowEvent(x11Display.connection, x11Display.window, ClientMessage, &event) != 0 &&
+           static_cast<Atom>(event.xclient.data.l[0]) == x11Display.deleteWindow;
+}
+
+/// A paused demo polls and does nothing else, so nobody else would notice that the window is gone.
+void watchWindowWhileIdle(bool tookKey) {
+    constexpr std::int32_t pollsBetweenLooks = 4096;
+    static std::int32_t idlePolls = 0;
+    idlePolls = tookKey ? 0 : idlePolls + 1;
+    if (idlePolls >= pollsBetweenLooks) {
+        idlePolls = 0;
+        x11RequireWindow();
+    }
+}
+
+} // namespace
+
+void XKBD_poll(XKBD* keyboard) {
+    if (keyboard == nullptr) {
+        XKBD_error();
+        std::exit(0);
+    }
+    if (!XDPY_isOpen()) {
+        XKBD_error();
+        return;
+    }
+    if (takeClose()) {
+        keyboard->text[0] = escape;
+        return;
+    }
+    XEvent event;
+    const bool taken = XCheckWindowEvent(x11Display.connection, x11Display.window, KeyPressMask, &event) != 0;
+    if (taken) {
+        XLookupString(&event.xkey, keyboard->text, lookedUpBytes, nullptr, nullptr);
+        keyboard->keycode = static_cast<std::int32_t>(event.xkey.keycode);
+    }
+    watchWindowWhileIdle(taken);
+}
+
+} // namespace velm
