@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "foundation/memory.h"
+#include "headless.h"
+#include "platform/clock.h"
+#include "platform/xdpy.h"
+#include "platform/xkbd.h"
+#include "platform/xptr.h"
+
+#include <cstdlib>
+
+namespace velm {
+
+Headless headless;
+
+namespace {
+
+constexpr std::uint32_t windowSize = 256;
+constexpr std::uint32_t windowDepth = 24;
+
+/// The next entry that is due, or nullptr; entries are due once their presentation has been made.
+template <typename Entry>
+const Entry* takeDue(const std::vector<Entry>& entries, std::size_t& next) {
+    if (next < entries.size() && entries[next].frame <= headless.frames) {
+        return &entries[next++];
+    }
+    return nullptr;
+}
+
+/// Every frame presents before it polls, so two idle polls without a presentation between them are a pause.
+void noticeEndlessPause() {
+    static std::uint32_t framesAtLastPoll = 0;
+    if (headless.frames == framesAtLastPoll && headless.onEndlessPause) {
+        headless.onEndlessPause();
+    }
+    framesAtLastPoll = headless.frames;
+}
+
+} // namespace
+
+std::int64_t CLOCK_now() {
+    return headless.micros;
+}
+
+void CLOCK_sleep(std::int32_t micros) {
+    headless.micros += micros;
+}
+
+XDPY* XDPY_open() {
+    XDPY_current = allocateRecord<XDPY>();
+    if (XDPY_current == nullptr) {
+        XDPY_error();
+        return nullptr;
+    }
+    *XDPY_current = {.width = windowSize, .height = windowSize, .depth = windowDepth};
+    XDPY_dump.on = 0;
+    return XDPY_current;
+}
+
+bool XDPY_isOpen() {
+    return XDPY_current != nullptr;
+}
+
+void XDPY_selectInput() {}
+
+void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
+    if (display == nullptr || width < 0 || height < 0) {
+        XDPY_error();
+        return;
+    }
+    display->width = static_cast<std::uint32_t>(width);
+    display->height = static_cast<std::uint32_t>(height);
+}
+
+void XDPY_present(XDPY* display, const IMG* img) {
+    if (!XDPY_accepts(display, img)) {
+        XDPY_error();
+        return;
+    }
+    if (headless.frameLimit != 0 && headless.frames >= headless.frameLimit) {
+        headless.onLimit();
+    }
+    ++headless.frames;
+    XDPY_dumpFrame(img);
+    if (headless.onFrame) {
+        headless.onFrame(*img);
+    }
+}
+
+void XDPY_close(XDPY** handle) {
+    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
+        XDPY_error();
+        return;
+    }
+    XDPY_current = nullptr;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void XKBD_poll(XKBD* keyboard) {
+    if (keyboard == nullptr) {
+        XKBD_error();
+        std::exit(0);
+    }
+    const HeadlessKey* const key = takeDue(headless.keys, headless.nextKey);
+    if (key == nullptr) {
+        noticeEndlessPause();
+        return;
+    }
+    keyboard->keycode = key->keycode;
+    if (key->text != '\0') {
+        keyboard->text[0] = key->text;
+    }
+}
+
+XPTR* XPTR_new() {
+    XPTR* const pointer = XDPY_isOpen() ? allocateRecord<XPTR>() : nullptr;
+    if (pointer == nullptr) {
+        XPTR_error();
+    }
+    return pointer;
+}
+
+void XPTR_poll(XPTR* pointer) {
+    if (pointer == nullptr) {
+        XPTR_error();
+        return;
+    }
+    if (const HeadlessPointer* const due = takeDue(headless.pointers, headless.nextPointer); due != nullptr) {
+        pointer->x = due->x;
+        pointer->y = due->y;
+        pointer->buttons = due->buttons;
+    }
+}
+
+void XPTR_query(XPTR* pointer) {
+    XPTR_poll(pointer);
+}
+
+std::int32_t XPTR_flush(XPTR* pointer) {
+    if (pointer == nullptr) {
+        XPTR_error();
+    }
+    while (takeDue(headless.pointers, headless.nextPointer) != nullptr) {
+    }
+    return 0;
+}
+
+} // namespace velm

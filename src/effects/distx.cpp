@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/distx.h"
+
+#include "foundation/memory.h"
+#include "foundation/wrap.h"
+
+namespace velm {
+
+const IDENTITY DISTX_identity = makeIdentity("DISTX", "20150516", "ZENDORAK", "C", "CODE");
+std::uint8_t DISTX_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newAmplitude = 16;
+constexpr std::int32_t newSpeed = 1;
+constexpr std::int32_t newRowStep = 16;
+
+bool canDraw(const DISTX* dist, const IMG* target) {
+    return dist != nullptr && dist->source != nullptr && dist->source->pixels != nullptr &&
+           target != nullptr && target->pixels != nullptr;
+}
+
+} // namespace
+
+DISTX* DISTX_new() {
+    DISTX* dist = allocateRecord<DISTX>();
+    if (dist == nullptr) {
+        DISTX_error();
+        return nullptr;
+    }
+    SINE_setup(&dist->wave, SINE_tableLength, 0, newSpeed, 0, newRowStep);
+    dist->amplitude = newAmplitude;
+    return dist;
+}
+
+void DISTX_draw(DISTX* dist, IMG* target) {
+    if (!canDraw(dist, target)) {
+        DISTX_error();
+        return;
+    }
+    SINE_setOffset(&dist->wave, 0);
+    for (std::int32_t row = 0; row < dist->source->height; ++row) {
+        // The step comes before the look-up, so that row 0 is already one step into the wave.
+        const std::int32_t shift = wrapMul(dist->amplitude, SINE_entry(SINE_next(&dist->wave))) >> 16;
+        const std::int32_t targetRow = wrapAdd(dist->y, row);
+        if (targetRow >= 0 && targetRow < target->height) {
+            IMG_copyRowWrapped(dist->source, target, row, targetRow, wrapAdd(dist->x, shift));
+        }
+    }
+}
+
+void DISTX_advance(DISTX* dist) {
+    if (dist == nullptr) {
+        DISTX_error();
+        return;
+    }
+    SINE_advance(&dist->wave);
+}
+
+void DISTX_delete(DISTX** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        DISTX_error();
+        return;
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+// DISTX_errorIsSilent: one expects a line while DISTX_verbose is set; this module never printed one.
+void DISTX_error() {}
+
+} // namespace velm

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/logofly.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/sine.h"
+#include "foundation/wrap.h"
+
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY LOGOFLY_identity = makeIdentity("LOGOFLY", "20150610", "CODE", "C", "ZENDORAK");
+std::uint8_t LOGOFLY_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newSize = 256;
+constexpr std::uint32_t white = 0xFFFFFF;
+constexpr char defaultText[] = "VELM";
+constexpr std::int32_t mostLetters = 40;
+constexpr std::int32_t bounceMask = SINE_tableMask >> 1; ///< the upper half of the sine
+
+std::int32_t randomBelow(std::int32_t limit) {
+    return static_cast<std::int32_t>(::random() % limit);
+}
+
+/// LOGOFLY_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which no font
+/// has a glyph.
+std::int32_t signedByte(char byte) {
+    return (static_cast<std::uint8_t>(byte) ^ 0x80) - 0x80;
+}
+
+/// What a copy and a clone have in common.
+void copyMotion(const LOGOFLY& src, LOGOFLY& dst) {
+    dst.phase = src.phase;
+    dst.speed = src.speed;
+    dst.letterStep = src.letterStep;
+    dst.amplitude = src.amplitude;
+    dst.spare = src.spare;
+    dst.pen = src.pen;
+    dst.target = src.target;
+    dst.colour = src.colour;
+}
+
+/// LOGOFLY_targetIsOnlyTested: one expects the letters in `target`; it must be set, but they go where the pen
+/// draws.
+bool canDraw(const LOGOFLY* logo) {
+    return logo != nullptr && logo->text != nullptr && logo->target != nullptr && logo->pen != nullptr &&
+           logo->pen->position != nullptr && logo->pen->scale != nullptr;
+}
+
+} // namespace
+
+LOGOFLY* LOGOFLY_new() {
+    LOGOFLY* logo = allocateRecord<LOGOFLY>();
+    if (logo == nullptr) {
+        LOGOFLY_error();
+        return nullptr;
+    }
+    logo->width = logo->height = logo->depth = newSize;
+    LOGOFLY_randomize(logo);
+    return logo;
+}
+
+void LOGOFLY_randomize(LOGOFLY* logo) {
+    if (logo == nullptr) {
+        LOGOFLY_error();
+        return;
+    }
+    logo->phase = 0;
+    logo->speed = randomBelow(24) + 8;
+    logo->letterStep = randomBelow(8) + 1;
+    logo->amplitude = randomBelow(100) + 16;
+    logo->colour = white;
+    logo->text = defaultText;
+}
+
+void LOGOFLY_advance(LOGOFLY* logo) {
+    if (logo == nullptr) {
+        LOGOFLY_error();
+        return;
+    }
+    logo->phase = wrapAdd(logo->phase, logo->speed) & bounceMask;
+}
+
+void LOGOFLY_advanceFull(LOGOFLY* logo) {
+    if (logo == nullptr) {
+        LOGOFLY_error();
+        return;
+    }
+    logo->phase = wrapAdd(logo->phase, logo->speed) & SINE_tableMask;
+}
+
+void LOGOFLY_draw(const LOGOFLY* logo) {
+    if (!canDraw(logo)) {
+        LOGOFLY_error();
+        return;
+    }
+    LFONT* const pen = logo->pen;
+    pen->angle = 0;
+    pen->scale->x = pen->scale->y = 1;
+    pen->position->x = logo->x;
+    if (logo->text[0] != '\0') {
+        LFONT_setColour(pen, logo->colour);
+    }
+    std::int32_t phase = logo->phase;
+    for (std::int32_t i = 0; i < mostLetters && logo->text[i] != '\0'; ++i) {
+        pen->character = signedByte(logo->text[i]);
+        pen->position->y = wrapSub(logo->y, wrapMul(SINE_entry(phase), logo->amplitude) >> 15);
+        LFONT_drawChar(pen);
+        phase = wrapAdd(phase, logo->letterStep) & bounceMask;
+    }
+}
+
+std::int32_t LOGOFLY_equals(const LOGOFLY* a, const LOGOFLY* b) {
+    if (a == nullptr || b == nullptr) {
+        LOGOFLY_error();
+        return 0;
+    }
+    return a->phase == b->phase && a->speed == b->speed && a->letterStep == b->letterStep &&
+                   a->amplitude == b->amplitude
+               ? 1
+               : 0;
+}
+
+void LOGOFLY_copy(const LOGOFLY* src, LOGOFLY* dst) {
+    if (src == nullptr || dst == nullptr) {
+        LOGOFLY_error();
+        return;
+    }
+    copyMotion(*src, *dst);
+    dst->x = src->x;
+    dst->y = src->y;
+    dst->z = src->z;
+}
+
+LOGOFLY* LOGOFLY_clone(const LOGOFLY* src) {
+    if (src == nullptr) {
+        LOGOFLY_error();
+        return nullptr;
+    }
+    // LOGOFLY_cloneLeavesPlace: one expects a full copy; place and text are those of a new logo, and making
+    // one has drawn its three random numbers.
+    LOGOFLY* clone = LOGOFLY_new();
+    if (clone != nullptr) {
+        copyMotion(*src, *clone);
+    }
+    return clone;
+}
+
+void LOGOFLY_delete(LOGOFLY** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        LOGOFLY_error();
+        return;
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+void LOGOFLY_error() {
+    reportLine(LOGOFLY_verbose, "LOGOFLY error");
+}
+
+} // namespace velm

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/line_font.h"
+#include "support/capture_stdout.h"
+
+#include <cstdlib>
+
+namespace velm::test {
+
+namespace {
+
+std::uint32_t nextLightColour() {
+    return (static_cast<std::uint32_t>(std::rand()) & 0x7F7F7FU) + 0x808080U;
+}
+
+} // namespace
+
+TEST(Lfont, WritesTextAndNumbers) {
+    const PixelPen pen(12, 8);
+    const auto goTo = [&pen](std::int32_t x, std::int32_t y) { pen->position->x = x, pen->position->y = y; };
+    goTo(0, 0), LFONT_drawHexByte(pen, 0xAF), LFONT_drawHexWord(pen, 0x09C0);
+    goTo(0, 1), LFONT_drawHexLong(pen, 0x12AB);
+    goTo(0, 2), LFONT_drawDecimal(pen, 42);
+    goTo(0, 3), LFONT_drawDecimal(pen, 4294967295U);
+    goTo(0, 4), LFONT_drawLine(pen, "AB?\xC1_\nD"); // neither '?' nor 0xC1 has a glyph
+    EXPECT_EQ(pen->position->x, 3);
+    goTo(2, 5), LFONT_drawText(pen, "1\n\n2?3");
+    EXPECT_EQ(pen->position->x, 4);
+    const char* const expected[8] = {"AF09C0......", "000012AB....", "0000000042..", "4294967295..",
+                                     "AB_.........", "..1.........", "............", "..23........"};
+    for (std::int32_t y = 0; y < 8; ++y) {
+        EXPECT_EQ(pen.row(y), expected[y]);
+    }
+}
+
+TEST(Lfont, PosesTheGlyph) {
+    const PixelPen pen(64, 96);
+    auto* dot = static_cast<SEG2D*>(LIST_get(pen.font['A']->segments, 0));
+    dot->a->x = dot->b->x = 3;
+    pen->spacing->x = pen->spacing->y = 16;
+    pen->scale->x = -2, pen->scale->y = 4;
+    pen->angle = 256; // (-6, 0) turns to (0, -6)
+    pen->position->x = 40, pen->position->y = 20;
+    LFONT_drawText(pen, "A\nA");
+    EXPECT_EQ(IMG_getPixel(pen.target, 40, 14), std::uint32_t{'A'});
+    EXPECT_EQ(IMG_getPixel(pen.target, 40, 14 + 64), std::uint32_t{'A'});
+    EXPECT_EQ(pen->position->x, 40 - 32);
+}
+
+TEST(Lfont, ColoursGlyphsFromTheLastToTheFirst) {
+    const PixelPen pen(4, 1);
+    std::srand(5);
+    LFONT_randomColours(pen);
+    std::srand(5);
+    EXPECT_EQ(pen.font['`']->colour, nextLightColour());
+    for (std::int32_t code = '_'; code >= ' '; --code) {
+        EXPECT_TRUE(code == '?' || pen.font[code]->colour == nextLightColour()) << code;
+    }
+    LFONT_setColour(pen, 0x123456);
+    LFONT_drawLine(pen, "A`");
+    EXPECT_EQ(pen.target->pixels[0], 0x123456U);
+    EXPECT_EQ(pen.target->pixels[1], 0x123456U);
+}
+
+TEST(Lfont, RandomColourIsDrawnForAGlyphOnly) {
+    const PixelPen pen(4, 1);
+    std::srand(6);
+    for (const std::int32_t code : {63, 5, 4000, -1, 65}) { // '?', ..., 'A'
+        pen->character = code;
+        LFONT_drawCharRandomColour(pen);
+    }
+    const int after = std::rand();
+    std::srand(6);
+    EXPECT_EQ(pen.target->pixels[0], nextLightColour());
+    EXPECT_EQ(after, std::rand());
+    EXPECT_EQ(pen->position->x, 1);
+}
+
+TEST(Lfont, LFONT_randomColourLeavesRangeToList) {
+    const PixelPen pen(4, 1);
+    pen->character = 4000;
+    LFONT_verbose = LIST_verbose = 1;
+    EXPECT_EQ(printedBy([&] { LFONT_drawChar(pen); }), "LFONT Error.\n");
+    EXPECT_EQ(printedBy([&] { LFONT_drawCharRandomColour(pen); }), "LIST error\nLFONT Error.\n");
+    LFONT_verbose = LIST_verbose = 0;
+}
+
+TEST(Lfont, LFONT_deleteLeavesList) {
+    LFONT* pen = LFONT_new();
+    LIST* glyphs = pen->glyphs = LIST_new();
+    LIST_append(glyphs, OBJ2D_new()); // whose leak the sanitizers would tell
+    LFONT_delete(&pen);
+    EXPECT_EQ(glyphs->count, 1);
+    LIST_delete(&glyphs);
+}
+
+} // namespace velm::test
