@@ -154,11 +154,11 @@ void SOUND_square(SAMPLE* sample, std::int32_t frequency) {
         return;
     }
     const std::int32_t period = secondInFractions / frequency;
-    // SOUND_squareLengthLimit: one expects any length to work; the length in fractions wraps, which leaves no
-    // cycle to write from 65536 values on.
-    // SOUND_squareLeavesTail: one expects the sample to be filled; what is left of a cycle keeps its old
-    // values, and the instruments sound of them.
+    // SOUND_squareLengthLimit: one expects any length to work; the length in fractions wraps, so a sample of
+    // 65536 values gets no cycle at all. The instruments are shorter.
     const std::int32_t cycles = wrapShl(sample->length, fractionBits) / period;
+    // SOUND_squareLeavesTail: one expects the wave to fill the sample; what is left of a cycle keeps its old
+    // values, and some instruments sound of what was there before.
     std::int32_t phase = 0;
     std::int32_t next = 0;
     for (std::int32_t cycle = 0; cycle < cycles; ++cycle) {

@@ -24,8 +24,8 @@ extern std::uint8_t SOUND_verbose;
 void SOUND_sine(SAMPLE* sample, std::int32_t frequency);
 
 /// The whole cycles of a square wave of 1..1445068800 Hz that fit, their edges softened by a 0 each. What
-/// follows the last one stays as it was. Other frequencies are reported. From 65536 values on it writes
-/// nothing: see docs/quirks.md.
+/// follows the last one stays as it was. Other frequencies are reported. A sample of 65536..131071 values is
+/// left alone, a longer one mostly: see docs/quirks.md.
 void SOUND_square(SAMPLE* sample, std::int32_t frequency);
 
 /// White noise that takes a new value of rand() `rate` times a second, filled in from the end. The first

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "demo/fps.h"
+
+#include "foundation/memory.h"
+#include "foundation/wrap.h"
+#include "platform/clock.h"
+
+namespace velm {
+
+const IDENTITY FPS_identity = makeIdentity("FPS", "LINUX", "ZENDORAK", "20150503", "CODE");
+std::uint8_t FPS_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t microsPerSecond = 1000000;
+
+std::int32_t lowWord(std::int64_t value) {
+    return static_cast<std::int32_t>(static_cast<std::uint64_t>(value));
+}
+
+} // namespace
+
+FPS* FPS_new() {
+    FPS* fps = allocateRecord<FPS>();
+    if (fps == nullptr) {
+        FPS_error();
+    }
+    return fps;
+}
+
+std::int64_t FPS_now() {
+    return CLOCK_now();
+}
+
+void FPS_start(FPS* fps) {
+    if (fps != nullptr) {
+        fps->startMicros = FPS_now();
+    }
+}
+
+void FPS_tick(FPS* fps) {
+    if (fps == nullptr) {
+        return;
+    }
+    ++fps->frameCount;
+    fps->endMicros = FPS_now();
+    // FPS_lowWordsOnly: one expects a 64-bit difference; the low words are exact for any frame under 35
+    // minutes, and a longer pause shows up as a short or negative time.
+    fps->elapsedMicros = wrapSub(lowWord(fps->endMicros), lowWord(fps->startMicros));
+    if (fps->elapsedMicros != 0) {
+        fps->measuredRate = lowWord(microsPerSecond / fps->elapsedMicros);
+    }
+}
+
+void FPS_wait(FPS* fps) {
+    if (fps == nullptr || fps->targetRate == 0) {
+        return;
+    }
+    fps->sleepMicros = wrapSub(microsPerSecond / fps->targetRate, lowWord(fps->elapsedMicros));
+    if (fps->sleepMicros > 0) {
+        CLOCK_sleep(fps->sleepMicros);
+        fps->shownRate = fps->targetRate;
+    }
+}
+
+void FPS_delete(FPS** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        FPS_error();
+        return;
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+void FPS_error() {}
+
+} // namespace velm

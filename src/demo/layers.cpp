@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The layers that the scenes share, in the order in which a frame meets them.
+#include "demo/state.h"
+#include "demo/velm4030.h"
+#include "foundation/sine.h"
+#include "foundation/wrap.h"
+#include "image/imgfx.h"
+
+namespace velm {
+
+namespace {
+
+/// Makes the pen write upright and unscaled from (x, y) on.
+void placePen(LFONT* pen, std::int32_t x, std::int32_t y) {
+    pen->scale->x = 1;
+    pen->scale->y = 1;
+    pen->angle = 0;
+    pen->position->x = x;
+    pen->position->y = y;
+}
+
+/// Prepares `screen` for the next frame.
+void clearScreen() {
+    constexpr std::uint32_t white = 0xFFFFFF;
+    switch (demo.clearMode) {
+    case ClearMode::black:
+        IMG_fill(demo.screen, 0x000000);
+        break;
+    case ClearMode::white:
+        IMG_fill(demo.screen, white);
+        break;
+    case ClearMode::background:
+        IMG_fill(demo.screen, demo.background);
+        break;
+    case ClearMode::fade:
+        if (settings.fadeOn == 0) {
+            break;
+        }
+        if (demo.background == white) {
+            IMG_addColour(demo.screen, settings.fadeStep);
+        } else {
+            IMG_subColour(demo.screen, settings.fadeStep);
+        }
+        break;
+    }
+}
+
+/// Composes a new pattern with a generator chosen at random, half of the time a repeat, and blends it into
+/// the bar.
+void compose() {
+    constexpr std::int32_t blendWeight = 8;
+    switch (RANDOM_next(demo.random) & 7) {
+    case 0:
+        MUSIC_genSingle(demo.music);
+        break;
+    case 1:
+        MUSIC_genSingleFaded(demo.music);
+        break;
+    case 2:
+        MUSIC_genRoll(demo.music);
+        break;
+    case 3:
+        MUSIC_genRepeatFaded(demo.music);
+        break;
+    default:
+        MUSIC_genRepeat(demo.music);
+        break;
+    }
+    MUSIC_blend(demo.music, blendWeight);
+}
+
+} // namespace
+
+void VELM4030_rasterLayer() {
+    RASTER_advance(demo.rasters);
+    RASTER_draw(demo.rasters, demo.rasterTarget);
+}
+
+void VELM4030_mouseLayer() {
+    XPTR_poll(demo.pointer);
+    MOUSE_update(demo.mouseTrail);
+    MOUSE_draw(demo.mouseTrail);
+    XPTR_flush(demo.pointer);
+}
+
+void VELM4030_fpsLayer() {
+    if ((demo.overlay & overlayRate) == 0 || demo.textMedium == nullptr || demo.fps == nullptr) {
+        return;
+    }
+    constexpr std::int32_t countX = 128;
+    demo.textMedium->target = demo.screen;
+    placePen(demo.textMedium, 0, 0);
+    // VELM4030_rateInHex: one expects 30; the overlay has always spoken hexadecimal and says 1E.
+    LFONT_drawHexByte(demo.textMedium, static_cast<std::uint8_t>(demo.fps->shownRate));
+    LFONT_drawLine(demo.textMedium, "fps");
+    placePen(demo.textMedium, countX, 0);
+    LFONT_drawHexLong(demo.textMedium, demo.fps->frameCount);
+}
+
+void VELM4030_logoLettersLayer() {
+    if (demo.textMedium == nullptr || demo.fps == nullptr || demo.hueRamp == nullptr) {
+        return;
+    }
+    LFONT* const pen = demo.textMedium;
+    const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
+    placePen(pen, settings.lettersX, settings.lettersY);
+    std::int32_t k = 0;
+    for (const char letter : {'V', 'E', 'L', 'M'}) {
+        const std::int32_t hue = wrapAdd(frame, 192 - 64 * k) % demo.hueRamp->length;
+        LFONT_setColour(pen, static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue)));
+        // VELM4030_lettersBounce: one expects a swing about the line; only the upper half of the wave is
+        // used.
+        const std::int32_t angle = wrapAdd(wrapMul(17, frame), 96 - 32 * k) & (SINE_tableMask >> 1);
+        pen->position->y = settings.lettersY - (SINE_entry(angle) >> 10);
+        pen->character = letter;
+        LFONT_drawChar(pen);
+        ++k;
+    }
+}
+
+void VELM4030_postLayer() {
+    constexpr std::int32_t glareShift = 3;
+    if (demo.glare != 0) {
+        IMGFX_glare(demo.screen, demo.glareImage, glareShift);
+    } else {
+        IMG_copy(demo.screen, demo.glareImage);
+    }
+    if (demo.blur != 0) {
+        IMGFX_blur(demo.glareImage, demo.blurImage);
+    } else {
+        IMG_copy(demo.glareImage, demo.blurImage);
+    }
+    XDPY_present(demo.display, demo.blur != 0 || demo.glare != 0 ? demo.blurImage : demo.screen);
+    clearScreen();
+}
+
+void VELM4030_musicLayer() {
+    constexpr std::int32_t barsQueued = 4;
+    if (demo.music == nullptr || demo.sound == nullptr || demo.muted != 0) {
+        return;
+    }
+    MUSIC_tick(demo.music);
+    if (demo.music->tick % demo.music->period == 0) {
+        compose();
+    }
+    if (demo.sound->queue != nullptr && demo.sound->queue->count < barsQueued) {
+        LIST_append(demo.sound->queue, demo.music->bar);
+    }
+    XSND_play(demo.sound);
+}
+
+} // namespace velm

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The default scene: a cloud of 16384 dots in one dark hue that only their overlapping makes visible, a
+// drawing that turns as the scene counts down, the wave scroller, the pointer and the bobbing letters.
+#include "demo/state.h"
+#include "demo/velm4030.h"
+#include "image/rgb888.h"
+
+#include <cstdlib>
+
+namespace velm {
+
+namespace {
+
+constexpr std::int16_t frames = 3000;
+constexpr std::int32_t dotCount = 16384;
+
+/// One of -4..-1 and 1..4; draws the size first, then the sign.
+std::int32_t drawStep() {
+    const std::int32_t size = rand() % 4 + 1;
+    const std::int32_t sign = 2 * (rand() % 2) - 1;
+    return sign * size;
+}
+
+void makeDots() {
+    demo.dots = SINEDOTS_new();
+    SINEDOTS_setCount(demo.dots, dotCount);
+    const auto hue = static_cast<std::int32_t>(random() % hueCount);
+    const auto colour = static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
+    if (demo.dots != nullptr) {
+        demo.dots->colour = RGB888_sub(colour, 0xF8F8F8);
+    }
+    for (std::int32_t wave = 0; wave < 3; ++wave) {
+        const std::int32_t x = drawStep();
+        const std::int32_t y = drawStep();
+        if (demo.dots != nullptr) {
+            demo.dots->step[wave].x = x;
+            demo.dots->step[wave].y = y;
+        }
+    }
+}
+
+/// The big figure, in a new random light colour every frame.
+void drawFigure(std::int32_t angle) {
+    constexpr std::int32_t magnification = 4;
+    constexpr std::int32_t x = 128;
+    constexpr std::int32_t y = 42;
+    LFONT* const pen = demo.textLarge;
+    if (pen == nullptr) {
+        return;
+    }
+    pen->character = settings.largeTextIndex;
+    pen->angle = angle;
+    pen->scale->x = magnification;
+    pen->scale->y = magnification;
+    pen->position->x = x;
+    pen->position->y = y;
+    LFONT_drawCharRandomColour(pen);
+}
+
+} // namespace
+
+void VELM4030_sceneDefaultSetup() {
+    settings.fadeStep = (static_cast<std::uint32_t>(rand()) & 63) * 0x010101 + 0x404040;
+    demo.blur = 0;
+    demo.glare = 0;
+    settings.fadeOn = 0;
+    demo.clearMode = ClearMode::black;
+    makeDots();
+    VELM4030_rasterSetup();
+    VELM4030_scrollSetup();
+    const std::int32_t drawings = demo.fontLarge != nullptr ? demo.fontLarge->count : 0;
+    if (drawings > 0) {
+        settings.largeTextIndex = static_cast<std::int32_t>(random() % drawings);
+    }
+}
+
+void VELM4030_sceneDefault() {
+    VELM4030_sceneDefaultSetup();
+    VELM4030_fadeOut();
+    for (std::int16_t left = frames; left > 0; --left) {
+        FPS_start(demo.fps);
+        if (settings.rastersOn != 0) {
+            VELM4030_rasterLayer();
+        }
+        if (settings.scrollOn != 0) {
+            VELM4030_scrollLayer();
+        }
+        VELM4030_dotsLayer();
+        drawFigure(left);
+        VELM4030_mouseLayer();
+        VELM4030_fpsLayer();
+        VELM4030_logoLettersLayer();
+        VELM4030_postLayer();
+        VELM4030_musicLayer();
+        if (!VELM4030_endFrame()) {
+            break;
+        }
+    }
+    VELM4030_sceneDefaultCleanup();
+}
+
+void VELM4030_sceneDefaultCleanup() {
+    SINEDOTS_delete(&demo.dots);
+}
+
+void VELM4030_dotsLayer() {
+    SINEDOTS_advance(demo.dots);
+    SINEDOTS_drawAdd(demo.dots, demo.screen);
+}
+
+} // namespace velm

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Interlude A: balls of random colour, place and size, one a frame, each under a light that has turned a
+// little, and each leaving a fading trail; the logo stands above them.
+#include "demo/state.h"
+#include "demo/velm4030.h"
+#include "foundation/sine.h"
+
+#include <cstdlib>
+
+namespace velm {
+
+namespace {
+
+constexpr std::int32_t frames = 750;
+
+void makeBall() {
+    constexpr std::int32_t light = 10;
+    demo.ball = BALL3D_new();
+    if (demo.ball != nullptr) {
+        demo.ball->target = demo.screen;
+        demo.ball->light = {light, light, light};
+    }
+}
+
+void throwBall() {
+    if (demo.ball == nullptr) {
+        return;
+    }
+    demo.ball->colour = static_cast<std::uint32_t>(random()) & 0x7F7F7F;
+    demo.ball->x = static_cast<std::int32_t>(random() % settings.windowWidth);
+    demo.ball->y = static_cast<std::int32_t>(random() % settings.windowHeight);
+    demo.ball->radius = static_cast<std::int32_t>(random() % settings.windowWidth) / 2;
+    BALL3D_draw(demo.ball);
+}
+
+/// Turns the light for the next frame; each component stays within about +-10.
+void turnLight(std::int32_t left) {
+    const auto component = [](std::int32_t angle) { return (SINE_entry(angle) * 5) >> 14; };
+    if (demo.ball != nullptr) {
+        demo.ball->light = {component(5 * left), component(3 * left), component(7 * left)};
+    }
+}
+
+void drawLogo() {
+    constexpr std::int32_t y = 64;
+    if (demo.logoImage != nullptr && demo.screen != nullptr) {
+        IMG_blit(demo.logoImage, demo.screen, 0, 0, (demo.screen->width - demo.logoImage->width) / 2, y,
+                 demo.logoImage->width, demo.logoImage->height);
+    }
+}
+
+} // namespace
+
+void VELM4030_sceneInterludeASetup() {
+    IMG_fill(demo.screen, static_cast<std::uint32_t>(random()) & 0x1F1F1F);
+    settings.fadeStep = (static_cast<std::uint32_t>(rand()) & 15) * 0x010101 + 0x080808;
+    demo.blur = 0;
+    demo.glare = 0;
+    settings.fadeOn = 1;
+    demo.clearMode = ClearMode::fade;
+    if (demo.ball == nullptr) {
+        makeBall();
+    }
+}
+
+void VELM4030_sceneInterludeA() {
+    VELM4030_sceneInterludeASetup();
+    for (std::int32_t left = frames; left > 0; --left) {
+        FPS_start(demo.fps);
+        throwBall();
+        turnLight(left);
+        drawLogo();
+        VELM4030_mouseLayer();
+        VELM4030_fpsLayer();
+        VELM4030_postLayer();
+        VELM4030_musicLayer();
+        if (!VELM4030_endFrame()) {
+            break;
+        }
+    }
+}
+
+} // namespace velm

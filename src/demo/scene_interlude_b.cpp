@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Interlude B: a slanted mesh of 64 by 64 points that two waves lift, drawn mirrored in hue bands that move
+// over it, and the hopping word below.
+#include "demo/state.h"
+#include "demo/velm4030.h"
+#include "foundation/sine.h"
+#include "foundation/wrap.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+namespace velm {
+
+namespace {
+
+/// VELM4030_meshFrames: one expects 500 frames; the count runs down to 0 inclusive, which makes 501.
+constexpr std::int32_t lastFrame = 500;
+constexpr std::int32_t mostColumns = 256; ///< room of a row of grid points
+
+struct GridPoint {
+    std::int32_t x, y;
+};
+
+using GridRow = std::array<GridPoint, mostColumns>;
+
+std::int32_t columns() {
+    return std::min(settings.meshColumns, mostColumns);
+}
+
+SEG2D* segmentOf(const OBJ2D* obj, std::int32_t index) {
+    return static_cast<SEG2D*>(LIST_get(obj->segments, index));
+}
+
+/// Two segments a cell: its link to the right and its link down.
+void makeMesh() {
+    demo.mesh = OBJ2D_new();
+    for (std::int32_t i = 0; i < 2 * settings.meshRows * columns(); ++i) {
+        OBJ2D_addSegment(demo.mesh, SEG2D_new());
+    }
+    demo.meshView = OBJ2D_clone(demo.mesh);
+}
+
+/// Draws a wave anew: each field takes rand() AND its mask, plus its least value.
+void drawWave(MeshWave& wave, const MeshWave& masks, const MeshWave& least) {
+    wave.phase = (rand() & masks.phase) + least.phase;
+    wave.speed = (rand() & masks.speed) + least.speed;
+    wave.amplitude = (rand() & masks.amplitude) + least.amplitude;
+    wave.frequency = (rand() & masks.frequency) + least.frequency;
+}
+
+/// Colours the view in diagonal bands that move 10 hues a frame.
+void colourView() {
+    // VELM4030_meshHuesStretch: one expects a row's links to share its hue; the rows are counted as if right
+    // and down links alternated, while all right links come first, so the bands stretch over the mesh.
+    const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
+    for (std::int32_t q = 0; q < 2 * settings.meshRows; ++q) {
+        const std::int32_t rowHue = wrapAdd(wrapMul(10, frame), columns() * (q / 2) / 4);
+        for (std::int32_t c = 0; c < columns(); ++c) {
+            const std::int32_t hue = wrapAdd(rowHue, settings.meshRows * c / 4) % hueCount;
+            const auto colour = static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
+            if (SEG2D* const segment = segmentOf(demo.meshView, columns() * q + c); segment != nullptr) {
+                segment->a->colour = colour;
+                segment->b->colour = colour;
+            }
+        }
+    }
+}
+
+/// Draws the mesh as the frame before deformed it.
+void drawMesh() {
+    OBJ2D_copy(demo.mesh, demo.meshView);
+    colourView();
+    demo.meshView->position->x =
+        settings.windowWidth / 2 + (columns() + settings.meshRows) * settings.meshStepX / 2;
+    demo.meshView->position->y = settings.windowHeight / 2 - settings.meshRows * settings.meshStepY / 2;
+    demo.meshView->angle = 0;
+    demo.meshView->scale->x = -1;
+    OBJ2D_draw(demo.meshView, demo.screen);
+}
+
+GridRow pointsOfRow(std::int32_t row) {
+    const MeshWave& alongRows = settings.meshWave1;
+    const MeshWave& alongColumns = settings.meshWave2;
+    GridRow points{};
+    const std::int32_t rowLift =
+        SINE_entry(alongRows.frequency * row + alongRows.phase) * alongRows.amplitude;
+    for (std::int32_t c = 0; c < columns(); ++c) {
+        const std::int32_t columnLift =
+            SINE_entry(alongColumns.frequency * c + alongColumns.phase) * alongColumns.amplitude;
+        points[static_cast<std::size_t>(c)] = {settings.meshStepX * c + settings.meshStepY * row,
+                                               settings.meshStepY * row + ((rowLift + columnLift) >> 15)};
+    }
+    return points;
+}
+
+void joinPoints(std::int32_t index, GridPoint from, GridPoint to) {
+    if (SEG2D* const segment = segmentOf(demo.mesh, index); segment != nullptr) {
+        segment->a->x = from.x;
+        segment->a->y = from.y;
+        segment->b->x = to.x;
+        segment->b->y = to.y;
+    }
+}
+
+/// Lays the segments between the lifted points: all links to the right first, then all links down. The last
+/// of a row or column links a point to itself.
+void deformMesh() {
+    const std::int32_t rows = settings.meshRows;
+    GridRow points = pointsOfRow(0);
+    for (std::int32_t r = 0; r < rows; ++r) {
+        const GridRow below = r < rows - 1 ? pointsOfRow(r + 1) : points;
+        for (std::int32_t c = 0; c < columns(); ++c) {
+            const GridPoint here = points[static_cast<std::size_t>(c)];
+            const GridPoint right = points[static_cast<std::size_t>(std::min(c + 1, columns() - 1))];
+            joinPoints(columns() * r + c, here, right);
+            joinPoints(columns() * (rows + r) + c, here, below[static_cast<std::size_t>(c)]);
+        }
+        points = below;
+    }
+}
+
+/// VELM4030_thirdWaveIsStill: one expects three waves; the third one's phase runs on, but nothing is moved by
+/// it.
+void advanceWaves() {
+    for (MeshWave* const wave : {&settings.meshWave1, &settings.meshWave2, &settings.meshWave3}) {
+        wave->phase = (wave->phase + wave->speed) & SINE_tableMask;
+    }
+}
+
+} // namespace
+
+void VELM4030_sceneInterludeBSetup() {
+    VELM4030_fadeOut();
+    settings.fadeStep = 0x080808;
+    demo.blur = 0;
+    demo.glare = 0;
+    settings.fadeOn = 0;
+    demo.clearMode = ClearMode::black;
+    if (demo.mesh == nullptr) {
+        makeMesh();
+    }
+    drawWave(settings.meshWave1, {1023, 15, 15, 31}, {0, 3, 12, 24});
+    drawWave(settings.meshWave2, {1023, 31, 15, 31}, {0, 3, 12, 24});
+    drawWave(settings.meshWave3, {1023, 15, 7, 7}, {0, 1, 1, 1});
+}
+
+void VELM4030_sceneInterludeB() {
+    VELM4030_sceneInterludeBSetup();
+    for (std::int32_t left = lastFrame; left >= 0; --left) {
+        FPS_start(demo.fps);
+        VELM4030_meshLayer();
+        VELM4030_fpsLayer();
+        LOGOFLY_advance(demo.logoFly);
+        LOGOFLY_draw(demo.logoFly);
+        VELM4030_postLayer();
+        VELM4030_musicLayer();
+        if (!VELM4030_endFrame()) {
+            break;
+        }
+    }
+}
+
+void VELM4030_meshLayer() {
+    if (demo.meshView != nullptr) {
+        drawMesh();
+        deformMesh();
+        advanceWaves();
+    }
+}
+
+} // namespace velm

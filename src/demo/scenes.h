@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The scenes by name, for the tools that run one of them alone.
+//
+//     if (const SCENE* scene = SCENE_find("interlude-a"); scene != nullptr) {
+//         scene->run();
+//     }
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace velm {
+
+struct SCENE {
+    std::string_view name;
+    std::string_view description; ///< one line, for people
+    void (*run)();                ///< one run, from its set-up to its clean-up
+};
+
+/// Every scene, in the order of the schedule.
+std::span<const SCENE> SCENE_all();
+
+/// The scene of that name, or nullptr.
+const SCENE* SCENE_find(std::string_view name);
+
+} // namespace velm

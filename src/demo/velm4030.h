@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The demo program: start-up, the schedule, the scenes, the layers that they share, and the keys. All of it
+// works on the state and the settings of demo/state.h.
+//
+//     VELM4030_init();
+//     VELM4030_sceneDefault();
+//
+// A scene is a loop of frames, and every frame takes the same road: FPS_start, the scene's own drawing and
+// its layers into `screen`, VELM4030_postLayer, VELM4030_musicLayer, VELM4030_endFrame.
+#pragma once
+
+#include "foundation/identity.h"
+#include "platform/xkbd.h"
+
+#include <cstdint>
+
+namespace velm {
+
+extern const IDENTITY VELM4030_identity;
+
+/// The process's entry: start-up, then the schedule for ever. Only Escape ends it.
+[[noreturn]] void VELM4030_main();
+
+/// Start-up: opens the devices, shows the logo, decodes and builds everything that the scenes share.
+void VELM4030_init();
+
+/// One pass of the schedule: the default scene, then perhaps interlude A, then perhaps interlude B.
+void VELM4030_runSchedule();
+
+/// Makes `hueRamp`.
+void VELM4030_hueRampSetup();
+/// Makes the raster bars and the palette where they are missing, resets the bars' speed and draws a new bar
+/// count.
+void VELM4030_rasterSetup();
+/// Makes bitmap fonts 1 to 6 and decodes the colour strip between the last two.
+void VELM4030_bitmapFontSetup();
+/// Parses the line fonts and the drawings and makes their pens.
+void VELM4030_lineFontSetup();
+
+/// 3000 frames of dots, a turning figure, the wave scroller, the pointer and four bobbing letters.
+void VELM4030_sceneDefault();
+void VELM4030_sceneDefaultSetup();
+void VELM4030_sceneDefaultCleanup();
+/// 750 frames of shaded balls that leave fading trails under the logo.
+void VELM4030_sceneInterludeA();
+void VELM4030_sceneInterludeASetup();
+/// 501 frames of a waving mesh in moving hues under the hopping word.
+void VELM4030_sceneInterludeB();
+void VELM4030_sceneInterludeBSetup();
+
+/// Makes the scroller's records where they are missing.
+void VELM4030_scrollSetup();
+/// Moves the raster bars and draws them into `rasterTarget`.
+void VELM4030_rasterLayer();
+/// The scroll text in the colours of the raster bars, bent by rows, then by columns.
+void VELM4030_scrollLayer();
+/// Moves the dot cloud and adds it to `screen`.
+void VELM4030_dotsLayer();
+/// Draws the mesh as the frame before left it, then lays it out anew for the next one.
+void VELM4030_meshLayer();
+/// Reads the pointer and draws its picture.
+void VELM4030_mouseLayer();
+/// The frame rate and the frame count in hexadecimal, while the overlay is on.
+void VELM4030_fpsLayer();
+/// Four letters that bounce at the lower right in the hues of the ramp.
+void VELM4030_logoLettersLayer();
+/// Filters and presents `screen`, then prepares it for the next frame.
+void VELM4030_postLayer();
+/// Composes and plays, unless muted.
+void VELM4030_musicLayer();
+
+/// Acts on the key press in the record, if there is one, and clears it.
+void VELM4030_handleKey(XKBD* keyboard);
+/// 32 passes of darkening `screen`, each presented.
+void VELM4030_fadeOut();
+/// Polls and handles keys, and does nothing else, until the pause is over.
+void VELM4030_pauseLoop();
+/// Moves the selection of the directory listing, staying inside it.
+void VELM4030_selectPrevious();
+void VELM4030_selectNext();
+
+/// What ends every frame: reads and handles one key, then waits for the next frame's time. False, without
+/// waiting, when the scene is to end; the request is then taken back.
+bool VELM4030_endFrame();
+
+} // namespace velm

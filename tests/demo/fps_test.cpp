@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "demo/fps.h"
+#include "headless.h"
+
+#include <gtest/gtest.h>
+
+namespace velm::test {
+namespace {
+
+class FpsTest : public testing::Test {
+protected:
+    void SetUp() override {
+        headless.micros = 5000000;
+        fps->targetRate = 30;
+    }
+    void TearDown() override { FPS_delete(&fps); }
+
+    /// A frame whose drawing takes so long; gives what it slept.
+    std::int64_t frame(std::int64_t drawing) {
+        FPS_start(fps);
+        headless.micros += drawing;
+        FPS_tick(fps);
+        const std::int64_t before = headless.micros;
+        FPS_wait(fps);
+        return headless.micros - before;
+    }
+
+    FPS* fps = FPS_new();
+};
+
+TEST_F(FpsTest, SleepsWhatIsLeftOfTheFrame) {
+    EXPECT_EQ(frame(10000), 23333);
+    EXPECT_EQ(fps->shownRate, 30);
+    EXPECT_EQ(fps->measuredRate, 100);
+    fps->targetRate = 60;
+    EXPECT_EQ(frame(16665), 1);
+    EXPECT_EQ(fps->shownRate, 60);
+    EXPECT_EQ(fps->frameCount, 2U);
+}
+
+TEST_F(FpsTest, ASlowFrameNeitherSleepsNorChangesTheShownRate) {
+    frame(0);
+    fps->targetRate = 60;
+    EXPECT_EQ(frame(16666), 0);
+    EXPECT_EQ(frame(40000), 0);
+    EXPECT_EQ(fps->shownRate, 30);
+    EXPECT_EQ(fps->sleepMicros, 16666 - 40000);
+}
+
+TEST_F(FpsTest, AFrameWithoutTimeKeepsTheMeasuredRate) {
+    frame(1000);
+    EXPECT_EQ(frame(0), 33333);
+    EXPECT_EQ(fps->measuredRate, 1000);
+}
+
+TEST_F(FpsTest, FPS_lowWordsOnly) {
+    headless.micros = 0x1FFFFFFFFLL - 100;
+    frame(1000);
+    EXPECT_EQ(fps->elapsedMicros, 1000) << "exact across the wrap of the low word";
+    frame(0x100000000LL + 7);
+    EXPECT_EQ(fps->elapsedMicros, 7) << "a frame of 71 minutes looks short";
+}
+
+} // namespace
+} // namespace velm::test

@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "demo_run.h"
+#include "foundation/sine.h"
+#include "image/rgb888.h"
+#include "support/allocation.h"
+#include "support/images.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <malloc.h>
+#include <vector>
+
+namespace velm::test {
+namespace {
+
+class ScenesTest : public testing::Test {
+protected:
+    void SetUp() override { startDemo(); }
+    void TearDown() override { headless.onFrame = nullptr; }
+
+    /// Runs a scene until Space ends it after so many further presentations.
+    static void runFor(std::uint32_t presentations, void (*scene)()) {
+        pressAt(headless.frames + presentations, ' ');
+        scene();
+    }
+
+    /// Runs a scene to its end and gives the presentations that it made.
+    static std::uint32_t lengthOf(void (*scene)()) {
+        const std::uint32_t before = headless.frames;
+        scene();
+        return headless.frames - before;
+    }
+};
+
+TEST_F(ScenesTest, LastAsLongAsTheyShould) {
+    constexpr std::uint32_t fade = 32;
+    EXPECT_EQ(lengthOf(VELM4030_sceneDefault), fade + 3000);
+    EXPECT_EQ(demo.dots, nullptr);
+    EXPECT_EQ(lengthOf(VELM4030_sceneInterludeA), 750U);
+}
+
+TEST_F(ScenesTest, VELM4030_meshFrames) {
+    constexpr std::uint32_t fade = 32;
+    EXPECT_EQ(lengthOf(VELM4030_sceneInterludeB), fade + 501);
+    const OBJ2D* mesh = demo.mesh;
+    EXPECT_EQ(mesh->segments->count, 8192);
+    VELM4030_sceneInterludeBSetup();
+    EXPECT_EQ(demo.mesh, mesh) << "a second run uses the same mesh";
+}
+
+TEST_F(ScenesTest, VELM4030_meshHuesStretch) {
+    runFor(34, VELM4030_sceneInterludeB);
+    const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
+    const auto hueOf = [](std::int32_t segment) {
+        return static_cast<const SEG2D*>(LIST_get(demo.meshView->segments, segment))->a->colour;
+    };
+    const auto hue = [frame](std::int32_t band) {
+        return static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, (10 * frame + band) % 1536));
+    };
+    EXPECT_EQ(hueOf(0), hue(0));
+    EXPECT_EQ(hueOf(64), hue(0)) << "the second row of right links takes the first row's hue";
+    EXPECT_EQ(hueOf(2 * 64 + 5), hue(16 + 5 * 16));
+    EXPECT_EQ(hueOf(64 * 64), hue(32 * 16))
+        << "the first down link, hues away from the right link at its point";
+    EXPECT_EQ(hueOf(127 * 64 + 63), hue(63 * 16 + 63 * 16));
+}
+
+TEST_F(ScenesTest, VELM4030_thirdWaveIsStill) {
+    const auto meshAfter = [](std::int32_t amplitude, std::int32_t frequency) {
+        VELM4030_sceneInterludeBSetup();
+        settings.meshWave1 = {100, 5, 20, 30};
+        settings.meshWave2 = {200, 6, 25, 40};
+        settings.meshWave3 = {300, 7, amplitude, frequency};
+        VELM4030_meshLayer();
+        VELM4030_meshLayer();
+        std::vector<std::int32_t> heights;
+        for (std::int32_t i = 0; i < demo.mesh->points->count; ++i) {
+            heights.push_back(static_cast<const VEC2D*>(LIST_get(demo.mesh->points, i))->y);
+        }
+        return heights;
+    };
+    const auto still = meshAfter(0, 0);
+    EXPECT_EQ(meshAfter(500, 77), still);
+    EXPECT_EQ(settings.meshWave3.phase, 314) << "only its phase runs";
+    // Point (r, c) = (2, 3), one frame after the start of both waves.
+    const std::int32_t lift = SINE_entry(30 * 2 + 105) * 20 + SINE_entry(40 * 3 + 206) * 25;
+    EXPECT_EQ(still[2 * (64 * 2 + 3)], 6 * 2 + (lift >> 15));
+}
+
+TEST_F(ScenesTest, ASceneResetsTheFiltersAndKeepsTheLayers) {
+    for (const char key : {'b', 'g', 'f', 'w', '1', '4', '8', '6'}) {
+        press(key);
+    }
+    runFor(40, VELM4030_sceneDefault);
+    EXPECT_EQ(demo.blur, 0);
+    EXPECT_EQ(demo.glare, 0);
+    EXPECT_EQ(settings.fadeOn, 0);
+    EXPECT_EQ(demo.clearMode, ClearMode::black);
+    EXPECT_EQ(settings.scrollOn, 0);
+    EXPECT_EQ(settings.rastersOn, 0);
+    EXPECT_EQ(demo.overlay, 1);
+    EXPECT_EQ(demo.fps->targetRate, 60);
+    for (const char key : {'1', '4', '8', '5'}) {
+        press(key);
+    }
+}
+
+TEST_F(ScenesTest, TheDefaultSceneDrawsItsRandomNumbersInOrder) {
+    runFor(35, VELM4030_sceneDefault); // makes the records of the scroll layer
+    srand(77);
+    std::int32_t expectedSteps[6];
+    const std::int32_t fade = (rand() & 63) * 0x010101 + 0x404040;
+    for (int i = 0; i < 18; ++i) {
+        rand(); // the dots' own waves
+    }
+    const long hue = random() % 1536;
+    for (std::int32_t& step : expectedSteps) {
+        const std::int32_t size = rand() % 4 + 1;
+        step = (2 * (rand() % 2) - 1) * size;
+    }
+    const std::int32_t bars = rand() % 20 + 8;
+    const long figure = random() % demo.fontLarge->count;
+    const int next = rand();
+
+    srand(77);
+    VELM4030_sceneDefaultSetup();
+    EXPECT_EQ(settings.fadeStep, static_cast<std::uint32_t>(fade));
+    EXPECT_EQ(demo.dots->colour & ~0x070707U, 0U) << "the dots are very dark";
+    EXPECT_EQ(
+        demo.dots->colour,
+        RGB888_sub(static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, static_cast<int>(hue))), 0xF8F8F8));
+    for (int i = 0; i < 6; ++i) {
+        const auto& step = demo.dots->step[i / 2];
+        EXPECT_EQ(i % 2 == 0 ? step.x : step.y, expectedSteps[i]) << i;
+    }
+    EXPECT_EQ(settings.barCount, bars);
+    EXPECT_EQ(settings.barSpacing, -11);
+    EXPECT_EQ(settings.largeTextIndex, figure);
+    EXPECT_EQ(rand(), next) << "nothing more was drawn";
+    VELM4030_sceneDefaultCleanup();
+}
+
+TEST_F(ScenesTest, InterludeADrawsItsRandomNumbersInOrder) {
+    runFor(1, VELM4030_sceneInterludeA); // makes the ball
+    srandom(9);
+    const auto ground = static_cast<std::uint32_t>(random()) & 0x1F1F1F;
+    const std::uint32_t fade = (static_cast<std::uint32_t>(rand()) & 15) * 0x010101 + 0x080808;
+    const auto colour = static_cast<std::uint32_t>(random()) & 0x7F7F7F;
+    const long x = random() % 256;
+    const long y = random() % 256;
+    const long radius = random() % 256 / 2;
+    srandom(9);
+    std::uint32_t corner = 0;
+    headless.onFrame = [&corner](const IMG& frame) { corner = frame.pixels[0]; };
+    demo.pointer->x = 100;
+    runFor(1, VELM4030_sceneInterludeA);
+    EXPECT_EQ(settings.fadeStep, fade);
+    EXPECT_EQ(demo.ball->colour, colour);
+    EXPECT_EQ(demo.ball->x, x);
+    EXPECT_EQ(demo.ball->y, y);
+    EXPECT_EQ(demo.ball->radius, radius);
+    EXPECT_TRUE(corner == ground || (x - radius <= 0 && y - radius <= 0));
+    EXPECT_EQ(demo.clearMode, ClearMode::fade);
+}
+
+TEST_F(ScenesTest, ClearModesPrepareTheScreen) {
+    const auto cornerAfter = [](ClearMode mode, std::uint8_t fadeOn, std::uint32_t background) {
+        demo.clearMode = mode;
+        settings.fadeOn = fadeOn;
+        demo.background = background;
+        settings.fadeStep = 0x101010;
+        IMG_fill(demo.screen, 0x808080);
+        VELM4030_postLayer();
+        return demo.screen->pixels[0];
+    };
+    EXPECT_EQ(cornerAfter(ClearMode::black, 1, 0xFFFFFF), 0U);
+    EXPECT_EQ(cornerAfter(ClearMode::white, 1, 0), 0xFFFFFFU);
+    EXPECT_EQ(cornerAfter(ClearMode::background, 1, 0x123456), 0x123456U);
+    EXPECT_EQ(cornerAfter(ClearMode::fade, 1, 0), 0x707070U);
+    EXPECT_EQ(cornerAfter(ClearMode::fade, 1, 0xFFFFFF), 0x909090U);
+    EXPECT_EQ(cornerAfter(ClearMode::fade, 0, 0xFFFFFF), 0x808080U);
+    demo.background = 0;
+    demo.clearMode = ClearMode::black;
+}
+
+TEST_F(ScenesTest, VELM4030_rateInHex) {
+    LFONT_setColour(demo.textMedium, 0xFFFFFF);
+    IMG* expected = IMG_newSized(256, 256);
+    LFONT* pen = demo.textMedium;
+    pen->target = expected;
+    pen->position->x = pen->position->y = 0;
+    LFONT_drawLine(pen, "3Cfps");
+    pen->position->x = 128;
+    LFONT_drawLine(pen, "000001AF");
+    IMG_fill(demo.screen, 0);
+    demo.fps->shownRate = 60;
+    demo.fps->frameCount = 0x1AF;
+    demo.overlay = 0;
+    VELM4030_fpsLayer();
+    EXPECT_EQ(demo.screen->pixels[0], 0U) << "the overlay is off";
+    demo.overlay = overlayRate;
+    VELM4030_fpsLayer();
+    EXPECT_EQ(difference(demo.screen, expected), "");
+    demo.overlay = 0;
+    IMG_delete(&expected);
+}
+
+TEST_F(ScenesTest, VELM4030_lettersBounce) {
+    for (demo.fps->frameCount = 0; demo.fps->frameCount < 1024; ++demo.fps->frameCount) {
+        IMG_fill(demo.screen, 0);
+        VELM4030_logoLettersLayer();
+        for (std::int32_t i = 0; i < 256 * 256; ++i) {
+            const bool allowed = i % 256 >= 176 && i % 256 < 240 && i / 256 >= 240 - 31;
+            ASSERT_TRUE(allowed || demo.screen->pixels[i] == 0) << demo.fps->frameCount << " at " << i;
+        }
+    }
+}
+
+TEST_F(ScenesTest, NoFrameAllocates) {
+    for (void (*scene)() : {VELM4030_sceneDefault, VELM4030_sceneInterludeA, VELM4030_sceneInterludeB}) {
+        std::int64_t first = 0;
+        std::size_t firstBytes = 0;
+        const std::uint32_t begin = headless.frames;
+        std::uint32_t compared = 0;
+        headless.onFrame = [&](const IMG&) {
+            const std::uint32_t done = headless.frames - begin;
+            if (done == 40) { // the fade-out and the first music pattern are over
+                first = allocationCount();
+                firstBytes = mallinfo2().uordblks;
+            }
+            compared += done > 40 ? 1 : 0;
+            if (done > 40) {
+                EXPECT_EQ(allocationCount(), first) << done;
+                EXPECT_EQ(mallinfo2().uordblks, firstBytes) << done;
+            }
+        };
+        headless.keys.reserve(1000);
+        runFor(240, scene);
+        EXPECT_EQ(compared, 200U);
+    }
+}
+
+} // namespace
+} // namespace velm::test
