@@ -1,0 +1,32 @@
+# SPDX-FileCopyrightText: 2026 The VELM4030 developers
+# SPDX-License-Identifier: MIT
+#
+# cmake -DCAPTURE=<velm4030-capture> -DNAME=<golden> -DARGUMENTS="--frames 400" -DFOLDER=<work folder> [-DRENEW=ON]
+#       -P golden.cmake
+#
+# Captures frames and sound and compares their checksums with NAME.crc beside this file: a line a frame, then the
+# sound's. On a difference the first differing line is named. RENEW writes NAME.crc instead.
+cmake_minimum_required(VERSION 3.24)
+set(golden "${CMAKE_CURRENT_LIST_DIR}/${NAME}.crc")
+separate_arguments(arguments UNIX_COMMAND "${ARGUMENTS}")
+file(MAKE_DIRECTORY "${FOLDER}")
+execute_process(COMMAND "${CAPTURE}" ${arguments} --quiet --crc "${FOLDER}/${NAME}.crc" --audio "${FOLDER}/${NAME}.wav"
+  COMMAND_ERROR_IS_FATAL ANY)
+file(SHA256 "${FOLDER}/${NAME}.wav" sound)
+file(APPEND "${FOLDER}/${NAME}.crc" "sound ${sound}\n")
+
+if(RENEW)
+  file(COPY_FILE "${FOLDER}/${NAME}.crc" "${golden}")
+  return()
+endif()
+file(STRINGS "${FOLDER}/${NAME}.crc" actual)
+file(STRINGS "${golden}" expected)
+list(LENGTH expected lines)
+if(lines LESS 2)
+  message(FATAL_ERROR "${golden} is empty")
+endif()
+foreach(a e IN ZIP_LISTS actual expected)
+  if(NOT "${a}" STREQUAL "${e}")
+    message(FATAL_ERROR "the first difference: ${a}, not ${e}. Look at it:\n  ${CAPTURE} ${ARGUMENTS} --ppm FOLDER")
+  endif()
+endforeach()

@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The window modules against a real X server, at the depth that VELM_TEST_DEPTH names.
+#include "platform/xdpy.h"
+#include "platform/xkbd.h"
+#include "platform/xptr.h"
+#include "process.h"
+#include "support/capture_stdout.h"
+#include "support/images.h"
+#include "x11_session.h"
+
+#include <X11/Xutil.h>
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace velm::test {
+namespace {
+
+constexpr std::int32_t windowSize = 256;
+constexpr int border = 2;
+
+std::string testDepth() {
+    const char* depth = std::getenv("VELM_TEST_DEPTH");
+    return depth == nullptr ? "24" : depth;
+}
+
+/// The server is the process's, as the connection of XDPY is; every test has a window of its own.
+XServer& server() {
+    static XServer one(testDepth());
+    return one;
+}
+
+/// What the server must hold for a pixel of ours.
+unsigned long expectedOnScreen(std::uint32_t pixel) {
+    const unsigned long red = (pixel >> 16) & 255;
+    const unsigned long green = (pixel >> 8) & 255;
+    const unsigned long blue = pixel & 255;
+    if (testDepth() == "16") {
+        return (red >> 3) << 11 | (green >> 2) << 5 | blue >> 3;
+    }
+    if (testDepth() == "30") {
+        const auto widened = [](unsigned long value) { return value << 2 | value >> 6; };
+        return widened(red) << 20 | widened(green) << 10 | widened(blue);
+    }
+    return pixel;
+}
+
+class DisplayTest : public testing::Test {
+protected:
+    void SetUp() override {
+        setenv("DISPLAY", server().display().c_str(), 1);
+        display = XDPY_open();
+        window = session.findDemo();
+        ASSERT_NE(window, 0U);
+    }
+
+    void TearDown() override {
+        XDPY_verbose = 0;
+        XDestroyWindow(session.connection, window);
+        XSync(session.connection, False);
+        XDPY_close(&display);
+        IMG_delete(&frame);
+    }
+
+    /// "" when the screen shows the part of the frame from (x, y) on at the window's place.
+    [[nodiscard]] std::string seen(int left, int top, int x, int y) const {
+        const unsigned int width = static_cast<unsigned int>(windowSize - x);
+        const unsigned int height = static_cast<unsigned int>(windowSize - y);
+        const auto pixels = session.screen(left + x + border, top + y + border, width, height);
+        for (std::size_t i = 0; i < pixels.size(); ++i) {
+            const std::int32_t column = x + static_cast<std::int32_t>(i % width);
+            const std::int32_t row = y + static_cast<std::int32_t>(i / width);
+            if (pixels[i] != expectedOnScreen(IMG_getPixel(frame, column, row))) {
+                return "pixel " + std::to_string(column) + ", " + std::to_string(row);
+            }
+        }
+        return "";
+    }
+
+    /// Waits for the server: it reads our connection and the viewer's in the order that it likes.
+    void expectSeen(int left, int top, int x, int y) const {
+        std::string difference;
+        EXPECT_TRUE(eventually([&] { return (difference = seen(left, top, x, y)).empty(); }, 5))
+            << difference;
+    }
+
+    Session session{server().display()};
+    XDPY* display = nullptr;
+    ::Window window = 0;
+    IMG* frame = Images(1).image(windowSize, windowSize);
+};
+
+TEST_F(DisplayTest, TheWindowHasItsTitleSizeAndPlace) {
+    ::Window root = 0;
+    int x = -1;
+    int y = -1;
+    unsigned int width = 0;
+    unsigned int height = 0;
+    unsigned int borderWidth = 0;
+    unsigned int depth = 0;
+    ASSERT_NE(XGetGeometry(session.connection, window, &root, &x, &y, &width, &height, &borderWidth, &depth),
+              0);
+    EXPECT_EQ(x, 0);
+    EXPECT_EQ(y, 0);
+    EXPECT_EQ(width, 256U);
+    EXPECT_EQ(height, 256U);
+    EXPECT_EQ(borderWidth, 2U);
+    EXPECT_EQ(std::to_string(display->depth), testDepth());
+    EXPECT_STREQ(XDPY_getName(display), "") << "the name is not the title";
+    EXPECT_EQ(XDPY_getName(nullptr), nullptr);
+    EXPECT_EQ(XDPY_same(display, display), 1);
+    EXPECT_EQ(XDPY_get(display), display);
+}
+
+TEST_F(DisplayTest, AFrameIsOnTheScreenBitForBit) {
+    XDPY_present(display, frame);
+    expectSeen(0, 0, 0, 0);
+    IMG_subColour(frame, 0x102030);
+    XDPY_present(display, frame);
+    expectSeen(0, 0, 0, 0); // the second frame goes through the kept image
+}
+
+TEST_F(DisplayTest, AFrameOfAnotherSizeIsReportedAndNotShown) {
+    XDPY_present(display, frame);
+    XDPY_verbose = 1;
+    IMG* narrow = IMG_newSized(255, 256);
+    EXPECT_EQ(printedBy([&] { XDPY_present(display, narrow); }), "XDPY error\n");
+    expectSeen(0, 0, 0, 0);
+    IMG_delete(&narrow);
+}
+
+TEST_F(DisplayTest, AWindowPartlyOffTheScreenIsDrawn) {
+    XMoveWindow(session.connection, window, -100, -50);
+    XSync(session.connection, False);
+    XDPY_present(display, frame);
+    expectSeen(-100, -50, 98, 48);
+}
+
+TEST_F(DisplayTest, AHiddenWindowIsSkippedWhileDumpsGoOn) {
+    std::string folder = std::filesystem::temp_directory_path() / "velm-dump-XXXXXX";
+    ASSERT_NE(mkdtemp(folder.data()), nullptr);
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder);
+    XDPY_dump = {.on = 1, .count = 0};
+    XDPY_present(display, frame);
+    XUnmapWindow(session.connection, window);
+    XSync(session.connection, False);
+    IMG_fill(frame, 0x00FF00);
+    XDPY_present(display, frame);
+    XDPY_present(display, frame);
+    XMapWindow(session.connection, window);
+    XSync(session.connection, False);
+    EXPECT_NE(seen(0, 0, 0, 0), "") << "nothing was drawn while the window was hidden";
+    for (const char* name : {"frame-00001.ppm", "frame-00002.ppm", "frame-00003.ppm"}) {
+        EXPECT_EQ(runTool({"pamfile", name}, {}), 0) << name;
+    }
+    EXPECT_FALSE(std::filesystem::exists("frame-00004.ppm"));
+    XDPY_dump.on = 0;
+    std::filesystem::current_path(before);
+    std::filesystem::remove_all(folder);
+}
+
+TEST_F(DisplayTest, KeysComeOneAPollWithTextAndKeycode) {
+    XKBD* keyboard = XKBD_new();
+    EXPECT_EQ(XKBD_new(), keyboard) << "there is one record";
+    session.movePointer(128, 128);
+    session.press("a");
+    session.press("B");
+    session.press("Up");
+    const auto poll = [&] {
+        keyboard->text[0] = '\0';
+        keyboard->keycode = 0;
+        EXPECT_TRUE(eventually([&] {
+            XKBD_poll(keyboard);
+            return keyboard->keycode != 0;
+        }));
+        return std::string(keyboard->text, keyboard->text[0] == '\0' ? 0 : 1);
+    };
+    EXPECT_EQ(poll(), "a");
+    poll(); // the Shift that xdotool holds for the capital
+    EXPECT_EQ(poll(), "B");
+    EXPECT_EQ(poll(), "");
+    EXPECT_EQ(keyboard->keycode, XKeysymToKeycode(session.connection, XK_Up));
+    session.sendClose(window);
+    EXPECT_TRUE(eventually([&] {
+        XKBD_poll(keyboard);
+        return keyboard->text[0] == 27;
+    })) << "the close button arrives as Escape";
+    XKBD_delete(&keyboard);
+    EXPECT_EQ(keyboard, nullptr);
+}
+
+TEST_F(DisplayTest, XPTR_firstMotionWins) {
+    session.movePointer(400, 400);
+    XPTR* pointer = XPTR_new();
+    XPTR_flush(pointer);
+    session.movePointer(20 + border, 30 + border);
+    session.movePointer(200 + border, 100 + border);
+    XSync(session.connection, False);
+    EXPECT_TRUE(eventually([&] {
+        XPTR_poll(pointer);
+        return pointer->x != 0;
+    }));
+    EXPECT_EQ(pointer->x, 20);
+    EXPECT_EQ(pointer->y, 30);
+    XPTR_query(pointer);
+    EXPECT_EQ(pointer->x, 200);
+    XPTR_flush(pointer);
+    XPTR_poll(pointer);
+    EXPECT_EQ(pointer->x, 200) << "nothing is left in the queue";
+    session.clickDown(3);
+    EXPECT_TRUE(eventually([&] {
+        XPTR_poll(pointer);
+        return pointer->buttons == 4;
+    }));
+    session.clickUp(3);
+    EXPECT_TRUE(eventually([&] {
+        XPTR_poll(pointer);
+        return pointer->buttons == 0;
+    }));
+    XPTR_delete(&pointer);
+}
+
+TEST_F(DisplayTest, TheSystemPointerIsInvisibleOverTheWindowOnly) {
+    XPTR* pointer = XPTR_new();
+    session.movePointer(128, 128);
+    EXPECT_TRUE(eventually([&] {
+        XPTR_poll(pointer);
+        return !session.cursorIsVisible();
+    }));
+    session.movePointer(400, 400);
+    EXPECT_TRUE(eventually([&] { return session.cursorIsVisible(); }));
+    XPTR_delete(&pointer);
+}
+
+TEST_F(DisplayTest, XPTR_cloneGivesNothing) {
+    XPTR* pointer = XPTR_new();
+    EXPECT_EQ(XPTR_clone(pointer), nullptr);
+    XPTR twin = *pointer;
+    EXPECT_EQ(XPTR_equals(pointer, &twin), 1);
+    twin.reserved[3] = 1;
+    EXPECT_EQ(XPTR_equals(pointer, &twin), 0);
+    XPTR_delete(&pointer);
+}
+
+} // namespace
+} // namespace velm::test

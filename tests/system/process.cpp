@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "process.h"
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace velm::test {
+
+namespace {
+
+std::string temporaryFile() {
+    std::string path = std::filesystem::temp_directory_path() / "velm-child-XXXXXX";
+    close(mkstemp(path.data()));
+    return path;
+}
+
+void redirect(const std::string& path, int descriptor) {
+    const int file = ::open(path.c_str(), O_WRONLY | O_TRUNC);
+    dup2(file, descriptor);
+    close(file);
+}
+
+/// The pipe on which Xvfb tells its display number; the write end has a fixed number that the child inherits.
+constexpr int displayPipe = 37;
+
+int openDisplayPipe() {
+    int ends[2];
+    if (pipe(ends) != 0) {
+        throw std::runtime_error("no pipe");
+    }
+    fcntl(ends[0], F_SETFD, FD_CLOEXEC);
+    dup2(ends[1], displayPipe);
+    close(ends[1]);
+    return ends[0];
+}
+
+} // namespace
+
+Child::Child(const std::vector<std::string>& arguments, const Environment& environment)
+    : outputPath(temporaryFile()), errorPath(temporaryFile()) {
+    pid = fork();
+    if (pid != 0) {
+        return;
+    }
+    for (const auto& [name, value] : environment) {
+        value.empty() ? unsetenv(name.c_str()) : setenv(name.c_str(), value.c_str(), 1);
+    }
+    redirect(outputPath, STDOUT_FILENO);
+    redirect(errorPath, STDERR_FILENO);
+    std::vector<char*> words;
+    for (const std::string& argument : arguments) {
+        words.push_back(const_cast<char*>(argument.c_str()));
+    }
+    words.push_back(nullptr);
+    execvp(words[0], words.data());
+    _exit(127);
+}
+
+Child::~Child() {
+    if (isRunning()) {
+        signal(SIGTERM);
+        if (waitForExit(5) == -1) {
+            signal(SIGKILL);
+            waitForExit(5);
+        }
+    }
+    std::filesystem::remove(outputPath);
+    std::filesystem::remove(errorPath);
+}
+
+bool Child::isRunning() {
+    if (!ended && waitpid(pid, &status, WNOHANG) == pid) {
+        ended = true;
+    }
+    return !ended;
+}
+
+int Child::waitForExit(double seconds) {
+    if (!eventually([this] { return !isRunning(); }, seconds)) {
+        return -1;
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+void Child::signal(int number) const {
+    kill(pid, number);
+}
+
+std::string Child::contents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+XServer::XServer(const std::string& depth)
+    : readEnd(openDisplayPipe()), child({"Xvfb", "-displayfd", std::to_string(displayPipe), "-screen", "0",
+                                         "640x480x" + depth, "-nolisten", "tcp", "-noreset"},
+                                        {}) {
+    close(displayPipe);
+    char digit = 0;
+    while (read(readEnd, &digit, 1) == 1 && digit != '\n') {
+        name += digit;
+    }
+    close(readEnd);
+    if (name.empty()) {
+        throw std::runtime_error("Xvfb did not start: " + child.errors());
+    }
+    name.insert(0, ":");
+}
+
+int runTool(const std::vector<std::string>& arguments, const Environment& environment) {
+    return Child(arguments, environment).waitForExit();
+}
+
+void pauseBriefly() {
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+}
+
+double secondsNow() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+} // namespace velm::test

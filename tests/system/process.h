@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Real programs as children of a test: an X server, the demo, the tools that press keys.
+//
+//     XServer server("24");
+//     Child demo({VELM_PROGRAM}, {{"DISPLAY", server.display()}});
+//     EXPECT_EQ(demo.waitForExit(), 0);
+#pragma once
+
+#include <string>
+#include <sys/types.h>
+#include <utility>
+#include <vector>
+
+namespace velm::test {
+
+using Environment = std::vector<std::pair<std::string, std::string>>;
+
+/// A child process; its standard output and error go to files of its own. The destructor ends it.
+class Child {
+public:
+    /// Starts a program. A variable with an empty value is taken out of the child's environment.
+    Child(const std::vector<std::string>& arguments, const Environment& environment);
+    ~Child();
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+
+    /// The exit status, 128 + the signal's number after a signal, or -1 when it still runs after `seconds`.
+    int waitForExit(double seconds = 30);
+    [[nodiscard]] bool isRunning();
+    void signal(int number) const;
+
+    [[nodiscard]] std::string output() const { return contents(outputPath); }
+    [[nodiscard]] std::string errors() const { return contents(errorPath); }
+    [[nodiscard]] pid_t id() const { return pid; }
+
+private:
+    static std::string contents(const std::string& path);
+
+    pid_t pid = -1;
+    int status = -1;
+    bool ended = false;
+    std::string outputPath;
+    std::string errorPath;
+};
+
+/// A private Xvfb with one screen of 640 x 480.
+class XServer {
+public:
+    explicit XServer(const std::string& depth);
+
+    [[nodiscard]] const std::string& display() const { return name; }
+    void end() { child.signal(15); }
+
+private:
+    int readEnd = -1;
+    Child child;
+    std::string name;
+};
+
+/// Runs a program to its end and gives its status.
+int runTool(const std::vector<std::string>& arguments, const Environment& environment);
+
+/// Calls `holds` until it is true; false after `seconds`.
+template <typename Condition>
+bool eventually(Condition holds, double seconds = 20);
+
+void pauseBriefly();
+double secondsNow();
+
+template <typename Condition>
+bool eventually(Condition holds, double seconds) {
+    const double end = secondsNow() + seconds;
+    while (!holds()) {
+        if (secondsNow() > end) {
+            return false;
+        }
+        pauseBriefly();
+    }
+    return true;
+}
+
+} // namespace velm::test

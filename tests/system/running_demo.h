@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The finished program on a real X server, and what a test can see of it.
+//
+//     TEST_F(RunningDemo, LeavesOnEscape) {
+//         waitForScene();
+//         session->press("Escape");
+//         EXPECT_EQ(demo.waitForExit(), 0);
+//     }
+#pragma once
+
+#include "process.h"
+#include "x11_session.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace velm::test {
+
+/// One picture that the program sent to its window.
+struct Put {
+    std::uint32_t brightest; ///< the largest of its pixels
+    double milliseconds;     ///< since the process began
+};
+
+/// The finished program, started on a server of its own with the spy preloaded.
+class RunningDemo : public testing::Test {
+protected:
+    void TearDown() override { std::filesystem::remove(spyLog); }
+
+    [[nodiscard]] Environment environment() const {
+        return {{"DISPLAY", server.display()},
+                {"LD_PRELOAD", VELM_X11_SPY},
+                {"VELM_SPY", spyLog},
+                {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+    }
+
+    /// Every picture that the program has sent so far.
+    [[nodiscard]] std::vector<Put> puts() const {
+        std::ifstream log(spyLog);
+        std::vector<Put> all;
+        std::string word;
+        double milliseconds = 0;
+        while (log >> word >> milliseconds) {
+            all.push_back({static_cast<std::uint32_t>(std::stoul(word, nullptr, 16)), milliseconds});
+        }
+        return all;
+    }
+
+    /// Waits until the demo runs its scene and has the keyboard.
+    void waitForScene() {
+        session->movePointer(128, 128);
+        ASSERT_TRUE(eventually([this] { return puts().size() > 60; }, 60)) << demo.errors();
+    }
+
+    XServer server{"24"};
+    std::optional<Session> session{server.display()};
+    std::string spyLog = [] {
+        std::string path = std::filesystem::temp_directory_path() / "velm-spy-XXXXXX";
+        close(mkstemp(path.data()));
+        return path;
+    }();
+    Child demo{{VELM_PROGRAM}, environment()};
+};
+
+} // namespace velm::test

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// What a viewer of the default scene sees when the keys are pressed and the pointer moves.
+#include "demo/assets.h"
+#include "effects/lfont.h"
+#include "running_demo.h"
+#include "vector/obj2d.h"
+
+#include <algorithm>
+
+namespace velm::test {
+namespace {
+
+constexpr int border = 2; ///< the window's, at the screen's corner
+
+class SceneTest : public RunningDemo {
+protected:
+    /// The window's pixels.
+    [[nodiscard]] std::vector<unsigned long> window() const {
+        return session->screen(border, border, 256, 256);
+    }
+
+    /// True when every visible pixel of `picture`, put at (x, y), stands on the screen in its own colour;
+    /// with `shapeOnly`, when all of them stand there in one colour, whichever it is.
+    [[nodiscard]] bool shows(const IMG* picture, std::int32_t x, std::int32_t y, bool shapeOnly) const {
+        const auto pixels = window();
+        std::vector<unsigned long> seen;
+        for (std::int32_t i = 0; i < picture->width * picture->height; ++i) {
+            if (picture->pixels[i] == 0) {
+                continue;
+            }
+            const std::int32_t at = x + i % picture->width + (y + i / picture->width) * 256;
+            seen.push_back(pixels[static_cast<std::size_t>(at)]);
+            if (!shapeOnly && seen.back() != picture->pixels[i]) {
+                return false;
+            }
+        }
+        return !seen.empty() && seen.front() != 0 &&
+               std::all_of(seen.begin(), seen.end(), [&](unsigned long p) { return p == seen.front(); }) ==
+                   shapeOnly;
+    }
+};
+
+TEST_F(SceneTest, TheOverlayReadsTheRateInHexadecimal) {
+    LFONT* pen = LFONT_new();
+    pen->glyphs = OBJ2D_parse(assets::font_medium.bytes);
+    const auto text = [pen](const char* line) {
+        IMG* img = IMG_newSized(80, 16);
+        pen->target = img;
+        pen->position->x = 0;
+        LFONT_drawLine(pen, line);
+        return img;
+    };
+    IMG* at30 = text("1Efps");
+    IMG* at60 = text("3Cfps");
+    waitForScene();
+    EXPECT_FALSE(shows(at30, 0, 0, true));
+    session->press("8");
+    EXPECT_TRUE(eventually([&] { return shows(at30, 0, 0, true); }));
+    session->press("6");
+    EXPECT_TRUE(eventually([&] { return shows(at60, 0, 0, true); }));
+    for (std::int32_t i = 0; i < pen->glyphs->count; ++i) {
+        OBJ2D_deleteSegments(static_cast<OBJ2D*>(LIST_get(pen->glyphs, i)));
+        delete[] static_cast<OBJ2D*>(LIST_get(pen->glyphs, i))->name;
+    }
+    LIST* glyphs = pen->glyphs;
+    LFONT_delete(&pen);
+    LIST_delete(&glyphs);
+    IMG_delete(&at30);
+    IMG_delete(&at60);
+}
+
+TEST_F(SceneTest, ThePointerPictureFollowsTheRealPointer) {
+    IMG* picture = IMG_fromPNM(assets::pointer.bytes, assets::pointer.size);
+    waitForScene();
+    const int places[][2] = {{20, 110}, {200, 90}, {60, 180}};
+    for (const auto& [x, y] : places) {
+        session->movePointer(x + border, y + border);
+        EXPECT_TRUE(eventually([&] { return shows(picture, x, y, false); })) << x << ", " << y;
+    }
+    IMG_delete(&picture);
+}
+
+TEST_F(SceneTest, SpaceWalksToTheNextScene) {
+    waitForScene();
+    for (int i = 0; i < 3; ++i) {
+        const std::size_t before = puts().size();
+        session->press("space");
+        // The next scene begins by fading the last picture out: the second of 32 passes is black already.
+        EXPECT_TRUE(eventually([&] {
+            const std::vector<Put> all = puts();
+            std::size_t black = 0;
+            for (std::size_t k = before; k < all.size(); ++k) {
+                black += all[k].brightest == 0 ? 1 : 0;
+            }
+            return black >= 31 && all.back().brightest != 0;
+        })) << i;
+    }
+}
+
+} // namespace
+} // namespace velm::test

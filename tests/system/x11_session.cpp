@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "x11_session.h"
+
+#include "process.h"
+
+#include <X11/Xutil.h>
+#include <X11/extensions/Xfixes.h>
+#include <algorithm>
+#include <stdexcept>
+
+namespace velm::test {
+
+Session::Session(std::string display) : connection(XOpenDisplay(display.c_str())), name(std::move(display)) {
+    if (connection == nullptr) {
+        throw std::runtime_error("no display " + name);
+    }
+}
+
+Session::~Session() {
+    XCloseDisplay(connection);
+}
+
+::Window Session::findDemo() const {
+    ::Window root = 0;
+    ::Window parent = 0;
+    ::Window* children = nullptr;
+    unsigned int count = 0;
+    ::Window found = 0;
+    XQueryTree(connection, DefaultRootWindow(connection), &root, &parent, &children, &count);
+    for (unsigned int i = 0; i < count && found == 0; ++i) {
+        char* title = nullptr;
+        if (XFetchName(connection, children[i], &title) != 0) {
+            found = std::string(title) == "VELM4030" ? children[i] : 0;
+            XFree(title);
+        }
+    }
+    XFree(children);
+    return found;
+}
+
+std::vector<unsigned long> Session::screen(int x, int y, unsigned int width, unsigned int height) const {
+    XImage* image =
+        XGetImage(connection, DefaultRootWindow(connection), x, y, width, height, AllPlanes, ZPixmap);
+    std::vector<unsigned long> pixels;
+    for (int row = 0; row < static_cast<int>(height); ++row) {
+        for (int column = 0; column < static_cast<int>(width); ++column) {
+            pixels.push_back(XGetPixel(image, column, row));
+        }
+    }
+    XDestroyImage(image);
+    return pixels;
+}
+
+void Session::xdotool(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), "xdotool");
+    if (runTool(arguments, {{"DISPLAY", name}}) != 0) {
+        throw std::runtime_error("xdotool failed");
+    }
+}
+
+void Session::press(const std::string& key) const {
+    xdotool({"key", key});
+}
+
+void Session::movePointer(int x, int y) const {
+    xdotool({"mousemove", std::to_string(x), std::to_string(y)});
+}
+
+void Session::clickDown(int button) const {
+    xdotool({"mousedown", std::to_string(button)});
+}
+
+void Session::clickUp(int button) const {
+    xdotool({"mouseup", std::to_string(button)});
+}
+
+void Session::sendClose(::Window window) const {
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = XInternAtom(connection, "WM_PROTOCOLS", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(connection, "WM_DELETE_WINDOW", False));
+    XSendEvent(connection, window, False, NoEventMask, &event);
+    XFlush(connection);
+}
+
+bool Session::cursorIsVisible() const {
+    int eventBase = 0;
+    int errorBase = 0;
+    XFixesQueryExtension(connection, &eventBase, &errorBase);
+    XFixesCursorImage* image = XFixesGetCursorImage(connection);
+    const bool visible = std::any_of(image->pixels, image->pixels + image->width * image->height,
+                                     [](unsigned long pixel) { return (pixel >> 24) != 0; });
+    XFree(image);
+    return visible;
+}
+
+} // namespace velm::test

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Preloaded into the demo: writes a line to the file that VELM_SPY names for every picture sent to the
+// server, the largest of its pixels in hexadecimal and the milliseconds since the process began.
+#include <X11/Xlib.h>
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <time.h>
+
+namespace {
+
+double processMilliseconds() {
+    static const double begin = [] {
+        timespec now{};
+        clock_gettime(CLOCK_MONOTONIC, &now);
+        return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+    }();
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6 - begin;
+}
+
+/// Starts the clock when the library is loaded.
+const double loaded = processMilliseconds();
+
+} // namespace
+
+extern "C" int XPutImage(Display* display, Drawable drawable, GC graphics, XImage* image, int srcX, int srcY,
+                         int dstX, int dstY, unsigned int width, unsigned int height) {
+    using Put = int (*)(Display*, Drawable, GC, XImage*, int, int, int, int, unsigned int, unsigned int);
+    static const auto put = reinterpret_cast<Put>(dlsym(RTLD_NEXT, "XPutImage"));
+    static std::FILE* const log = std::fopen(std::getenv("VELM_SPY"), "a");
+    // Xlib sends the pixel of an invisible cursor this way, too; frames have 32 bits.
+    if (image->bits_per_pixel == 32) {
+        const auto* const pixels = reinterpret_cast<const std::uint32_t*>(image->data);
+        std::fprintf(log, "%06x %.1f\n", *std::max_element(pixels, pixels + width * height),
+                     processMilliseconds() - loaded);
+        std::fflush(log);
+    }
+    return put(display, drawable, graphics, image, srcX, srcY, dstX, dstY, width, height);
+}

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "capture/options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+namespace velm {
+
+namespace {
+
+constexpr int statusWrongArgument = 2;
+constexpr std::int32_t noKeycode = 1; ///< any keycode that stands for no arrow
+
+/// One sample more than a frame lasts: a bar of three seconds then takes 90 or 180 calls, its last block
+/// being short, and picture and sound stay together. Exactly a frame would add an empty call to every bar.
+constexpr std::int32_t blockAt30 = 2942;
+constexpr std::int32_t blockAt60 = 1472;
+
+std::vector<std::string> split(const std::string& text, char separator) {
+    std::vector<std::string> parts;
+    std::size_t begin = 0;
+    for (;;) {
+        const std::size_t end = text.find(separator, begin);
+        parts.push_back(text.substr(begin, end - begin));
+        if (end == std::string::npos) {
+            return parts;
+        }
+        begin = end + 1;
+    }
+}
+
+template <typename Number>
+std::optional<Number> numberOf(const std::string& text) {
+    Number number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool whole = error == std::errc() && end == text.data() + text.size() && !text.empty();
+    return whole ? std::optional(number) : std::nullopt;
+}
+
+std::optional<HeadlessKey> keyOf(const std::string& name) {
+    const struct {
+        const char* name;
+        HeadlessKey key;
+    } named[] = {{"esc", {0, 27, noKeycode}},
+                 {"space", {0, ' ', noKeycode}},
+                 {"up", {0, 0, 98}},
+                 {"down", {0, 0, 104}}};
+    for (const auto& entry : named) {
+        if (name == entry.name) {
+            return entry.key;
+        }
+    }
+    return name.size() == 1 ? std::optional(HeadlessKey{0, name[0], noKeycode}) : std::nullopt;
+}
+
+/// "FRAME:KEY,..."; an error message for CLI11, or "".
+std::string parseKeys(const std::string& text, std::vector<HeadlessKey>& keys) {
+    for (const std::string& entry : split(text, ',')) {
+        const std::size_t colon = entry.find(':');
+        const auto frame = numberOf<std::uint32_t>(entry.substr(0, colon));
+        const auto key = colon == std::string::npos ? std::nullopt : keyOf(entry.substr(colon + 1));
+        if (!frame || !key) {
+            return "not FRAME:KEY: '" + entry + "'";
+        }
+        keys.push_back({*frame, key->text, key->keycode});
+    }
+    std::stable_sort(keys.begin(), keys.end(),
+                     [](const HeadlessKey& a, const HeadlessKey& b) { return a.frame < b.frame; });
+    return "";
+}
+
+/// "FRAME:X:Y:BUTTONS,..."; an error message for CLI11, or "".
+std::string parsePointers(const std::string& text, std::vector<HeadlessPointer>& pointers) {
+    for (const std::string& entry : split(text, ',')) {
+        const std::vector<std::string> fields = split(entry, ':');
+        const auto frame = numberOf<std::uint32_t>(fields[0]);
+        std::optional<std::int32_t> numbers[3];
+        for (std::size_t i = 1; i < fields.size() && i <= 3; ++i) {
+            numbers[i - 1] = numberOf<std::int32_t>(fields[i]);
+        }
+        if (fields.size() != 4 || !frame || !numbers[0] || !numbers[1] || !numbers[2]) {
+            return "not FRAME:X:Y:BUTTONS: '" + entry + "'";
+        }
+        pointers.push_back({*frame, *numbers[0], *numbers[1], *numbers[2]});
+    }
+    std::stable_sort(pointers.begin(), pointers.end(),
+                     [](const HeadlessPointer& a, const HeadlessPointer& b) { return a.frame < b.frame; });
+    return "";
+}
+
+std::string sceneNames() {
+    std::string names;
+    for (const SCENE& scene : SCENE_all()) {
+        names += (names.empty() ? "" : ", ") + std::string(scene.name);
+    }
+    return names;
+}
+
+} // namespace
+
+CaptureOptions parseOptions(int argc, char** argv) {
+    CaptureOptions options;
+    std::string scene;
+    std::string keys;
+    std::string pointers;
+    CLI::App app("The VELM4030 demo without a screen, in virtual time, as fast as the machine goes.");
+    app.set_version_flag("--version", "velm4030-capture " VELM_VERSION);
+    app.add_option("--frames", options.frames, "how many presentations, the start-up logo included")
+        ->required()
+        ->check(CLI::PositiveNumber);
+    app.add_option("--scene", scene, "this scene again and again instead of the schedule: " + sceneNames())
+        ->check([&options](const std::string& name) {
+            options.scene = SCENE_find(name);
+            return options.scene == nullptr ? "no such scene: '" + name + "'; there are " + sceneNames() : "";
+        });
+    app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60")
+        ->check(CLI::IsMember({30, 60}));
+    app.add_option("--keys", keys,
+                   "FRAME:KEY,... presses a key (a character, esc, space, up, down) after a frame")
+        ->check([&options](const std::string& text) { return parseKeys(text, options.keys); });
+    app.add_option("--pointer", pointers, "FRAME:X:Y:BUTTONS,... moves the pointer after a frame")
+        ->check([&options](const std::string& text) { return parsePointers(text, options.pointers); });
+    app.add_option("--raw", options.raw, "every frame as 256 x 256 words 0x00RRGGBB; - for standard output");
+    app.add_option("--ppm", options.ppmFolder, "every frame as a numbered P6 file in this folder");
+    app.add_option("--crc", options.crc,
+                   "a line a frame, number and CRC-32 of its words; - for standard output");
+    app.add_option("--audio", options.audio, "what the sound device is handed, as a WAV file");
+    app.add_option("--block", options.block, "bytes of the sound driver's block")
+        ->check(CLI::Range(2, 1 << 20));
+    app.add_option("--mp4", options.film, "a film with sound, made by ffmpeg");
+    app.add_option("--scale", options.scale, "enlargement of the film, without smoothing")
+        ->check(CLI::Range(1, 16));
+    app.add_flag("--quiet", options.quiet, "no progress line");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& success) {
+        std::exit(app.exit(success));
+    } catch (const CLI::ParseError& error) {
+        std::fprintf(stderr, "velm4030-capture: %s\n", error.what());
+        std::exit(statusWrongArgument);
+    }
+    if (options.block == 0) {
+        options.block = options.rate == 60 ? blockAt60 : blockAt30;
+    }
+    return options;
+}
+
+} // namespace velm

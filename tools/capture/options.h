@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// What velm4030-capture is asked for.
+//
+//     const CaptureOptions options = parseOptions(argc, argv); // leaves by itself on --help and on a wrong
+//     argument
+#pragma once
+
+#include "demo/scenes.h"
+#include "headless.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace velm {
+
+struct CaptureOptions {
+    std::uint32_t frames = 0;     ///< presentations
+    const SCENE* scene = nullptr; ///< nullptr for the schedule
+    std::int32_t rate = 30;       ///< frames per second at the start
+    std::vector<HeadlessKey> keys;
+    std::vector<HeadlessPointer> pointers;
+    std::string raw; ///< a file, "-" for standard output, "" for none; so are the next ones
+    std::string crc;
+    std::string ppmFolder;
+    std::string audio;
+    std::string film;
+    std::int32_t scale = 2; ///< enlargement of the film
+    std::int32_t block = 0; ///< bytes of the sound driver's block; 0 for what suits the rate
+    bool quiet = false;
+};
+
+CaptureOptions parseOptions(int argc, char** argv);
+
+} // namespace velm

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "paint/contact_sheets.h"
+
+#include "foundation/sine.h"
+#include "paint/png.h"
+#include "paint/shading.h"
+#include "vector/obj2d.h"
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+namespace velm::paint {
+
+namespace {
+
+constexpr std::int32_t enlargement = 4;
+constexpr std::int32_t margin = 8;
+constexpr std::uint32_t paper = 0x202028; ///< around the pictures, so that their black edges show
+
+struct ListDeleter {
+    void operator()(LIST* list) const {
+        for (std::int32_t i = 0; i < list->count; ++i) {
+            auto* object = static_cast<OBJ2D*>(LIST_get(list, i));
+            if (object != nullptr) {
+                delete[] object->name;
+                OBJ2D_deleteSegments(object);
+                OBJ2D_delete(&object);
+            }
+        }
+        LIST_delete(&list);
+    }
+};
+
+/// Parsed drawings that free themselves.
+using Objects = std::unique_ptr<LIST, ListDeleter>;
+
+Objects parse(const std::string& text) {
+    return Objects(OBJ2D_parse(text.c_str()));
+}
+
+/// Every pixel becomes a square.
+void drawEnlarged(const IMG& img, IMG& sheet, std::int32_t left, std::int32_t top, std::int32_t factor) {
+    for (std::int32_t y = 0; y < img.height; ++y) {
+        for (std::int32_t x = 0; x < img.width; ++x) {
+            IMG_fillRect(&sheet, left + x * factor, top + y * factor, factor, factor,
+                         IMG_getPixel(&img, x, y));
+        }
+    }
+}
+
+/// The picture as it is, and enlarged below.
+Picture twice(const IMG& img) {
+    Picture sheet =
+        makePicture(img.width * enlargement + 2 * margin, img.height * (enlargement + 1) + 3 * margin);
+    IMG_fill(sheet.get(), paper);
+    drawEnlarged(img, *sheet, margin, margin, 1);
+    drawEnlarged(img, *sheet, margin, img.height + 2 * margin, enlargement);
+    return sheet;
+}
+
+/// A font as the sheets see it: its cell, and how a character gets to (x, y).
+struct Face {
+    std::int32_t width;
+    std::int32_t height;
+    std::function<void(IMG&, char, std::int32_t, std::int32_t)> draw;
+};
+
+/// All printable characters, then words.
+Picture specimen(const Face& face) {
+    const std::vector<std::string> lines = {
+        " !\"#$%&'()*+,-./", "0123456789:;<=>?", "@ABCDEFGHIJKLMNO", "PQRSTUVWXYZ[\\]^_",
+        "`abcdefghijklmno",  "pqrstuvwxyz{|}~",  "SPHINX OF BLACK",  "QUARTZ, JUDGE MY",
+        "vow: pack my box",  "with five dozen",  "liquor jugs! 1Ef",
+    };
+    constexpr std::int32_t columns = 16;
+    Picture img = makePicture(face.width * columns, face.height * static_cast<std::int32_t>(lines.size()));
+    std::int32_t y = 0;
+    for (const std::string& line : lines) {
+        std::int32_t x = 0;
+        for (const char character : line) {
+            face.draw(*img, character, x, y);
+            x += face.width;
+        }
+        y += face.height;
+    }
+    return img;
+}
+
+Face lineFace(const LIST* glyphs, std::int32_t size, std::uint32_t colour) {
+    return {size, size, [glyphs, colour](IMG& img, char character, std::int32_t x, std::int32_t y) {
+                auto* const glyph = static_cast<OBJ2D*>(LIST_get(glyphs, character));
+                OBJ2D_setColour(glyph, colour);
+                glyph->position->x = x;
+                glyph->position->y = y;
+                OBJ2D_draw(glyph, &img);
+            }};
+}
+
+Face bitmapFace(const IMG* sheet, std::int32_t width, std::int32_t height) {
+    return {width, height, [=](IMG& img, char character, std::int32_t x, std::int32_t y) {
+                const std::int32_t along = width * character;
+                IMG_blit(sheet, &img, along % sheet->width, along / sheet->width * height, x, y, width,
+                         height);
+            }};
+}
+
+bool writeFontSheets(const std::string& place) {
+    const Objects small = parse(writeFontSmall());
+    const Objects medium = parse(writeFontMedium());
+    const Picture sheet = paintFontSheet();
+    const Picture shaded = paintFontShaded();
+    return writePng(place + "font_small.png", *twice(*specimen(lineFace(small.get(), 8, 0xFFC060)))) &&
+           writePng(place + "font_medium.png", *twice(*specimen(lineFace(medium.get(), 16, 0x60FFC0)))) &&
+           writePng(place + "font_sheet.png", *twice(*specimen(bitmapFace(sheet.get(), 16, 16)))) &&
+           writePng(place + "font_shaded.png", *twice(*specimen(bitmapFace(shaded.get(), 32, 64)))) &&
+           writePng(place + "font_sheet_cells.png", *twice(*sheet)) &&
+           writePng(place + "font_shaded_cells.png", *twice(*shaded));
+}
+
+/// All pictures under each other, the columns of digits side by side.
+bool writePictureSheet(const std::string& place) {
+    constexpr std::int32_t wide = 256 * enlargement + 2 * margin;
+    struct Placed {
+        Picture picture;
+        std::int32_t x;
+        std::int32_t y;
+    };
+    constexpr std::int32_t half = 128 * enlargement;
+    Placed placed[] = {
+        {paintPictureWide(), 0, 0},
+        {paintPictureMask(), 0, half + margin},
+        {paintPictureA(), 0, 2 * (half + margin)},
+        {paintPictureB(), half + margin, 2 * (half + margin)},
+        {paintLogo(), 0, 2 * (half + margin) + half / 2 + margin},
+        {paintPointer(), half + margin, 2 * (half + margin) + half / 2 + margin},
+        {paintDigitsA(), half + 10 * margin, 2 * (half + margin) + half / 2 + margin},
+        {paintDigitsB(), half + 20 * margin, 2 * (half + margin) + half / 2 + margin},
+        {paintStrip(), half + 30 * margin, 2 * (half + margin) + half / 2 + margin},
+    };
+    Picture sheet =
+        makePicture(wide + margin, 2 * (half + margin) + half / 2 + 256 * enlargement + 3 * margin);
+    IMG_fill(sheet.get(), paper);
+    for (const auto& [picture, x, y] : placed) {
+        drawEnlarged(*picture, *sheet, margin + x, margin + y, enlargement);
+    }
+    return writePng(place + "pictures.png", *sheet);
+}
+
+/// Some drawings in two columns, each in a row of eight angles.
+Picture angleSheet(const LIST* drawings, std::int32_t first, std::int32_t count) {
+    constexpr std::int32_t angles = 8;
+    constexpr std::int32_t columns = 2;
+    constexpr std::int32_t room = 84; ///< what a turning drawing needs
+    constexpr std::int32_t middle = 8;
+    Picture sheet = makePicture(columns * angles * room, (count + columns - 1) / columns * room);
+    for (std::int32_t i = 0; i < count * angles; ++i) {
+        auto* const drawing = static_cast<OBJ2D*>(LIST_get(drawings, first + i / angles));
+        if (i % angles == 0) {
+            drawing->position->x = drawing->position->y = -middle;
+            OBJ2D_applyPosition(drawing);
+        }
+        drawing->scale->x = drawing->scale->y = enlargement;
+        drawing->angle = static_cast<std::uint32_t>(i % angles * SINE_tableLength / angles);
+        drawing->position->x = i % (angles * columns) * room + room / 2;
+        drawing->position->y = i / (angles * columns) * room + room / 2;
+        OBJ2D_setColour(drawing, blended(hue((first * angles + i) * 14), 0xFFFFFF, whole / 2));
+        OBJ2D_draw(drawing, sheet.get());
+    }
+    return sheet;
+}
+
+bool writeDrawingSheets(const std::string& place) {
+    constexpr std::int32_t drawingsPerSheet = 28;
+    const Objects drawings = parse(writeDrawings());
+    std::int32_t number = 1;
+    for (std::int32_t first = 0; first < drawings->count; first += drawingsPerSheet, ++number) {
+        const std::int32_t count = std::min(drawingsPerSheet, drawings->count - first);
+        if (!writePng(place + "drawings_" + std::to_string(number) + ".png",
+                      *angleSheet(drawings.get(), first, count))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+bool writeContactSheets(const std::string& directory) {
+    const std::string place = directory + "/";
+    return writeFontSheets(place) && writePictureSheet(place) && writeDrawingSheets(place);
+}
+
+} // namespace velm::paint

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// PNG files for the contact sheets, uncompressed, because nothing but a viewer reads them.
+//
+//     writePng(directory + "/font_small.png", *sheet);
+#pragma once
+
+#include "paint/paint.h"
+
+namespace velm::paint {
+
+/// Writes 8-bit red, green and blue; false, after a message on stderr, when the file cannot be written whole.
+bool writePng(const std::string& path, const IMG& img);
+
+} // namespace velm::paint

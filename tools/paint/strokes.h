@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Strokes: line drawings in a shorthand that fits in one line. A point is two characters, x and y, each 0 to
+// 9 and then A to Z for 10 to 35; points joined by spaces are a polyline, commas part the polylines.
+//
+//     "2B 24 51 91 C4 CB, 27 C7" // a capital A: its outline, then its bar
+#pragma once
+
+#include "paint/paint.h"
+
+#include <string_view>
+#include <vector>
+
+namespace velm::paint {
+
+struct Point {
+    std::int32_t x;
+    std::int32_t y;
+    bool operator==(const Point&) const = default;
+};
+
+struct Segment {
+    Point from;
+    Point to;
+    bool startsStroke; ///< true for the first segment of a polyline
+};
+
+using Strokes = std::vector<Segment>;
+
+/// The segments of a shorthand, in writing order. A polyline of one point is a dot: a segment of length 0.
+Strokes parseStrokes(std::string_view shorthand);
+
+/// Draws with a rectangular pen: the w by h pixels whose top left corner is each point of the line, all moved
+/// by (x, y).
+void drawStrokes(IMG& img, const Strokes& strokes, std::int32_t x, std::int32_t y, std::int32_t w,
+                 std::int32_t h, std::uint32_t colour);
+
+/// The shorthand of a printable character on the 16 x 16 grid: "" for the space.
+std::string_view mediumGlyph(char character);
+
+/// Whether a character has so many strokes that thick ones would fill it.
+bool isCrowded(char character);
+
+/// The shorthand of a printable character on the 8 x 8 grid.
+std::string_view smallGlyph(char character);
+
+} // namespace velm::paint
