@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The VELM4030 developers
+# SPDX-License-Identifier: MIT
+#
+# ./run.sh: installs what is missing, builds the demo and plays it. Without a display it plays in a private Xvfb;
+# without /dev/dsp it plays through a sound server, or silent.
+set -euo pipefail
+cd "$(dirname "$0")"
+. packaging/packages.sh
+
+packaging/need.sh "${build_packages[@]}"
+cmake --preset release -DVELM_BUILD_TESTS=OFF -DVELM_BUILD_TOOLS=OFF >/dev/null
+cmake --build --preset release --target velm4030 -- --quiet
+
+# Asks the sound server where its client is installed; else its socket must do for an answer.
+server_answers() {
+    if command -v pactl >/dev/null; then
+        timeout 5 pactl info >/dev/null 2>&1
+    else
+        [ -S "${XDG_RUNTIME_DIR:-/nowhere}/pulse/native" ]
+    fi
+}
+
+pulse_library() {
+    packaging/need.sh libpulsedsp
+    dpkg -L libpulsedsp | grep -m 1 '/libpulsedsp\.so$'
+}
+
+if [ ! -e /dev/dsp ]; then
+    if server_answers; then
+        LD_PRELOAD="$(pulse_library)${LD_PRELOAD:+:$LD_PRELOAD}"
+        export LD_PRELOAD
+    else
+        echo 'No /dev/dsp and no sound server: playing silent.'
+    fi
+fi
+
+if [ -n "${DISPLAY:-}" ]; then
+    exec build/release/velm4030
+fi
+echo 'No display: playing in a private Xvfb.'
+env -u LD_PRELOAD packaging/need.sh xvfb
+exec packaging/private_display.sh build/release/velm4030
