@@ -91,7 +91,8 @@ void DIR_delete(DIR** handle) {
         DIR_error();
         return;
     }
-    // DIR_deleteKeepsTheNames: one expects everything to go; the list, its names and the stream outlive the record.
+    // DIR_deleteKeepsTheNames: one expects everything to go; the list, its names and the stream
+    // outlive the record, for callers that keep the list.
     delete *handle;
     *handle = nullptr;
 }

@@ -18,7 +18,8 @@ namespace velm {
 
 struct DIR {
     void* handle; ///< the open directory stream of the last DIR_read, kept open; nullptr before
-    LIST* names;  ///< the entries' names, NUL-terminated, in the order of the file system, "." and ".." included
+    LIST*
+        names; ///< the entries' names, NUL-terminated, in the order of the file system, "." and ".." included
 };
 
 extern const IDENTITY DIR_identity;
@@ -39,7 +40,8 @@ std::int32_t DIR_same(const DIR* a, const DIR* b);
 /// 1 for a record, 0 (reported) for nullptr.
 std::int32_t DIR_isValid(const DIR* dir);
 
-/// Frees the record and stores nullptr in the handle. The list, its names and the stream stay: see docs/quirks.md.
+/// Frees the record and stores nullptr in the handle. The list, its names and the stream stay: see
+/// docs/quirks.md.
 void DIR_delete(DIR** handle);
 
 /// Prints "DIR error" while DIR_verbose is set.

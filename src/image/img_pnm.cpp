@@ -14,13 +14,17 @@ namespace velm {
 
 namespace {
 
-/// The bytes of a picture and how far they have been read.
+/// The bytes of a picture and how far they have been read. Without a size a NUL ends them, except in binary
+/// samples.
 struct Input {
+    static constexpr std::size_t unknownSize = std::numeric_limits<std::size_t>::max();
+
     const char* bytes;
     std::size_t size;
-    std::size_t position;
+    std::size_t position = 0;
 
-    [[nodiscard]] bool atEnd() const { return position >= size; }
+    [[nodiscard]] bool hasSize() const { return size != unknownSize; }
+    [[nodiscard]] bool atEnd() const { return hasSize() ? position >= size : bytes[position] == '\0'; }
     [[nodiscard]] std::uint8_t peek() const { return static_cast<std::uint8_t>(bytes[position]); }
     std::uint8_t take() { return static_cast<std::uint8_t>(bytes[position++]); }
 };
@@ -105,6 +109,8 @@ bool readHeaderNumber(Input& input, Header& header) {
         header.hasHeight = true;
         header.height = number;
     } else if (!header.hasMaximum) {
+        // IMG_maximumIgnored: one expects samples to be scaled by it; they are taken as 8-bit values, as our
+        // assets are.
         header.hasMaximum = true;
     } else {
         return input.position > begin;
@@ -167,7 +173,8 @@ bool decodeTextGrey(Input& input, std::uint32_t* pixels, std::int64_t count) {
     return true;
 }
 
-/// IMG_samplesSpill: one expects samples above 255 to be clamped; they run into the neighbouring channel.
+/// IMG_samplesSpill: one expects samples above 255 to be clamped; here and in text grey they run into the
+/// neighbouring channel, because a picture's maximum is never looked at.
 bool decodeTextColour(Input& input, std::uint32_t* pixels, std::int64_t count) {
     for (std::int64_t i = 0; i < count; ++i) {
         std::uint32_t pixel = 0;
@@ -212,36 +219,39 @@ bool decodeSamples(Input& input, const Header& header, std::uint32_t* pixels, st
     }
 }
 
-/// Decodes a whole picture; `trustBody` says that binary samples are complete although the size does not
-/// cover them.
-IMG* decode(Input input, bool trustBody) {
+/// True when the samples are all there, as far as the input's size can tell.
+bool holdsSamples(const Input& input, const Header& header, std::int64_t count) {
+    if (!input.hasSize() && !header.isText()) {
+        return true;
+    }
+    const std::size_t left =
+        input.hasSize() ? input.size - input.position : std::strlen(input.bytes + input.position);
+    return static_cast<std::int64_t>(left) >= leastBodyBytes(header, count);
+}
+
+IMG* refuse() {
+    IMG_error();
+    return nullptr;
+}
+
+/// Decodes a whole picture, or reports once.
+IMG* decode(Input input) {
     Header header;
     constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
-    if (!readHeader(input, header) || header.width == 0 || header.height == 0 || header.width > most ||
-        header.height > most) {
-        return nullptr;
+    if (input.bytes == nullptr || !readHeader(input, header) || input.atEnd() || header.width == 0 ||
+        header.height == 0 || header.width > most || header.height > most) {
+        return refuse();
     }
     ++input.position; // the separator, whatever it is
     const std::int64_t count = header.width * header.height;
-    const std::int64_t left =
-        static_cast<std::int64_t>(input.size) - static_cast<std::int64_t>(input.position);
-    const bool unbounded = trustBody && !header.isText();
-    if (count > std::numeric_limits<std::int64_t>::max() / 3 ||
-        (!unbounded && left < leastBodyBytes(header, count))) {
-        return nullptr;
+    if (count > std::numeric_limits<std::int64_t>::max() / 3 || !holdsSamples(input, header, count)) {
+        return refuse();
     }
     IMG* img =
         IMG_newSized(static_cast<std::int32_t>(header.width), static_cast<std::int32_t>(header.height));
     if (img != nullptr && !decodeSamples(input, header, img->pixels, count)) {
         IMG_delete(&img);
-    }
-    return img;
-}
-
-IMG* decodeOrReport(const char* bytes, std::size_t count, bool trustBody) {
-    IMG* const img = bytes == nullptr ? nullptr : decode({bytes, count, 0}, trustBody);
-    if (img == nullptr) {
-        IMG_error();
+        return refuse();
     }
     return img;
 }
@@ -261,11 +271,11 @@ bool writePixels(std::FILE* file, const IMG* img) {
 } // namespace
 
 IMG* IMG_fromPNM(const char* bytes, std::size_t count) {
-    return decodeOrReport(bytes, count, false);
+    return decode({.bytes = bytes, .size = count});
 }
 
 IMG* IMG_fromPNM(const char* bytes) {
-    return decodeOrReport(bytes, bytes == nullptr ? 0 : std::strlen(bytes), true);
+    return decode({.bytes = bytes, .size = Input::unknownSize});
 }
 
 std::int32_t IMG_writePPM(const IMG* img, const char* path) {

@@ -22,8 +22,9 @@ bool isDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
-/// Reads a run of digits, moving past it; a value too large for an image stays too large.
-std::int64_t readDigits(const char*& text) {
+/// Reads a run of digits as a size, moving past it; what is too long for one becomes a size that no image can
+/// have.
+std::int64_t readSize(const char*& text) {
     std::int64_t value = 0;
     for (; isDigit(*text); ++text) {
         value = std::min<std::int64_t>(std::int64_t{1} << 40, value * 10 + (*text - '0'));
@@ -44,7 +45,8 @@ bool moveAfter(const char*& text, const char* needle) {
     return end != 0;
 }
 
-/// Reads one sample: skips to its first digit, then takes the digits; false at the end of the text.
+/// Reads one sample modulo 2^32: skips to its first digit, then takes the digits; false at the end of the
+/// text.
 bool readSample(const char*& text, std::uint32_t& sample) {
     while (*text != '\0' && !isDigit(*text)) {
         ++text;
@@ -52,7 +54,10 @@ bool readSample(const char*& text, std::uint32_t& sample) {
     if (*text == '\0') {
         return false;
     }
-    sample = static_cast<std::uint32_t>(readDigits(text));
+    sample = 0;
+    for (; isDigit(*text); ++text) {
+        sample = sample * 10 + static_cast<std::uint32_t>(*text - '0');
+    }
     return true;
 }
 
@@ -72,19 +77,24 @@ bool readPixels(const char*& text, IMG* img) {
 
 /// Reads "width height maximum" and the one separator behind each; the maximum does not matter.
 void readSizes(const char*& text, std::int64_t& width, std::int64_t& height) {
-    width = readDigits(text);
+    width = readSize(text);
     skipOne(text);
-    height = readDigits(text);
+    height = readSize(text);
     skipOne(text);
-    readDigits(text);
+    readSize(text);
     skipOne(text);
 }
 
-/// The image behind "P3\n", or nullptr. A pixel takes five characters at least, so sizes that the text cannot
-/// fill are refused before anything is allocated.
+IMG* refuse() {
+    IMG_error();
+    return nullptr;
+}
+
+/// The image behind "P3\n", or nullptr (reported once). A pixel takes five characters at least, so sizes that
+/// the text cannot fill are refused before anything is allocated.
 IMG* parse(const char* text) {
     if (!moveAfter(text, "IMG") || !moveAfter(text, "{") || !moveAfter(text, "P3\n")) {
-        return nullptr;
+        return refuse();
     }
     std::int64_t width = 0;
     std::int64_t height = 0;
@@ -93,11 +103,12 @@ IMG* parse(const char* text) {
     constexpr std::int64_t leastCharacters = 5;
     const auto left = static_cast<std::int64_t>(std::strlen(text));
     if (width > most || height > most || width * height > left / leastCharacters + 1) {
-        return nullptr;
+        return refuse();
     }
     IMG* img = IMG_newSized(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height));
     if (img != nullptr && !readPixels(text, img)) {
         IMG_delete(&img);
+        return refuse();
     }
     return img;
 }
@@ -134,11 +145,7 @@ char* IMG_toText(const IMG* img) {
 }
 
 IMG* IMG_fromText(const char* text) {
-    IMG* const img = text == nullptr ? nullptr : parse(text);
-    if (img == nullptr) {
-        IMG_error();
-    }
-    return img;
+    return text == nullptr ? refuse() : parse(text);
 }
 
 std::int32_t IMG_findAfter(const char* haystack, const char* needle) {
@@ -150,14 +157,15 @@ std::int32_t IMG_findAfter(const char* haystack, const char* needle) {
     std::size_t j = 0;
     while (haystack[i] != '\0' && needle[j] != '\0') {
         // IMG_findAfterMiscounts: one expects the search to start over; the byte that did not match counts as
-        // the needle's first, so "xMG" is taken for "IMG".
+        // the needle's first, so "xMG" is taken for "IMG" and "{" for any byte, on which old dumps rely.
         if (haystack[i] != needle[j]) {
             j = 0;
         }
         ++i;
         ++j;
     }
-    return needle[j] == '\0' ? static_cast<std::int32_t>(i) : 0;
+    constexpr std::size_t most = std::numeric_limits<std::int32_t>::max();
+    return needle[j] == '\0' && i <= most ? static_cast<std::int32_t>(i) : 0;
 }
 
 } // namespace velm

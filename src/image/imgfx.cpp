@@ -115,6 +115,8 @@ void IMGFX_blur(const IMG* src, IMG* dst) {
             to[x] = blurTaps(from[x - 2], from[x - 1], from[x], from[x + 1], from[x + 2]);
         }
     };
+    // IMGFX_blurDarkensEdges: one expects the edge pixels to repeat outside; what lies there counts as black,
+    // and the demo's blurred frames have dark sides.
     const auto edge = [src](std::int32_t x, std::int32_t y) {
         const auto at = [&](std::int32_t column) { return IMG_getPixel(src, column, y); };
         return blurTaps(at(x - 2), at(x - 1), at(x), at(x + 1), at(x + 2));
