@@ -48,8 +48,9 @@ struct Headless {
     std::function<void()> onLimit;        ///< must not return
     std::function<void()> onEndlessPause; ///< no key will ever end the pause; must not return
 
-    std::uint32_t frames = 0; ///< presentations so far
-    std::int64_t micros = 0;  ///< virtual time
+    std::uint32_t frames = 0;           ///< presentations so far
+    std::int64_t micros = 0;            ///< virtual time
+    std::uint32_t framesAtIdlePoll = 0; ///< presentations when the keyboard was last asked in vain
     std::size_t nextKey = 0;
     std::size_t nextPointer = 0;
 };

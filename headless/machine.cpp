@@ -29,11 +29,10 @@ const Entry* takeDue(const std::vector<Entry>& entries, std::size_t& next) {
 
 /// Every frame presents before it polls, so two idle polls without a presentation between them are a pause.
 void noticeEndlessPause() {
-    static std::uint32_t framesAtLastPoll = 0;
-    if (headless.frames == framesAtLastPoll && headless.onEndlessPause) {
+    if (headless.frames != 0 && headless.frames == headless.framesAtIdlePoll && headless.onEndlessPause) {
         headless.onEndlessPause();
     }
-    framesAtLastPoll = headless.frames;
+    headless.framesAtIdlePoll = headless.frames;
 }
 
 } // namespace
@@ -77,7 +76,7 @@ void XDPY_present(XDPY* display, const IMG* img) {
         XDPY_error();
         return;
     }
-    if (headless.frameLimit != 0 && headless.frames >= headless.frameLimit) {
+    if (headless.frameLimit != 0 && headless.frames >= headless.frameLimit && headless.onLimit) {
         headless.onLimit();
     }
     ++headless.frames;
@@ -129,7 +128,8 @@ void XPTR_poll(XPTR* pointer) {
     if (const HeadlessPointer* const due = takeDue(headless.pointers, headless.nextPointer); due != nullptr) {
         pointer->x = due->x;
         pointer->y = due->y;
-        pointer->buttons = due->buttons;
+        constexpr std::int32_t known = 7;
+        pointer->buttons = (pointer->buttons & ~known) | (due->buttons & known);
     }
 }
 

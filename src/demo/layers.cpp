@@ -8,6 +8,8 @@
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
 
+#include <string_view>
+
 namespace velm {
 
 namespace {
@@ -100,21 +102,22 @@ void VELM4030_fpsLayer() {
 }
 
 void VELM4030_logoLettersLayer() {
-    if (demo.textMedium == nullptr || demo.fps == nullptr || demo.hueRamp == nullptr) {
+    if (demo.textMedium == nullptr || demo.fps == nullptr || demo.hueRamp == nullptr ||
+        demo.hueRamp->length == 0) {
         return;
     }
     LFONT* const pen = demo.textMedium;
     const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
     placePen(pen, settings.lettersX, settings.lettersY);
     std::int32_t k = 0;
-    for (const char letter : {'V', 'E', 'L', 'M'}) {
+    for (const char letter : std::string_view("VELM")) {
         const std::int32_t hue = wrapAdd(frame, 192 - 64 * k) % demo.hueRamp->length;
         LFONT_setColour(pen, static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue)));
         // VELM4030_lettersBounce: one expects a swing about the line; only the upper half of the wave is
         // used.
         const std::int32_t angle = wrapAdd(wrapMul(17, frame), 96 - 32 * k) & (SINE_tableMask >> 1);
         pen->position->y = settings.lettersY - (SINE_entry(angle) >> 10);
-        pen->character = letter;
+        pen->character = static_cast<unsigned char>(letter);
         LFONT_drawChar(pen);
         ++k;
     }
@@ -138,7 +141,7 @@ void VELM4030_postLayer() {
 
 void VELM4030_musicLayer() {
     constexpr std::int32_t barsQueued = 4;
-    if (demo.music == nullptr || demo.sound == nullptr || demo.muted != 0) {
+    if (demo.music == nullptr || demo.music->period == 0 || demo.sound == nullptr || demo.muted != 0) {
         return;
     }
     MUSIC_tick(demo.music);

@@ -60,17 +60,18 @@ IMG* makeRollingStrip(const IMG* digits) {
     constexpr std::int32_t firstDigitCell = 2;
     IMG* const strip = IMG_newSized(cell, 2 * digitCount * cell);
     IMG* between = IMG_newSized(cell, 4 * digitCount * cell);
-    if (digits == nullptr || strip == nullptr || between == nullptr) {
-        return strip;
+    if (strip != nullptr && between != nullptr) {
+        doubleCells(digits, strip, firstDigitCell);
+        blendCells(strip);
+        doubleCells(strip, between, 0);
+        blendCells(between);
+        IMG_setSize(strip, cell, 8 * digitCount * cell);
+        doubleCells(between, strip, 0);
+        blendCells(strip);
     }
-    doubleCells(digits, strip, firstDigitCell);
-    blendCells(strip);
-    doubleCells(strip, between, 0);
-    blendCells(between);
-    IMG_setSize(strip, cell, 8 * digitCount * cell);
-    doubleCells(between, strip, 0);
-    blendCells(strip);
-    IMG_delete(&between);
+    if (between != nullptr) {
+        IMG_delete(&between);
+    }
     return strip;
 }
 

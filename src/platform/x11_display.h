@@ -19,6 +19,7 @@ struct X11_DISPLAY {
     int screen;
     ::GC graphics;
     ::XImage* image;     ///< nullptr until the first presentation, then kept for the life of the program
+    ::Atom protocols;    ///< the kind of message that carries it
     ::Atom deleteWindow; ///< what the window's close button sends
 };
 

@@ -40,11 +40,19 @@ const char* XDPY_getName(const XDPY* display) {
 }
 
 std::int32_t XDPY_same(const XDPY* a, const XDPY* b) {
-    return a != nullptr && a == b && a == XDPY_current ? 1 : 0;
+    if (a == nullptr || b == nullptr) {
+        XDPY_error();
+        return 0;
+    }
+    return a == b && a == XDPY_current ? 1 : 0;
 }
 
 XDPY* XDPY_get(XDPY* display) {
-    return display != nullptr && display == XDPY_current ? display : nullptr;
+    if (display == nullptr || display != XDPY_current) {
+        XDPY_error();
+        return nullptr;
+    }
+    return display;
 }
 
 void XDPY_error() {

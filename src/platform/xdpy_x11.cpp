@@ -50,6 +50,11 @@ void connect() {
     x11Display.root = DefaultRootWindow(x11Display.connection);
     x11Display.screen = DefaultScreen(x11Display.connection);
     x11Display.graphics = DefaultGC(x11Display.connection, x11Display.screen);
+    // Without masks for the channels there is no place in a pixel for a colour of ours.
+    const Visual* const visual = DefaultVisual(x11Display.connection, x11Display.screen);
+    if (visual->red_mask == 0 || visual->green_mask == 0 || visual->blue_mask == 0) {
+        x11GiveUp("needs a TrueColor display, unlike", XDisplayName(nullptr));
+    }
 }
 
 std::uint32_t rootDepth() {
@@ -58,6 +63,7 @@ std::uint32_t rootDepth() {
 
 /// Asks that the close button sends us a message, where it would otherwise cut the connection.
 void receiveClose() {
+    x11Display.protocols = XInternAtom(x11Display.connection, "WM_PROTOCOLS", False);
     x11Display.deleteWindow = XInternAtom(x11Display.connection, "WM_DELETE_WINDOW", False);
     XSetWMProtocols(x11Display.connection, x11Display.window, &x11Display.deleteWindow, 1);
 }
@@ -88,11 +94,17 @@ XImage* makeImage(const XDPY* display) {
     if (image != nullptr) {
         return image;
     }
+    const auto depth = static_cast<unsigned int>(DefaultDepth(x11Display.connection, x11Display.screen));
     image = XCreateImage(x11Display.connection, DefaultVisual(x11Display.connection, x11Display.screen),
-                         display->depth, ZPixmap, 0, nullptr, display->width, display->height,
+                         depth, ZPixmap, 0, nullptr, display->width, display->height,
                          BitmapPad(x11Display.connection), 0);
-    if (image != nullptr) {
-        image->data = allocateArray<char>(std::int64_t{image->bytes_per_line} * image->height);
+    if (image == nullptr) {
+        return nullptr;
+    }
+    image->data = allocateArray<char>(std::int64_t{image->bytes_per_line} * image->height);
+    if (image->data == nullptr) {
+        XDestroyImage(image);
+        return nullptr;
     }
     return image;
 }
@@ -101,7 +113,7 @@ bool haveImage(const XDPY* display) {
     if (x11Display.image == nullptr) {
         x11Display.image = makeImage(display);
     }
-    return x11Display.image != nullptr && x11Display.image->data != nullptr;
+    return x11Display.image != nullptr;
 }
 
 } // namespace

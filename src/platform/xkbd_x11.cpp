@@ -17,6 +17,7 @@ constexpr char escape = 27;
 bool takeClose() {
     XEvent event;
     return XCheckTypedWindowEvent(x11Display.connection, x11Display.window, ClientMessage, &event) != 0 &&
+           event.xclient.message_type == x11Display.protocols &&
            static_cast<Atom>(event.xclient.data.l[0]) == x11Display.deleteWindow;
 }
 

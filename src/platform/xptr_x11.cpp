@@ -30,7 +30,7 @@ void hidePointer() {
     XDefineCursor(x11Display.connection, hiddenWindow, cursor);
 }
 
-/// Reports what is missing; the caller goes on with what it can still do.
+/// Reports a missing record or window.
 bool isUsable(const XPTR* pointer) {
     if (pointer == nullptr || !XDPY_isOpen()) {
         XPTR_error();
