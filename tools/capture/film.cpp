@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "capture/film.h"
 
+#include "capture/output_file.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -11,22 +13,26 @@ namespace {
 
 constexpr std::int64_t microsPerSecond = 1000000;
 
-/// A word for the shell, whatever it holds.
+/// A file for ffmpeg as a word for the shell, whatever its name holds.
 std::string quoted(const std::string& word) {
-    std::string text = "'";
+    std::string text = "'file:";
     for (const char c : word) {
         text += c == '\'' ? std::string("'\\''") : std::string(1, c);
     }
     return text + "'";
 }
 
-constexpr const char* ffmpeg = "ffmpeg -nostdin -loglevel error -y ";
+/// Quiet, because the one line that a failure gets is ours; -xerror makes a failed write a failure.
+constexpr const char* ffmpeg = "ffmpeg -nostdin -loglevel quiet -xerror -y ";
 
 } // namespace
 
 Film::Film(std::string finalPath, std::int32_t rate, std::int32_t scale)
     : path(std::move(finalPath)), picturePath(path + ".picture.part.mp4"), soundPath(path + ".sound.part"),
       joinedPath(path + ".part.mp4"), framesPerSecond(rate) {
+    for (const std::string& part : {picturePath, soundPath, joinedPath}) {
+        watchPart(part);
+    }
     if (std::system("command -v ffmpeg >/dev/null 2>&1") != 0) {
         fail("ffmpeg is not installed, which makes the film");
     }
@@ -87,16 +93,20 @@ void Film::finish(std::int64_t micros) {
     const std::string join = std::string(ffmpeg) + "-i " + quoted(picturePath) +
                              " -f s16le -ar 44100 -ac 1 -i " + quoted(soundPath) +
                              " -c:v copy -c:a aac -b:a 160k -movflags +faststart " + quoted(joinedPath);
-    if (std::system(join.c_str()) != 0 || std::rename(joinedPath.c_str(), path.c_str()) != 0) {
+    if (std::system(join.c_str()) != 0) {
         fail("ffmpeg could not join the film's sound");
+    }
+    if (std::rename(joinedPath.c_str(), path.c_str()) != 0) {
+        fail("the film cannot get its name");
     }
     removeParts();
 }
 
 void Film::fail(const char* what) {
-    removeParts();
-    std::fprintf(stderr, "velm4030-capture: %s: %s\n", path.c_str(), what);
-    std::_Exit(1);
+    if (encoder != nullptr) {
+        pclose(encoder); // or it might make its file after we have removed it
+    }
+    giveUp(path + ": " + what);
 }
 
 void Film::removeParts() const {

@@ -9,8 +9,6 @@
 //     film.finish(micros);
 #pragma once
 
-#include "capture/output_file.h"
-
 #include <cstdint>
 #include <cstdio>
 #include <span>

@@ -24,6 +24,7 @@ void finishRecording() {
 }
 
 [[noreturn]] void reportEndlessPause() {
+    recorder->endProgressLine();
     std::fprintf(stderr, "velm4030-capture: paused after frame %u, and no key is left to end it\n",
                  velm::headless.frames);
     std::exit(statusEndlessPause);

@@ -56,16 +56,21 @@ std::optional<HeadlessKey> keyOf(const std::string& name) {
     return name.size() == 1 ? std::optional(HeadlessKey{0, name[0], noKeycode}) : std::nullopt;
 }
 
-/// "FRAME:KEY,..."; an error message for CLI11, or "".
+/// "FRAME:KEY,..."; an error message for CLI11, or "". A key has one character at least, so it may be the
+/// comma itself.
 std::string parseKeys(const std::string& text, std::vector<HeadlessKey>& keys) {
-    for (const std::string& entry : split(text, ',')) {
-        const std::size_t colon = entry.find(':');
-        const auto frame = numberOf<std::uint32_t>(entry.substr(0, colon));
-        const auto key = colon == std::string::npos ? std::nullopt : keyOf(entry.substr(colon + 1));
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t colon = text.find(':', begin);
+        const std::size_t end = colon == std::string::npos ? colon : text.find(',', colon + 2);
+        const std::string entry = text.substr(begin, end - begin);
+        const std::size_t split = entry.find(':');
+        const auto frame = numberOf<std::uint32_t>(entry.substr(0, split));
+        const auto key = split == std::string::npos ? std::nullopt : keyOf(entry.substr(split + 1));
         if (!frame || !key) {
             return "not FRAME:KEY: '" + entry + "'";
         }
         keys.push_back({*frame, key->text, key->keycode});
+        begin = end == std::string::npos ? text.size() + 1 : end + 1;
     }
     std::stable_sort(keys.begin(), keys.end(),
                      [](const HeadlessKey& a, const HeadlessKey& b) { return a.frame < b.frame; });
@@ -99,6 +104,21 @@ std::string sceneNames() {
     return names;
 }
 
+/// Refuses two outputs on one file or stream, and on a stream what must be written from its start again.
+void requireApart(const CaptureOptions& options) {
+    std::vector<std::string> outputs = {options.raw, options.crc, options.audio, options.film,
+                                        options.ppmFolder};
+    if (options.audio == "-" || options.film == "-") {
+        throw CLI::ValidationError("sound and films need a file, not standard output");
+    }
+    std::erase(outputs, "");
+    std::sort(outputs.begin(), outputs.end());
+    const auto twice = std::adjacent_find(outputs.begin(), outputs.end());
+    if (twice != outputs.end()) {
+        throw CLI::ValidationError("two outputs cannot share '" + *twice + "'");
+    }
+}
+
 } // namespace
 
 CaptureOptions parseOptions(int argc, char** argv) {
@@ -110,7 +130,10 @@ CaptureOptions parseOptions(int argc, char** argv) {
     app.set_version_flag("--version", "velm4030-capture " VELM_VERSION);
     app.add_option("--frames", options.frames, "how many presentations, the start-up logo included")
         ->required()
-        ->check(CLI::PositiveNumber);
+        ->check([](const std::string& text) {
+            return numberOf<std::uint32_t>(text).value_or(0) > 0 ? ""
+                                                                 : "not a number of frames: '" + text + "'";
+        });
     app.add_option("--scene", scene, "this scene again and again instead of the schedule: " + sceneNames())
         ->check([&options](const std::string& name) {
             options.scene = SCENE_find(name);
@@ -136,6 +159,7 @@ CaptureOptions parseOptions(int argc, char** argv) {
     app.add_flag("--quiet", options.quiet, "no progress line");
     try {
         app.parse(argc, argv);
+        requireApart(options);
     } catch (const CLI::Success& success) {
         std::exit(app.exit(success));
     } catch (const CLI::ParseError& error) {

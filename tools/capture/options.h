@@ -3,8 +3,8 @@
 //
 // What velm4030-capture is asked for.
 //
-//     const CaptureOptions options = parseOptions(argc, argv); // leaves by itself on --help and on a wrong
-//     argument
+//     // Leaves by itself on --help and on a wrong argument.
+//     const CaptureOptions options = parseOptions(argc, argv);
 #pragma once
 
 #include "demo/scenes.h"

@@ -14,8 +14,10 @@ namespace velm {
 
 namespace {
 
-std::unique_ptr<OutputFile> openIf(const std::string& path) {
-    return path.empty() ? nullptr : std::make_unique<OutputFile>(path);
+void openIf(std::optional<OutputFile>& file, const std::string& path) {
+    if (!path.empty()) {
+        file.emplace(path);
+    }
 }
 
 double now() {
@@ -38,27 +40,35 @@ void writeChecksum(OutputFile& file, std::uint32_t number, std::span<const std::
 void writePicture(const std::string& folder, std::uint32_t number, const IMG& img) {
     char name[32];
     std::snprintf(name, sizeof name, "/frame-%05u.ppm", number);
-    if (IMG_writePPM(&img, (folder + name).c_str()) == 0) {
-        std::fprintf(stderr, "velm4030-capture: cannot write %s%s\n", folder.c_str(), name);
-        std::filesystem::remove(folder + name);
-        std::_Exit(1);
+    const std::string part = folder + name + ".part";
+    if (IMG_writePPM(&img, part.c_str()) == 0 || std::rename(part.c_str(), (folder + name).c_str()) != 0) {
+        std::remove(part.c_str());
+        giveUp("cannot write " + folder + name);
+    }
+}
+
+void makeFolder(const std::string& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (!std::filesystem::is_directory(folder, error)) {
+        giveUp("cannot make the folder " + folder);
     }
 }
 
 } // namespace
 
-Recorder::Recorder(const CaptureOptions& captureOptions)
-    : options(captureOptions), raw(openIf(options.raw)), crc(openIf(options.crc)),
-      audio(openIf(options.audio)),
-      film(options.film.empty() ? nullptr
-                                : std::make_unique<Film>(options.film, options.rate, options.scale)),
-      startSeconds(now()) {
+Recorder::Recorder(const CaptureOptions& captureOptions) : options(captureOptions), startSeconds(now()) {
+    openIf(raw, options.raw);
+    openIf(crc, options.crc);
+    openIf(audio, options.audio);
     if (audio) {
         audio->write(wavHeader(0));
     }
+    if (!options.film.empty()) {
+        film.emplace(options.film, options.rate, options.scale);
+    }
     if (!options.ppmFolder.empty()) {
-        std::error_code ignored;
-        std::filesystem::create_directories(options.ppmFolder, ignored);
+        makeFolder(options.ppmFolder);
     }
 }
 
@@ -94,12 +104,13 @@ void Recorder::sound(std::span<const std::int16_t> samples) {
 }
 
 void Recorder::finish() {
+    endProgressLine();
     if (audio) {
         audio->rewriteStart(wavHeader(audioBytes));
     }
-    for (const auto& file : {raw.get(), crc.get(), audio.get()}) {
-        if (file != nullptr) {
-            file->finish();
+    for (std::optional<OutputFile>* const file : {&raw, &crc, &audio}) {
+        if (*file) {
+            (*file)->finish();
         }
     }
     if (film) {
@@ -107,18 +118,24 @@ void Recorder::finish() {
     }
 }
 
-void Recorder::progress() const {
+void Recorder::endProgressLine() {
+    if (lineIsOpen) {
+        std::fputc('\n', stderr);
+        lineIsOpen = false;
+    }
+}
+
+void Recorder::progress() {
     constexpr std::uint32_t framesBetweenLines = 64;
     if (options.quiet || isatty(STDERR_FILENO) == 0 ||
         (frames % framesBetweenLines != 0 && frames != options.frames)) {
         return;
     }
     const double rate = frames / std::max(now() - startSeconds, 1e-6);
-    std::fprintf(stderr, "\r%u of %u frames, %.0f per second, %.0f s left ", frames, options.frames, rate,
-                 (options.frames - frames) / rate);
-    if (frames == options.frames) {
-        std::fputc('\n', stderr);
-    }
+    constexpr const char* clearToEnd = "\x1b[K";
+    std::fprintf(stderr, "\r%u of %u frames, %.0f per second, %.0f s left%s", frames, options.frames, rate,
+                 (options.frames - frames) / rate, clearToEnd);
+    lineIsOpen = true;
 }
 
 } // namespace velm

@@ -9,17 +9,16 @@
 //     recorder.finish();
 #pragma once
 
+#include "capture/film.h"
 #include "capture/options.h"
 #include "capture/output_file.h"
 #include "image/img.h"
 
 #include <cstdint>
-#include <memory>
+#include <optional>
 #include <span>
 
 namespace velm {
-
-class Film;
 
 class Recorder {
 public:
@@ -32,20 +31,24 @@ public:
     /// A block that the sound device was handed.
     void sound(std::span<const std::int16_t> samples);
 
+    /// Ends the progress line, so that a message can follow.
+    void endProgressLine();
+
     /// Completes every file. Nothing is written afterwards.
     void finish();
 
 private:
-    void progress() const;
+    void progress();
 
     const CaptureOptions& options;
-    std::unique_ptr<OutputFile> raw;
-    std::unique_ptr<OutputFile> crc;
-    std::unique_ptr<OutputFile> audio;
-    std::unique_ptr<Film> film;
+    std::optional<OutputFile> raw;
+    std::optional<OutputFile> crc;
+    std::optional<OutputFile> audio;
+    std::optional<Film> film;
     std::uint32_t frames = 0;
     std::uint32_t audioBytes = 0;
     double startSeconds = 0;
+    bool lineIsOpen = false; ///< the terminal's cursor stands behind a progress line
 };
 
 } // namespace velm
