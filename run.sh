@@ -17,19 +17,19 @@ server_answers() {
     if command -v pactl >/dev/null; then
         timeout 5 pactl info >/dev/null 2>&1
     else
-        [ -S "${XDG_RUNTIME_DIR:-/nowhere}/pulse/native" ]
+        [ -n "${PULSE_SERVER:-}" ] || [ -S "${XDG_RUNTIME_DIR:-/nowhere}/pulse/native" ]
     fi
 }
 
+# The library that hands /dev/dsp to the sound server; nothing where it cannot be installed.
 pulse_library() {
-    packaging/need.sh libpulsedsp
+    packaging/need.sh libpulsedsp >&2 || return 1
     dpkg -L libpulsedsp | grep -m 1 '/libpulsedsp\.so$'
 }
 
 if [ ! -e /dev/dsp ]; then
-    if server_answers; then
-        LD_PRELOAD="$(pulse_library)${LD_PRELOAD:+:$LD_PRELOAD}"
-        export LD_PRELOAD
+    if server_answers && library=$(pulse_library) && [ -n "$library" ]; then
+        export LD_PRELOAD="$library${LD_PRELOAD:+:$LD_PRELOAD}"
     else
         echo 'No /dev/dsp and no sound server: playing silent.'
     fi

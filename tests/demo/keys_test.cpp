@@ -63,6 +63,18 @@ TEST_F(KeysTest, TheSelectionStaysInsideTheListing) {
     press('d');
     press('\0', 104);
     EXPECT_EQ(demo.dirSelection, 0) << "there is no listing";
+    demo.dirListing = DIR_new();
+    for (const char* name : {"a", "b", "c"}) {
+        LIST_append(demo.dirListing->names, const_cast<char*>(name));
+    }
+    for (const int selected : {1, 2, 2}) {
+        press('d');
+        EXPECT_EQ(demo.dirSelection, selected);
+    }
+    press('\0', 98);
+    EXPECT_EQ(demo.dirSelection, 1);
+    LIST_delete(&demo.dirListing->names);
+    DIR_delete(&demo.dirListing);
 }
 
 TEST_F(KeysTest, APauseHoldsTheFrameAndKeysWorkInIt) {

@@ -61,6 +61,30 @@ TEST_F(StartupTest, AssetsHaveTheirSizes) {
     }
 }
 
+TEST_F(StartupTest, TheRollingStripDissolvesItsDigitsIntoEachOther) {
+    const IMG* digits = demo.fontBitmap4->image;
+    const IMG* strip = demo.fontBitmap5->image;
+    const auto cellOf = [](const IMG* img, std::int32_t cell) {
+        return std::vector<std::uint32_t>(img->pixels + cell * 256, img->pixels + cell * 256 + 256);
+    };
+    const auto mixed = [](const std::vector<std::uint32_t>& src, std::vector<std::uint32_t> dst) {
+        for (std::size_t i = 0; i < dst.size(); ++i) {
+            dst[i] = src[i] == 0 ? dst[i] : ((src[i] >> 1) & 0x7F7F7F) + ((dst[i] >> 1) & 0x7F7F7F);
+        }
+        return dst;
+    };
+    for (std::int32_t digit = 0; digit < 10; ++digit) {
+        // Of the eight cells of a digit the first is it blended with the one before, over and over; the fifth
+        // is pure.
+        const auto pure = cellOf(digits, digit + 2);
+        const auto before = cellOf(digits, (digit + 9) % 10 + 2);
+        EXPECT_EQ(cellOf(strip, 8 * digit + 7), pure) << digit;
+        const auto first = mixed(before, pure);
+        EXPECT_EQ(cellOf(strip, 8 * digit), mixed(before, mixed(before, first))) << digit;
+        EXPECT_EQ(cellOf(strip, 8 * digit + 3), first) << digit;
+    }
+}
+
 TEST_F(StartupTest, NoTwoGlyphsLookAlike) {
     for (LFONT* pen : {demo.textSmall, demo.textMedium}) {
         std::set<std::vector<std::uint32_t>> pictures;

@@ -101,7 +101,7 @@ TEST_F(CaptureTest, KeysAndPointersArriveAfterTheirFrame) {
     const auto keyed = frames(60, {"--keys", "50:8"});
     EXPECT_TRUE(keyed[49] == plain[49]);
     EXPECT_FALSE(keyed[50] == plain[50]) << "the key is read at the end of frame 50 and acts on frame 51";
-    const auto keyedTwice = frames(60, {"--keys", "50:8,50:8"});
+    const auto keyedTwice = frames(60, {"--keys", "50:8,50:8,50:,"});
     EXPECT_FALSE(keyedTwice[50] == plain[50]);
     EXPECT_TRUE(keyedTwice[51] == plain[51]) << "two keys of one frame are read one after the other";
     const auto moved = frames(60, {"--pointer", "50:100:100:0,50:200:200:0"});
@@ -135,17 +135,21 @@ TEST_F(CaptureTest, AnEndlessPauseIsToldWithItsFilesComplete) {
 }
 
 TEST_F(CaptureTest, WrongArgumentsGiveOneLineAndStatus2) {
-    const std::vector<std::vector<std::string>> wrong = {{},
-                                                         {"--frames", "0"},
-                                                         {"--frames", "x"},
-                                                         {"--frames", "1", "--rate", "50"},
-                                                         {"--frames", "1", "--scene", "nothing"},
-                                                         {"--frames", "1", "--keys", "5"},
-                                                         {"--frames", "1", "--keys", "5:abc"},
-                                                         {"--frames", "1", "--pointer", "1:2:3"},
-                                                         {"--frames", "1", "--block", "1"},
-                                                         {"--frames", "1", "--scale", "0"},
-                                                         {"--frames", "1", "unknown"}};
+    const std::vector<std::vector<std::string>> wrong = {
+        {},
+        {"--frames", "0"},
+        {"--frames", "x"},
+        {"--frames", "1", "--rate", "50"},
+        {"--frames", "1", "--scene", "nothing"},
+        {"--frames", "1", "--keys", "5"},
+        {"--frames", "1", "--keys", "5:abc"},
+        {"--frames", "1", "--pointer", "1:2:3"},
+        {"--frames", "1", "--block", "1"},
+        {"--frames", "1", "--scale", "0"},
+        {"--frames", "1", "--audio", "-"},
+        {"--frames", "1", "--raw", "-", "--crc", "-"},
+        {"--frames", "1", "--raw", "same", "--audio", "same"},
+        {"--frames", "1", "unknown"}};
     for (const auto& arguments : wrong) {
         EXPECT_EQ(capture(arguments), 2) << (arguments.empty() ? "" : arguments.back());
         const std::string line = tool->errors();
@@ -171,6 +175,42 @@ TEST_F(CaptureTest, WhatCannotBeWrittenGivesOneLineAndLeavesNothingHalf) {
     EXPECT_FALSE(std::filesystem::exists(path("raw")));
     EXPECT_FALSE(std::filesystem::exists(path("raw.part")));
 }
+
+TEST_F(CaptureTest, PipesAndLinksStayWhatTheyAre) {
+    const std::string script =
+        "cd '" + folder + "' && mkfifo pipe && ln -s target link && { cat pipe > heard & " + VELM_CAPTURE +
+        " --frames 3 --crc pipe --raw link; wait; } && test -p pipe -a -L link";
+    EXPECT_EQ(std::system(script.c_str()), 0);
+    EXPECT_EQ(contents(path("heard")).substr(0, 2), "1 ");
+    EXPECT_EQ(contents(path("target")).size(), 3 * frameBytes);
+    EXPECT_EQ(capture({"--frames", "2", "--ppm", path("heard")}), 1);
+    EXPECT_EQ(tool->errors(), "velm4030-capture: cannot make the folder " + path("heard") + "\n");
+}
+
+TEST_F(CaptureTest, AFailingOutputTakesThePartsOfTheOthersAlong) {
+    const std::string limited = "cd '" + folder + "' && ulimit -f 1024 && trap '' XFSZ && exec " +
+                                VELM_CAPTURE +
+                                " --frames 50 --raw raw --crc crc --audio wav --mp4 film.mp4 2> errors";
+    EXPECT_EQ(WEXITSTATUS(std::system(limited.c_str())), 1);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1)
+        << "only the errors are left";
+}
+
+// Sanitizers need memory of their own, and time.
+#if !VELM_IS_SANITIZED
+TEST_F(CaptureTest, LongRunsAreRepeatableAndStaySmall) {
+    constexpr long silentLimit = 32 * 1024;
+    constexpr long limit = 48 * 1024;
+    ASSERT_EQ(capture({"--frames", "20000", "--crc", path("first"), "--audio", path("wav")}), 0);
+    const long longRun = tool->peakKilobytes();
+    EXPECT_LT(longRun, limit);
+    ASSERT_EQ(capture({"--frames", "20000", "--crc", path("second")}), 0);
+    EXPECT_LT(tool->peakKilobytes(), silentLimit);
+    EXPECT_TRUE(contents(path("first")) == contents(path("second")));
+    ASSERT_EQ(capture({"--frames", "1000", "--crc", path("second"), "--audio", path("wav")}), 0);
+    EXPECT_LT(longRun - tool->peakKilobytes(), 512) << "memory grows with the frames";
+}
+#endif
 
 TEST_F(CaptureTest, AClosedPipeEndsItQuietly) {
     const std::string piped = "set -o pipefail; " + std::string(VELM_CAPTURE) +

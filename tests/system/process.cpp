@@ -82,6 +82,12 @@ bool Child::isRunning() {
     if (!ended && waitpid(pid, &status, WNOHANG) == pid) {
         ended = true;
     }
+    std::ifstream memory("/proc/" + std::to_string(pid) + "/status");
+    for (std::string word; !ended && memory >> word;) {
+        if (word == "VmHWM:") {
+            memory >> peak;
+        }
+    }
     return !ended;
 }
 

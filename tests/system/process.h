@@ -33,6 +33,8 @@ public:
 
     [[nodiscard]] std::string output() const { return contents(outputPath); }
     [[nodiscard]] std::string errors() const { return contents(errorPath); }
+    /// The most resident memory that it had when it was last seen running.
+    [[nodiscard]] long peakKilobytes() const { return peak; }
     [[nodiscard]] pid_t id() const { return pid; }
 
 private:
@@ -41,6 +43,7 @@ private:
     pid_t pid = -1;
     int status = -1;
     bool ended = false;
+    long peak = 0;
     std::string outputPath;
     std::string errorPath;
 };

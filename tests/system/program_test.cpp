@@ -87,6 +87,13 @@ TEST(Program, WithoutADisplayItSaysSoAndLeaves) {
     }
 }
 
+TEST(Program, OnADisplayWithoutChannelMasksItSaysSoAndLeaves) {
+    const XServer server("8");
+    Child demo({VELM_PROGRAM}, {{"DISPLAY", server.display()}});
+    EXPECT_EQ(demo.waitForExit(), 1);
+    EXPECT_EQ(demo.errors(), "velm4030: needs a TrueColor display, unlike \"" + server.display() + "\"\n");
+}
+
 TEST(Program, CarriesTheIdentificationRecordsOfItsModules) {
     std::ifstream file(VELM_PROGRAM, std::ios::binary);
     const std::string binary{std::istreambuf_iterator<char>(file), {}};

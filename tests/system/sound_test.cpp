@@ -132,6 +132,10 @@ TEST_F(SoundTest, TheBarIsHeardMutedAndHeardAgain) {
     session.press("0");
     EXPECT_TRUE(eventually([&] { return contains(read(recording, 0), stretch, heardSoFar); }))
         << "heard again";
+#if !VELM_IS_SANITIZED
+    EXPECT_TRUE(demo.isRunning());
+    EXPECT_LT(demo.peakKilobytes(), 48 * 1024);
+#endif
     session.press("Escape");
     EXPECT_EQ(demo.waitForExit(), 0);
 }

