@@ -2,39 +2,26 @@
 // SPDX-License-Identifier: MIT
 #include "effects/distx.h"
 #include "effects/disty.h"
-#include "effects/owned.h"
 #include "foundation/wrap.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
+#include "support/owned.h"
 
 namespace velm::test {
-
 namespace {
 
-/// The shift of row or column i, which is i + 1 steps into the wave.
+/// Every pixel by itself; row or column i is i + 1 steps into the wave.
 template <typename Dist>
-std::int32_t shiftOf(const Dist& dist, std::int32_t i) {
-    return (dist.amplitude * SINE_entry(dist.wave.phase + (i + 1) * dist.wave.offsetStep)) >> 16;
-}
-
-void plain(const DISTX& dist, IMG* target) {
-    for (std::int32_t r = 0; r < dist.source->height; ++r) {
-        for (std::int32_t c = 0; c < std::min(dist.source->width, target->width); ++c) {
-            if (const std::uint32_t pixel = IMG_getPixel(dist.source, c, r); pixel != 0) {
-                IMG_putPixel(target, positiveModulo(dist.x + shiftOf(dist, r) + c, target->width), dist.y + r,
-                             pixel);
-            }
-        }
-    }
-}
-
-void plain(const DISTY& dist, IMG* target) {
-    for (std::int32_t c = 0; c < dist.source->width; ++c) {
-        for (std::int32_t r = 0; r < std::min(dist.source->height, target->height); ++r) {
-            if (const std::uint32_t pixel = IMG_getPixel(dist.source, c, r); pixel != 0) {
-                IMG_putPixel(target, dist.x + c,
-                             positiveModulo(dist.y + shiftOf(dist, c) + r, target->height), pixel);
+void plain(const Dist& dist, IMG* target) {
+    constexpr bool isX = std::is_same_v<Dist, DISTX>;
+    for (std::int32_t r = 0; r < (isX ? dist.source->height : target->height); ++r) {
+        for (std::int32_t c = 0; c < (isX ? target->width : dist.source->width); ++c) {
+            const std::uint32_t pixel = IMG_getPixel(dist.source, c, r);
+            const std::int32_t angle = dist.wave.phase + ((isX ? r : c) + 1) * dist.wave.offsetStep;
+            const std::int32_t shift = (dist.amplitude * SINE_entry(angle)) >> 16;
+            const std::int32_t x = dist.x + c;
+            const std::int32_t y = dist.y + r;
+            if (pixel != 0) {
+                IMG_putPixel(target, isX ? positiveModulo(x + shift, target->width) : x,
+                             isX ? y : positiveModulo(y + shift, target->height), pixel);
             }
         }
     }
@@ -45,32 +32,31 @@ template <typename Dist>
 void expectPlain(Dist* dist, void (*draw)(Dist*, IMG*), void (*advance)(Dist*)) {
     EXPECT_EQ(dist->amplitude, 16);
     EXPECT_EQ(dist->wave.offsetStep, 16);
-    std::mt19937 random(5);
+    Images random(5);
     const Picture fast(noise(96, 40, 1));
     const Picture slow(noise(96, 40, 1));
+    dist->wave.speed = 25;
     for (const auto& [width, height] : {std::pair{96, 16}, {150, 60}, {1, 1}, {20, 3}}) {
         const Picture strip(noise(width, height, 2));
         dist->source = strip;
-        dist->wave.speed = 25;
         for (std::int32_t i = 0; i < 12; ++i) {
-            dist->x = static_cast<std::int32_t>(random() % 200) - 100;
-            dist->y = static_cast<std::int32_t>(random() % 80) - 40;
-            dist->amplitude = static_cast<std::int32_t>(random() % 300) - 20;
-            dist->wave.offsetStep = static_cast<std::int32_t>(random() % 40) - 5;
+            dist->x = random.number(-100, 100);
+            dist->y = random.number(-40, 40);
+            dist->amplitude = random.number(-20, 280);
+            dist->wave.offsetStep = random.number(-5, 35);
             draw(dist, fast);
             plain(*dist, slow);
-            ASSERT_EQ(firstDifference(fast, slow), "") << width << "x" << height << ", wave " << i;
+            ASSERT_EQ(difference(fast, slow), "") << width << "x" << height << ", wave " << i;
             advance(dist);
         }
     }
     EXPECT_EQ(dist->wave.phase, 48 * 25 % 1024);
 }
 
-} // namespace
-
 TEST(Dist, DrawAsThePlainRule) {
     expectPlain<DISTX>(Owned<DISTX, DISTX_delete>(DISTX_new()), DISTX_draw, DISTX_advance);
     expectPlain<DISTY>(Owned<DISTY, DISTY_delete>(DISTY_new()), DISTY_draw, DISTY_advance);
 }
 
+} // namespace
 } // namespace velm::test

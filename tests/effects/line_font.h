@@ -9,7 +9,7 @@
 #pragma once
 
 #include "effects/lfont.h"
-#include "effects/owned.h"
+#include "support/owned.h"
 #include "vector/objects.h"
 
 namespace velm::test {
@@ -46,11 +46,7 @@ private:
     static std::string fontText() {
         std::ostringstream text;
         for (std::int32_t code = 0; code <= '`'; ++code) {
-            if (code < ' ' || code == '?') {
-                text << "}\n"; // which closes nothing, an empty element
-            } else {
-                text << "{ c $" << std::hex << code << " s 0 0 0 0 }\n";
-            }
+            text << (code < ' ' || code == '?' ? "} #" : "{ c $") << std::hex << code << " s 0 0 0 0 }\n";
         }
         return text.str();
     }

@@ -5,17 +5,13 @@
 #include "foundation/sine.h"
 
 #include <cstdlib>
-#include <gtest/gtest.h>
 
 namespace velm::test {
-
 namespace {
 
-using Logo = Owned<LOGOFLY, LOGOFLY_delete>;
-
 /// A logo on row 30 of a pen's target.
-struct Stage {
-    Stage() {
+struct Logofly : testing::Test {
+    Logofly() {
         logo->pen = pen;
         logo->target = pen.target;
         logo->y = 30;
@@ -31,36 +27,26 @@ struct Stage {
     }
 
     PixelPen pen{64, 40};
-    Logo logo{LOGOFLY_new()};
+    Owned<LOGOFLY, LOGOFLY_delete> logo{LOGOFLY_new()};
 };
 
-} // namespace
-
-TEST(Logofly, LettersBounceOnTheirOwnPhases) {
-    const Stage stage;
-    stage.pen->angle = 99;
-    stage.pen->scale->x = 7;
-    stage.logo->x = 4;
-    stage.logo->phase = 300;
-    stage.logo->letterStep = 120;
-    stage.logo->amplitude = 25;
-    stage.logo->text = "A?Z\xC1"; // those without a glyph take their part of the wave all the same
-    LOGOFLY_draw(stage.logo);
-    EXPECT_EQ(stage.heightAt(4), (SINE_entry(300) * 25) >> 15);
-    EXPECT_EQ(stage.heightAt(5), (SINE_entry(540 & 511) * 25) >> 15);
-    EXPECT_EQ(stage.heightAt(6), -1);
-    EXPECT_EQ(stage.pen.font['B']->colour, 0xFFFFFFU);
+TEST_F(Logofly, LOGOFLY_bytesAreSigned) {
+    pen->angle = 99;
+    pen->scale->x = 7;
+    logo->x = 4;
+    logo->phase = 300;
+    logo->letterStep = 120;
+    logo->amplitude = 25;
+    logo->text = "A?Z\xC1"; // those without a glyph take their part of the wave all the same
+    LOGOFLY_draw(logo);
+    EXPECT_EQ(heightAt(4), (SINE_entry(300) * 25) >> 15);
+    EXPECT_EQ(heightAt(5), (SINE_entry(540 & 511) * 25) >> 15);
+    EXPECT_EQ(heightAt(6), -1);
+    EXPECT_EQ(pen.font['B']->colour, 0xFFFFFFU);
+    EXPECT_EQ(pen->character, 0xC1 - 256);
 }
 
-TEST(Logofly, LOGOFLY_bytesAreSigned) {
-    const Stage stage;
-    stage.logo->text = "\xC1";
-    LOGOFLY_draw(stage.logo);
-    EXPECT_EQ(stage.pen->character, 0xC1 - 256);
-}
-
-TEST(Logofly, AdvancesWithinHalfOrAllOfTheWave) {
-    const Logo logo(LOGOFLY_new());
+TEST_F(Logofly, AdvancesWithinHalfOrAllOfTheWave) {
     logo->speed = 12;
     logo->phase = 510, LOGOFLY_advance(logo);
     EXPECT_EQ(logo->phase, 10);
@@ -70,41 +56,40 @@ TEST(Logofly, AdvancesWithinHalfOrAllOfTheWave) {
     EXPECT_EQ(logo->phase, 8);
 }
 
-TEST(Logofly, LOGOFLY_targetIsOnlyTested) {
-    const Stage stage;
+TEST_F(Logofly, LOGOFLY_targetIsOnlyTested) {
     const Picture elsewhere(IMG_newSized(64, 40));
     const std::string text(50, 'X');
-    stage.logo->target = elsewhere;
-    stage.logo->text = text.c_str();
-    stage.logo->amplitude = 0;
-    LOGOFLY_draw(stage.logo);
-    EXPECT_EQ(firstDifference(elsewhere, Picture(IMG_newSized(64, 40))), "");
-    EXPECT_EQ(stage.heightAt(39), 0);
-    EXPECT_EQ(stage.heightAt(40), -1); // 40 letters at most
+    logo->target = elsewhere;
+    logo->text = text.c_str();
+    logo->amplitude = 0;
+    LOGOFLY_draw(logo);
+    EXPECT_EQ(difference(elsewhere, Picture(IMG_newSized(64, 40))), "");
+    EXPECT_EQ(heightAt(39), 0);
+    EXPECT_EQ(heightAt(40), -1); // 40 letters at most
 }
 
-TEST(Logofly, LOGOFLY_cloneLeavesPlace) {
-    const Stage stage;
-    stage.logo->x = 96;
-    stage.logo->colour = 0x00FF00;
-    stage.logo->text = "OTHER";
+TEST_F(Logofly, LOGOFLY_cloneLeavesPlace) {
+    logo->x = 96;
+    logo->colour = 0x00FF00;
+    logo->text = "OTHER";
     srandom(4);
-    const Logo clone(LOGOFLY_clone(stage.logo));
+    const Owned<LOGOFLY, LOGOFLY_delete> clone(LOGOFLY_clone(logo));
     const long after = random();
-    EXPECT_EQ(LOGOFLY_equals(stage.logo, clone), 1);
+    EXPECT_EQ(LOGOFLY_equals(logo, clone), 1);
     EXPECT_EQ(clone->x, 0);
     EXPECT_EQ(clone->colour, 0x00FF00U);
+    LOGOFLY_copy(logo, clone);
+    EXPECT_EQ(clone->x, 96);
+    EXPECT_STREQ(clone->text, "VELM");
     srandom(4);
     LOGOFLY_randomize(clone);
-    EXPECT_EQ(random(), after);
-    EXPECT_EQ(LOGOFLY_equals(stage.logo, clone), 0);
+    EXPECT_EQ(LOGOFLY_equals(logo, clone), 0);
     srandom(4);
     EXPECT_EQ(clone->speed, random() % 24 + 8);
     EXPECT_EQ(clone->letterStep, random() % 8 + 1);
     EXPECT_EQ(clone->amplitude, random() % 100 + 16);
-    LOGOFLY_copy(stage.logo, clone);
-    EXPECT_EQ(clone->x, 96);
-    EXPECT_STREQ(clone->text, "VELM");
+    EXPECT_EQ(random(), after);
 }
 
+} // namespace
 } // namespace velm::test

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/dir.h"
-
-#include <gtest/gtest.h>
+#include "support/capture_stdout.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <dirent.h>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -30,8 +30,14 @@ TEST(Dir, DIR_deleteKeepsTheNames) {
     EXPECT_EQ(DIR_read(dir, (folder + "/missing").c_str()), 0);
     LIST* names = dir->names;
     auto* stream = static_cast<::DIR*>(dir->handle);
+    EXPECT_STREQ(DIR_getName(dir), "");
+    EXPECT_EQ(DIR_same(dir, dir) + DIR_isValid(dir), 2);
     DIR_delete(&dir);
     EXPECT_EQ(dir, nullptr);
+    DIR_verbose = 1;
+    EXPECT_EQ(printedBy([] { EXPECT_EQ(DIR_isValid(nullptr) + DIR_same(nullptr, nullptr), 0); }),
+              "DIR error\nDIR error\n");
+    DIR_verbose = 0;
 
     std::vector<std::string> read;
     for (std::int32_t i = 0; i < names->count; ++i) {

@@ -65,6 +65,11 @@ TEST_F(ListTest, InsertsAndRemovesAtBothEndsAndBetween) {
     EXPECT_EQ(list->items[3], &letters[2]) << "the slots that a range frees are not";
     EXPECT_EQ(LIST_pop(list), &letters[2]);
     EXPECT_EQ(textOf(list), "a");
+    LIST_setCount(list, 9);
+    EXPECT_EQ(list->capacity, 9);
+    LIST_setCount(list, 1);
+    EXPECT_EQ(textOf(list), "a");
+    EXPECT_EQ(list->capacity, 9) << "a list never shrinks by itself";
 }
 
 TEST_F(ListTest, RangesMoveBetweenListsAndIntoThemselves) {
@@ -73,6 +78,8 @@ TEST_F(ListTest, RangesMoveBetweenListsAndIntoThemselves) {
     EXPECT_EQ(textOf(list), "abefc");
     LIST_insertRange(list, list, 0, 3, 1);
     EXPECT_EQ(textOf(list), "aabebefc");
+    LIST_insertRange(other, other, 2, 4, 0);
+    EXPECT_EQ(textOf(other), "fgdefg") << "the source lies behind the gap";
     LIST* slice = LIST_slice(list, 2, 5);
     EXPECT_EQ(textOf(slice), "beb");
     LIST* clone = LIST_clone(list);
@@ -80,6 +87,9 @@ TEST_F(ListTest, RangesMoveBetweenListsAndIntoThemselves) {
     LIST_set(clone, 7, letters);
     EXPECT_EQ(LIST_equal(list, clone), 0);
     EXPECT_EQ(LIST_indexOf(clone, &letters[4]), 3);
+    EXPECT_EQ(LIST_indexOf(clone, &letters[7]), -1);
+    LIST_setCount(clone, 7);
+    EXPECT_EQ(LIST_equal(list, clone) + LIST_equal(clone, list), 0) << "only the counts differ";
     for (LIST* doomed : {other, slice, clone}) {
         LIST_delete(&doomed);
     }
@@ -87,19 +97,28 @@ TEST_F(ListTest, RangesMoveBetweenListsAndIntoThemselves) {
 
 TEST_F(ListTest, ReportsWhatIsOutsideAndChangesNothing) {
     LIST_verbose = 1;
-    const std::string output = printedBy([this] {
+    LIST* empty = LIST_new();
+    LIST* none = nullptr;
+    const std::string output = printedBy([&] {
         EXPECT_EQ(LIST_get(list, 3), nullptr);
         EXPECT_EQ(LIST_get(list, -1), nullptr);
         EXPECT_EQ(LIST_indexOf(list, nullptr), -1);
+        EXPECT_EQ(LIST_pop(empty), nullptr);
+        LIST_delete(nullptr);
+        LIST_delete(&none);
+        LIST_setCount(list, -1);
+        LIST_set(list, 3, letters);
         LIST_insert(list, letters, 4);
         LIST_removeRange(list, 2, 2);
         LIST_remove(nullptr, 0);
         EXPECT_EQ(LIST_setCapacity(list, 2), 0);
         EXPECT_EQ(LIST_slice(list, 0, 4), nullptr);
     });
-    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 8);
+    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 13);
     EXPECT_EQ(output.substr(0, 11), "LIST error\n");
     EXPECT_EQ(textOf(list), "abc");
+    EXPECT_EQ(list->items[3], nullptr);
+    LIST_delete(&empty);
 }
 
 TEST_F(ListTest, RunningOutOfMemoryKeepsTheElements) {
@@ -111,8 +130,16 @@ TEST_F(ListTest, RunningOutOfMemoryKeepsTheElements) {
     EXPECT_EQ(textOf(list), "abcd");
     for (const int nth : {1, 2}) {
         const FailingAllocation failure(nth);
-        EXPECT_EQ(LIST_new(), nullptr);
+        LIST_verbose = 1;
+        EXPECT_EQ(printedBy([] { EXPECT_EQ(LIST_new(), nullptr); }), "LIST error\n");
     }
+}
+
+TEST(Identity, WordsArePaddedWithSpaces) {
+    EXPECT_STREQ(LIST_identity.module, "LIST    ");
+    EXPECT_STREQ(LIST_identity.second, "20150611");
+    EXPECT_STREQ(LIST_identity.fourth, "C       ");
+    EXPECT_STREQ(LIST_identity.fifth, "CODE    ");
 }
 
 } // namespace

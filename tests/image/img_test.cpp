@@ -3,9 +3,7 @@
 #include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
-#include "support/allocation.h"
-#include "support/capture_stdout.h"
-#include "support/images.h"
+#include "support/owned.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -48,8 +46,8 @@ TEST_F(ImgTest, IMG_lineRoundsEarly) {
 }
 
 TEST_F(ImgTest, LinesThatLeaveTheImageEqualLinesInside) {
-    IMG* large = IMG_newSized(64, 64);
-    IMG* window = IMG_new();
+    const Picture large(IMG_newSized(64, 64));
+    const Picture window(IMG_new());
     for (std::uint32_t seed = 1; seed <= 500; ++seed) {
         Images images(seed);
         const auto place = [&images] { return images.number(0, 63); };
@@ -62,8 +60,6 @@ TEST_F(ImgTest, LinesThatLeaveTheImageEqualLinesInside) {
         IMG_blit(large, window, 20, 20, 0, 0, 16, 16);
         ASSERT_EQ(difference(img, window), "") << "seed " << seed;
     }
-    IMG_delete(&large);
-    IMG_delete(&window);
 }
 
 TEST_F(ImgTest, PixelsOutsideAreIgnored) {
@@ -79,48 +75,82 @@ TEST_F(ImgTest, PixelsOutsideAreIgnored) {
 }
 
 TEST_F(ImgTest, DrawCopiesToItsOwnPlace) {
-    IMG* sprite = IMG_newSized(2, 1);
+    const Picture sprite(IMG_newSized(2, 1));
     IMG_fill(sprite, 5);
     sprite->x = 15;
     sprite->y = 2;
     IMG_draw(sprite, img);
     EXPECT_EQ(lit(), "15,2 ");
-    IMG_delete(&sprite);
+    const Picture clone(IMG_clone(sprite));
+    EXPECT_EQ(difference(clone, sprite), "");
+    EXPECT_EQ(clone->x + clone->y, 0) << "a clone does not take the place along";
 }
 
 TEST_F(ImgTest, FailuresAreReportedAndChangeNothing) {
     IMG_verbose = 1;
-    IMG* other = IMG_newSized(3, 3);
+    const Picture other(IMG_newSized(3, 3));
     IMG_fill(other, 9);
     const std::string output = printedBy([&] {
         IMG_copy(other, img);
         IMG_setSize(img, -1, 4);
         IMG_setSize(img, 0x7FFFFFFF, 0x7FFFFFFF);
-        IMG_copyRowWrapped(other, img, 3, 0, 0);
-        IMG_copyColumnWrapped(other, img, 0, 16, 0);
-        IMG_fill(nullptr, 1);
+        for (const auto& [from, onto] : {std::pair(3, 0), {-1, 0}, {0, 16}, {0, -1}}) {
+            IMG_copyRowWrapped(other, img, from, onto, 0);
+            IMG_copyColumnWrapped(other, img, from, onto, 0);
+        }
         const FailingAllocation failure(1);
         IMG_setSize(img, 4, 4);
     });
-    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 7);
+    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 12);
     EXPECT_EQ(img->width, 16);
     EXPECT_EQ(lit(), "");
-    IMG_delete(&other);
     for (const int nth : {1, 2}) {
         const FailingAllocation failure(nth);
-        EXPECT_EQ(IMG_new(), nullptr);
+        EXPECT_EQ(printedBy([] { EXPECT_EQ(IMG_new(), nullptr); }), "IMG error\n");
     }
+    EXPECT_EQ(printedBy([this] { IMG_setSize(img, 5, 0); }), "");
+    EXPECT_EQ(img->width, 5);
+    EXPECT_EQ(img->height, 0);
+}
+
+TEST_F(ImgTest, MissingImagesAreReportedByTheirModule) {
+    IMG_verbose = 1;
+    IMGFX_verbose = 1;
+    const struct {
+        void (*call)(IMG*);
+        const char* report;
+    } cases[] = {
+        {[](IMG*) { IMG_fill(nullptr, 1); }, "IMG error\n"},
+        {[](IMG*) { IMG_putPixel(nullptr, 0, 0, 1); }, "IMG error\n"},
+        {[](IMG*) { EXPECT_EQ(IMG_getPixel(nullptr, 0, 0), 0U); }, "IMG error\n"},
+        {[](IMG* some) { IMG_blit(some, nullptr, 0, 0, 0, 0, 1, 1); }, "IMG error\n"},
+        {[](IMG* some) { IMG_blit(nullptr, some, 0, 0, 0, 0, 1, 1); }, "IMG error\n"},
+        {[](IMG* some) { IMG_andMask(some, nullptr); }, "IMG error\n"},
+        {[](IMG* some) { EXPECT_EQ(IMG_equal(some, nullptr), 0); }, "IMG error\n"},
+        {[](IMG*) { EXPECT_EQ(IMG_findAfter(nullptr, "a"), 0); }, "IMG error\n"},
+        {[](IMG*) { EXPECT_EQ(IMG_findAfter("a", nullptr), 0); }, "IMG error\n"},
+        {[](IMG*) { IMGFX_invert(nullptr); }, "IMGFX error\n"},
+        {[](IMG* some) { IMGFX_addBlit(some, nullptr, 0, 0, 0, 0, 1, 1); }, "IMGFX error\n"},
+        {[](IMG* some) { IMGFX_averageBlit(nullptr, some, 0, 0, 0, 0, 1, 1); }, "IMGFX error\n"},
+        {[](IMG* some) { IMGFX_blur(some, nullptr); }, "IMGFX error\n"},
+        {[](IMG* some) { IMGFX_blur(some, some); }, "IMGFX error\n"},
+        {[](IMG* some) { IMGFX_glare(some, some, 1); }, "IMGFX error\n"},
+    };
+    IMG_putPixel(img, 8, 8, 0xFFFFFF);
+    for (const auto& [call, report] : cases) {
+        EXPECT_EQ(printedBy([&, run = call] { run(img); }), report);
+    }
+    EXPECT_EQ(lit(), "8,8 ");
 }
 
 TEST_F(ImgTest, IMG_equalReportsSuccess) {
     IMG_verbose = 1;
-    IMG* twin = IMG_clone(img);
+    const Picture twin(IMG_clone(img));
     EXPECT_EQ(printedBy([&] { EXPECT_EQ(IMG_equal(img, twin), 1); }), "IMG error\n");
     twin->pixels[255] = 1;
     EXPECT_EQ(printedBy([&] { EXPECT_EQ(IMG_equal(img, twin), 0); }), "");
     IMG_setSize(twin, 8, 32);
     EXPECT_EQ(printedBy([&] { EXPECT_EQ(IMG_equal(img, twin), 0); }), "");
-    IMG_delete(&twin);
 }
 
 TEST_F(ImgTest, IMG_fillRectReportsAsImgfx) {
@@ -143,10 +173,14 @@ TEST(Rgb888, MixesAndAdjusts) {
     EXPECT_EQ(RGB888_adjust(0x808080, -16), 0x707070U);
     EXPECT_EQ(RGB888_adjust(0x808080, 16), 0x909090U);
     EXPECT_EQ(RGB888_adjust(0x808080, -256), 0x808080U);
+    EXPECT_EQ(RGB888_adjust(0xFFD010, -200), 0x370800U);
     EXPECT_EQ(RGB888_swapBR(0x123456), 0x563412U);
     std::uint8_t bytes[3];
     RGB888_toBytes(0x123456, bytes);
     EXPECT_EQ(RGB888_fromBytes(bytes[0], bytes[1], bytes[2]), 0x123456U);
+    RGB888_verbose = 1;
+    EXPECT_EQ(printedBy(RGB888_error), "RGB888 error\n");
+    RGB888_verbose = 0;
 }
 
 } // namespace

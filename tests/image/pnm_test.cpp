@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "image/img.h"
 #include "support/allocation.h"
+#include "support/capture_stdout.h"
 #include "support/images.h"
 
 #include <cstdlib>
@@ -16,12 +17,21 @@
 namespace velm::test {
 namespace {
 
-/// Decodes exactly these bytes: they stand at the end of a heap block of their own, so that a sanitizer sees
-/// a read past them.
-IMG* decode(const std::string& bytes) {
+/// Calls a reader with exactly these bytes: they stand at the end of a heap block of their own, so that a
+/// sanitizer sees a read past them.
+template <typename Read>
+IMG* fromBlock(const std::string& bytes, Read read) {
     const auto block = std::make_unique<char[]>(bytes.size());
     std::memcpy(block.get(), bytes.data(), bytes.size());
-    return IMG_fromPNM(block.get(), bytes.size());
+    return read(block.get());
+}
+
+IMG* decode(const std::string& bytes) {
+    return fromBlock(bytes, [&](const char* block) { return IMG_fromPNM(block, bytes.size()); });
+}
+
+IMG* decodeUnsized(const std::string& bytes) {
+    return fromBlock(bytes, [](const char* block) { return IMG_fromPNM(block); });
 }
 
 /// The size and the pixels as text, or "none".
@@ -39,18 +49,52 @@ std::string described(IMG* img) {
     return text;
 }
 
+/// What a reader prints that gives no image.
+template <typename Read>
+std::string reportOf(Read read) {
+    IMG_verbose = 1;
+    const std::string output = printedBy([&] { EXPECT_EQ(described(read()), "none"); });
+    IMG_verbose = 0;
+    return output;
+}
+
 std::string decoded(const std::string& bytes) {
     return described(decode(bytes));
 }
 
-TEST(Pnm, ReadsAllSixTypes) {
-    EXPECT_EQ(decoded("P2\n2 1\n255\n7 128 "), "2x1: 070707 808080");
-    EXPECT_EQ(decoded("P3 1 2 255 1 2 3 4,5,6"), "1x2: 010203 040506");
-    EXPECT_EQ(decoded("P5 2 1 255\n\x80\xFF"), "2x1: 808080 FFFFFF");
-    EXPECT_EQ(decoded("P6\n# a comment\n1 1\n# and another\n255\nabc"), "1x1: 616263");
+TEST(Pnm, ReadsAllSixTypesAndRefusesThemCutShort) {
+    const std::string pictures[][2] = {
+        {"P1 8 1 00000001", "8x1: 000000 000000 000000 000000 000000 000000 000000 FFFFFF"},
+        {"P2\n2 1\n255\n7 8", "2x1: 070707 080808"},
+        {"P3 1 2 255 1 2 3 4,5,6", "1x2: 010203 040506"},
+        {"P4 8 1\n\x01", "8x1: 000000 000000 000000 000000 000000 000000 000000 FFFFFF"},
+        {std::string("P5 2 1 255\n\0\x80", 13), "2x1: 000000 808080"},
+        {"P6\n# a comment\n1 1\n# and another\n255\nabc", "1x1: 616263"}};
+    for (const auto& [bytes, expected] : pictures) {
+        const bool isText = bytes[1] <= '3';
+        EXPECT_EQ(decoded(bytes), expected);
+        EXPECT_EQ(described(decodeUnsized(isText ? bytes + '\0' : bytes)), expected);
+        for (std::size_t length = 0; length < bytes.size(); ++length) {
+            const std::string part = bytes.substr(0, length);
+            EXPECT_EQ(reportOf([&] { return decode(part); }), "IMG error\n") << part;
+            if (isText) {
+                EXPECT_EQ(reportOf([&] { return decodeUnsized(part + '\0'); }), "IMG error\n") << part;
+            }
+        }
+    }
+}
+
+TEST(Pnm, HeaderTokens) {
     EXPECT_EQ(decoded("P6 1 1 255#abc"), "1x1: 616263") << "the separator is not looked at";
-    EXPECT_EQ(described(IMG_fromPNM("P3 1 1 255 1 2 3")), "1x1: 010203");
-    EXPECT_EQ(described(IMG_fromPNM("P5 1 1 255\n\x80")), "1x1: 808080");
+    EXPECT_EQ(decoded("P5\x80\xFF\x7F 1 1 255\na"), "1x1: 616161") << "only printable bytes make tokens";
+    EXPECT_EQ(decoded("P5 1 1 Pa"), "1x1: 616161") << "a second P is a number without digits";
+    EXPECT_EQ(decoded("9 1 P4\n\x80\x80").substr(0, 4), "9x1:") << "a width before the type is not rounded";
+}
+
+TEST(Pnm, IMG_maximumIgnored) {
+    EXPECT_EQ(decoded("P2 1 1 15 15 "), "1x1: 0F0F0F");
+    EXPECT_EQ(decoded("P3 1 1 65535 1 2 3"), "1x1: 010203");
+    EXPECT_EQ(decoded("P5 1 1 1\n\x01"), "1x1: 010101");
 }
 
 TEST(Pnm, IMG_bitmapSetIsWhite) {
@@ -66,40 +110,28 @@ TEST(Pnm, IMG_bitmapWidthRoundsUp) {
     EXPECT_EQ(IMG_getPixel(img, 15, 0), 0xFFFFFFU) << "fill bits are pixels";
     EXPECT_EQ(IMG_getPixel(img, 8, 0), 0U);
     IMG_delete(&img);
+    EXPECT_EQ(decoded("P1 1 1 10000000").substr(0, 11), "8x1: FFFFFF");
 }
 
 TEST(Pnm, IMG_samplesSpill) {
     EXPECT_EQ(decoded("P2 1 1 9 257 "), "1x1: 1010101");
+    EXPECT_EQ(decoded("P2 2 1 255 65536 4294967297"), "2x1: 1010000 010101") << "modulo 2^32";
     EXPECT_EQ(decoded("P3 1 1 255 0 256 1 "), "1x1: 010001");
 }
 
-TEST(Pnm, RefusesWhatIsMalformedCutShortOrHostile) {
-    for (const std::string bytes : {"",
-                                    "P",
-                                    "P6",
-                                    "P7 1 1 255 abc",
-                                    "P0 1 1",
-                                    "P6 0 1 255\nabc",
-                                    "P6 1 0 255\nabc",
-                                    "P6 2 1 255\nabcde",
-                                    "P5 1 1 255",
-                                    "P5 1 1 255\n",
-                                    "P4 9 1\n\x01",
-                                    "P1 8 1 0101010",
-                                    "P2 2 1 255 7",
-                                    "P3 1 1 255 1 2",
-                                    "P6 65536 65536 255\nabc",
-                                    "P6 4294967297 1 255\nabc",
-                                    "P6 99999999999999999999 9 255\nabc",
-                                    "P6 1 1 # x",
-                                    "1 1 255 x P6",
-                                    "P5 PP 1 1 255 a",
-                                    "P6 2147483647 2147483647 255\nabc"}) {
-        EXPECT_EQ(decoded(bytes), "none") << bytes;
+TEST(Pnm, RefusesWhatIsMalformedOrHostile) {
+    for (const char* bytes :
+         {"P7 1 1 255 abc", "P0 1 1", "P6 0 1 255\nabc", "P6 1 0 255\nabc", "P6 65536 65536 255\nabc",
+          "P6 4294967297 1 255\nabc", "1 1 255 x P6", "P6 99999999999999999999 9 255\nabc", "P5 PP 1 1 255 a",
+          "P6 2147483647 2147483647 255\nabc"}) {
+        EXPECT_EQ(reportOf([&] { return decode(bytes); }), "IMG error\n") << bytes;
     }
-    EXPECT_EQ(described(IMG_fromPNM("P2 2 1 255 7")), "none");
-    EXPECT_EQ(described(IMG_fromPNM("P6 1")), "none");
-    EXPECT_EQ(described(IMG_fromPNM(nullptr)), "none");
+    EXPECT_EQ(reportOf([] { return decodeUnsized({"P6 1 1 255", 11}); }), "IMG error\n");
+    EXPECT_EQ(reportOf([] { return IMG_fromPNM(nullptr); }), "IMG error\n");
+    for (const int nth : {1, 2}) {
+        const FailingAllocation failure(nth);
+        EXPECT_EQ(reportOf([] { return IMG_fromPNM("P2 1 1 255 7"); }), "IMG error\n");
+    }
 }
 
 TEST(Pnm, RandomBytesNeverCrash) {
@@ -148,6 +180,10 @@ TEST_F(PnmFile, WritesP6ToTheByte) {
     EXPECT_EQ(IMG_writePPM(img, path("missing/a.ppm").c_str()), 0);
     if (std::filesystem::exists("/dev/full")) {
         EXPECT_EQ(IMG_writePPM(img, "/dev/full"), 0);
+    }
+    for (const auto& [width, height] : {std::pair(0, 3), {3, 0}}) {
+        IMG_setSize(img, width, height);
+        EXPECT_EQ(IMG_writePPM(img, path("a.ppm").c_str()), 0);
     }
     IMG_delete(&img);
 }
@@ -205,13 +241,14 @@ TEST(Text, DumpsSixPixelsALineAndReadsThemBack) {
         IMG_delete(&img);
         IMG_delete(&back);
     }
+    EXPECT_EQ(described(IMG_fromText("IMG{P3\n1 1\n9\n4294967297 18446744073709551618 3}")), "1x1: 010203");
 }
 
 TEST(Text, RefusesWhatIsCutShortOrHostile) {
     for (const char* text :
          {"", "IMG", "IMG{}", "IMG{\nP3\n1 1\n255\n 10  11 }", "IMG{P3\n99999 99999\n255\n1 2 3}",
           "IMG{P3\n1 2147483647\n255\n1 2 3}", "IMG{P3\n99999999999999999999 1\n1\n1 2 3}"}) {
-        EXPECT_EQ(described(IMG_fromText(text)), "none") << text;
+        EXPECT_EQ(reportOf([&] { return IMG_fromText(text); }), "IMG error\n") << text;
     }
 }
 

@@ -14,8 +14,8 @@ std::uint32_t Images::pixel() {
 }
 
 IMG* Images::image() {
-    const std::int32_t width = number(1, 40);
-    return image(width, number(1, 40));
+    const std::int32_t width = number(0, 40);
+    return image(width, number(0, 40));
 }
 
 IMG* Images::image(std::int32_t width, std::int32_t height) {

@@ -27,7 +27,7 @@ public:
     /// A pixel: often black, white or one full channel, where carries and transparency go wrong.
     std::uint32_t pixel();
 
-    /// A new image of random pixels; at least one pixel and at most 40 each way.
+    /// A new image of random pixels, at most 40 each way; now and then it is empty.
     IMG* image();
     IMG* image(std::int32_t width, std::int32_t height);
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "support/allocation.h"
-#include "support/capture_stdout.h"
+#include "support/owned.h"
 #include "vector/cursor.h"
 
 #include <limits>
@@ -28,18 +27,12 @@ TEST(Cursor, WrapsAtBothEnds) {
 }
 
 TEST(Cursor, ReportsWhatItCannotWalk) {
-    CURSOR_verbose = 1;
     CURSOR empty{.index = 3, .step = 1, .elementSize = 1, .count = 0, .base = nullptr, .savedIndex = 0};
-    EXPECT_EQ(printedBy([&] {
-                  CURSOR_advance(&empty);
-                  EXPECT_EQ(CURSOR_current(&empty), nullptr);
-                  CURSOR_restore(nullptr);
-                  const FailingAllocation next(1);
-                  EXPECT_EQ(CURSOR_new(), nullptr);
-              }),
-              "CURSOR Error.\nCURSOR Error.\nCURSOR Error.\nCURSOR Error.\n");
+    expectReports(CURSOR_verbose, 4, "CURSOR Error.", [&] {
+        CURSOR_advance(&empty), CURSOR_restore(nullptr), expectFailure(1, CURSOR_new);
+        EXPECT_EQ(CURSOR_current(&empty), nullptr);
+    });
     EXPECT_EQ(empty.index, 3);
-    CURSOR_verbose = 0;
 }
 
 } // namespace velm::test

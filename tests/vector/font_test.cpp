@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "image/rgb888.h"
-#include "support/capture_stdout.h"
+#include "support/owned.h"
 #include "vector/font.h"
 
-#include <random>
-#include <string>
-
 namespace velm::test {
-
 namespace {
 
 /// A pen over a sheet whose pixel n is n + 1, drawing into a black target.
@@ -19,16 +15,9 @@ struct Pen {
         for (std::int32_t i = 0; i < sheetWidth * sheetHeight; ++i) {
             sheet->pixels[i] = static_cast<std::uint32_t>(i) + 1;
         }
-        *font = {
+        *static_cast<FONT*>(font) = {
             .x = 0, .y = 0, .width = cell, .height = cell, .character = 0, .image = sheet, .target = target};
     }
-    ~Pen() {
-        FONT_delete(&font);
-        IMG_delete(&target);
-    }
-    Pen(const Pen&) = delete;
-    Pen& operator=(const Pen&) = delete;
-
     /// What stands in a row of the target when each cell is one pixel wide, '.' where nothing was drawn.
     [[nodiscard]] std::string row(std::int32_t y) const {
         std::string text;
@@ -39,12 +28,10 @@ struct Pen {
         return text;
     }
 
-    FONT* font;
-    IMG* target;
+    Owned<FONT, FONT_delete> font;
+    Picture target;
     IMG* sheet; ///< the font's own
 };
-
-} // namespace
 
 TEST(Font, FindsTheCellOfACode) {
     const auto firstPixel = [](std::int32_t sheetWidth, std::int32_t sheetHeight, std::int32_t code) {
@@ -63,40 +50,35 @@ TEST(Font, FindsTheCellOfACode) {
 }
 
 TEST(Font, WritesNumbersAndText) {
-    const auto written = [](auto write) {
-        const Pen pen(256, 1, 1, 11);
-        write(pen.font);
-        return pen.row(0) + pen.row(1);
-    };
-    const std::string blank(11, '.');
-    EXPECT_EQ(written([](FONT* f) { FONT_drawHexByte(f, 0xAF); }), "AF........." + blank);
-    EXPECT_EQ(written([](FONT* f) { FONT_drawHexWord(f, 0x09A0); }), "09A0......." + blank);
-    EXPECT_EQ(written([](FONT* f) { FONT_drawHexLong(f, 0xFEDC1234); }), "FEDC1234..." + blank);
-    EXPECT_EQ(written([](FONT* f) { FONT_drawDecimal(f, 7); }), "0000000007." + blank);
-    EXPECT_EQ(written([](FONT* f) { FONT_drawDecimal(f, 4294967295U); }), "4294967295." + blank);
-    EXPECT_EQ(written([](FONT* f) { FONT_drawString(f, "\xE9!\nC"); }), "\xE9!........." + blank);
-    EXPECT_EQ(written([](FONT* f) {
-                  IMG_putPixel(f->image, '_', 0, 0);
-                  FONT_drawString(f, "XXXXX");
-                  f->x = 2;
-                  FONT_drawText(f, "\xE9_\nC");
-              }),
-              "XX\xE9.X......"
-              "..C........");
+    const Pen pen(256, 1, 1, 11);
+    FONT* const f = pen.font;
+    const auto goTo = [f](std::int32_t x, std::int32_t y) { f->x = x, f->y = y; };
+    goTo(0, 0), FONT_drawHexByte(f, 0xAF), FONT_drawHexWord(f, 0x09A0);
+    goTo(0, 1), FONT_drawHexLong(f, 0xFEDC1234);
+    goTo(0, 2), FONT_drawDecimal(f, 7);
+    goTo(0, 3), FONT_drawDecimal(f, 4294967295U);
+    goTo(0, 4), FONT_drawString(f, "\xE9!\nC");
+    IMG_putPixel(f->image, '_', 0, 0);
+    goTo(0, 5), FONT_drawString(f, "XXXXX");
+    goTo(2, 5), FONT_drawText(f, "\xE9_\nC");
+    const char* const expected[] = {"AF09A0.....",    "FEDC1234...",    "0000000007.", "4294967295.",
+                                    "\xE9!.........", "XX\xE9.X......", "..C........"};
+    for (std::int32_t y = 0; y < 7; ++y) {
+        EXPECT_EQ(pen.row(y), expected[y]);
+    }
 }
 
 TEST(Font, CopiesMatchThePlainRule) {
     constexpr void (*draw[3])(FONT*) = {FONT_drawChar, FONT_drawCharVariant1, FONT_drawCharVariant2};
-    std::mt19937 random(4030);
-    const auto below = [&](std::int32_t n) { return static_cast<std::int32_t>(random() >> 1) % n; };
+    Images random(4030);
+    const auto below = [&random](std::int32_t n) { return random.number(0, n - 1); };
     for (int round = 0; round < 300; ++round) {
         const Pen pen(1 + below(20), below(20), 1 + below(9), 1 + below(20));
-        for (std::int32_t i = 0; i < pen.sheet->width * pen.sheet->height; ++i) {
-            pen.sheet->pixels[i] = static_cast<std::uint32_t>(below(3) * below(0x800000));
-        }
+        std::generate_n(pen.sheet->pixels, pen.sheet->width * pen.sheet->height,
+                        [&] { return random.pixel(); });
         IMG_fill(pen.target, 0x808182);
-        IMG* plain = IMG_clone(pen.target);
-        FONT& font = *pen.font;
+        const Picture plain(IMG_clone(pen.target));
+        FONT& font = *static_cast<FONT*>(pen.font);
         font.height = 1 + below(9);
         font.character = below(12);
         font.x = below(30) - 10;
@@ -115,8 +97,7 @@ TEST(Font, CopiesMatchThePlainRule) {
             }
         }
         draw[round % 3](&font);
-        EXPECT_EQ(IMG_equal(pen.target, plain), 1) << "round " << round;
-        IMG_delete(&plain);
+        ASSERT_EQ(difference(pen.target, plain), "") << "round " << round;
     }
 }
 
@@ -137,23 +118,17 @@ TEST(Font, BigGlyphsAreMosaicsOfSmallOnes) {
 }
 
 TEST(Font, PensThatCannotDrawAreReported) {
-    FONT_verbose = 1;
-    const std::string once = "FONT Error.\n";
     const Pen other(8, 1, 1, 1);
-    FONT* pen = FONT_new();
+    const Owned<FONT, FONT_delete> pen(FONT_new());
     pen->image = IMG_newSized(0, 5);
-    for (FONT* font : {static_cast<FONT*>(nullptr), pen}) {
-        EXPECT_EQ(printedBy([&] { FONT_drawChar(font); }), once);
-        EXPECT_EQ(printedBy([&] { FONT_drawHexLong(font, 1); }), once);
-        EXPECT_EQ(printedBy([&] { FONT_drawDecimal(font, 1); }), once);
-        EXPECT_EQ(printedBy([&] { FONT_drawText(font, "A"); }), once);
-        EXPECT_EQ(printedBy([&] { FONT_drawBig(other.font, font); }), once);
+    for (FONT* font : {static_cast<FONT*>(nullptr), static_cast<FONT*>(pen)}) {
+        expectReports(FONT_verbose, 5, "FONT Error.", [&] {
+            FONT_drawChar(font), FONT_drawHexLong(font, 1), FONT_drawDecimal(font, 1);
+            FONT_drawText(font, "A"), FONT_drawBig(other.font, font);
+        });
     }
-    EXPECT_EQ(pen->x + pen->character, 0);
-    FONT_delete(&pen);
-    EXPECT_EQ(printedBy([&] { FONT_drawString(pen, "A"); }), once);
-    EXPECT_EQ(printedBy([&] { FONT_drawString(other.font, nullptr); }), once);
-    FONT_verbose = 0;
+    expectReports(FONT_verbose, 1, "FONT Error.", [&] { FONT_drawString(other.font, nullptr); });
 }
 
+} // namespace
 } // namespace velm::test

@@ -10,7 +10,6 @@
 #include <string_view>
 
 namespace velm::test {
-
 namespace {
 
 std::string parsed(const std::string& text) {
@@ -42,8 +41,6 @@ std::string randomText(std::mt19937& random) {
     return text;
 }
 
-} // namespace
-
 TEST(Obj2dParse, ReadsAFontText) {
     EXPECT_EQ(
         parsed(
@@ -55,13 +52,12 @@ TEST(Obj2dParse, ReadsAFontText) {
 TEST(Obj2dParse, ColoursGoOnUntilTheNext) {
     EXPECT_EQ(parsed("{\ncolor $FF0000\ns 0 0 - 5 5\n}\n{ s 1 1 color $00ff7f 2 2 }\n"),
               "{0,0,ff0000 -5,5,ff0000 }{1,1,ff0000 2,2,ff7f }");
-    EXPECT_EQ(colour("5 $456 $789"), "456");
-    EXPECT_EQ(colour("xAbC"), "abc");
-    EXPECT_EQ(colour("HfgF"), "f");
-    EXPECT_EQ(colour("$ \n, 12"), "12");
-    EXPECT_EQ(colour("$zoo"), "0");
-    EXPECT_EQ(colour("$-$9"), "fffffff7"); // punctuation ends the "$" and is read as itself
-    EXPECT_EQ(colour("$123456789"), "23456789");
+    const char* const colours[][2] = {{"5 $456 $789", "456"}, {"xAbC", "abc"},    {"HfgF", "f"},
+                                      {"$zoo", "0"},          {"$ \n, 12", "12"}, {"$123456789", "23456789"},
+                                      {"$-$9", "fffffff7"}}; // punctuation ends the "$" and is read as itself
+    for (const auto& [written, expected] : colours) {
+        EXPECT_EQ(colour(written), expected);
+    }
 }
 
 TEST(Obj2dParse, WordsAbbreviateKeywords) {
@@ -74,7 +70,9 @@ TEST(Obj2dParse, WordsAbbreviateKeywords) {
     EXPECT_EQ(parsed("{ Stop 1 2 3 4 CAR $7 s 5 6 7 8 }\n"), "{1,2,0 3,4,0 5,6,7 7,8,7 }");
 }
 
-TEST(Obj2dParse, NumbersAndWordsEndWhereTheyShould) {
+TEST(Obj2dParse, OBJ2D_zeroXIsDecimalAndWordsEndWhereTheyShould) {
+    EXPECT_EQ(number("0x12"), "0");
+    EXPECT_EQ(colour("0xFF $3"), "3");
     EXPECT_EQ(number("8x8"), "8");
     EXPECT_EQ(number("7-1}"), "7");
     EXPECT_EQ(number("4294967299"), "3");
@@ -85,29 +83,6 @@ TEST(Obj2dParse, NumbersAndWordsEndWhereTheyShould) {
     EXPECT_EQ(parsed(std::string(254, 'z') + "{}\n"), "-"); // the "{" still belongs to the word
 }
 
-TEST(Obj2dParse, OBJ2D_zeroXIsDecimal) {
-    EXPECT_EQ(number("0x12"), "0");
-    EXPECT_EQ(colour("0xFF $3"), "3");
-}
-
-TEST(Obj2dParse, OBJ2D_lastTokenNeedsAByte) {
-    EXPECT_EQ(parsed("{ }\n"), "{}");
-    EXPECT_EQ(parsed("{ }"), "");
-}
-
-TEST(Obj2dParse, OBJ2D_signWaitsForANumber) {
-    EXPECT_EQ(parsed("- { name x\n s #\n 1 2 3 4 }\n"), "{x:-1,2,0 3,4,0 }");
-    EXPECT_EQ(parsed("{ - 7 s 1 2 3 4 }\n"), "{1,2,0 3,4,0 }");  // used up by a number that is dropped
-    EXPECT_EQ(parsed("{ s - $7 1 2 3 4 }\n"), "{1,2,0 3,4,0 }"); // and by a hexadecimal one
-    EXPECT_EQ(number("--1"), "-1");                              // a flag, no toggle
-    EXPECT_EQ(colour("- $1"), "ffffffff");
-}
-
-TEST(Obj2dParse, OBJ2D_nameCrossesLines) {
-    EXPECT_EQ(parsed("{ name\n\n }\n}\n"), "{}:}");
-    EXPECT_EQ(parsed("type\n {\n}\n{\n}\n"), "-{}");
-}
-
 TEST(Obj2dParse, OBJ2D_stringsInBracesAreLost) {
     const Objects objects("{ version 1 s 1 2 3 4 }\n author\t,; me }\n type 2D }\n}\n");
     EXPECT_EQ(objects.shown(), "{}");
@@ -115,13 +90,23 @@ TEST(Obj2dParse, OBJ2D_stringsInBracesAreLost) {
                 objects[0]->type == nullptr);
 }
 
-TEST(Obj2dParse, OBJ2D_strayBraceCounts) {
-    EXPECT_EQ(parsed("} { { s 1 2 3 4 } }\n"), "-{1,2,0 3,4,0 }-");
-}
-
-TEST(Obj2dParse, OBJ2D_segmentOutlivesItsObject) {
-    EXPECT_EQ(parsed("{ s 1 2 3 } { s 4 }\n"), "{}{1,2,0 3,4,0 }");
-    EXPECT_EQ(parsed("s 1 2 3 4 { 5 s 6 7 8 9 }\n"), "{6,7,0 8,9,0 }"); // completed outside: dropped
+TEST(Obj2dParse, OdditiesAreKept) {
+    const char* const texts[][3] = {
+        {"OBJ2D_lastTokenNeedsAByte", "{ }\n", "{}"},
+        {"OBJ2D_lastTokenNeedsAByte", "{ }", ""},
+        {"OBJ2D_signWaitsForANumber", "- { name x\n s #\n 1 2 3 4 }\n", "{x:-1,2,0 3,4,0 }"},
+        {"OBJ2D_signWaitsForANumber", "{ - 7 s 1 2 3 4 }\n", "{1,2,0 3,4,0 }"},
+        {"OBJ2D_signWaitsForANumber", "{ s - $7 1 2 3 4 }\n", "{1,2,0 3,4,0 }"},
+        {"OBJ2D_signWaitsForANumber", "{ s --1 2 3 4 }\n", "{-1,2,0 3,4,0 }"},
+        {"OBJ2D_nameCrossesLines", "{ name\n\n }\n}\n", "{}:}"},
+        {"OBJ2D_nameCrossesLines", "type\n {\n}\n{\n}\n", "-{}"},
+        {"OBJ2D_strayBraceCounts", "} { { s 1 2 3 4 } }\n", "-{1,2,0 3,4,0 }-"},
+        {"OBJ2D_segmentOutlivesItsObject", "{ s 1 2 3 } { s 4 }\n", "{}{1,2,0 3,4,0 }"},
+        {"OBJ2D_segmentOutlivesItsObject", "s 1 2 3 4 { 5 s 6 7 8 9 }\n", "{6,7,0 8,9,0 }"}};
+    for (const auto& [name, text, expected] : texts) {
+        EXPECT_EQ(parsed(text), expected) << name;
+    }
+    EXPECT_EQ(colour("- $1"), "ffffffff");
 }
 
 TEST(Obj2dParse, SurvivesAnyTextAndAnyFailingAllocation) {
@@ -148,4 +133,5 @@ TEST(Obj2dParse, SurvivesAnyTextAndAnyFailingAllocation) {
     EXPECT_EQ(OBJ2D_parse(nullptr), nullptr);
 }
 
+} // namespace
 } // namespace velm::test

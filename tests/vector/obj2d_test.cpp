@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "objects.h"
-#include "support/allocation.h"
-#include "support/capture_stdout.h"
+#include "support/owned.h"
 #include "vector/obj2d.h"
 
-#include <random>
-
 namespace velm::test {
-
 namespace {
 
 constexpr char threeSegments[] =
@@ -27,12 +23,9 @@ void drawPlain(const OBJ2D& obj, IMG* img) {
     SEG2D_delete(&segment);
 }
 
-} // namespace
-
 TEST(Obj2d, OBJ2D_farthestSecondEndOnly) {
     const Objects objects(threeSegments);
-    EXPECT_EQ(objects[0]->farthest,
-              1); // (9, 9); (40, 40) is a first end, and the later second ends are nearer
+    EXPECT_EQ(objects[0]->farthest, 1); // (9, 9), not (40, 40), which is a first end
     EXPECT_EQ(OBJ2D_isFarther(objects[0], 2), 1);
     EXPECT_EQ(OBJ2D_isFarther(objects[0], 1), 0);
     EXPECT_EQ(OBJ2D_isFarther(objects[0], 6), 0);
@@ -44,25 +37,22 @@ TEST(Obj2d, DrawsAsThePlainRuleWithoutAllocating) {
     const Objects objects(threeSegments);
     OBJ2D& obj = *objects[0];
     const std::string before = objects.shown();
-    IMG* drawn = IMG_newSized(64, 48);
-    IMG* plain = IMG_newSized(64, 48);
-    std::mt19937 random(4030);
-    const auto below = [&](std::int32_t n) { return static_cast<std::int32_t>(random() >> 1) % n; };
+    const Picture drawn(IMG_newSized(64, 48));
+    const Picture plain(IMG_newSized(64, 48));
+    Images random(4030);
     for (int round = 0; round < 200; ++round) {
-        *obj.position = {below(64), below(48), 0};
-        *obj.scale = {below(5) - 2, below(5) - 2, 0};
-        obj.angle = round % 4 == 0 ? 0 : static_cast<std::uint32_t>(random());
+        *obj.position = {random.number(0, 63), random.number(0, 47), 0};
+        *obj.scale = {random.number(-2, 2), random.number(-2, 2), 0};
+        obj.angle = round % 4 == 0 ? 0 : static_cast<std::uint32_t>(random.number(0, INT32_MAX));
         IMG_fill(drawn, 0);
         IMG_fill(plain, 0);
         const std::int64_t allocations = allocationCount();
         OBJ2D_draw(&obj, drawn);
         EXPECT_EQ(allocationCount(), allocations);
         drawPlain(obj, plain);
-        ASSERT_EQ(IMG_equal(drawn, plain), 1) << "round " << round;
+        ASSERT_EQ(difference(drawn, plain), "") << "round " << round;
     }
     EXPECT_EQ(objects.shown(), before);
-    IMG_delete(&drawn);
-    IMG_delete(&plain);
 }
 
 TEST(Obj2d, OBJ2D_positionCountsTwice) {
@@ -72,10 +62,9 @@ TEST(Obj2d, OBJ2D_positionCountsTwice) {
     OBJ2D_setColour(objects[0], 0xABCDEF);
     EXPECT_EQ(objects.shown(), "{3,0,abcdef 3,0,abcdef }");
     EXPECT_EQ(objects[0]->colour, 0xABCDEFU);
-    IMG* img = IMG_new();
+    const Picture img(IMG_new());
     OBJ2D_draw(objects[0], img);
     EXPECT_EQ(IMG_getPixel(img, 6, 0), 0xABCDEFU);
-    IMG_delete(&img);
 }
 
 TEST(Obj2d, ClonesHavePointsOfTheirOwnAndShareTheName) {
@@ -102,24 +91,17 @@ TEST(Obj2d, ReportsWhatIsMissing) {
     const Objects objects(threeSegments);
     VEC2D* const scale = objects[0]->scale;
     objects[0]->scale = nullptr;
-    IMG* img = IMG_new();
-    OBJ2D_verbose = 1;
+    const Picture img(IMG_new());
     for (OBJ2D* obj : {static_cast<OBJ2D*>(nullptr), objects[0]}) {
-        EXPECT_EQ(printedBy([&] {
-                      OBJ2D_draw(obj, img);
-                      OBJ2D_setColour(obj, 5);
-                      OBJ2D_applyPosition(obj);
-                      OBJ2D_copy(obj, obj);
-                      EXPECT_EQ(OBJ2D_clone(obj), nullptr);
-                      EXPECT_EQ(OBJ2D_isFarther(obj, 0), 0);
-                  }),
-                  "OBJ2D error\nOBJ2D error\nOBJ2D error\nOBJ2D error\nOBJ2D error\nOBJ2D error\n");
+        expectReports(OBJ2D_verbose, 6, "OBJ2D error", [&] {
+            OBJ2D_draw(obj, img), OBJ2D_setColour(obj, 5), OBJ2D_applyPosition(obj), OBJ2D_copy(obj, obj);
+            EXPECT_EQ(OBJ2D_clone(obj), nullptr);
+            EXPECT_EQ(OBJ2D_isFarther(obj, 0), 0);
+        });
     }
     objects[0]->scale = scale;
-    EXPECT_EQ(printedBy([&] { OBJ2D_draw(objects[0], nullptr); }), "OBJ2D error\n");
-    EXPECT_EQ(printedBy([&] { OBJ2D_addSegment(objects[0], nullptr); }), "OBJ2D error\n");
-    OBJ2D_verbose = 0;
-    IMG_delete(&img);
+    expectReports(OBJ2D_verbose, 2, "OBJ2D error",
+                  [&] { OBJ2D_draw(objects[0], nullptr), OBJ2D_addSegment(objects[0], nullptr); });
 }
 
 TEST(Obj2d, ACloneThatRunsOutOfMemoryIsFreed) {
@@ -137,4 +119,5 @@ TEST(Obj2d, ACloneThatRunsOutOfMemoryIsFreed) {
     OBJ2D_delete(&clone);
 }
 
+} // namespace
 } // namespace velm::test

@@ -3,40 +3,64 @@
 #include "effects/ball3d.h"
 #include "effects/distx.h"
 #include "effects/disty.h"
+#include "effects/line_font.h"
 #include "effects/logofly.h"
-#include "effects/mouse.h"
-#include "effects/owned.h"
 #include "effects/raster.h"
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
-#include "platform/xdpy.h"
-#include "support/allocation.h"
-#include "support/capture_stdout.h"
+#include "support/owned.h"
+
+#include <cstdlib>
 
 namespace velm::test {
-
 namespace {
 
-/// Expects the calls to print the line that many times, and nothing else.
-template <typename Calls>
-void expectReports(std::uint8_t& verbose, std::int32_t times, const std::string& line, Calls calls) {
-    std::string expected;
-    for (std::int32_t i = 0; i < times; ++i) {
-        expected += line + "\n";
+/// One of each effect over its own picture. Everything random in it comes from the seed.
+struct Show {
+    explicit Show(unsigned seed) : strip(noise(96, 16, seed)), dots((std::srand(seed), SINEDOTS_new())) {
+        std::copy_n(strip->pixels, bars->count, bars->colours);
+        font->image = IMG_clone(strip);
+        SCROLL_setup(scroll, "0123 ABC", font, screen);
+        rows->source = columns->source = strip;
+        ball->target = logo->target = pen->target = screen;
+        logo->pen = pen;
     }
-    verbose = 1;
-    EXPECT_EQ(printedBy(calls), expected);
-    verbose = 0;
-}
 
-/// Expects nullptr when the nth allocation fails.
-template <typename Make>
-void expectFailure(std::int64_t nth, Make make) {
-    const FailingAllocation failure(nth);
-    EXPECT_EQ(make(), nullptr);
-}
+    void frame() const {
+        RASTER_advance(bars), RASTER_draw(bars, screen);
+        SCROLL_step(scroll), SCROLL_draw(scroll);
+        DISTX_draw(rows, screen), DISTX_advance(rows);
+        DISTY_draw(columns, screen), DISTY_advance(columns);
+        BALL3D_draw(ball);
+        SINEDOTS_advance(dots), SINEDOTS_drawAdd(dots, screen);
+        LOGOFLY_draw(logo), LOGOFLY_advance(logo);
+    }
 
-} // namespace
+    Picture screen{IMG_newSized(96, 64)};
+    Picture strip;
+    PixelPen pen{1, 1};
+    Owned<SINEDOTS, SINEDOTS_delete> dots; // the first to draw; srand's generator is srandom's
+    Owned<BALL3D, BALL3D_delete> ball{BALL3D_new()};
+    Owned<LOGOFLY, LOGOFLY_delete> logo{LOGOFLY_new()};
+    Owned<RASTER, RASTER_delete> bars{RASTER_new()};
+    Owned<FONT, FONT_delete> font{FONT_new()};
+    Owned<SCROLL, SCROLL_delete> scroll{SCROLL_new()};
+    Owned<DISTX, DISTX_delete> rows{DISTX_new()};
+    Owned<DISTY, DISTY_delete> columns{DISTY_new()};
+};
+
+TEST(Instances, DoNotDisturbEachOtherAndAllocateNothing) {
+    const Show alone(1);
+    const Show first(1);
+    const Show second(2);
+    const std::int64_t allocations = allocationCount();
+    for (std::int32_t i = 0; i < 20; ++i) {
+        i < 10 ? alone.frame() : (first.frame(), second.frame());
+    }
+    EXPECT_EQ(allocationCount(), allocations);
+    EXPECT_EQ(difference(alone.screen, first.screen), "");
+    EXPECT_NE(difference(first.screen, second.screen), "");
+}
 
 TEST(Errors, DISTX_errorIsSilentAndDISTY_errorIsSilentAndSINEDOTS_errorIsSilent) {
     const Owned<DISTX, DISTX_delete> rows(DISTX_new());
@@ -45,14 +69,12 @@ TEST(Errors, DISTX_errorIsSilentAndDISTY_errorIsSilentAndSINEDOTS_errorIsSilent)
     const Picture image(IMG_newSized(4, 4));
     IMG_verbose = DISTX_verbose = DISTY_verbose = 1;
     expectReports(SINEDOTS_verbose, 0, "", [&] {
-        DISTX_draw(rows, image), DISTX_draw(rows, nullptr), DISTX_advance(nullptr), DISTX_delete(nullptr);
-        DISTY_draw(columns, image), DISTY_draw(columns, nullptr), DISTY_advance(nullptr),
-            DISTY_delete(nullptr);
+        DISTX_draw(rows, image), DISTX_draw(rows, nullptr), DISTX_delete(nullptr);
+        DISTY_draw(columns, image), DISTY_draw(columns, nullptr), DISTY_delete(nullptr);
         rows->source = columns->source = image;
         rows->y = columns->x = 4; // beside the target
         DISTX_draw(rows, image), DISTY_draw(columns, image);
         SINEDOTS_setCount(dots, 0), SINEDOTS_draw(dots, nullptr), SINEDOTS_drawAdd(nullptr, image);
-        SINEDOTS_advance(nullptr), SINEDOTS_randomize(nullptr), SINEDOTS_delete(nullptr);
         expectFailure(1, DISTX_new), expectFailure(1, DISTY_new);
         expectFailure(1, SINEDOTS_new), expectFailure(2, SINEDOTS_new);
     });
@@ -67,29 +89,24 @@ TEST(Errors, EveryBadCallIsReportedOnce) {
         expectFailure(1, BALL3D_new);
     });
     const Owned<LOGOFLY, LOGOFLY_delete> logo(LOGOFLY_new());
-    expectReports(LOGOFLY_verbose, 5, "LOGOFLY error", [&] {
-        LOGOFLY_draw(logo), LOGOFLY_advance(nullptr), LOGOFLY_copy(nullptr, logo), LOGOFLY_delete(nullptr);
+    expectReports(LOGOFLY_verbose, 4, "LOGOFLY error", [&] {
+        LOGOFLY_draw(logo), LOGOFLY_copy(nullptr, logo), LOGOFLY_delete(nullptr);
         expectFailure(1, LOGOFLY_new);
     });
     const Owned<LFONT, LFONT_delete> pen(LFONT_new());
     VEC2D_verbose = 0;
-    expectReports(LFONT_verbose, 10, "LFONT Error.", [&] {
-        LFONT_drawChar(pen), LFONT_drawCharRandomColour(pen), LFONT_drawText(pen, "AB"),
-            LFONT_setColour(pen, 0);
-        LFONT_drawLine(pen, nullptr), LFONT_drawHexLong(nullptr, 0), LFONT_checkArgs(pen, nullptr);
+    expectReports(LFONT_verbose, 9, "LFONT Error.", [&] {
+        LFONT_drawChar(pen), LFONT_drawCharRandomColour(pen), LFONT_drawText(pen, "AB");
+        LFONT_setColour(pen, 0), LFONT_drawLine(pen, nullptr), LFONT_drawHexLong(nullptr, 0);
         LFONT_delete(nullptr);
         expectFailure(1, LFONT_new), expectFailure(4, LFONT_new);
     });
     VEC2D_verbose = 1;
-}
-
-TEST(Errors, RastersThatCannotRollAreReported) {
     const Owned<RASTER, RASTER_delete> bars(RASTER_new());
     const Picture image(IMG_newSized(4, 4));
     RASTER_setCount(bars, 5);
-    expectReports(RASTER_verbose, 11, "RASTER error", [&] {
-        RASTER_setCount(bars, -1), RASTER_smooth(bars, 0), RASTER_draw(bars, nullptr),
-            RASTER_draw(nullptr, image);
+    expectReports(RASTER_verbose, 10, "RASTER error", [&] {
+        RASTER_setCount(bars, -1), RASTER_smooth(bars, 0), RASTER_draw(bars, nullptr);
         RASTER_copy(bars, nullptr), RASTER_delete(nullptr);
         expectFailure(1, RASTER_new), expectFailure(2, RASTER_new);
         expectFailure(3, [&] { return RASTER_clone(bars); });
@@ -99,11 +116,12 @@ TEST(Errors, RastersThatCannotRollAreReported) {
     });
 }
 
-TEST(Errors, ScrollersThatCannotShowAreReported) {
+TEST(Errors, SCROLL_newFailsSilently) {
     const Owned<SCROLL, SCROLL_delete> scroll(SCROLL_new());
     const Owned<FONT, FONT_delete> font(FONT_new());
     const Picture strip(IMG_newSized(4, 4));
     expectReports(SCROLL_verbose, 8, "SCROLL error", [&] {
+        expectFailure(1, SCROLL_new), expectFailure(2, SCROLL_new);
         SCROLL_step(scroll), SCROLL_draw(scroll);
         SCROLL_setup(scroll, "", font, strip), SCROLL_step(scroll), SCROLL_draw(scroll);
         SCROLL_setup(scroll, "ABC", font, strip), SCROLL_setup(scroll, nullptr, font, strip);
@@ -114,19 +132,5 @@ TEST(Errors, ScrollersThatCannotShowAreReported) {
     EXPECT_EQ(scroll->cursor->count, 3);
 }
 
-TEST(Errors, SCROLL_newFailsSilently) {
-    expectReports(SCROLL_verbose, 0, "", [] { expectFailure(1, SCROLL_new), expectFailure(2, SCROLL_new); });
-}
-
-TEST(Errors, AMouseNeedsAWindow) {
-    XDPY* display = XDPY_open();
-    const Owned<MOUSE, MOUSE_delete> mouse(MOUSE_new());
-    expectReports(MOUSE_verbose, 6, "MOUSE error", [&] {
-        MOUSE_update(mouse), MOUSE_draw(mouse), MOUSE_copy(mouse, nullptr), MOUSE_delete(nullptr);
-        expectFailure(1, MOUSE_new);
-        XDPY_close(&display);
-        EXPECT_EQ(MOUSE_new(), nullptr);
-    });
-}
-
+} // namespace
 } // namespace velm::test
