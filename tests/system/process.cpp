@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -52,6 +53,7 @@ Child::Child(const std::vector<std::string>& arguments, const Environment& envir
     if (pid != 0) {
         return;
     }
+    prctl(PR_SET_PDEATHSIG, SIGTERM); // a test that dies takes its servers along
     for (const auto& [name, value] : environment) {
         value.empty() ? unsetenv(name.c_str()) : setenv(name.c_str(), value.c_str(), 1);
     }
