@@ -5,6 +5,7 @@
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "vector/digits.h"
 #include "vector/obj2d.h"
 
 #include <cstdlib>
@@ -18,7 +19,6 @@ namespace {
 
 constexpr std::int32_t newSpacing = 16;
 constexpr char lineFeed = '\n';
-constexpr std::uint32_t highestDecimalUnit = 1000000000;
 
 /// Each channel 128..255.
 std::uint32_t randomLightColour() {
@@ -58,10 +58,7 @@ void drawHex(LFONT* pen, std::uint32_t value, std::int32_t digits) {
         LFONT_error();
         return;
     }
-    for (std::int32_t digit = digits - 1; digit >= 0; --digit) {
-        const std::uint32_t nibble = (value >> (4 * digit)) & 15;
-        drawCode(*pen, nibble <= 9 ? nibble + '0' : nibble - 10 + 'A');
-    }
+    forEachHexDigit(value, digits, [pen](std::uint32_t character) { drawCode(*pen, character); });
 }
 
 /// Colours every glyph with the next colour(), from the last to the first, or reports.
@@ -173,10 +170,7 @@ void LFONT_drawDecimal(LFONT* pen, std::uint32_t value) {
         LFONT_error();
         return;
     }
-    for (std::uint32_t unit = highestDecimalUnit; unit != 0; unit /= 10) {
-        drawCode(*pen, value / unit + '0');
-        value %= unit;
-    }
+    forEachDecimalDigit(value, [pen](std::uint32_t character) { drawCode(*pen, character); });
 }
 
 void LFONT_checkArgs(const void* a, const void* b) {

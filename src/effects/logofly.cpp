@@ -26,12 +26,6 @@ std::int32_t randomBelow(std::int32_t limit) {
     return static_cast<std::int32_t>(::random() % limit);
 }
 
-/// LOGOFLY_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which no font
-/// has a glyph.
-std::int32_t signedByte(char byte) {
-    return (static_cast<std::uint8_t>(byte) ^ 0x80) - 0x80;
-}
-
 /// What a copy and a clone have in common.
 void copyMotion(const LOGOFLY& src, LOGOFLY& dst) {
     dst.phase = src.phase;
@@ -107,6 +101,8 @@ void LOGOFLY_draw(const LOGOFLY* logo) {
     }
     std::int32_t phase = logo->phase;
     for (std::int32_t i = 0; i < mostLetters && logo->text[i] != '\0'; ++i) {
+        // LOGOFLY_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which no
+        // font has a glyph.
         pen->character = signedByte(logo->text[i]);
         pen->position->y = wrapSub(logo->y, wrapMul(SINE_entry(phase), logo->amplitude) >> 15);
         LFONT_drawChar(pen);

@@ -32,12 +32,6 @@ bool canMove(const SCROLL* scroll) {
            scroll->cursor->count > 0 && scroll->font != nullptr && scroll->font->width > 0;
 }
 
-/// SCROLL_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which a sheet
-/// has no cell, and leave a gap.
-std::int32_t signedByte(char byte) {
-    return (static_cast<std::uint8_t>(byte) ^ 0x80) - 0x80;
-}
-
 /// Goes on by some characters, back when negative. The cursor's step stays behind.
 void moveBy(SCROLL& scroll, std::int32_t characters) {
     scroll.cursor->step = characters;
@@ -56,6 +50,8 @@ void drawWith(SCROLL* scroll, void (*drawChar)(FONT*)) {
     font->target = scroll->target;
     CURSOR_save(cursor);
     for (std::int32_t i = scroll->viewWidth / font->width + edgeCharacters; i > 0; --i) {
+        // SCROLL_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which a
+        // sheet has no cell, and leave a gap.
         font->character = signedByte(scroll->text[cursor->index]);
         drawChar(font);
         moveBy(*scroll, 1);

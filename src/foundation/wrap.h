@@ -31,6 +31,11 @@ constexpr std::int32_t wrapShl(std::int32_t value, std::int32_t count) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(value) << count);
 }
 
+/// A byte of text as the signed number -128..127, whatever the sign of char is.
+constexpr std::int32_t signedByte(char byte) {
+    return (static_cast<std::uint8_t>(byte) ^ 0x80) - 0x80;
+}
+
 /// value reduced into 0..modulus-1, also when it is negative; modulus must be positive.
 constexpr std::int32_t positiveModulo(std::int32_t value, std::int32_t modulus) {
     const std::int32_t remainder = value % modulus;

@@ -7,6 +7,7 @@
 #include "foundation/wrap.h"
 #include "image/clip.h"
 #include "image/imgfx.h"
+#include "vector/digits.h"
 
 #include <algorithm>
 
@@ -19,7 +20,6 @@ namespace {
 
 constexpr std::int32_t newCellSize = 6;
 constexpr char lineFeed = '\n';
-constexpr std::uint32_t highestDecimalUnit = 1000000000;
 
 struct Corner {
     std::int32_t x, y;
@@ -74,10 +74,7 @@ void drawHex(FONT* font, std::uint32_t value, std::int32_t digits) {
         FONT_error();
         return;
     }
-    for (std::int32_t digit = digits - 1; digit >= 0; --digit) {
-        const std::uint32_t nibble = (value >> (4 * digit)) & 15;
-        drawCode(*font, nibble <= 9 ? nibble + '0' : nibble - 10 + 'A');
-    }
+    forEachHexDigit(value, digits, [font](std::uint32_t character) { drawCode(*font, character); });
 }
 
 } // namespace
@@ -122,10 +119,7 @@ void FONT_drawDecimal(FONT* font, std::uint32_t value) {
         FONT_error();
         return;
     }
-    for (std::uint32_t unit = highestDecimalUnit; unit != 0; unit /= 10) {
-        drawCode(*font, value / unit + '0');
-        value %= unit;
-    }
+    forEachDecimalDigit(value, [font](std::uint32_t character) { drawCode(*font, character); });
 }
 
 void FONT_drawString(FONT* font, const char* text) {
