@@ -3,7 +3,7 @@
 //
 // Contact sheets: all the art enlarged, to be looked at before it is committed.
 //
-//     bool written = writeContactSheets("/tmp/sheets");
+//     bool written = writeContactSheets("sheets");
 #pragma once
 
 #include <string>
