@@ -3,6 +3,7 @@
 //
 // The default scene: a cloud of 16384 dots in one dark hue that only their overlapping makes visible, a
 // drawing that turns as the scene counts down, the wave scroller, the pointer and the bobbing letters.
+#include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "image/rgb888.h"
@@ -13,7 +14,7 @@ namespace velm {
 
 namespace {
 
-constexpr std::int16_t frames = 3000;
+constexpr std::int32_t frames = 3000;
 constexpr std::int32_t dotCount = 16384;
 
 /// One of -4..-1 and 1..4; draws the size first, then the sign.
@@ -79,8 +80,7 @@ void VELM4030_sceneDefaultSetup() {
 void VELM4030_sceneDefault() {
     VELM4030_sceneDefaultSetup();
     VELM4030_fadeOut();
-    for (std::int16_t left = frames; left > 0; --left) {
-        FPS_start(demo.fps);
+    runFrames(frames, [](std::int32_t frame) {
         if (settings.rastersOn != 0) {
             VELM4030_rasterLayer();
         }
@@ -88,16 +88,11 @@ void VELM4030_sceneDefault() {
             VELM4030_scrollLayer();
         }
         VELM4030_dotsLayer();
-        drawFigure(left);
+        drawFigure(frames - frame);
         VELM4030_mouseLayer();
         VELM4030_fpsLayer();
         VELM4030_logoLettersLayer();
-        VELM4030_postLayer();
-        VELM4030_musicLayer();
-        if (!VELM4030_endFrame()) {
-            break;
-        }
-    }
+    });
     VELM4030_sceneDefaultCleanup();
 }
 

@@ -3,6 +3,7 @@
 //
 // Interlude A: balls of random colour, place and size, one a frame, each under a light that has turned a
 // little, and each leaving a fading trail; the logo stands above them.
+#include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "foundation/sine.h"
@@ -67,19 +68,13 @@ void VELM4030_sceneInterludeASetup() {
 
 void VELM4030_sceneInterludeA() {
     VELM4030_sceneInterludeASetup();
-    for (std::int32_t left = frames; left > 0; --left) {
-        FPS_start(demo.fps);
+    runFrames(frames, [](std::int32_t frame) {
         throwBall();
-        turnLight(left);
+        turnLight(frames - frame);
         drawLogo();
         VELM4030_mouseLayer();
         VELM4030_fpsLayer();
-        VELM4030_postLayer();
-        VELM4030_musicLayer();
-        if (!VELM4030_endFrame()) {
-            break;
-        }
-    }
+    });
 }
 
 } // namespace velm

@@ -3,6 +3,7 @@
 //
 // Interlude B: a slanted mesh of 64 by 64 points that two waves lift, drawn mirrored in hue bands that move
 // over it, and the hopping word below.
+#include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "foundation/sine.h"
@@ -17,7 +18,7 @@ namespace velm {
 namespace {
 
 /// VELM4030_meshFrames: one expects 500 frames; the count runs down to 0 inclusive, which makes 501.
-constexpr std::int32_t lastFrame = 500;
+constexpr std::int32_t frames = 501;
 constexpr std::int32_t mostColumns = 256; ///< room of a row of grid points
 
 struct GridPoint {
@@ -149,18 +150,12 @@ void VELM4030_sceneInterludeBSetup() {
 
 void VELM4030_sceneInterludeB() {
     VELM4030_sceneInterludeBSetup();
-    for (std::int32_t left = lastFrame; left >= 0; --left) {
-        FPS_start(demo.fps);
+    runFrames(frames, [](std::int32_t) {
         VELM4030_meshLayer();
         VELM4030_fpsLayer();
         LOGOFLY_advance(demo.logoFly);
         LOGOFLY_draw(demo.logoFly);
-        VELM4030_postLayer();
-        VELM4030_musicLayer();
-        if (!VELM4030_endFrame()) {
-            break;
-        }
-    }
+    });
 }
 
 void VELM4030_meshLayer() {

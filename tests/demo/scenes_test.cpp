@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "demo/scenes.h"
 #include "demo_run.h"
 #include "foundation/sine.h"
 #include "image/rgb888.h"
@@ -218,7 +219,7 @@ TEST_F(ScenesTest, VELM4030_lettersBounce) {
 }
 
 TEST_F(ScenesTest, NoFrameAllocates) {
-    for (void (*scene)() : {VELM4030_sceneDefault, VELM4030_sceneInterludeA, VELM4030_sceneInterludeB}) {
+    for (const SCENE& scene : SCENE_all()) {
         std::int64_t first = 0;
         std::size_t firstBytes = 0;
         const std::uint32_t begin = headless.frames;
@@ -231,13 +232,13 @@ TEST_F(ScenesTest, NoFrameAllocates) {
             }
             compared += done > 40 ? 1 : 0;
             if (done > 40) {
-                EXPECT_EQ(allocationCount(), first) << done;
-                EXPECT_EQ(mallinfo2().uordblks, firstBytes) << done;
+                EXPECT_EQ(allocationCount(), first) << scene.name << ' ' << done;
+                EXPECT_EQ(mallinfo2().uordblks, firstBytes) << scene.name << ' ' << done;
             }
         };
         headless.keys.reserve(1000);
-        runFor(240, scene);
-        EXPECT_EQ(compared, 200U);
+        runFor(240, scene.run);
+        EXPECT_EQ(compared, 200U) << scene.name;
     }
 }
 

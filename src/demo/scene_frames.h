@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The loop of every scene: a scene says how many frames it has and what one of them draws.
+//
+//     runFrames(750, [](std::int32_t frame) {
+//         IMG_drawHLine(demo.screen, 0xFFFFFF, frame & 255, 0, 255);
+//         VELM4030_fpsLayer();
+//     });
+#pragma once
+
+#include "demo/state.h"
+#include "demo/velm4030.h"
+
+#include <cstdint>
+
+namespace velm {
+
+/// Calls draw(frame) for frame 0 to `count` - 1, each time between the start of the frame's time and what
+/// ends it: the post layer, the music layer and the keys. Space ends the loop early.
+template <typename Draw>
+void runFrames(std::int32_t count, Draw draw) {
+    for (std::int32_t frame = 0; frame < count; ++frame) {
+        FPS_start(demo.fps);
+        draw(frame);
+        VELM4030_postLayer();
+        VELM4030_musicLayer();
+        if (!VELM4030_endFrame()) {
+            break;
+        }
+    }
+}
+
+} // namespace velm
