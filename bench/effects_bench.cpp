@@ -8,8 +8,10 @@
 #include "effects/raster.h"
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
+#include "image/imgfx.h"
 
 #include <benchmark/benchmark.h>
+#include <cstdlib>
 
 namespace velm {
 namespace {
@@ -17,6 +19,27 @@ namespace {
 constexpr std::int32_t windowSize = 256;
 constexpr std::int32_t stripWidth = 512;
 constexpr std::int32_t cellSize = 16;
+
+/// A filter over a whole window of noise.
+template <typename Filter>
+void filterWindow(benchmark::State& state, Filter filter) {
+    IMG* src = IMG_newSized(windowSize, windowSize);
+    IMG* dst = IMG_newSized(windowSize, windowSize);
+    for (std::int32_t i = 0; i < windowSize * windowSize; ++i) {
+        src->pixels[i] = static_cast<std::uint32_t>(rand()) & 0xFFFFFF;
+    }
+    for (auto _ : state) {
+        filter(src, dst);
+        benchmark::ClobberMemory();
+    }
+    IMG_delete(&src);
+    IMG_delete(&dst);
+}
+BENCHMARK_CAPTURE(filterWindow, blur, IMGFX_blur);
+BENCHMARK_CAPTURE(filterWindow, blur7, IMGFX_blur7);
+BENCHMARK_CAPTURE(filterWindow, blurRadius, [](IMG* src, IMG* dst) { IMGFX_blurRadius(src, dst, 20); });
+BENCHMARK_CAPTURE(filterWindow, glare, [](IMG* src, IMG* dst) { IMGFX_glare(src, dst, 3); });
+BENCHMARK_CAPTURE(filterWindow, glare8, [](IMG* src, IMG* dst) { IMGFX_glare8(src, dst, 3); });
 
 void dotsDrawAdd(benchmark::State& state) {
     IMG* screen = IMG_newSized(windowSize, windowSize);

@@ -4,42 +4,12 @@
 // What IMG draws by itself: rectangles, lines, and the rows and columns of the raster bars.
 #include "image/img.h"
 #include "image/imgfx.h"
+#include "image/line.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
-
-namespace {
-
-bool contains(const IMG* img, std::int32_t x, std::int32_t y) {
-    return x >= 0 && y >= 0 && x < img->width && y < img->height;
-}
-
-std::int32_t signOf(std::int64_t value) {
-    return value > 0 ? 1 : value < 0 ? -1 : 0;
-}
-
-/// Bresenham's line as steps along its longer side: calls plot(major steps done, minor steps done) once a
-/// pixel.
-template <typename Plot>
-void walkLine(std::int64_t major, std::int64_t minor, Plot plot) {
-    std::int64_t error = major >> 1;
-    std::int64_t across = 0;
-    for (std::int64_t along = 0; along <= major; ++along) {
-        plot(along, across);
-        error -= minor;
-        // IMG_lineRoundsEarly: one expects the side step at error < 0; it comes at error < 1, which decides
-        // which pixel every half step of every drawing falls on.
-        if (error < 1) {
-            error += major;
-            ++across;
-        }
-    }
-}
-
-} // namespace
 
 void IMG_fillRect(IMG* img, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
                   std::uint32_t colour) {
@@ -67,28 +37,7 @@ void IMG_drawLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, s
         IMG_error();
         return;
     }
-    const std::int64_t dx = std::int64_t{x2} - x1;
-    const std::int64_t dy = std::int64_t{y2} - y1;
-    const bool steep = std::abs(dx) <= std::abs(dy);
-    const std::int64_t major = steep ? std::abs(dy) : std::abs(dx);
-    const std::int64_t minor = steep ? std::abs(dx) : std::abs(dy);
-    const std::int64_t stride = img->width;
-    const std::int64_t first = x1 + y1 * stride;
-    const std::int64_t alongStep = steep ? signOf(dy) * stride : signOf(dx);
-    const std::int64_t acrossStep = steep ? signOf(dx) : signOf(dy) * stride;
-    if (contains(img, x1, y1) && contains(img, x2, y2)) {
-        walkLine(major, minor, [=, pixels = img->pixels](std::int64_t along, std::int64_t across) {
-            pixels[first + along * alongStep + across * acrossStep] = colour;
-        });
-        return;
-    }
-    walkLine(major, minor, [=](std::int64_t along, std::int64_t across) {
-        const std::int64_t x = x1 + signOf(dx) * (steep ? across : along);
-        const std::int64_t y = y1 + signOf(dy) * (steep ? along : across);
-        if (x >= 0 && y >= 0 && x < stride && y < img->height) {
-            img->pixels[x + y * stride] = colour;
-        }
-    });
+    forEachLinePixel(*img, x1, y1, x2, y2, [colour](std::uint32_t& pixel) { pixel = colour; });
 }
 
 void IMG_drawHLine(IMG* img, std::uint32_t colour, std::int32_t y, std::int32_t x1, std::int32_t x2) {

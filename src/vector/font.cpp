@@ -5,11 +5,8 @@
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
-#include "image/clip.h"
 #include "image/imgfx.h"
 #include "vector/digits.h"
-
-#include <algorithm>
 
 namespace velm {
 
@@ -48,20 +45,6 @@ void drawWith(FONT* font, Copy copy) {
     font->x = wrapAdd(font->x, font->width);
 }
 
-/// Copies every pixel of a rectangle that is clipped as IMG_blit clips it.
-void copyOpaque(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
-                std::int32_t dstY, std::int32_t w, std::int32_t h) {
-    if (!canBlit(src, dst)) {
-        FONT_error();
-        return;
-    }
-    if (BlitArea area; clipBlit(*src, *dst, srcX, srcY, dstX, dstY, w, h, area)) {
-        forEachRow(*src, *dst, area, [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
-            std::copy(from, from + n, to);
-        });
-    }
-}
-
 /// Draws one character code after another. The caller has checked the pen.
 void drawCode(FONT& font, std::uint32_t code) {
     font.character = static_cast<std::int32_t>(code);
@@ -95,7 +78,7 @@ void FONT_drawChar(FONT* font) {
 }
 
 void FONT_drawCharVariant1(FONT* font) {
-    drawWith(font, copyOpaque);
+    drawWith(font, IMGFX_opaqueBlit);
 }
 
 void FONT_drawCharVariant2(FONT* font) {

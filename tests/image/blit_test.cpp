@@ -103,6 +103,10 @@ TEST(Blit, AdditiveCopyEqualsThePlainRule) {
     compareBlit(IMGFX_addBlit, [](std::uint32_t s, std::uint32_t d) { return plainAdd(s, d); });
 }
 
+TEST(Blit, OpaqueCopyEqualsThePlainRule) {
+    compareBlit(IMGFX_opaqueBlit, [](std::uint32_t s, std::uint32_t) { return s; });
+}
+
 TEST(Blit, IMGFX_averageDropsLowBits) {
     compareBlit(IMGFX_averageBlit, [](std::uint32_t s, std::uint32_t d) {
         return s == 0 ? d : perChannel(s, d, [](std::int32_t x, std::int32_t y) { return x / 2 + y / 2; });
@@ -161,34 +165,100 @@ TEST(Fill, RectanglesAndLinesEqualThePlainRule) {
     EXPECT_GT(changed, rounds / 5);
 }
 
-TEST(Filters, EqualThePlainRule) {
+/// Compares a filter with a rule on random images. The rule makes one channel of a pixel from at(dx, dy), the
+/// same channel of the pixels around it.
+template <typename Filter, typename Rule>
+void compareFilter(Filter fast, Rule rule) {
     for (std::uint32_t seed = 1; seed <= rounds / 10; ++seed) {
         Images images(seed);
         const Picture src(images.image());
-        const Picture blurred(images.image());
-        const Picture glaring(IMG_clone(blurred));
-        const Picture blurredPlainly(IMG_clone(blurred));
-        const Picture glaringPlainly(IMG_clone(blurred));
-        const std::int32_t shift = images.number(0, 1) * images.number(0, 31);
-        IMGFX_blur(src, blurred);
-        IMGFX_glare(src, glaring, shift);
+        const Picture actual(images.image());
+        const Picture expected(IMG_clone(actual));
+        const std::int32_t strength = images.number(0, 1) * images.number(0, 31);
+        fast(src, actual, strength);
         for (std::int32_t i = 0; i < src->width * src->height; ++i) {
-            const std::int32_t x = i % src->width;
-            const std::int32_t y = i / src->width;
-            std::uint32_t blur = 0;
-            std::uint32_t glare = 0;
+            std::uint32_t pixel = 0;
             for (const int channel : {0, 8, 16}) {
-                const auto at = [&](std::int32_t column) {
-                    return (IMG_getPixel(src, column, y) >> channel) & 255;
+                const auto at = [&](std::int32_t dx, std::int32_t dy) {
+                    return (IMG_getPixel(src, i % src->width + dx, i / src->width + dy) >> channel) & 255;
                 };
-                blur |= ((at(x - 2) + at(x - 1) + at(x + 1) + at(x + 2) + 4 * at(x)) >> 3) << channel;
-                glare |= std::min(255U, at(x) + (at(x - 1) >> shift) + (at(x + 1) >> shift)) << channel;
+                pixel |= std::min(255U, rule(at, strength)) << channel;
             }
-            IMG_putPixel(blurredPlainly, x, y, blur);
-            IMG_putPixel(glaringPlainly, x, y, glare);
+            IMG_putPixel(expected, i % src->width, i / src->width, pixel);
         }
-        EXPECT_EQ(difference(blurred, blurredPlainly), "") << "seed " << seed;
-        EXPECT_EQ(difference(glaring, glaringPlainly), "") << "seed " << seed;
+        EXPECT_EQ(difference(actual, expected), "") << "seed " << seed;
+    }
+}
+
+/// The sum of a row's pixels, `reach` to either side.
+std::uint32_t rowSum(const auto& at, std::int32_t reach) {
+    std::uint32_t sum = 0;
+    for (std::int32_t dx = -reach; dx <= reach; ++dx) {
+        sum += at(dx, 0);
+    }
+    return sum;
+}
+
+TEST(Filters, EqualThePlainRule) {
+    compareFilter([](const IMG* src, IMG* dst, std::int32_t) { IMGFX_blur(src, dst); },
+                  [](const auto& at, std::int32_t) { return (rowSum(at, 2) + 3 * at(0, 0)) >> 3; });
+    compareFilter([](const IMG* src, IMG* dst, std::int32_t) { IMGFX_blur7(src, dst); },
+                  [](const auto& at, std::int32_t) { return (rowSum(at, 3) + at(0, 0)) >> 3; });
+    compareFilter(IMGFX_blurRadius, [](const auto& at, std::int32_t radius) {
+        return rowSum(at, radius) / static_cast<std::uint32_t>(2 * radius + 1);
+    });
+    compareFilter(IMGFX_glare, [](const auto& at, std::int32_t shift) {
+        return at(0, 0) + (at(-1, 0) >> shift) + (at(1, 0) >> shift);
+    });
+    compareFilter(IMGFX_glare8, [](const auto& at, std::int32_t shift) {
+        std::uint32_t sum = at(0, 0);
+        for (const std::int32_t dy : {-1, 0, 1}) {
+            for (const std::int32_t dx : {-1, 0, 1}) {
+                sum += dx != 0 || dy != 0 ? at(dx, dy) >> shift : 0;
+            }
+        }
+        return sum;
+    });
+}
+
+TEST(Filters, TheWidestBlurIsExact) {
+    const Picture white(IMG_newSized(5000, 1));
+    const Picture blurred(IMG_clone(white));
+    IMG_fill(white, 0xFFFFFE);
+    IMGFX_blurRadius(white, blurred, IMGFX_largestRadius);
+    EXPECT_EQ(blurred->pixels[2500], 0xFFFFFEU) << "no sum overflows, no quotient is rounded up";
+    EXPECT_EQ(blurred->pixels[0], (0xFF * 1024 / 2047) * 0x010100U + 0xFE * 1024 / 2047);
+    IMG_fill(blurred, 7);
+    for (const std::int32_t radius : {-1, IMGFX_largestRadius + 1}) {
+        IMGFX_blurRadius(white, blurred, radius);
+        EXPECT_EQ(blurred->pixels[9], 7U) << radius;
+    }
+}
+
+TEST(Lines, CombineOnThePixelsOfThePlainLine) {
+    for (std::uint32_t seed = 1; seed <= rounds; ++seed) {
+        Images images(seed);
+        const Picture added(images.image());
+        const Picture averaged(IMG_clone(added));
+        const Picture line(IMG_newSized(added->width, added->height));
+        const auto end = [&images] { return images.number(-20, 60); };
+        const std::int32_t ends[] = {end(), end(), end(), end()};
+        const std::uint32_t colour = images.pixel();
+        IMG_drawLine(line, ends[0], ends[1], ends[2], ends[3], 1);
+        const Picture expectedSum(IMG_clone(added));
+        const Picture expectedMean(IMG_clone(added));
+        for (std::int32_t i = 0; i < line->width * line->height; ++i) {
+            if (line->pixels[i] != 0) {
+                const std::uint32_t pixel = added->pixels[i];
+                expectedSum->pixels[i] = plainAdd(pixel, colour);
+                expectedMean->pixels[i] =
+                    perChannel(pixel, colour, [](std::int32_t a, std::int32_t b) { return (a + b) / 2; });
+            }
+        }
+        IMGFX_addLine(added, ends[0], ends[1], ends[2], ends[3], colour);
+        IMGFX_averageLine(averaged, ends[0], ends[1], ends[2], ends[3], colour);
+        EXPECT_EQ(difference(added, expectedSum), "") << "seed " << seed;
+        EXPECT_EQ(difference(averaged, expectedMean), "") << "seed " << seed;
     }
 }
 

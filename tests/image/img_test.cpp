@@ -135,6 +135,8 @@ TEST_F(ImgTest, MissingImagesAreReportedByTheirModule) {
         {[](IMG* some) { IMGFX_blur(some, nullptr); }, "IMGFX error\n"},
         {[](IMG* some) { IMGFX_blur(some, some); }, "IMGFX error\n"},
         {[](IMG* some) { IMGFX_glare(some, some, 1); }, "IMGFX error\n"},
+        {[](IMG* some) { IMGFX_blurRadius(some, some, 1); }, "IMGFX error\n"},
+        {[](IMG*) { IMGFX_addLine(nullptr, 0, 0, 1, 1, 1); }, "IMGFX error\n"},
     };
     IMG_putPixel(img, 8, 8, 0xFFFFFF);
     for (const auto& [call, report] : cases) {

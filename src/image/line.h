@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The one walk of all lines, whatever they do to the pixels that they meet.
+//
+//     forEachLinePixel(*img, 0, 0, 255, 255, [](std::uint32_t& pixel) { pixel = 0xFFFFFF; });
+#pragma once
+
+#include "image/img.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace velm {
+
+/// Bresenham's line as steps along its longer side: calls plot(major steps done, minor steps done) once a
+/// pixel.
+template <typename Plot>
+void walkLine(std::int64_t major, std::int64_t minor, Plot plot) {
+    std::int64_t error = major >> 1;
+    std::int64_t across = 0;
+    for (std::int64_t along = 0; along <= major; ++along) {
+        plot(along, across);
+        error -= minor;
+        // IMG_lineRoundsEarly: one expects the side step at error < 0; it comes at error < 1, which decides
+        // which pixel every half step of every drawing falls on.
+        if (error < 1) {
+            error += major;
+            ++across;
+        }
+    }
+}
+
+/// Calls touch(pixel) for every pixel of the line from (x1, y1) to (x2, y2), both ends included, in this
+/// order; what lies outside the image is left out. The image must have pixels.
+template <typename Touch>
+void forEachLinePixel(IMG& img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+                      Touch touch) {
+    const auto contains = [&img](std::int64_t x, std::int64_t y) {
+        return x >= 0 && y >= 0 && x < img.width && y < img.height;
+    };
+    const auto signOf = [](std::int64_t value) { return value > 0 ? 1 : value < 0 ? -1 : 0; };
+    const std::int64_t dx = std::int64_t{x2} - x1;
+    const std::int64_t dy = std::int64_t{y2} - y1;
+    const bool steep = std::abs(dx) <= std::abs(dy);
+    const std::int64_t major = steep ? std::abs(dy) : std::abs(dx);
+    const std::int64_t minor = steep ? std::abs(dx) : std::abs(dy);
+    const std::int64_t stride = img.width;
+    if (contains(x1, y1) && contains(x2, y2)) {
+        const std::int64_t alongStep = steep ? signOf(dy) * stride : signOf(dx);
+        const std::int64_t acrossStep = steep ? signOf(dx) : signOf(dy) * stride;
+        walkLine(major, minor,
+                 [=, first = img.pixels + x1 + y1 * stride](std::int64_t along, std::int64_t across) {
+                     touch(first[along * alongStep + across * acrossStep]);
+                 });
+        return;
+    }
+    walkLine(major, minor, [&](std::int64_t along, std::int64_t across) {
+        const std::int64_t x = x1 + signOf(dx) * (steep ? across : along);
+        const std::int64_t y = y1 + signOf(dy) * (steep ? along : across);
+        if (contains(x, y)) {
+            touch(img.pixels[x + y * stride]);
+        }
+    });
+}
+
+} // namespace velm
