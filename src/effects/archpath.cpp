@@ -111,7 +111,7 @@ void ARCHPATH_draw(const ARCHPATH* path, IMG* target) {
     }
     const std::int32_t echoes = std::clamp(path->echoes, 0, mostEchoes);
     for (std::int32_t echo = echoes; echo >= 0; --echo) {
-        const ARCHPATH_POSE& pose = path->trail[echo * echoFrames];
+        const ARCHPATH_POSE& pose = path->trail[static_cast<std::size_t>(echo) * echoFrames];
         const auto bright = static_cast<std::uint32_t>(256 * (echoes + 1 - echo) / (echoes + 1));
         OBJ2D_setColour(path->figure, RGB888_mix(0, path->colour, echo == 0 ? bright : bright / 2));
         path->figure->position->x = pose.x;
