@@ -54,6 +54,8 @@ void VELM4030_sceneInterludeBSetup();
 /// effects and deletes them at its end.
 /// The names in the working folder on a drum, in a ring of sound; until Space.
 void VELM4030_sceneExtra1();
+/// 900 frames of water that falls through a word, and of sparks that turn it to stone.
+void VELM4030_sceneParticles();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
