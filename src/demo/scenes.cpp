@@ -14,6 +14,7 @@ constexpr SCENE scenes[] = {
     {"default", "dots, a turning figure, the wave scroller and four bobbing letters", VELM4030_sceneDefault},
     {"interlude-a", "balls in a turning light that leave fading trails", VELM4030_sceneInterludeA},
     {"interlude-b", "a waving mesh in moving hues under the hopping word", VELM4030_sceneInterludeB},
+    {"extra-1", "the names in this folder on a drum, in a ring of sound", VELM4030_sceneExtra1},
 };
 
 } // namespace

@@ -50,6 +50,11 @@ void VELM4030_sceneInterludeASetup();
 void VELM4030_sceneInterludeB();
 void VELM4030_sceneInterludeBSetup();
 
+/// The scenes that the schedule leaves out. Each takes what it needs from the shared state, makes its own
+/// effects and deletes them at its end.
+/// The names in the working folder on a drum, in a ring of sound; until Space.
+void VELM4030_sceneExtra1();
+
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
 /// Moves the raster bars and draws them into `rasterTarget`.

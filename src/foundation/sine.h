@@ -9,6 +9,7 @@
 #pragma once
 
 #include "foundation/identity.h"
+#include "foundation/wrap.h"
 
 #include <array>
 #include <cstdint>
@@ -26,6 +27,16 @@ extern const std::array<std::int16_t, SINE_tableLength> SINE_table;
 /// The entry of any angle, negative ones included.
 inline std::int32_t SINE_entry(std::int32_t angle) {
     return SINE_table[static_cast<std::size_t>(angle & SINE_tableMask)];
+}
+
+/// `amplitude` times the sine of an angle, (amplitude * entry) >> 15: just under `amplitude` at the most.
+inline std::int32_t SINE_scaled(std::int32_t amplitude, std::int32_t angle) {
+    return wrapMul(amplitude, SINE_entry(angle)) >> 15;
+}
+
+/// The same with the cosine.
+inline std::int32_t SINE_cosineScaled(std::int32_t amplitude, std::int32_t angle) {
+    return wrapMul(amplitude, SINE_entry(wrapAdd(angle, SINE_quarter))) >> 15;
 }
 
 /// A position on a period: `phase` moves once a frame by `speed`, `offset` once a use by `offsetStep`.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/assets.h"
 #include "demo_run.h"
+#include "effects/partixel.h"
 #include "image/imgfx.h"
 #include "support/images.h"
 
@@ -152,6 +153,7 @@ TEST_F(StartupTest, TheScrollTextListsTheKeys) {
 
 TEST_F(StartupTest, TheOwnGeneratorStartsWhereItShould) {
     EXPECT_EQ(record.generator.counter, 0x6789ABCDU);
+    EXPECT_EQ(PARTIXEL_random, demo.random) << "sparks draw from the demo's own generator";
     EXPECT_EQ(record.generator.state, 1U);
     EXPECT_EQ(record.targetRate, 30);
     EXPECT_EQ(demo.logoFly->x, 96);

@@ -23,4 +23,15 @@ public:
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 };
 
+/// While it lives, remembers what the project allocates and does not free. In the end it frees that, so that
+/// a leak which is kept on purpose is counted and no sanitizer complains.
+class KeptAllocations {
+public:
+    KeptAllocations();
+    ~KeptAllocations();
+    KeptAllocations(const KeptAllocations&) = delete;
+    KeptAllocations& operator=(const KeptAllocations&) = delete;
+    static std::int64_t count();
+};
+
 } // namespace velm::test

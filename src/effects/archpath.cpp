@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/archpath.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/sine.h"
+#include "foundation/wrap.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY ARCHPATH_identity = makeIdentity("ARCHPATH", "CODE", "20150705", "ZENDORAK", "C");
+std::uint8_t ARCHPATH_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newLeft = 32;
+constexpr std::int32_t newRight = 224;
+constexpr std::int32_t newGround = 208;
+constexpr std::int32_t newRise = 160;
+constexpr std::int32_t newFrames = 45;
+constexpr std::int32_t newScale = 3;
+constexpr std::int32_t newEchoes = 4;
+constexpr std::int32_t echoFrames = 2; // between one echo and the next
+constexpr std::int32_t mostEchoes = (ARCHPATH_trailLength - 1) / echoFrames;
+constexpr std::int32_t halfTurn = SINE_tableLength / 2;
+
+/// 0..most-1, for a most above 0.
+std::int32_t drawBelow(ARCHPATH& path, std::int32_t most) {
+    return (RANDOM_next(path.random) & 0xFFFFFF) % std::max(most, 1);
+}
+
+/// Begins an arch where the last one ended.
+void beginArch(ARCHPATH& path) {
+    path.step = 0;
+    path.from = path.to;
+    path.to = path.left + drawBelow(path, path.right - path.left + 1);
+    path.height = path.rise / 2 + drawBelow(path, path.rise / 2 + 1);
+    const std::int32_t spin = 4 + drawBelow(path, 16);
+    // It rolls the way it leaps.
+    path.spin = path.to < path.from ? -spin : spin;
+}
+
+ARCHPATH_POSE poseOf(const ARCHPATH& path) {
+    const std::int32_t way = path.to - path.from;
+    return {.x = path.from + way * path.step / path.frames,
+            .y = path.ground - SINE_scaled(path.height, halfTurn * path.step / path.frames),
+            .angle = (path.trail[0].angle + path.spin) & SINE_tableMask};
+}
+
+} // namespace
+
+ARCHPATH* ARCHPATH_new() {
+    ARCHPATH* path = allocateRecord<ARCHPATH>();
+    if (path == nullptr || (path->random = RANDOM_new()) == nullptr) {
+        ARCHPATH_error();
+        delete path;
+        return nullptr;
+    }
+    path->left = newLeft;
+    path->right = newRight;
+    path->ground = newGround;
+    path->rise = newRise;
+    path->frames = newFrames;
+    path->scale = newScale;
+    path->echoes = newEchoes;
+    path->colour = 0xFFFFFF;
+    ARCHPATH_randomize(path);
+    return path;
+}
+
+void ARCHPATH_randomize(ARCHPATH* path) {
+    if (path == nullptr) {
+        ARCHPATH_error();
+        return;
+    }
+    path->random->counter = static_cast<std::uint32_t>(std::rand());
+    path->to = path->left + drawBelow(*path, path->right - path->left + 1);
+    beginArch(*path);
+    std::fill(std::begin(path->trail), std::end(path->trail),
+              ARCHPATH_POSE{.x = path->from, .y = path->ground, .angle = 0});
+}
+
+bool ARCHPATH_advance(ARCHPATH* path) {
+    if (path == nullptr || path->frames <= 0) {
+        ARCHPATH_error();
+        return false;
+    }
+    ++path->step;
+    const ARCHPATH_POSE pose = poseOf(*path);
+    std::copy_backward(std::begin(path->trail), std::end(path->trail) - 1, std::end(path->trail));
+    path->trail[0] = pose;
+    if (path->step < path->frames) {
+        return false;
+    }
+    beginArch(*path);
+    return true;
+}
+
+void ARCHPATH_draw(const ARCHPATH* path, IMG* target) {
+    if (path == nullptr || target == nullptr || target->pixels == nullptr) {
+        ARCHPATH_error();
+        return;
+    }
+    if (path->figure == nullptr) {
+        return;
+    }
+    const std::int32_t echoes = std::clamp(path->echoes, 0, mostEchoes);
+    for (std::int32_t echo = echoes; echo >= 0; --echo) {
+        const ARCHPATH_POSE& pose = path->trail[static_cast<std::size_t>(echo) * echoFrames];
+        const auto bright = static_cast<std::uint32_t>(256 * (echoes + 1 - echo) / (echoes + 1));
+        OBJ2D_setColour(path->figure, RGB888_mix(0, path->colour, echo == 0 ? bright : bright / 2));
+        path->figure->position->x = pose.x;
+        path->figure->position->y = pose.y;
+        path->figure->scale->x = path->figure->scale->y = path->scale;
+        path->figure->angle = static_cast<std::uint32_t>(pose.angle);
+        OBJ2D_draw(path->figure, target);
+    }
+}
+
+void ARCHPATH_delete(ARCHPATH** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        ARCHPATH_error();
+        return;
+    }
+    RANDOM_delete(&(*handle)->random);
+    delete *handle;
+    *handle = nullptr;
+}
+
+void ARCHPATH_error() {
+    reportLine(ARCHPATH_verbose, "ARCHPATH error");
+}
+
+} // namespace velm

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/lradial.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/wrap.h"
+#include "image/imgfx.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY LRADIAL_identity = makeIdentity("LRADIAL", "ZENDORAK", "20150703", "C", "CODE");
+std::uint8_t LRADIAL_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newMiddle = 128;
+constexpr std::int32_t newInner = 32;
+constexpr std::int32_t newReach = 64;
+constexpr std::int32_t newHueSpeed = 8;
+constexpr std::int32_t newCount = 96;
+constexpr std::int32_t mostWaves = 7; // periods of the wave around the circle
+constexpr std::uint32_t white = 0xFFFFFF;
+
+std::uint32_t colourOf(const LRADIAL& rays, std::int32_t index) {
+    if (rays.colours == nullptr || rays.colours->length <= 0) {
+        return white;
+    }
+    const std::int64_t around = std::int64_t{index} * rays.colours->length / rays.count;
+    const auto at = wrapAdd(rays.hue, static_cast<std::int32_t>(around));
+    return static_cast<std::uint32_t>(SAMPLE_get(rays.colours, positiveModulo(at, rays.colours->length)));
+}
+
+} // namespace
+
+LRADIAL* LRADIAL_new() {
+    LRADIAL* rays = allocateRecord<LRADIAL>();
+    if (rays == nullptr || (rays->lengths = allocateArray<std::int32_t>(newCount)) == nullptr) {
+        LRADIAL_error();
+        delete rays;
+        return nullptr;
+    }
+    rays->x = rays->y = newMiddle;
+    rays->inner = newInner;
+    rays->reach = newReach;
+    rays->hueSpeed = newHueSpeed;
+    rays->count = newCount;
+    LRADIAL_randomize(rays);
+    return rays;
+}
+
+void LRADIAL_setCount(LRADIAL* rays, std::int32_t count) {
+    std::int32_t* const lengths = rays == nullptr ? nullptr : allocateArray<std::int32_t>(count);
+    if (lengths == nullptr) {
+        LRADIAL_error();
+        return;
+    }
+    delete[] rays->lengths;
+    rays->lengths = lengths;
+    rays->count = count;
+    LRADIAL_setWaveLengths(rays);
+}
+
+void LRADIAL_randomize(LRADIAL* rays) {
+    if (rays == nullptr) {
+        LRADIAL_error();
+        return;
+    }
+    rays->turn = std::rand() & SINE_tableMask;
+    const std::int32_t spin = std::rand() & 7;
+    rays->spin = spin < 4 ? spin + 1 : 3 - spin;
+    const std::int32_t phase = std::rand() & SINE_tableMask;
+    const std::int32_t speed = std::rand() % 16 + 4;
+    const std::int32_t waves = std::rand() % mostWaves + 1;
+    SINE_setup(&rays->wave, SINE_tableLength, phase, speed, 0, waves);
+    LRADIAL_setWaveLengths(rays);
+}
+
+void LRADIAL_setWaveLengths(LRADIAL* rays) {
+    if (rays == nullptr) {
+        LRADIAL_error();
+        return;
+    }
+    for (std::int32_t i = 0; i < rays->count; ++i) {
+        // Whole periods around the circle, so that the last ray meets the first.
+        const std::int64_t around = std::int64_t{rays->wave.offsetStep} * i * SINE_tableLength / rays->count;
+        const std::int32_t angle = wrapAdd(rays->wave.phase, static_cast<std::int32_t>(around));
+        rays->lengths[i] =
+            static_cast<std::int32_t>((std::int64_t{rays->reach} * (SINE_entry(angle) + 32768)) >> 16);
+    }
+}
+
+void LRADIAL_setSoundLengths(LRADIAL* rays, const SAMPLE* sound, std::int32_t begin, std::int32_t step,
+                             std::int32_t shift) {
+    if (rays == nullptr || sound == nullptr || shift < 0 || shift > 31) {
+        LRADIAL_error();
+        return;
+    }
+    for (std::int32_t i = 0; i < rays->count; ++i) {
+        const std::int64_t at = begin + std::int64_t{step} * i;
+        const bool inside = at >= 0 && at < sound->length;
+        const std::int64_t value = inside ? SAMPLE_get(sound, static_cast<std::int32_t>(at)) : 0;
+        rays->lengths[i] = static_cast<std::int32_t>(
+            std::min<std::int64_t>((value < 0 ? -value : value) >> shift, std::max(rays->reach, 0)));
+    }
+}
+
+void LRADIAL_advance(LRADIAL* rays) {
+    if (rays == nullptr) {
+        LRADIAL_error();
+        return;
+    }
+    rays->turn = wrapAdd(rays->turn, rays->spin) & SINE_tableMask;
+    rays->hue = wrapAdd(rays->hue, rays->hueSpeed);
+    if (rays->colours != nullptr && rays->colours->length > 0) {
+        rays->hue = positiveModulo(rays->hue, rays->colours->length);
+    }
+    SINE_advance(&rays->wave);
+}
+
+void LRADIAL_draw(const LRADIAL* rays, IMG* target) {
+    if (rays == nullptr || target == nullptr || target->pixels == nullptr) {
+        LRADIAL_error();
+        return;
+    }
+    for (std::int32_t i = 0; i < rays->count; ++i) {
+        const std::int64_t around = std::int64_t{i} * SINE_tableLength / rays->count;
+        const std::int32_t angle = wrapAdd(rays->turn, static_cast<std::int32_t>(around));
+        const std::uint32_t half = (colourOf(*rays, i) >> 1) & 0x7F7F7F;
+        const auto ray = [&](std::int32_t length) {
+            const std::int32_t outer = wrapAdd(rays->inner, length);
+            IMGFX_addLine(target, rays->x + SINE_cosineScaled(rays->inner, angle),
+                          rays->y + SINE_scaled(rays->inner, angle),
+                          rays->x + SINE_cosineScaled(outer, angle), rays->y + SINE_scaled(outer, angle),
+                          half);
+        };
+        // Two strokes on one another: the inner half of a ray is twice as bright as its tip.
+        ray(rays->lengths[i]);
+        ray(rays->lengths[i] / 2);
+    }
+}
+
+void LRADIAL_delete(LRADIAL** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        LRADIAL_error();
+        return;
+    }
+    delete[](*handle)->lengths;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void LRADIAL_error() {
+    reportLine(LRADIAL_verbose, "LRADIAL error");
+}
+
+} // namespace velm

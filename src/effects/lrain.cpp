@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/lrain.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "image/imgfx.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY LRAIN_identity = makeIdentity("LRAIN", "20150702", "C", "ZENDORAK", "CODE");
+std::uint8_t LRAIN_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newSize = 256;
+constexpr std::int32_t newHorizon = 192;
+constexpr std::int32_t newCount = 96;
+constexpr std::int32_t newWindSpeed = 3;
+constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
+constexpr std::int32_t nearest = 255;
+constexpr std::int32_t slowest = 3 * one; // pixels a frame of the farthest drop
+constexpr std::int32_t shortest = 4;      // pixels
+
+/// 16.16 pixels that a drop falls a frame: 3 to just under 13.
+std::int32_t speedOf(const LRAIN_DROP& drop) {
+    return slowest + drop.near * (10 * one / nearest);
+}
+
+/// Pixels of the stroke: 4 to 35.
+std::int32_t lengthOf(const LRAIN_DROP& drop) {
+    return shortest + (drop.near >> 3);
+}
+
+/// 16.16 pixels that a drop drifts a frame; near ones drift more.
+std::int32_t driftOf(const LRAIN& rain, std::int32_t near) {
+    return static_cast<std::int32_t>((std::int64_t{rain.gust} * SINE_entry(rain.wind.phase) * near) >> 23);
+}
+
+/// Row on which a drop of that nearness lands.
+std::int32_t groundOf(const LRAIN& rain, std::int32_t near) {
+    return rain.horizon + (((rain.height - rain.horizon) * near) >> 8);
+}
+
+std::uint32_t colourOf(const LRAIN& rain, std::int32_t near) {
+    return RGB888_mix(rain.farColour, rain.nearColour, static_cast<std::uint32_t>(near));
+}
+
+/// Puts a drop at a random place of a row. Two numbers multiplied make far drops the more frequent ones.
+void startDrop(LRAIN& rain, LRAIN_DROP& drop, std::int32_t row) {
+    const std::int32_t a = RANDOM_next(rain.random) & nearest;
+    const std::int32_t b = RANDOM_next(rain.random) & nearest;
+    drop.near = (a * b) >> 8;
+    // A margin on both sides, so that the wind has drops to blow in.
+    const std::int32_t place = (RANDOM_next(rain.random) & 0xFFFF) * (2 * rain.width >> 8) >> 8;
+    drop.x = wrapShl(place - rain.width / 2, 16);
+    drop.y = wrapShl(row, 16);
+}
+
+void makeRing(LRAIN& rain, const LRAIN_DROP& drop) {
+    rain.rings[rain.nextRing] = {
+        .x = drop.x >> 16, .y = groundOf(rain, drop.near), .near = drop.near, .age = 0};
+    rain.nextRing = (rain.nextRing + 1) % LRAIN_ringCount;
+}
+
+/// A flat ellipse of eight strokes that grows and fades.
+void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
+    constexpr std::int32_t corners = 12;
+    const std::int32_t radius = (ring.age + 1) * (48 + ring.near) >> 8;
+    const auto left = static_cast<std::uint32_t>(LRAIN_ringFrames - ring.age);
+    const std::uint32_t colour =
+        RGB888_mix(0, colourOf(rain, ring.near), left * 128 / static_cast<std::uint32_t>(LRAIN_ringFrames));
+    std::int32_t fromX = ring.x;
+    std::int32_t fromY = ring.y;
+    for (std::int32_t i = 0; i <= corners; ++i) {
+        const std::int32_t angle = i * SINE_tableLength / corners;
+        const std::int32_t x = ring.x + SINE_cosineScaled(radius, angle);
+        const std::int32_t y = ring.y + SINE_scaled(radius, angle) / 3;
+        if (i > 0) {
+            IMGFX_addLine(target, fromX, fromY, x, y, colour);
+        }
+        fromX = x;
+        fromY = y;
+    }
+}
+
+} // namespace
+
+LRAIN* LRAIN_new() {
+    LRAIN* rain = allocateRecord<LRAIN>();
+    if (rain == nullptr || (rain->random = RANDOM_new()) == nullptr ||
+        (rain->drops = allocateArray<LRAIN_DROP>(newCount)) == nullptr) {
+        LRAIN_error();
+        if (rain != nullptr) {
+            LRAIN_delete(&rain);
+        }
+        return nullptr;
+    }
+    rain->width = rain->height = newSize;
+    rain->horizon = newHorizon;
+    rain->nearColour = 0xB0E0FF;
+    rain->farColour = 0x201040;
+    SINE_setup(&rain->wind, SINE_tableLength, 0, newWindSpeed, 0, 0);
+    rain->gust = 2 * one;
+    rain->count = newCount;
+    LRAIN_randomize(rain);
+    return rain;
+}
+
+void LRAIN_setCount(LRAIN* rain, std::int32_t count) {
+    LRAIN_DROP* const drops = rain == nullptr ? nullptr : allocateArray<LRAIN_DROP>(count);
+    if (drops == nullptr) {
+        LRAIN_error();
+        return;
+    }
+    delete[] rain->drops;
+    rain->drops = drops;
+    rain->count = count;
+    LRAIN_randomize(rain);
+}
+
+void LRAIN_randomize(LRAIN* rain) {
+    if (rain == nullptr) {
+        LRAIN_error();
+        return;
+    }
+    rain->random->counter = static_cast<std::uint32_t>(std::rand());
+    for (std::int32_t i = 0; i < rain->count; ++i) {
+        startDrop(*rain, rain->drops[i], 0);
+        rain->drops[i].y = (RANDOM_next(rain->random) & 0xFF) * (groundOf(*rain, rain->drops[i].near) << 8);
+    }
+    for (LRAIN_RING& ring : rain->rings) {
+        ring.age = LRAIN_ringFrames;
+    }
+}
+
+void LRAIN_advance(LRAIN* rain) {
+    if (rain == nullptr) {
+        LRAIN_error();
+        return;
+    }
+    SINE_advance(&rain->wind);
+    for (LRAIN_RING& ring : rain->rings) {
+        ring.age += ring.age < LRAIN_ringFrames ? 1 : 0;
+    }
+    for (std::int32_t i = 0; i < rain->count; ++i) {
+        LRAIN_DROP& drop = rain->drops[i];
+        drop.x = wrapAdd(drop.x, driftOf(*rain, drop.near));
+        drop.y = wrapAdd(drop.y, speedOf(drop));
+        if (drop.y >> 16 >= groundOf(*rain, drop.near)) {
+            makeRing(*rain, drop);
+            startDrop(*rain, drop, -lengthOf(drop));
+        }
+    }
+}
+
+void LRAIN_draw(const LRAIN* rain, IMG* target) {
+    if (rain == nullptr || target == nullptr || target->pixels == nullptr) {
+        LRAIN_error();
+        return;
+    }
+    for (const LRAIN_RING& ring : rain->rings) {
+        if (ring.age < LRAIN_ringFrames) {
+            drawRing(*rain, ring, target);
+        }
+    }
+    for (std::int32_t i = 0; i < rain->count; ++i) {
+        const LRAIN_DROP& drop = rain->drops[i];
+        const std::int32_t length = lengthOf(drop);
+        // The stroke lies along the drop's way, so it leans as far as the wind drives it.
+        const auto lean = static_cast<std::int32_t>(
+            std::int64_t{driftOf(*rain, drop.near)} * length / (speedOf(drop) >> 8) >> 8);
+        const std::int32_t x = drop.x >> 16;
+        const std::int32_t y = drop.y >> 16;
+        const std::uint32_t colour = colourOf(*rain, drop.near);
+        IMGFX_addLine(target, x - lean, y - length, x, y, RGB888_mix(0, colour, 128));
+        IMGFX_addLine(target, x - lean / 3, y - length / 3, x, y, RGB888_mix(0, colour, 128));
+    }
+}
+
+void LRAIN_delete(LRAIN** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        LRAIN_error();
+        return;
+    }
+    if ((*handle)->random != nullptr) {
+        RANDOM_delete(&(*handle)->random);
+    }
+    delete[](*handle)->drops;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void LRAIN_error() {
+    reportLine(LRAIN_verbose, "LRAIN error");
+}
+
+} // namespace velm

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/sineline.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "image/imgfx.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY SINELINE_identity = makeIdentity("SINELINE", "C", "CODE", "20150704", "ZENDORAK");
+std::uint8_t SINELINE_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newMiddle = 128;
+constexpr std::int32_t newReach = 64;
+constexpr std::int32_t newBreathSpeed = 6;
+constexpr std::int32_t newDepth = 128;
+constexpr std::int32_t newCorners = 96;
+constexpr std::int32_t newEchoes = 6;
+constexpr std::int32_t newLag = 2;
+constexpr std::int32_t mostEchoes = 16;
+constexpr std::int32_t leastCorners = 3;
+
+struct Corner {
+    std::int32_t x, y;
+};
+
+/// 1..4 or -4..-1.
+std::int32_t drawSpeed() {
+    const std::int32_t number = std::rand() & 7;
+    return number < 4 ? number + 1 : 3 - number;
+}
+
+std::int32_t drawTurns() {
+    return std::rand() % 3 + 1;
+}
+
+/// `reach` as the breath of `ago` frames before leaves it.
+std::int32_t breathed(const SINELINE& line, std::int32_t reach, std::int32_t ago) {
+    const std::int32_t sunk =
+        (line.depth * (32768 + SINE_entry(line.breath.phase - line.breath.speed * ago))) >> 16;
+    return (reach * (256 - sunk)) >> 8;
+}
+
+/// A corner of the curve as it was `ago` frames before.
+Corner cornerOf(const SINELINE& line, const std::int32_t (&reach)[2], std::int32_t index, std::int32_t ago) {
+    const std::int32_t around = index * SINE_tableLength / line.corners;
+    Corner corner = {.x = line.x, .y = line.y};
+    for (std::size_t i = 0; i < 2; ++i) {
+        const SINELINE_WAVE& wave = line.wave[i];
+        corner.x += SINE_scaled(reach[i], wave.phaseX - wave.speedX * ago + wave.turnsX * around);
+        corner.y += SINE_scaled(reach[i], wave.phaseY - wave.speedY * ago + wave.turnsY * around);
+    }
+    return corner;
+}
+
+void drawCurve(const SINELINE& line, IMG* target, std::int32_t ago, std::uint32_t colour) {
+    const std::int32_t reach[2] = {breathed(line, line.wave[0].reach, ago),
+                                   breathed(line, line.wave[1].reach, ago)};
+    Corner from = cornerOf(line, reach, 0, ago);
+    for (std::int32_t i = 1; i <= line.corners; ++i) {
+        const Corner to = cornerOf(line, reach, i % line.corners, ago);
+        IMGFX_addLine(target, from.x, from.y, to.x, to.y, colour);
+        from = to;
+    }
+}
+
+} // namespace
+
+SINELINE* SINELINE_new() {
+    SINELINE* line = allocateRecord<SINELINE>();
+    if (line == nullptr) {
+        SINELINE_error();
+        return nullptr;
+    }
+    line->x = line->y = newMiddle;
+    line->wave[0].reach = newReach;
+    line->wave[1].reach = newReach / 2;
+    SINE_setup(&line->breath, SINE_tableLength, 0, newBreathSpeed, 0, 0);
+    line->depth = newDepth;
+    line->corners = newCorners;
+    line->echoes = newEchoes;
+    line->lag = newLag;
+    line->colour = 0x2060C0;
+    line->echoColour = 0x6020C0;
+    SINELINE_randomize(line);
+    return line;
+}
+
+void SINELINE_randomize(SINELINE* line) {
+    if (line == nullptr) {
+        SINELINE_error();
+        return;
+    }
+    for (SINELINE_WAVE& wave : line->wave) {
+        wave.phaseX = std::rand() & SINE_tableMask;
+        wave.phaseY = std::rand() & SINE_tableMask;
+        wave.speedX = drawSpeed();
+        wave.speedY = drawSpeed();
+        wave.turnsX = drawTurns();
+        wave.turnsY = drawTurns();
+    }
+}
+
+void SINELINE_advance(SINELINE* line) {
+    if (line == nullptr) {
+        SINELINE_error();
+        return;
+    }
+    for (SINELINE_WAVE& wave : line->wave) {
+        wave.phaseX = (wave.phaseX + wave.speedX) & SINE_tableMask;
+        wave.phaseY = (wave.phaseY + wave.speedY) & SINE_tableMask;
+    }
+    SINE_advance(&line->breath);
+}
+
+void SINELINE_draw(const SINELINE* line, IMG* target) {
+    if (line == nullptr || line->corners < leastCorners || target == nullptr || target->pixels == nullptr) {
+        SINELINE_error();
+        return;
+    }
+    const std::int32_t echoes = std::clamp(line->echoes, 1, mostEchoes);
+    for (std::int32_t echo = echoes - 1; echo >= 0; --echo) {
+        // 0 for the newest; the echoes turn into the other colour and fade to nothing.
+        const auto age = static_cast<std::uint32_t>(256 * echo / echoes);
+        const std::uint32_t colour = RGB888_mix(line->colour, line->echoColour, age);
+        drawCurve(*line, target, echo * line->lag, RGB888_mix(colour, 0, age));
+    }
+}
+
+void SINELINE_delete(SINELINE** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        SINELINE_error();
+        return;
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+void SINELINE_error() {
+    reportLine(SINELINE_verbose, "SINELINE error");
+}
+
+} // namespace velm

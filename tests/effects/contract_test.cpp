@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/archpath.h"
+#include "effects/contract.h"
+#include "effects/line_font.h"
+#include "effects/lradial.h"
+#include "effects/lrain.h"
+#include "effects/sineline.h"
+
+namespace velm::test {
+namespace {
+
+TEST(Contract, LRAIN) {
+    expectContract<LRAIN>({LRAIN_new, LRAIN_delete, LRAIN_randomize, LRAIN_advance, LRAIN_draw},
+                          LRAIN_verbose, "LRAIN error", 3);
+}
+
+TEST(Contract, SINELINE) {
+    const auto middle = [](SINELINE* line) { line->x = 48, line->y = 32, line->colour = 0x010101; };
+    expectContract<SINELINE>(
+        {SINELINE_new, SINELINE_delete, SINELINE_randomize, SINELINE_advance, SINELINE_draw, middle},
+        SINELINE_verbose, "SINELINE error", 1);
+}
+
+TEST(Contract, LRADIAL) {
+    expectContract<LRADIAL>({LRADIAL_new, LRADIAL_delete, LRADIAL_randomize, LRADIAL_advance, LRADIAL_draw},
+                            LRADIAL_verbose, "LRADIAL error", 2);
+}
+
+TEST(Contract, ARCHPATH) {
+    const PixelPen pen(1, 1);
+    const auto leap = [&pen](ARCHPATH* path) {
+        path->figure = static_cast<OBJ2D*>(LIST_get(pen->glyphs, 'A'));
+        path->right = 90, path->ground = 60, path->rise = 40;
+    };
+    expectContract<ARCHPATH>(
+        {ARCHPATH_new, ARCHPATH_delete, ARCHPATH_randomize, ARCHPATH_advance, ARCHPATH_draw, leap},
+        ARCHPATH_verbose, "ARCHPATH error", 2);
+}
+
+} // namespace
+} // namespace velm::test
