@@ -43,18 +43,14 @@ std::int64_t reduced(std::int64_t value, std::int64_t modulus) {
     return rest < 0 ? rest + modulus : rest;
 }
 
-std::int32_t swing(const SINE& wave, std::int32_t reach) {
-    return wrapMul(SINE_entry(wrapAdd(wave.phase, wave.offset)), reach) >> 15;
-}
-
 /// The picture's column that stands at the left of target row `y`, which shows picture row `row`.
 std::int32_t firstColumn(const BACKMOVE& back, std::int32_t y, std::int32_t row) {
     const std::int64_t band = std::int64_t{row} * back.depths / back.picture->height;
     const std::int64_t travelled = (back.x * (band + 1) / back.depths) >> fractionBits;
     const std::int32_t angle = wrapAdd(back.ripple.phase, wrapMul(back.ripple.offsetStep, y));
-    const std::int32_t shift = wrapMul(SINE_entry(angle), back.rippleReach) >> 15;
+    const std::int32_t shift = SINE_scaled(back.rippleReach, angle);
     return static_cast<std::int32_t>(
-        reduced(travelled + swing(back.pathX, back.reachX) + shift, back.picture->width));
+        reduced(travelled + SINE_scaled(back.reachX, back.pathX.phase) + shift, back.picture->width));
 }
 
 /// Calls touch(target pixel, picture pixel at the brightness asked for) all over the target, or reports. Each
@@ -68,7 +64,7 @@ void paint(const BACKMOVE* back, IMG* target, Touch touch) {
     }
     const IMG& picture = *back->picture;
     const std::uint32_t brightness = std::min(back->brightness, fullBrightness);
-    const std::int64_t top = (back->y >> fractionBits) + swing(back->pathY, back->reachY);
+    const std::int64_t top = (back->y >> fractionBits) + SINE_scaled(back->reachY, back->pathY.phase);
     std::uint32_t* to = target->pixels;
     for (std::int32_t y = 0; y < target->height; ++y) {
         const auto row = static_cast<std::int32_t>(reduced(top + y, picture.height));
