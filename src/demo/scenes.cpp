@@ -15,6 +15,8 @@ constexpr SCENE scenes[] = {
     {"interlude-a", "balls in a turning light that leave fading trails", VELM4030_sceneInterludeA},
     {"interlude-b", "a waving mesh in moving hues under the hopping word", VELM4030_sceneInterludeB},
     {"extra-1", "the names in this folder on a drum, in a ring of sound", VELM4030_sceneExtra1},
+    {"extra-2", "a word hops over a pond, and its rings meet, cross and run home", VELM4030_sceneExtra2},
+    {"extra-3", "portholes that open on another world, over a city without end", VELM4030_sceneExtra3},
     {"particles", "water falls through the letters, and sparks turn it to stone", VELM4030_sceneParticles},
 };
 

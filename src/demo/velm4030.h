@@ -56,6 +56,10 @@ void VELM4030_sceneInterludeBSetup();
 void VELM4030_sceneExtra1();
 /// 900 frames of water that falls through a word, and of sparks that turn it to stone.
 void VELM4030_sceneParticles();
+/// 900 frames of rings on a pond, from where a hopping word lands.
+void VELM4030_sceneExtra2();
+/// 750 frames of portholes into another picture.
+void VELM4030_sceneExtra3();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
