@@ -1,10 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// How the elements of a scene come and go over its frames. Weights are 0..256, as RGB888_mix takes them.
+// How the elements of a scene come and go over its frames, and in which hue. Weights are 0..256, as
+// RGB888_mix takes them.
 //
 //     sky->brightness = curveShow(frame, 100, 400, 60); // in over 100..160, out over 340..400
 #pragma once
+
+#include "demo/state.h"
+#include "foundation/wrap.h"
+#include "image/rgb888.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -27,6 +32,12 @@ constexpr std::uint32_t curveShow(std::int32_t frame, std::int32_t first, std::i
                                   std::int32_t slope) {
     return static_cast<std::uint32_t>(
         std::min(curveRise(frame, first, first + slope), 256 - curveRise(frame, last - slope, last)));
+}
+
+/// A colour of the hue ramp, which is used as a ring, at a brightness of 0..256.
+inline std::uint32_t curveHue(std::int32_t index, std::uint32_t brightness) {
+    const std::int32_t hue = SAMPLE_get(demo.hueRamp, positiveModulo(index, hueCount));
+    return RGB888_mix(0, static_cast<std::uint32_t>(hue), brightness);
 }
 
 } // namespace velm

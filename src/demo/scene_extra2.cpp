@@ -9,7 +9,6 @@
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "effects/circle.h"
-#include "foundation/wrap.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -43,11 +42,6 @@ struct Pond {
     IMG* bent;             ///< the water, bent by rows; then the bands
     std::int32_t nextDrop; ///< index of the body that the next landing takes
 };
-
-std::uint32_t hueAt(std::int32_t index, std::uint32_t brightness) {
-    const std::int32_t hue = SAMPLE_get(demo.hueRamp, positiveModulo(index, hueCount));
-    return RGB888_mix(0, static_cast<std::uint32_t>(hue), brightness);
-}
 
 void makeWord(Pond& pond) {
     constexpr std::int32_t speed = 8;        // 64 frames a hop
@@ -99,7 +93,7 @@ void makeBends(Pond& pond) {
 void dropRing(Pond& pond, std::int32_t x, std::int32_t y, std::int32_t hue) {
     CIRCLE_BODY& body = pond.drops->bodies[pond.nextDrop];
     pond.nextDrop = (pond.nextDrop + 1) % pond.drops->count;
-    body = {x * one, y * one, 0, 0, 0, 3 * one / 2, hueAt(hue, 230)};
+    body = {x * one, y * one, 0, 0, 0, 3 * one / 2, curveHue(hue, 230)};
 }
 
 /// Ends the rings that have reached their largest size and began again.
@@ -167,7 +161,7 @@ void drawWater(Pond& pond, std::int32_t frame) {
         CIRCLE_drawAdd(pond.drops, pond.water);
     }
     if (pond.ribbon != nullptr && frame >= ribbonBegin && frame < ribbonEnd) {
-        pond.ribbon->colour = hueAt(5 * frame, curveShow(frame, ribbonBegin, ribbonEnd, 80) / 2);
+        pond.ribbon->colour = curveHue(5 * frame, curveShow(frame, ribbonBegin, ribbonEnd, 80) / 2);
         SINEDOTS_advance(pond.ribbon);
         SINEDOTS_drawAdd(pond.ribbon, pond.water);
     }
@@ -198,7 +192,7 @@ void drawBands(Pond& pond, std::int32_t frame) {
         body.x = (middle + SINE_scaled(90, 5 * frame + half)) * one;
         body.y = (middle + SINE_scaled(70, 7 * frame + half)) * one;
         body.radius = (spacing * pond.bands->rings + frame % (2 * spacing)) * one;
-        body.colour = hueAt(600 + SINE_scaled(160, 4 * frame), brightness); // blue to magenta
+        body.colour = curveHue(600 + SINE_scaled(160, 4 * frame), brightness); // blue to magenta
     }
     IMG_fill(pond.bent, 0);
     CIRCLE_drawXor(pond.bands, pond.bent);
@@ -256,7 +250,7 @@ void VELM4030_sceneExtra2() {
             VELM4030_scrollLayer();
         }
         if (pond.word != nullptr) {
-            pond.word->colour = RGB888_average(hueAt(6 * frame, 256), 0xFFFFFF);
+            pond.word->colour = RGB888_average(curveHue(6 * frame, 256), 0xFFFFFF);
             LOGOFLY_draw(pond.word);
         }
         VELM4030_mouseLayer();

@@ -10,7 +10,6 @@
 #include "demo/velm4030.h"
 #include "effects/backmove.h"
 #include "effects/circle.h"
-#include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -42,14 +41,9 @@ struct Portholes {
     IMG* view;     ///< the other world, cut out
 };
 
-std::uint32_t hueAt(std::int32_t index, std::uint32_t brightness) {
-    const std::int32_t hue = SAMPLE_get(demo.hueRamp, positiveModulo(index, hueCount));
-    return RGB888_mix(0, static_cast<std::uint32_t>(hue), brightness);
-}
-
-/// The same half way to white, for text.
+/// A hue half way to white, for text.
 std::uint32_t lightHueAt(std::int32_t index, std::uint32_t brightness) {
-    return RGB888_average(hueAt(index, brightness), RGB888_mix(0, 0xFFFFFF, brightness));
+    return RGB888_average(curveHue(index, brightness), RGB888_mix(0, 0xFFFFFF, brightness));
 }
 
 /// The picture mirrored to the right and down as often as it is asked for: it then repeats without a seam.
@@ -167,7 +161,7 @@ void drawRims(const Portholes& show, std::int32_t frame) {
         const std::int32_t radius = body.radius >> 16;
         for (std::int32_t k = -4; radius > 0 && k <= 4; ++k) {
             CIRCLE_addRing(demo.screen, body.x >> 16, body.y >> 16, radius + k,
-                           hueAt(6 * frame + 256 * i, glow[k < 0 ? -k : k]));
+                           curveHue(6 * frame + 256 * i, glow[k < 0 ? -k : k]));
         }
     }
 }
@@ -181,7 +175,7 @@ void drawHoops(const Portholes& show, std::int32_t frame) {
     const std::int32_t step = show.hoops->spacing;
     const std::int32_t radius = show.hoops->largest - step + 3 * frame % step;
     show.hoops->bodies[0] = {
-        middle * one, middle * one, 0, 0, radius * one, 0, hueAt(10 * frame, brightness)};
+        middle * one, middle * one, 0, 0, radius * one, 0, curveHue(10 * frame, brightness)};
     CIRCLE_drawAdd(show.hoops, demo.screen);
 }
 

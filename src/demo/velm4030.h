@@ -60,6 +60,8 @@ void VELM4030_sceneParticles();
 void VELM4030_sceneExtra2();
 /// 750 frames of portholes into another picture.
 void VELM4030_sceneExtra3();
+/// 750 frames of flight through stars, hoops and polygons.
+void VELM4030_sceneExtra12();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
