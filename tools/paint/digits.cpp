@@ -26,9 +26,8 @@ std::int32_t topOf(std::int32_t digit) {
 Picture boldDigit(std::int32_t digit) {
     constexpr std::string_view names = "0123456789ABCDEF";
     constexpr std::int32_t middle = 6;
-    // The zero goes without its dot: nothing here can be taken for the letter.
-    constexpr std::string_view zero = "51 91 B3 B9 9B 5B 39 33 51";
-    Strokes strokes = parseStrokes(digit == 0 ? zero : mediumGlyph(names[static_cast<std::size_t>(digit)]));
+    Strokes strokes =
+        parseStrokes(digit == 0 ? openZero : mediumGlyph(names[static_cast<std::size_t>(digit)]));
     for (Segment& segment : strokes) {
         segment.from.y += segment.from.y > middle ? 1 : 0;
         segment.to.y += segment.to.y > middle ? 1 : 0;
