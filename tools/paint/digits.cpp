@@ -96,7 +96,8 @@ Picture paintDigitsA() {
     Picture column = makePicture(cell, cell * digits);
     for (std::int32_t digit = 0; digit < digits; ++digit) {
         const Picture shape = boldDigit(digit);
-        const std::uint32_t colour = hue(digit * hueStep + hueTurn / 3);
+        // A little white brings the dark blues up to the light of the other hues.
+        const std::uint32_t colour = blended(hue(digit * hueStep + hueTurn / 3), 0xFFFFFF, 60);
         for (std::int32_t i = 0; i < cell * cell; ++i) {
             const std::int32_t x = i % cell;
             const std::int32_t y = i / cell;
