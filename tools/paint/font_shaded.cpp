@@ -40,13 +40,18 @@ constexpr Cut letterCut = {2, 4, 2, 3, 30};
 constexpr Cut crowdedCut = {2, 4, 2, 3, 21};
 constexpr Cut drawingCut = {2, 2, 0, 16, 10};
 
-/// A stroke's axis. An end is square where nothing or a stroke at a right angle meets it, otherwise round.
+constexpr std::int32_t longSlant = 128; ///< the least height of strokes like those of X, in eighths
+
+/// A stroke's axis. An end is square where nothing or a stroke at a right angle meets it, otherwise round. A
+/// long slanted stroke's square end is cut level, so that all letters stand on one line.
 struct Axis {
     Point from;
     Point along;
     std::int32_t length;
     bool squareFrom;
     bool squareTo;
+
+    bool isSlanted() const { return along.x != 0 && std::abs(along.y) >= longSlant; }
 };
 
 /// What a sample sees of one axis: its distance, and how far the slope there faces the light, -256 to 256.
@@ -110,6 +115,22 @@ Slope aroundEnd(Point offset) {
     return {distance, lightOn(offset.x, offset.y, distance)};
 }
 
+/// How far a sample lies beyond the start; `offset` from there.
+std::int64_t pastStart(const Axis& axis, Point offset) {
+    if (axis.isSlanted() && axis.squareFrom) {
+        return axis.along.y > 0 ? -offset.y : offset.y;
+    }
+    return -dot(axis.along, offset) / axis.length;
+}
+
+/// How far it lies beyond the finish; `offset` from there.
+std::int64_t pastFinish(const Axis& axis, Point offset) {
+    if (axis.isSlanted() && axis.squareTo) {
+        return axis.along.y > 0 ? offset.y : -offset.y;
+    }
+    return dot(axis.along, offset) / axis.length;
+}
+
 /// Beyond a square end the roof falls off like a hip: the steeper of the side and the end counts.
 Slope beyondSquareEnd(const Axis& axis, std::int64_t side, std::int64_t beyond, std::int32_t sign) {
     if (std::max(side, -side) > beyond) {
@@ -117,8 +138,10 @@ Slope beyondSquareEnd(const Axis& axis, std::int64_t side, std::int64_t beyond, 
         return {static_cast<std::int32_t>(side * turn),
                 lightOn(-turn * axis.along.y, turn * axis.along.x, axis.length)};
     }
+    const std::int64_t x = axis.isSlanted() ? 0 : axis.along.x;
     return {static_cast<std::int32_t>(beyond),
-            lightOn(std::int64_t{sign} * axis.along.x, std::int64_t{sign} * axis.along.y, axis.length)};
+            lightOn(sign * x, std::int64_t{sign} * axis.along.y,
+                    rootOf(x * x + std::int64_t{axis.along.y} * axis.along.y))};
 }
 
 Slope slopeAt(const Axis& axis, Point sample) {
@@ -130,13 +153,14 @@ Slope slopeAt(const Axis& axis, Point sample) {
         return {distance, lightOn(level ? offset.x : 0, level ? 0 : offset.y, distance)};
     }
     const std::int64_t side = cross(axis.along, offset) / axis.length;
-    const std::int64_t forward = dot(axis.along, offset) / axis.length;
-    if (forward < 0) {
-        return axis.squareFrom ? beyondSquareEnd(axis, side, -forward, -1) : aroundEnd(offset);
+    const Point offsetTo = minus(offset, axis.along);
+    const std::int64_t before = pastStart(axis, offset);
+    const std::int64_t after = pastFinish(axis, offsetTo);
+    if (before > 0) {
+        return axis.squareFrom ? beyondSquareEnd(axis, side, before, -1) : aroundEnd(offset);
     }
-    if (forward > axis.length) {
-        return axis.squareTo ? beyondSquareEnd(axis, side, forward - axis.length, 1)
-                             : aroundEnd(minus(offset, axis.along));
+    if (after > 0) {
+        return axis.squareTo ? beyondSquareEnd(axis, side, after, 1) : aroundEnd(offsetTo);
     }
     return beyondSquareEnd(axis, side, 0, 1);
 }
