@@ -27,18 +27,18 @@ constexpr std::int32_t middleGrey = 150;
 constexpr std::int32_t slopeGrey = 100; ///< what a slope that faces the light or turns away adds or takes
 constexpr std::int32_t ridgeGrey = 255;
 
-/// How far the drawing grid is stretched into the cell, and how thick its strokes are.
+/// How far the drawing grid is stretched into the cell, and how thick its strokes are; all in eighths.
 struct Cut {
     std::int32_t scaleX;
     std::int32_t scaleY;
     std::int32_t left;
     std::int32_t top;
-    std::int32_t halfWidth; ///< in eighths
+    std::int32_t halfWidth;
 };
 
-constexpr Cut letterCut = {2, 4, 2, 3, 30};
-constexpr Cut crowdedCut = {2, 4, 2, 3, 21};
-constexpr Cut drawingCut = {2, 2, 0, 16, 10};
+constexpr Cut letterCut = {16, 32, 20, 28, 30};
+constexpr Cut crowdedCut = {16, 32, 20, 28, 21};
+constexpr Cut drawingCut = {14, 14, 16, 144, 10};
 
 constexpr std::int32_t longSlant = 128; ///< the least height of strokes like those of X, in eighths
 
@@ -89,8 +89,7 @@ bool isSquareEnd(const Strokes& strokes, const Segment& segment, Point end) {
 /// The strokes in the cell, in eighths of a pixel.
 Strokes placed(Strokes strokes, const Cut& cut) {
     const auto place = [&cut](Point p) {
-        return Point{(p.x * cut.scaleX + cut.left) * unit + unit / 2,
-                     (p.y * cut.scaleY + cut.top) * unit + unit / 2};
+        return Point{p.x * cut.scaleX + cut.left, p.y * cut.scaleY + cut.top};
     };
     for (Segment& segment : strokes) {
         segment.from = place(segment.from);
@@ -219,7 +218,7 @@ void cutGlyph(IMG& sheet, std::int32_t code, const Strokes& strokes, const Cut& 
 
 /// The control codes and code 127 hold drawings.
 std::size_t drawingOf(std::int32_t code) {
-    return static_cast<std::size_t>(code) * 2 % drawings().size();
+    return (static_cast<std::size_t>(code) * 2 + 1) % drawings().size();
 }
 
 } // namespace

@@ -86,7 +86,7 @@ void drawWord(IMG& img, const Lines& lines) {
 
 /// The number in the line font, twice as large, at the end of three lines.
 void drawNumber(IMG& img, const Lines& lines) {
-    constexpr std::int32_t top = 42;
+    constexpr std::int32_t top = 41;
     constexpr std::int32_t right = 123;
     constexpr std::int32_t advance = 24;
     constexpr std::int32_t scale = 2;
