@@ -72,7 +72,7 @@ TEST(Array, ARRAY_copyCountsBytesAndARRAY_sliceIsEmptyAndARRAY_insertRangeOnlyCh
     EXPECT_EQ(textOf(dst), "ARRAY{\nab....\n}\n");
     ARRAY_setElementSize(dst, 0); // elements of no bytes have none to copy
     ARRAY_push(dst, ""), ARRAY_push(dst, ""), ARRAY_push(dst, "");
-    ARRAY_copyInto(src, dst), ARRAY_copyInto(dst, src);
+    ARRAY_copyInto(dst, src), ARRAY_copyInto(src, dst);
     EXPECT_EQ(textOf(src), "ARRAY{\nabcdefghijkl\n}\n");
 }
 
