@@ -185,6 +185,18 @@ TEST_F(SamTest, HostileFilesAreRefusedAtEveryLength) {
     EXPECT_EQ(SAM_load(sam), 0) << "a folder is no sound";
 }
 
+TEST_F(SamTest, AnOpenFileNeedsNoName) {
+    const std::string bytes = saved("x", {1, 2});
+    const Owned<SAM, SAM_delete> nameless(SAM_new());
+    SAM_setSample(nameless, sampleOf({1, 2}));
+    nameless->storage = 'b';
+    nameless->file = std::fopen(sam->path, "wb");
+    EXPECT_EQ(SAM_save(nameless), 1);
+    EXPECT_EQ(contents(), bytes);
+    nameless->file = std::fopen(sam->path, "rb");
+    EXPECT_EQ(SAM_load(nameless) + nameless->sample->length, 1);
+}
+
 TEST_F(SamTest, LoopedReadingWrapsBetweenItsPoints) {
     SAM_setSample(sam, sampleOf({0, 1, 2, 3, 4, 5}));
     sam->state = 'l';
