@@ -5,7 +5,10 @@
 #include "effects/line_font.h"
 #include "effects/lradial.h"
 #include "effects/lrain.h"
+#include "effects/rect.h"
 #include "effects/sineline.h"
+
+#include <algorithm>
 
 namespace velm::test {
 namespace {
@@ -36,6 +39,17 @@ TEST(Contract, ARCHPATH) {
     expectContract<ARCHPATH>(
         {ARCHPATH_new, ARCHPATH_delete, ARCHPATH_randomize, ARCHPATH_advance, ARCHPATH_draw, leap},
         ARCHPATH_verbose, "ARCHPATH error", 2);
+}
+
+TEST(Contract, RECT) {
+    for (const RECT_PATH path : {RECT_PATH::drift, RECT_PATH::tunnel, RECT_PATH::nest}) {
+        const auto place = [path](RECT* rect) {
+            rect->path = path, rect->width = 96, rect->height = 64;
+            std::for_each_n(rect->panes, rect->count, [](RECT_PANE& pane) { pane.colour &= 0x030303; });
+        };
+        expectContract<RECT>({RECT_new, RECT_delete, RECT_randomize, RECT_advance, RECT_draw, place},
+                             RECT_verbose, "RECT error", 2);
+    }
 }
 
 } // namespace
