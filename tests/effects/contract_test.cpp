@@ -8,8 +8,11 @@
 #include "effects/lrain.h"
 #include "effects/lscrlxyz.h"
 #include "effects/lscroll.h"
+#include "effects/rect.h"
 #include "effects/sineline.h"
 #include "effects/wordzoom.h"
+
+#include <algorithm>
 
 namespace velm::test {
 namespace {
@@ -71,6 +74,17 @@ TEST(Contract, TheWritersWithLineFonts) {
     expectContract<WORDZOOM>({WORDZOOM_new, WORDZOOM_delete, WORDZOOM_randomize, WORDZOOM_advance,
                               WORDZOOM_draw, middle(WORDZOOM_setText)},
                              WORDZOOM_verbose, "WORDZOOM error", 2);
+}
+
+TEST(Contract, RECT) {
+    for (const RECT_PATH path : {RECT_PATH::drift, RECT_PATH::tunnel, RECT_PATH::nest}) {
+        const auto place = [path](RECT* rect) {
+            rect->path = path, rect->width = 96, rect->height = 64;
+            std::for_each_n(rect->panes, rect->count, [](RECT_PANE& pane) { pane.colour &= 0x030303; });
+        };
+        expectContract<RECT>({RECT_new, RECT_delete, RECT_randomize, RECT_advance, RECT_draw, place},
+                             RECT_verbose, "RECT error", 2);
+    }
 }
 
 } // namespace
