@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/archpath.h"
 #include "effects/contract.h"
+#include "effects/flashpix.h"
 #include "effects/line_font.h"
 #include "effects/lradial.h"
 #include "effects/lrain.h"
 #include "effects/rect.h"
 #include "effects/sineline.h"
+#include "effects/sinescan.h"
 
 #include <algorithm>
 
@@ -50,6 +52,20 @@ TEST(Contract, RECT) {
         expectContract<RECT>({RECT_new, RECT_delete, RECT_randomize, RECT_advance, RECT_draw, place},
                              RECT_verbose, "RECT error", 2);
     }
+}
+
+TEST(Contract, SINESCAN) {
+    const Picture source(noise(40, 30, 1));
+    const auto place = [&source](SINESCAN* scan) { scan->source = source, scan->x = 48, scan->y = 32; };
+    expectContract<SINESCAN>(
+        {SINESCAN_new, SINESCAN_delete, SINESCAN_randomize, SINESCAN_advance, SINESCAN_draw, place},
+        SINESCAN_verbose, "SINESCAN error", 1);
+}
+
+TEST(Contract, FLASHPIX) {
+    expectContract<FLASHPIX>(
+        {FLASHPIX_new, FLASHPIX_delete, FLASHPIX_randomize, FLASHPIX_advance, FLASHPIX_draw},
+        FLASHPIX_verbose, "FLASHPIX error", 3);
 }
 
 } // namespace

@@ -98,10 +98,11 @@ TEST(Program, CarriesTheIdentificationRecordsOfItsModules) {
     std::ifstream file(VELM_PROGRAM, std::ios::binary);
     const std::string binary{std::istreambuf_iterator<char>(file), {}};
     for (const char* module :
-         {"LIST",   "SINE",   "RANDOM",   "IMG",   "IMGFX",    "RGB888",   "VEC2D",    "SEG2D",   "OBJ2D",
-          "FONT",   "CURSOR", "SAMPLE",   "SOUND", "MUSIC",    "XDPY",     "XKBD",     "KBD",     "XPTR",
-          "XSND",   "LFONT",  "SCROLL",   "DISTX", "DISTY",    "SINEDOTS", "BALL3D",   "LOGOFLY", "MOUSE",
-          "RASTER", "FPS",    "VELM4030", "LRAIN", "SINELINE", "LRADIAL",  "ARCHPATH", "RECT"}) {
+         {"LIST",    "SINE",     "RANDOM", "IMG",      "IMGFX",   "RGB888",   "VEC2D", "SEG2D",
+          "OBJ2D",   "FONT",     "CURSOR", "SAMPLE",   "SOUND",   "MUSIC",    "XDPY",  "XKBD",
+          "KBD",     "XPTR",     "XSND",   "LFONT",    "SCROLL",  "DISTX",    "DISTY", "SINEDOTS",
+          "BALL3D",  "LOGOFLY",  "MOUSE",  "RASTER",   "FPS",     "VELM4030", "LRAIN", "SINELINE",
+          "LRADIAL", "ARCHPATH", "RECT",   "SINESCAN", "FLASHPIX"}) {
         std::string field(module);
         field.resize(8, ' ');
         field += '\0';
