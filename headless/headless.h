@@ -50,6 +50,8 @@ struct Headless {
 
     std::uint32_t frames = 0;           ///< presentations so far
     std::int64_t micros = 0;            ///< virtual time
+    std::int64_t alarmAt = 0;           ///< virtual time of the next alarm, which a sleep raises; 0 for none
+    std::uint32_t alarmInterval = 0;    ///< microseconds from one alarm to the next; 0 for one alarm
     std::uint32_t framesAtIdlePoll = 0; ///< presentations when the keyboard was last asked in vain
     std::size_t nextKey = 0;
     std::size_t nextPointer = 0;

@@ -7,6 +7,7 @@
 #include "platform/xkbd.h"
 #include "platform/xptr.h"
 
+#include <csignal>
 #include <cstdlib>
 
 namespace velm {
@@ -42,7 +43,20 @@ std::int64_t CLOCK_now() {
 }
 
 void CLOCK_sleep(std::int32_t micros) {
-    headless.micros += micros;
+    const std::int64_t end = headless.micros + micros;
+    while (headless.alarmAt != 0 && headless.alarmAt <= end) {
+        headless.micros = headless.alarmAt;
+        headless.alarmAt = headless.alarmInterval == 0 ? 0 : headless.alarmAt + headless.alarmInterval;
+        std::raise(SIGALRM);
+    }
+    headless.micros = end;
+}
+
+void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
+    if (delay <= CLOCK_longestAlarm && interval <= CLOCK_longestAlarm) {
+        headless.alarmAt = delay == 0 ? 0 : headless.micros + delay;
+        headless.alarmInterval = interval;
+    }
 }
 
 XDPY* XDPY_open() {

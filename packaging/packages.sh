@@ -6,5 +6,5 @@
 # shellcheck disable=SC2034
 build_packages=(g++ cmake ninja-build libx11-dev)
 test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev libcli11-dev libxfixes-dev zlib1g-dev ffmpeg netpbm
-    pulseaudio pulseaudio-utils libpulsedsp xdotool xvfb)
+    pulseaudio pulseaudio-utils libpulsedsp sox xdotool xvfb)
 lint_packages=(clang-format clang-tidy libbenchmark-dev)

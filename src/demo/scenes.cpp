@@ -14,6 +14,10 @@ constexpr SCENE scenes[] = {
     {"default", "dots, a turning figure, the wave scroller and four bobbing letters", VELM4030_sceneDefault},
     {"interlude-a", "balls in a turning light that leave fading trails", VELM4030_sceneInterludeA},
     {"interlude-b", "a waving mesh in moving hues under the hopping word", VELM4030_sceneInterludeB},
+    {"extra-1", "the names in this folder on a drum, in a ring of sound", VELM4030_sceneExtra1},
+    {"extra-10", "a journey through the panorama, over water, with a leaping figure", VELM4030_sceneExtra10},
+    {"extra-11", "rain falls on a city, and window after window lights up", VELM4030_sceneExtra11},
+    {"particles", "water falls through the letters, and sparks turn it to stone", VELM4030_sceneParticles},
 };
 
 } // namespace

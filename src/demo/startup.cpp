@@ -7,6 +7,7 @@
 #include "demo/instruments.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "effects/partixel.h"
 #include "image/imgfx.h"
 
 #include <cstdlib>
@@ -93,6 +94,7 @@ void makeGenerator() {
     if (demo.random != nullptr) {
         demo.random->counter = ownGeneratorSeed;
     }
+    PARTIXEL_random = demo.random;
 }
 
 void makeClock() {

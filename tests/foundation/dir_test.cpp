@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/dir.h"
-#include "support/capture_stdout.h"
+#include "foundation/file.h"
+#include "support/owned.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -27,18 +28,18 @@ TEST(Dir, DIR_deleteKeepsTheNames) {
     }
     DIR* dir = DIR_new();
     ASSERT_EQ(DIR_read(dir, folder.c_str()), 1);
-    EXPECT_EQ(DIR_read(dir, (folder + "/missing").c_str()), 0);
+    expectReports(DIR_verbose, 6, "DIR error", [&] {
+        for (const std::string& path : {folder + "/missing", folder + "/entry 0", std::string()}) {
+            EXPECT_EQ(DIR_read(dir, path.c_str()), 0) << path;
+        }
+        EXPECT_EQ(DIR_read(dir, nullptr) + DIR_read(nullptr, "."), 0);
+        const FailingAllocation third(3);
+        EXPECT_EQ(DIR_read(dir, folder.c_str()), 0);
+    });
     LIST* names = dir->names;
     auto* stream = static_cast<::DIR*>(dir->handle);
-    EXPECT_STREQ(DIR_getName(dir), "");
-    EXPECT_EQ(DIR_same(dir, dir) + DIR_isValid(dir), 2);
     DIR_delete(&dir);
     EXPECT_EQ(dir, nullptr);
-    DIR_verbose = 1;
-    EXPECT_EQ(printedBy([] { EXPECT_EQ(DIR_isValid(nullptr) + DIR_same(nullptr, nullptr), 0); }),
-              "DIR error\nDIR error\n");
-    DIR_verbose = 0;
-
     std::vector<std::string> read;
     for (std::int32_t i = 0; i < names->count; ++i) {
         auto* name = static_cast<char*>(LIST_get(names, i));
@@ -51,6 +52,28 @@ TEST(Dir, DIR_deleteKeepsTheNames) {
     LIST_delete(&names);
     closedir(stream);
     std::filesystem::remove_all(folder);
+}
+
+TEST(Dir, DIR_sameNeverComparesAndFILE_sameNeverCompares) {
+    DIR* dir = DIR_new();
+    DIR other{};
+    FILE* file = FILE_new();
+    FILE another;
+    EXPECT_EQ(DIR_same(dir, &other) + DIR_isValid(dir), 2);
+    EXPECT_EQ(FILE_same(file, &another) + FILE_isValid(file), 2);
+    EXPECT_EQ(std::string(DIR_getName(dir)) + FILE_getName(file), "");
+    LIST_delete(&dir->names);
+    DIR_delete(&dir), FILE_delete(&file);
+    expectReports(DIR_verbose, 5, "DIR error", [&] {
+        EXPECT_EQ(DIR_same(dir, &other) + DIR_same(&other, dir) + DIR_isValid(dir), 0);
+        DIR_delete(&dir);
+        expectFailure(1, DIR_new);
+    });
+    expectReports(FILE_verbose, 5, "FILE error", [&] {
+        EXPECT_EQ(FILE_same(file, &another) + FILE_same(&another, file) + FILE_isValid(file), 0);
+        FILE_delete(&file);
+        expectFailure(1, FILE_new);
+    });
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/allocation.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <new>
 
@@ -9,10 +11,26 @@ namespace {
 
 std::int64_t allocations = 0;
 std::int64_t failingAllocation = 0;
+bool isKeeping = false;
+std::array<void*, 16> kept{}; // those still alive; nullptr elsewhere
+
+/// Puts `with` in the place of `memory`; what is not found, or has no place left, is let go.
+void replaceKept(const void* memory, void* with) {
+    if (void** const place = std::find(kept.begin(), kept.end(), memory); isKeeping && place != kept.end()) {
+        *place = with;
+    }
+}
 
 void* allocateCounted(std::size_t size) {
     ++allocations;
-    return allocations == failingAllocation ? nullptr : std::malloc(size == 0 ? 1 : size);
+    void* const memory = allocations == failingAllocation ? nullptr : std::malloc(size == 0 ? 1 : size);
+    replaceKept(nullptr, memory);
+    return memory;
+}
+
+void release(void* memory) {
+    replaceKept(memory, nullptr);
+    std::free(memory);
 }
 
 void* allocateOrThrow(std::size_t size) {
@@ -38,16 +56,16 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
     return allocateCounted(size);
 }
 void operator delete(void* memory) noexcept {
-    std::free(memory);
+    release(memory);
 }
 void operator delete[](void* memory) noexcept {
-    std::free(memory);
+    release(memory);
 }
 void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
+    release(memory);
 }
 void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
+    release(memory);
 }
 
 namespace velm::test {
@@ -61,6 +79,16 @@ FailingAllocation::FailingAllocation(std::int64_t nth) {
 }
 FailingAllocation::~FailingAllocation() {
     failingAllocation = 0;
+}
+
+std::int64_t keptBy(void (*call)()) {
+    isKeeping = true;
+    call();
+    isKeeping = false;
+    const auto empty = std::count(kept.begin(), kept.end(), nullptr);
+    std::for_each(kept.begin(), kept.end(), std::free);
+    kept.fill(nullptr);
+    return static_cast<std::int64_t>(kept.size()) - empty;
 }
 
 } // namespace velm::test

@@ -23,4 +23,8 @@ public:
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 };
 
+/// Frees what the project allocates during the call and keeps, and gives how many those were: for leaks that
+/// are kept on purpose.
+std::int64_t keptBy(void (*call)());
+
 } // namespace velm::test

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// SAMDRAW, a sample as an oscilloscope shows it: a bar a column, from the centre line to the value. Positive
+// values hang below the line, negative ones stand on it, full scale 16-bit nearly fills the picture.
+//
+//     SAMDRAW* scope = SAMDRAW_new();
+//     scope->source = sam, scope->target = screen, scope->last = sam->sample->length - 1;
+//     SAMDRAW_draw(scope);
+#pragma once
+
+#include "audio/sam.h"
+#include "foundation/identity.h"
+#include "image/img.h"
+
+#include <cstdint>
+
+namespace velm {
+
+struct SAMDRAW {
+    SAM* source;              ///< borrowed; its sample is drawn; nullptr
+    IMG* target;              ///< borrowed; nullptr
+    std::uint32_t background; ///< 0x00RRGGBB; 0x808080
+    std::uint32_t lineColour; ///< 0x00RRGGBB, of the bars; 0xFFFFFF
+    std::uint32_t markColour; ///< 0x00RRGGBB, of the extremes; 0
+    std::int32_t first;       ///< index of the first value of the view; 0
+    std::int32_t last;        ///< index of the last value of the view; 0
+};
+
+extern const IDENTITY SAMDRAW_identity;
+extern std::uint8_t SAMDRAW_verbose;
+
+/// A record with the defaults above. Ends the process with status -1 (reported) when memory runs out: see
+/// docs/quirks.md.
+SAMDRAW* SAMDRAW_new();
+
+// All three put the view in order first: `first` is raised to 0, `last` lowered to the sample's last index,
+// and the two are swapped when they are not in order. A missing source or target is reported.
+
+/// Fills the target with the background and draws the view from the left, in the scale of the whole sample.
+/// A missing sample leaves the background (reported).
+void SAMDRAW_draw(SAMDRAW* draw);
+/// The same with the mean of three neighbours for each value. What lies outside the sample counts as 0, and
+/// is reported by SAMPLE.
+void SAMDRAW_drawSmooth(SAMDRAW* draw);
+/// Draws a bar at the first largest and at the first smallest value, the target's width being the whole
+/// sample; no background. A missing or empty sample is reported.
+void SAMDRAW_drawExtremes(SAMDRAW* draw);
+
+/// Frees the record and stores nullptr in the handle; source and target stay.
+void SAMDRAW_delete(SAMDRAW** handle);
+
+/// Prints "SAMDRAW error." while SAMDRAW_verbose is set.
+void SAMDRAW_error();
+
+} // namespace velm

@@ -1,0 +1,280 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// Extra scene 1, the directory browser: the names in the working folder on a turning drum, the selected one
+// large before the others, and around it the bar of music that is playing as a ring of rays. The keys e and d
+// or the arrows turn the drum.
+#include "demo/scene_frames.h"
+#include "demo/state.h"
+#include "demo/velm4030.h"
+#include "effects/lradial.h"
+#include "effects/sineline.h"
+#include "foundation/sine.h"
+#include "image/imgfx.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+
+namespace velm {
+
+namespace {
+
+constexpr std::int32_t middle = 128;
+constexpr std::int32_t drumRadius = 100; // pixels
+constexpr std::int32_t drumStep = 44;    // 1/1024 turns between names
+constexpr std::int32_t namesBeyond = 5;  // names on either side of the selected one; the next would be behind
+constexpr std::int32_t nameX = 24;       // left edge of the selected name
+constexpr std::int32_t cell = 8;         // of the small font, pixels
+constexpr std::int32_t hueStep = 48;     // of the ramp from name to name
+constexpr std::int32_t firstPlace = -12; // names before the first one, where the drum begins to turn
+constexpr std::int32_t one = 1 << 8;     // 1.0 of a place on the drum
+
+struct Browser {
+    LRADIAL* ring;
+    SINELINE* line;     ///< breathes behind the names
+    SAMPLE* shades;     ///< the hue ramp at two thirds of its brightness
+    IMG* glow;          ///< the frame before, blurred
+    std::int32_t place; ///< 24.8; the name that faces the viewer; it follows the selection
+    std::int32_t still; ///< frames since the selection changed
+    std::int32_t shown; ///< the selection of the frame before
+};
+
+/// Lists the working folder anew, in the order of the bytes of the names. A folder that cannot be read leaves
+/// an empty list.
+void listFolder() {
+    demo.dirSelection = 0;
+    if (demo.dirListing == nullptr && (demo.dirListing = DIR_new()) == nullptr) {
+        return;
+    }
+    LIST* const names = demo.dirListing->names;
+    while (names->count > 0) {
+        delete[] static_cast<char*>(LIST_pop(names));
+    }
+    DIR_read(demo.dirListing, ".");
+    std::sort(names->items, names->items + names->count, [](const void* a, const void* b) {
+        return std::strcmp(static_cast<const char*>(a), static_cast<const char*>(b)) < 0;
+    });
+}
+
+std::int32_t nameCount() {
+    return demo.dirListing != nullptr ? demo.dirListing->names->count : 0;
+}
+
+std::int32_t selection() {
+    return std::clamp(demo.dirSelection, 0, std::max(nameCount() - 1, 0));
+}
+
+std::uint32_t hueOf(std::int32_t index) {
+    const std::int32_t hue = positiveModulo(wrapMul(index, hueStep), std::max(demo.hueRamp->length, 1));
+    return static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
+}
+
+void makeRing(Browser& browser) {
+    constexpr std::int32_t rays = 128;
+    browser.shades = SAMPLE_clone(demo.hueRamp);
+    for (std::int32_t i = 0; browser.shades != nullptr && i < browser.shades->length; ++i) {
+        const auto hue = static_cast<std::uint32_t>(SAMPLE_get(browser.shades, i));
+        SAMPLE_set(browser.shades, i, static_cast<std::int32_t>(RGB888_mix(0, hue, 170)));
+    }
+    if ((browser.ring = LRADIAL_new()) != nullptr) {
+        LRADIAL_setCount(browser.ring, rays);
+        browser.ring->colours = browser.shades;
+        browser.ring->spin = 1;
+    }
+}
+
+void makeLine(Browser& browser) {
+    constexpr std::int32_t right = 160; // where short names leave room
+    if ((browser.line = SINELINE_new()) != nullptr) {
+        browser.line->x = right;
+        browser.line->colour = 0x081828;
+        browser.line->echoColour = 0x100828;
+        browser.line->wave[0].reach = 48;
+        browser.line->wave[1].reach = 24;
+    }
+}
+
+/// The ring: a low wave, and over it rays as long as the next twelfth of a second of the music is loud.
+void drawRing(Browser& browser, std::int32_t frame) {
+    constexpr std::int32_t inner = 98;
+    constexpr std::int32_t growth = 2; // pixels a frame while the ring comes up
+    constexpr std::int32_t waveReach = 14;
+    constexpr std::int32_t soundReach = 64;
+    constexpr std::int32_t samplesPerRay = 29;
+    constexpr std::int32_t quiet = 4; // bits that a sample is shifted down to a length in pixels
+    LRADIAL* const ring = browser.ring;
+    if (ring == nullptr) {
+        return;
+    }
+    ring->inner = std::min(frame > inner ? inner : frame * growth, inner);
+    LRADIAL_advance(ring);
+    ring->reach = waveReach;
+    LRADIAL_setWaveLengths(ring);
+    LRADIAL_draw(ring, demo.screen);
+    if (demo.music != nullptr && demo.sound != nullptr) {
+        ring->reach = soundReach;
+        LRADIAL_setSoundLengths(ring, demo.music->bar, demo.sound->position, samplesPerRay, quiet);
+        LRADIAL_draw(ring, demo.screen);
+    }
+}
+
+/// What the line font has for a byte of a name.
+char printable(char byte) {
+    return byte >= ' ' && byte <= '~' ? byte : '?';
+}
+
+/// Writes what can be seen of a name from column x on. A name that the right edge would cut ends in '>' where
+/// `cut` is set.
+void drawName(const char* name, std::int32_t x, std::int32_t y, std::int32_t scale, bool cut) {
+    LFONT* const pen = demo.textSmall;
+    const std::int32_t width = cell * scale;
+    pen->angle = 0;
+    pen->scale->x = pen->scale->y = scale;
+    for (std::int32_t i = std::max(-x / width - 1, 0); name[i] != '\0' && x + i * width < demo.screen->width;
+         ++i) {
+        const bool last = cut && name[i + 1] != '\0' && x + (i + 2) * width > demo.screen->width;
+        pen->position->x = x + i * width + width / 2;
+        pen->position->y = y;
+        pen->character = static_cast<unsigned char>(last ? '>' : printable(name[i]));
+        LFONT_drawChar(pen);
+        if (last) {
+            break;
+        }
+    }
+}
+
+/// A name on the drum, `turned` 1/1024 turns from the viewer.
+void drawDrumName(std::int32_t index, std::int32_t turned) {
+    constexpr std::int32_t depthX = 40; // pixels that the drum recedes to the right
+    const std::int32_t facing = SINE_cosineScaled(256, turned);
+    if (turned <= -SINE_quarter || turned >= SINE_quarter) {
+        return;
+    }
+    const std::int32_t y = middle + SINE_scaled(drumRadius, turned);
+    LFONT_setColour(demo.textSmall, RGB888_mix(0, hueOf(index), static_cast<std::uint32_t>(facing * 3 / 4)));
+    drawName(static_cast<const char*>(LIST_get(demo.dirListing->names, index)),
+             nameX + (((256 - facing) * depthX) >> 8), y, 1, true);
+}
+
+/// How far the selected name has run to the left: a long one waits, runs to its end, waits and runs back.
+std::int32_t runOf(std::int32_t overhang, std::int32_t still) {
+    constexpr std::int32_t wait = 30;
+    if (overhang <= 0) {
+        return 0;
+    }
+    const std::int32_t step = still % (2 * (overhang + wait));
+    const std::int32_t there = std::clamp(step - wait, 0, overhang);
+    return step < overhang + wait ? there : overhang - std::clamp(step - overhang - 2 * wait, 0, overhang);
+}
+
+/// The selected name between two lines, in white and twice as large as the others.
+void drawSelected(const Browser& browser) {
+    constexpr std::int32_t scale = 2;
+    constexpr std::int32_t half = 13; // pixels from the middle to each line
+    const auto* name = static_cast<const char*>(LIST_get(demo.dirListing->names, selection()));
+    const auto width = static_cast<std::int32_t>(std::strlen(name)) * cell * scale;
+    const std::int32_t overhang = width + 2 * nameX - demo.screen->width;
+    for (const std::int32_t y : {middle - half, middle + half}) {
+        IMG_drawHLine(demo.screen, hueOf(selection()), y, nameX, demo.screen->width - 1 - nameX);
+    }
+    LFONT_setColour(demo.textSmall, 0xFFFFFF);
+    drawName(name, nameX - runOf(overhang, browser.still), middle, scale, false);
+}
+
+/// The number of the selected name and how many there are.
+void drawCount() {
+    constexpr std::int32_t y = 7;
+    char text[32];
+    std::snprintf(text, sizeof text, "%d/%d", selection() + 1, nameCount());
+    LFONT_setColour(demo.textSmall, RGB888_mix(0, hueOf(selection()), 160));
+    drawName(text, middle - static_cast<std::int32_t>(std::strlen(text)) * cell / 2, y, 1, false);
+}
+
+void drawEmpty(std::int32_t frame) {
+    constexpr std::string_view text = "NOTHING TO READ HERE";
+    const auto bright = static_cast<std::uint32_t>(160 + SINE_scaled(90, 12 * frame));
+    LFONT_setColour(demo.textSmall, RGB888_mix(0, 0xFFFFFF, bright));
+    drawName(text.data(), middle - static_cast<std::int32_t>(text.size()) * cell / 2, middle, 1, false);
+}
+
+/// The place follows the selection, a fifth of the way a frame.
+void turnDrum(Browser& browser) {
+    const std::int32_t goal = selection() * one;
+    const std::int32_t way = goal - browser.place;
+    browser.place = std::abs(way) < 5 ? goal : browser.place + way / 5;
+    browser.still = browser.shown == demo.dirSelection ? browser.still + 1 : 0;
+    browser.shown = demo.dirSelection;
+}
+
+void drawDrum(Browser& browser) {
+    turnDrum(browser);
+    const std::int32_t first = std::max((browser.place >> 8) - namesBeyond, 0);
+    const std::int32_t last = std::min((browser.place >> 8) + 1 + namesBeyond, nameCount() - 1);
+    const bool settled = browser.place == selection() * one;
+    for (std::int32_t i = first; i <= last; ++i) {
+        if (!settled || i != selection()) {
+            drawDrumName(i, ((i * one - browser.place) * drumStep) >> 8);
+        }
+    }
+    if (settled) {
+        drawSelected(browser);
+    }
+}
+
+/// Lets the frame before shine on: a little wider, then, by the clear mode, a little darker.
+void spreadGlow(const Browser& browser) {
+    if (browser.glow != nullptr) {
+        IMGFX_blur7(demo.screen, browser.glow);
+        IMG_copy(browser.glow, demo.screen);
+    }
+}
+
+Browser VELM4030_sceneExtra1Setup() {
+    listFolder();
+    settings.fadeStep = 0x181818;
+    settings.fadeOn = 1;
+    demo.blur = 0;
+    demo.glare = 0;
+    demo.clearMode = ClearMode::fade;
+    Browser browser{};
+    makeRing(browser);
+    makeLine(browser);
+    browser.glow = IMG_clone(demo.screen);
+    browser.place = firstPlace * one;
+    return browser;
+}
+
+void VELM4030_sceneExtra1Cleanup(Browser& browser) {
+    LRADIAL_delete(&browser.ring);
+    SINELINE_delete(&browser.line);
+    SAMPLE_delete(&browser.shades);
+    IMG_delete(&browser.glow);
+}
+
+} // namespace
+
+void VELM4030_sceneExtra1() {
+    Browser browser = VELM4030_sceneExtra1Setup();
+    runFrames(std::numeric_limits<std::int32_t>::max(), [&browser](std::int32_t frame) {
+        spreadGlow(browser);
+        drawRing(browser, frame);
+        if (browser.line != nullptr) {
+            SINELINE_advance(browser.line);
+            SINELINE_draw(browser.line, demo.screen);
+        }
+        if (nameCount() > 0) {
+            drawDrum(browser);
+            drawCount();
+        } else {
+            drawEmpty(frame);
+        }
+        VELM4030_mouseLayer();
+        VELM4030_fpsLayer();
+    });
+    VELM4030_sceneExtra1Cleanup(browser);
+}
+
+} // namespace velm

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/line_text.h"
+
+#include "foundation/wrap.h"
+#include "image/imgfx.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace velm {
+
+void setText(LineText& ring, const char* text) {
+    constexpr std::size_t longest = 1U << 24;
+    ring.text = text;
+    ring.length = text == nullptr ? 0 : static_cast<std::int32_t>(std::min(std::strlen(text), longest));
+    ring.index = 0;
+    ring.offset = 0;
+}
+
+void moveText(LineText& ring, std::int32_t speed, std::int32_t pitch) {
+    if (ring.length <= 0 || pitch <= 0) {
+        return;
+    }
+    const std::int64_t moved = std::int64_t{ring.offset} + speed;
+    const std::int64_t places = moved >= 0 ? moved / pitch : -((pitch - 1 - moved) / pitch);
+    ring.offset = static_cast<std::int32_t>(moved - places * pitch);
+    ring.index = positiveModulo(static_cast<std::int32_t>((ring.index + places) % ring.length), ring.length);
+}
+
+std::int32_t placeOf(const LineText& ring, std::int32_t n) {
+    return ring.length <= 0 ? 0 : static_cast<std::int32_t>((std::int64_t{ring.index} + n) % ring.length);
+}
+
+std::uint8_t characterOf(const LineText& ring, std::int32_t n) {
+    if (ring.text == nullptr || ring.length <= 0) {
+        return 0;
+    }
+    return static_cast<std::uint8_t>(ring.text[placeOf(ring, n)]);
+}
+
+const OBJ2D* glyphOf(const LIST* glyphs, std::uint8_t character) {
+    if (glyphs == nullptr || character >= glyphs->count) {
+        return nullptr;
+    }
+    return static_cast<const OBJ2D*>(LIST_get(glyphs, character));
+}
+
+std::uint32_t paletteColour(const SAMPLE* palette, std::int32_t index) {
+    constexpr std::uint32_t white = 0xFFFFFF;
+    if (palette == nullptr || palette->data == nullptr || palette->length <= 0) {
+        return white;
+    }
+    return static_cast<std::uint32_t>(palette->data[positiveModulo(index, palette->length)]);
+}
+
+void addStroke(IMG* target, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
+               std::uint32_t colour) {
+    const bool passes = std::max(x1, x2) < 0 || std::max(y1, y2) < 0 || std::min(x1, x2) >= target->width ||
+                        std::min(y1, y2) >= target->height;
+    if (!passes && colour != 0) {
+        IMGFX_addLine(target, x1, y1, x2, y2, colour);
+    }
+}
+
+} // namespace velm

@@ -1,0 +1,286 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/lscroll.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/wrap.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY LSCROLL_identity = makeIdentity("LSCROLL", "ZENDORAK", "20150708", "CODE", "C");
+std::uint8_t LSCROLL_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
+constexpr std::int32_t newLength = 256;
+constexpr std::int32_t newCell = 16;
+constexpr std::int32_t newLiftHeight = 10;
+constexpr std::int32_t newSwingAngle = 40;
+constexpr std::int32_t newHueSpeed = 5;
+constexpr std::int32_t newHueStep = 24;
+constexpr std::int32_t newFade = 24;
+constexpr std::int32_t full = 256; // brightness
+constexpr std::int32_t farthest = 8192;
+constexpr std::int32_t mostStations = 1 << 18;
+
+/// A place on the target, 16.16 pixels.
+struct Place {
+    std::int64_t x, y;
+};
+
+/// The whole root of a number, bit by bit.
+std::int64_t rootOf(std::int64_t square) {
+    std::int64_t root = 0;
+    for (std::int64_t bit = std::int64_t{1} << 30; bit != 0; bit >>= 1) {
+        root += (root + bit) * (root + bit) <= square ? bit : 0;
+    }
+    return root;
+}
+
+/// 1/1024 turns of a direction: the quadrant first, then the side of ever closer rays that it is on.
+std::int32_t angleOf(std::int64_t dx, std::int64_t dy) {
+    std::int32_t angle = 0;
+    while (dx <= 0 || dy < 0) { // a quarter turn back, until it points right and down, or right
+        if (dx == 0 && dy == 0) {
+            return 0;
+        }
+        const std::int64_t oldX = dx;
+        dx = dy;
+        dy = -oldX;
+        angle += SINE_quarter;
+    }
+    std::int32_t within = 0;
+    for (std::int32_t bit = SINE_quarter / 2; bit != 0; bit /= 2) {
+        const std::int32_t ray = within + bit;
+        within += dy * SINE_entry(ray + SINE_quarter) >= dx * SINE_entry(ray) ? bit : 0;
+    }
+    return (angle + within) & SINE_tableMask;
+}
+
+/// Walks a path given by corners 0..corners, one pixel at a time: calls visit(station) and gives how many.
+template <typename Corner, typename Visit>
+std::int32_t walk(std::int32_t corners, Corner corner, Visit visit) {
+    std::int64_t along = 0; // 16.16 pixels from the last corner to the next station
+    std::int32_t count = 0;
+    Place from = corner(0);
+    for (std::int32_t i = 1; i <= corners; ++i) {
+        const Place to = corner(i);
+        const std::int64_t dx = to.x - from.x;
+        const std::int64_t dy = to.y - from.y;
+        const std::int64_t length = rootOf(dx * dx + dy * dy);
+        for (; along < length && count < mostStations; along += one) {
+            visit(LSCROLL_STATION{static_cast<std::int32_t>(from.x + dx * along / length),
+                                  static_cast<std::int32_t>(from.y + dy * along / length), angleOf(dx, dy)});
+            ++count;
+        }
+        along -= length;
+        from = to;
+    }
+    return count;
+}
+
+/// Replaces the path by another, or reports and leaves it.
+template <typename Corner>
+void setPath(LSCROLL* scroll, std::int32_t corners, Corner corner) {
+    const std::int32_t length = scroll == nullptr ? 0 : walk(corners, corner, [](const LSCROLL_STATION&) {});
+    auto* const stations = length == 0 ? nullptr : allocateArray<LSCROLL_STATION>(length);
+    if (stations == nullptr) {
+        LSCROLL_error();
+        return;
+    }
+    walk(corners, corner, [next = stations](const LSCROLL_STATION& station) mutable { *next++ = station; });
+    delete[] scroll->stations;
+    scroll->stations = stations;
+    scroll->length = length;
+}
+
+bool isNear(std::int32_t coordinate) {
+    return coordinate >= -farthest && coordinate <= farthest;
+}
+
+/// 16.16 pixels from glyph to glyph, one pixel at least.
+std::int32_t pitchOf(const LSCROLL& scroll) {
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(std::int64_t{scroll.cell} * scroll.scale, one, 0x7FFFFFFF));
+}
+
+/// A glyph's middle, its turn and its scale.
+struct Pose {
+    Place at;
+    std::int64_t scale, sine, cosine;
+    std::int32_t middle;
+
+    [[nodiscard]] VEC2D place(const VEC2D& point) const {
+        const std::int64_t u = (std::int64_t{point.x} - middle) * scale;
+        const std::int64_t v = (std::int64_t{point.y} - middle) * scale;
+        return {static_cast<std::int32_t>((at.x + ((u * cosine - v * sine) >> 15) + one / 2) >> 16),
+                static_cast<std::int32_t>((at.y + ((u * sine + v * cosine) >> 15) + one / 2) >> 16), 0};
+    }
+};
+
+/// Glyph n stands `along` 16.16 pixels from the path's beginning.
+Pose poseOf(const LSCROLL& scroll, std::int32_t n, std::int64_t along) {
+    const std::int64_t index = along >> 16;
+    const LSCROLL_STATION& here = scroll.stations[index];
+    const LSCROLL_STATION& there = scroll.stations[std::min<std::int64_t>(index + 1, scroll.length - 1)];
+    const std::int64_t part = along & (one - 1);
+    const std::int32_t place = placeOf(scroll.text, n); // the waves travel with the glyphs
+    const std::int32_t lift =
+        SINE_scaled(scroll.liftHeight, wrapAdd(scroll.lift.phase, wrapMul(place, scroll.lift.offsetStep)));
+    const std::int32_t swing =
+        SINE_scaled(scroll.swingAngle, wrapAdd(scroll.swing.phase, wrapMul(place, scroll.swing.offsetStep)));
+    const std::int64_t upX = SINE_entry(here.angle);
+    const std::int64_t upY = -SINE_entry(here.angle + SINE_quarter);
+    const std::int32_t angle = here.angle + swing;
+    return {{here.x + (((std::int64_t{there.x} - here.x) * part) >> 16) + upX * lift * 2,
+             here.y + (((std::int64_t{there.y} - here.y) * part) >> 16) + upY * lift * 2},
+            scroll.scale,
+            SINE_entry(angle),
+            SINE_entry(angle + SINE_quarter),
+            scroll.middle};
+}
+
+/// 0..256: what the fading ends leave of the scroller's light.
+std::uint32_t lightAt(const LSCROLL& scroll, std::int64_t along) {
+    const std::int64_t toEnd = std::min(along >> 16, scroll.length - 1 - (along >> 16));
+    const std::int64_t light = std::clamp(scroll.light, 0, full);
+    return static_cast<std::uint32_t>(
+        scroll.fade > 0 ? light * std::min<std::int64_t>(toEnd, scroll.fade) / scroll.fade : light);
+}
+
+} // namespace
+
+LSCROLL* LSCROLL_new() {
+    LSCROLL* scroll = allocateRecord<LSCROLL>();
+    if (scroll == nullptr) {
+        LSCROLL_error();
+        return nullptr;
+    }
+    scroll->cell = newCell;
+    scroll->middle = newCell / 2;
+    scroll->scale = one;
+    scroll->speed = one * 3 / 2;
+    scroll->liftHeight = newLiftHeight;
+    scroll->swingAngle = newSwingAngle;
+    scroll->hueSpeed = newHueSpeed;
+    scroll->hueStep = newHueStep;
+    scroll->fade = newFade;
+    scroll->light = full;
+    SINE_setup(&scroll->lift, SINE_tableLength, 0, 12, 0, 60);
+    SINE_setup(&scroll->swing, SINE_tableLength, 0, 9, 0, 45);
+    LSCROLL_setLine(scroll, 0, newLength / 2, newLength, newLength / 2);
+    if (scroll->stations == nullptr) {
+        delete scroll;
+        return nullptr;
+    }
+    LSCROLL_randomize(scroll);
+    return scroll;
+}
+
+void LSCROLL_setText(LSCROLL* scroll, const char* text) {
+    if (scroll == nullptr || text == nullptr) {
+        LSCROLL_error();
+        return;
+    }
+    setText(scroll->text, text);
+}
+
+void LSCROLL_setLine(LSCROLL* scroll, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) {
+    const bool isFar = !isNear(x1) || !isNear(y1) || !isNear(x2) || !isNear(y2);
+    setPath(isFar ? nullptr : scroll, 1, [=](std::int32_t i) {
+        return i == 0 ? Place{std::int64_t{x1} * one, std::int64_t{y1} * one}
+                      : Place{std::int64_t{x2} * one, std::int64_t{y2} * one};
+    });
+}
+
+void LSCROLL_setCurve(LSCROLL* scroll, const LSCROLL_CURVE& curve) {
+    constexpr std::int32_t widest = farthest / 2;
+    const bool isFar = !isNear(curve.centreX) || !isNear(curve.centreY) || std::abs(curve.radiusX) > widest ||
+                       std::abs(curve.radiusY) > widest;
+    // Radii in half pixels' 16.16 times an entry of 15 bits give 16.16 pixels without a shift.
+    setPath(isFar ? nullptr : scroll, SINE_tableLength, [&curve](std::int32_t t) {
+        const std::int32_t across = wrapAdd(wrapMul(curve.turnsX, t), curve.phase);
+        const std::int32_t down = wrapAdd(wrapMul(curve.turnsY, t), SINE_quarter);
+        return Place{std::int64_t{curve.centreX} * one + std::int64_t{2} * curve.radiusX * SINE_entry(across),
+                     std::int64_t{curve.centreY} * one - std::int64_t{2} * curve.radiusY * SINE_entry(down)};
+    });
+}
+
+void LSCROLL_fit(LSCROLL* scroll) {
+    if (scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0) {
+        LSCROLL_error();
+        return;
+    }
+    const std::int64_t units = std::int64_t{scroll->text.length} * scroll->cell;
+    scroll->scale = static_cast<std::int32_t>(
+        std::min<std::int64_t>((std::int64_t{scroll->length} << 16) / units, 0x7FFFFFFF));
+    scroll->fade = 0;
+}
+
+void LSCROLL_randomize(LSCROLL* scroll) {
+    if (scroll == nullptr) {
+        LSCROLL_error();
+        return;
+    }
+    scroll->lift.phase = std::rand() & SINE_tableMask;
+    scroll->swing.phase = std::rand() & SINE_tableMask;
+    scroll->hue = std::rand() & 0xFFFF;
+}
+
+void LSCROLL_advance(LSCROLL* scroll) {
+    if (scroll == nullptr) {
+        LSCROLL_error();
+        return;
+    }
+    moveText(scroll->text, scroll->speed, pitchOf(*scroll));
+    SINE_advance(&scroll->lift);
+    SINE_advance(&scroll->swing);
+    scroll->hue = wrapAdd(scroll->hue, scroll->hueSpeed);
+}
+
+void LSCROLL_draw(const LSCROLL* scroll, IMG* target) {
+    if (scroll == nullptr || scroll->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
+        LSCROLL_error();
+        return;
+    }
+    const std::int64_t pitch = pitchOf(*scroll);
+    // A glyph is on the path when its middle is.
+    std::int64_t along = pitch / 2 - scroll->text.offset;
+    for (std::int32_t n = 0; along >> 16 < scroll->length; ++n, along += pitch) {
+        if (along < 0) {
+            continue;
+        }
+        const Pose pose = poseOf(*scroll, n, along);
+        const std::uint32_t hue = paletteColour(
+            scroll->palette, wrapAdd(scroll->hue, wrapMul(placeOf(scroll->text, n), scroll->hueStep)));
+        const std::uint32_t colour = RGB888_mix(0, hue, lightAt(*scroll, along));
+        forEachStroke(glyphOf(scroll->glyphs, characterOf(scroll->text, n)),
+                      [&](const VEC2D& a, const VEC2D& b) {
+                          const VEC2D from = pose.place(a);
+                          const VEC2D to = pose.place(b);
+                          addStroke(target, from.x, from.y, to.x, to.y, colour);
+                      });
+    }
+}
+
+void LSCROLL_delete(LSCROLL** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        LSCROLL_error();
+        return;
+    }
+    delete[](*handle)->stations;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void LSCROLL_error() {
+    reportLine(LSCROLL_verbose, "LSCROLL error");
+}
+
+} // namespace velm

@@ -1,0 +1,253 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/wordzoom.h"
+
+#include "effects/line_text.h"
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/sine.h"
+#include "foundation/wrap.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY WORDZOOM_identity = makeIdentity("WORDZOOM", "20150707", "CODE", "C", "ZENDORAK");
+std::uint8_t WORDZOOM_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
+constexpr std::int32_t newCell = 16;
+constexpr std::int32_t newMiddle = 128;
+constexpr std::int32_t newGrowth = one / 20;
+constexpr std::int32_t newInterval = 30;
+constexpr std::int32_t newSpread = 12;
+constexpr std::int32_t newHueStep = 200;
+constexpr std::int32_t newEchoes = 3;
+constexpr std::int32_t mostTwist = 160; // 1/1024 turns
+// A word's way, as scales: it starts as a spark, is bright from there to there, and is past.
+constexpr std::int32_t farthest = one / 24;
+constexpr std::int32_t brightFrom = one * 3 / 4;
+constexpr std::int32_t brightTo = one * 5 / 2;
+constexpr std::int32_t past = one * 10;
+constexpr std::int32_t full = 256; // brightness
+
+bool isGap(char character) {
+    return character == ' ' || character == '\n';
+}
+
+/// A number -most..most.
+std::int32_t drawNumber(WORDZOOM& zoom, std::int32_t most) {
+    const std::int32_t number = RANDOM_next(zoom.random);
+    return most <= 0 ? 0 : number % (2 * most + 1) - most;
+}
+
+/// Goes to the next word and gives its length; 0 when there is none any more.
+std::int32_t findWord(WORDZOOM& zoom) {
+    for (std::int32_t rounds = 0; rounds < 2; ++rounds) {
+        while (isGap(zoom.text[zoom.next])) {
+            ++zoom.next;
+        }
+        std::int32_t length = 0;
+        while (zoom.text[zoom.next + length] != '\0' && !isGap(zoom.text[zoom.next + length])) {
+            ++length;
+        }
+        if (length > 0 || zoom.loop == 0) {
+            return length;
+        }
+        zoom.next = 0;
+    }
+    return 0;
+}
+
+void startWord(WORDZOOM& zoom) {
+    WORDZOOM_FLIGHT* const free =
+        std::find_if(std::begin(zoom.flights), std::end(zoom.flights),
+                     [](const WORDZOOM_FLIGHT& flight) { return flight.word == nullptr; });
+    const std::int32_t length = free == std::end(zoom.flights) ? 0 : findWord(zoom);
+    if (length == 0) {
+        return;
+    }
+    free->word = zoom.text + zoom.next;
+    free->length = length;
+    free->scale = farthest;
+    free->hue = zoom.hue;
+    free->driftX = drawNumber(zoom, zoom.spread);
+    free->driftY = drawNumber(zoom, zoom.spread);
+    free->twist = drawNumber(zoom, mostTwist);
+    zoom.next += length;
+    zoom.hue = wrapAdd(zoom.hue, zoom.hueStep);
+    zoom.wait = zoom.interval;
+}
+
+/// 0..256: rises up to `brightFrom`, stays, and falls from `brightTo` until the word is past.
+std::int32_t brightnessAt(std::int32_t scale) {
+    if (scale < brightFrom) {
+        return static_cast<std::int32_t>(std::int64_t{full} * scale / brightFrom);
+    }
+    return scale <= brightTo ? full : std::max(0, full * ((past - scale) >> 8) / ((past - brightTo) >> 8));
+}
+
+/// Where the points of a character come to stand.
+struct Pose {
+    std::int64_t scale, sine, cosine; // 16.16, and two table entries
+    std::int64_t left;                // font units from the word's middle to the glyph's origin
+    static constexpr std::int64_t half = std::int64_t{1} << 30; // of a pixel
+    std::int32_t middle, x, y;
+
+    [[nodiscard]] VEC2D place(const VEC2D& point) const {
+        const std::int64_t u = (left + point.x) * scale;
+        const std::int64_t v = (std::int64_t{point.y} - middle) * scale;
+        return {x + static_cast<std::int32_t>((u * cosine - v * sine + half) >> 31),
+                y + static_cast<std::int32_t>((u * sine + v * cosine + half) >> 31), 0};
+    }
+};
+
+void drawWord(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, std::int32_t scale, std::uint32_t colour,
+              IMG* target) {
+    const std::int32_t angle =
+        static_cast<std::int32_t>((std::int64_t{flight.twist} * (one - std::min(scale, one))) >> 16);
+    const auto drift = [scale](std::int32_t pixels) {
+        return static_cast<std::int32_t>((std::int64_t{pixels} * scale) >> 16);
+    };
+    Pose pose{scale,
+              SINE_entry(angle),
+              angle == 0 ? 32768 : SINE_entry(angle + SINE_quarter),
+              0,
+              zoom.middle,
+              zoom.x + drift(flight.driftX),
+              zoom.y + drift(flight.driftY)};
+    for (std::int32_t i = 0; i < flight.length; ++i) {
+        // Twice the way of this character's middle from the word's, halved.
+        pose.left = std::int64_t{zoom.cell} * (2 * i + 1 - flight.length) / 2 - zoom.middle;
+        const OBJ2D* const glyph = glyphOf(zoom.glyphs, static_cast<std::uint8_t>(flight.word[i]));
+        forEachStroke(glyph, [&](const VEC2D& a, const VEC2D& b) {
+            const VEC2D from = pose.place(a);
+            const VEC2D to = pose.place(b);
+            addStroke(target, from.x, from.y, to.x, to.y, colour);
+        });
+    }
+}
+
+/// The copies first, from the farthest and dimmest on, then the word itself.
+void drawFlight(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, IMG* target) {
+    const std::uint32_t colour = paletteColour(zoom.palette, flight.hue);
+    const std::int32_t light = brightnessAt(flight.scale);
+    for (std::int32_t echo = std::clamp(zoom.echoes, 0, 8); echo >= 0; --echo) {
+        const std::int32_t scale = flight.scale - flight.scale / 20 * echo;
+        const std::int32_t share = echo == 0 ? light : light / (2 + 2 * echo);
+        drawWord(zoom, flight, scale, RGB888_mix(0, colour, static_cast<std::uint32_t>(share)), target);
+    }
+}
+
+} // namespace
+
+WORDZOOM* WORDZOOM_new() {
+    WORDZOOM* zoom = allocateRecord<WORDZOOM>();
+    if (zoom == nullptr) {
+        WORDZOOM_error();
+        return nullptr;
+    }
+    zoom->random = RANDOM_new();
+    if (zoom->random == nullptr) {
+        WORDZOOM_error();
+        delete zoom;
+        return nullptr;
+    }
+    zoom->loop = 1;
+    zoom->cell = newCell;
+    zoom->middle = newCell / 2;
+    zoom->x = zoom->y = newMiddle;
+    zoom->growth = newGrowth;
+    zoom->interval = newInterval;
+    zoom->spread = newSpread;
+    zoom->hueStep = newHueStep;
+    zoom->echoes = newEchoes;
+    WORDZOOM_randomize(zoom);
+    return zoom;
+}
+
+void WORDZOOM_setText(WORDZOOM* zoom, const char* text) {
+    if (zoom == nullptr || text == nullptr) {
+        WORDZOOM_error();
+        return;
+    }
+    zoom->text = text;
+    zoom->next = 0;
+    zoom->wait = 0;
+    std::fill(std::begin(zoom->flights), std::end(zoom->flights), WORDZOOM_FLIGHT{});
+}
+
+void WORDZOOM_randomize(WORDZOOM* zoom) {
+    if (zoom == nullptr) {
+        WORDZOOM_error();
+        return;
+    }
+    zoom->hue = std::rand() & 0xFFFF;
+    zoom->random->counter = static_cast<std::uint32_t>(std::rand());
+}
+
+void WORDZOOM_advance(WORDZOOM* zoom) {
+    if (zoom == nullptr || zoom->text == nullptr) {
+        WORDZOOM_error();
+        return;
+    }
+    for (WORDZOOM_FLIGHT& flight : zoom->flights) {
+        if (flight.word == nullptr) {
+            continue;
+        }
+        // At least a little each frame, so that every word passes some time.
+        const std::int64_t growth =
+            std::max<std::int64_t>(1, (std::int64_t{flight.scale} * zoom->growth) >> 16);
+        flight.scale = static_cast<std::int32_t>(std::min<std::int64_t>(flight.scale + growth, past));
+        if (flight.scale >= past) {
+            flight = {};
+        }
+    }
+    if (--zoom->wait < 0) {
+        zoom->wait = 0;
+        startWord(*zoom);
+    }
+}
+
+std::int32_t WORDZOOM_isDone(const WORDZOOM* zoom) {
+    if (zoom == nullptr || zoom->text == nullptr) {
+        WORDZOOM_error();
+        return 1;
+    }
+    const bool flies = std::any_of(std::begin(zoom->flights), std::end(zoom->flights),
+                                   [](const WORDZOOM_FLIGHT& flight) { return flight.word != nullptr; });
+    WORDZOOM rest = *zoom;
+    return flies || findWord(rest) > 0 ? 0 : 1;
+}
+
+void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {
+    if (zoom == nullptr || zoom->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
+        WORDZOOM_error();
+        return;
+    }
+    for (const WORDZOOM_FLIGHT& flight : zoom->flights) {
+        if (flight.word != nullptr) {
+            drawFlight(*zoom, flight, target);
+        }
+    }
+}
+
+void WORDZOOM_delete(WORDZOOM** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        WORDZOOM_error();
+        return;
+    }
+    RANDOM_delete(&(*handle)->random);
+    delete *handle;
+    *handle = nullptr;
+}
+
+void WORDZOOM_error() {
+    reportLine(WORDZOOM_verbose, "WORDZOOM error");
+}
+
+} // namespace velm

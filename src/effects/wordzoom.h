@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// WORDZOOM, words out of the depth: the words of a text, one after the other, start as a spark at the
+// vanishing point, grow, light up, stand before the viewer and fly past. Every word drags dimmer copies of
+// itself behind, which give it a body.
+//
+//     WORDZOOM* zoom = WORDZOOM_new();
+//     zoom->glyphs = demo.fontMedium, WORDZOOM_setText(zoom, "OUT OF THE BLUE");
+//     WORDZOOM_advance(zoom), WORDZOOM_draw(zoom, screen); // each frame
+#pragma once
+
+#include "audio/sample.h"
+#include "foundation/identity.h"
+#include "foundation/list.h"
+#include "foundation/random.h"
+#include "image/img.h"
+
+#include <cstdint>
+
+namespace velm {
+
+inline constexpr std::int32_t WORDZOOM_flights = 8; ///< words in the air at the same time, at most
+
+/// A word on its way.
+struct WORDZOOM_FLIGHT {
+    const char* word;            ///< borrowed, within the text; nullptr while nothing flies
+    std::int32_t length;         ///< characters
+    std::int32_t scale;          ///< 16.16, target pixels per unit of the font
+    std::int32_t hue;            ///< palette entry
+    std::int32_t driftX, driftY; ///< pixels that it has left the vanishing point by at scale 1.0
+    std::int32_t twist;          ///< 1/1024 turns that it still has to turn at scale 0; upright at 1.0
+};
+
+struct WORDZOOM {
+    const char* text;      ///< borrowed; words between spaces and line feeds; nullptr
+    std::int32_t next;     ///< byte of the text where the next word is looked for
+    std::int32_t loop;     ///< 1: after the last word comes the first again; 0: then none comes; 1
+    const LIST* glyphs;    ///< borrowed; a line font; nullptr
+    const SAMPLE* palette; ///< borrowed; the words' colours; nullptr is white
+    std::int32_t cell;     ///< width and height of a glyph, font units; 16
+    std::int32_t middle;   ///< where a glyph's middle is, font units, both ways; 8
+    std::int32_t x, y;     ///< vanishing point, target pixels; 128, 128
+    std::int32_t growth;   ///< 16.16, what a frame adds to a scale, as a share of it; 0.05
+    std::int32_t interval; ///< frames from word to word; 30
+    std::int32_t wait;     ///< frames until the next word starts; 0
+    std::int32_t spread;   ///< drifts are drawn from -spread..spread, pixels; 12
+    std::int32_t hueStep;  ///< palette entries from word to word; 200
+    std::int32_t hue;      ///< palette entry of the next word; random
+    std::int32_t echoes;   ///< copies behind each word; 3
+    RANDOM* random;        ///< owned; from which drifts and twists are drawn
+    WORDZOOM_FLIGHT flights[WORDZOOM_flights];
+};
+
+extern const IDENTITY WORDZOOM_identity;
+extern std::uint8_t WORDZOOM_verbose;
+
+/// An empty sky with the defaults above (two draws of rand()), or nullptr (reported).
+WORDZOOM* WORDZOOM_new();
+
+/// Binds a text, which must stay. Words that fly are gone; the first one of the new text starts at once.
+void WORDZOOM_setText(WORDZOOM* zoom, const char* text);
+
+/// Draws the first word's hue and a new counter for the generator of drifts and twists: two numbers from
+/// rand().
+void WORDZOOM_randomize(WORDZOOM* zoom);
+
+/// One frame: words grow, those that have passed are gone, and the next one starts in its time if there is
+/// a free place.
+void WORDZOOM_advance(WORDZOOM* zoom);
+
+/// 1 when no word flies and none will.
+std::int32_t WORDZOOM_isDone(const WORDZOOM* zoom);
+
+/// Adds the words to the target; a missing font is reported.
+void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target);
+
+/// Frees the generator and the record and stores nullptr in the handle; text, font and palette are untouched.
+void WORDZOOM_delete(WORDZOOM** handle);
+
+/// Prints "WORDZOOM error" while WORDZOOM_verbose is set.
+void WORDZOOM_error();
+
+} // namespace velm

