@@ -3,6 +3,7 @@
 #include "effects/archpath.h"
 #include "effects/contract.h"
 #include "effects/fill.h"
+#include "effects/flashpix.h"
 #include "effects/line_font.h"
 #include "effects/lradial.h"
 #include "effects/lrain.h"
@@ -10,6 +11,7 @@
 #include "effects/lscroll.h"
 #include "effects/rect.h"
 #include "effects/sineline.h"
+#include "effects/sinescan.h"
 #include "effects/wordzoom.h"
 
 #include <algorithm>
@@ -85,6 +87,20 @@ TEST(Contract, RECT) {
         expectContract<RECT>({RECT_new, RECT_delete, RECT_randomize, RECT_advance, RECT_draw, place},
                              RECT_verbose, "RECT error", 2);
     }
+}
+
+TEST(Contract, SINESCAN) {
+    const Picture source(noise(40, 30, 1));
+    const auto place = [&source](SINESCAN* scan) { scan->source = source, scan->x = 48, scan->y = 32; };
+    expectContract<SINESCAN>(
+        {SINESCAN_new, SINESCAN_delete, SINESCAN_randomize, SINESCAN_advance, SINESCAN_draw, place},
+        SINESCAN_verbose, "SINESCAN error", 1);
+}
+
+TEST(Contract, FLASHPIX) {
+    expectContract<FLASHPIX>(
+        {FLASHPIX_new, FLASHPIX_delete, FLASHPIX_randomize, FLASHPIX_advance, FLASHPIX_draw},
+        FLASHPIX_verbose, "FLASHPIX error", 3);
 }
 
 } // namespace
