@@ -15,6 +15,8 @@ constexpr SCENE scenes[] = {
     {"interlude-a", "balls in a turning light that leave fading trails", VELM4030_sceneInterludeA},
     {"interlude-b", "a waving mesh in moving hues under the hopping word", VELM4030_sceneInterludeB},
     {"extra-1", "the names in this folder on a drum, in a ring of sound", VELM4030_sceneExtra1},
+    {"extra-7", "a play of words that are what they say: a point, a line, a wave, a circle, and on",
+     VELM4030_sceneExtra7},
     {"particles", "water falls through the letters, and sparks turn it to stone", VELM4030_sceneParticles},
 };
 

@@ -56,6 +56,9 @@ void VELM4030_sceneInterludeBSetup();
 void VELM4030_sceneExtra1();
 /// 900 frames of water that falls through a word, and of sparks that turn it to stone.
 void VELM4030_sceneParticles();
+/// 1000 frames of line text that is what it says: a point, a line, a wave, a circle, and on.
+void VELM4030_sceneExtra7();
+void VELM4030_sceneExtra7Setup();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
