@@ -17,6 +17,8 @@ constexpr SCENE scenes[] = {
     {"extra-1", "the names in this folder on a drum, in a ring of sound", VELM4030_sceneExtra1},
     {"extra-7", "a play of words that are what they say: a point, a line, a wave, a circle, and on",
      VELM4030_sceneExtra7},
+    {"extra-8", "outlines that colour floods, mosaic by mosaic, and words out of the depth",
+     VELM4030_sceneExtra8},
     {"particles", "water falls through the letters, and sparks turn it to stone", VELM4030_sceneParticles},
 };
 

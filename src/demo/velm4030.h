@@ -59,6 +59,9 @@ void VELM4030_sceneParticles();
 /// 1000 frames of line text that is what it says: a point, a line, a wave, a circle, and on.
 void VELM4030_sceneExtra7();
 void VELM4030_sceneExtra7Setup();
+/// 750 frames of drawings that colour floods, and of words out of the depth.
+void VELM4030_sceneExtra8();
+void VELM4030_sceneExtra8Setup();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
