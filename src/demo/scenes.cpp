@@ -19,6 +19,8 @@ constexpr SCENE scenes[] = {
      VELM4030_sceneExtra7},
     {"extra-8", "outlines that colour floods, mosaic by mosaic, and words out of the depth",
      VELM4030_sceneExtra8},
+    {"extra-9", "a garden that chance arranges: curves of dots, bent pictures, braided ribbons",
+     VELM4030_sceneExtra9},
     {"particles", "water falls through the letters, and sparks turn it to stone", VELM4030_sceneParticles},
 };
 

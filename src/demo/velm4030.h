@@ -62,6 +62,9 @@ void VELM4030_sceneExtra7Setup();
 /// 750 frames of drawings that colour floods, and of words out of the depth.
 void VELM4030_sceneExtra8();
 void VELM4030_sceneExtra8Setup();
+/// 1500 frames that chance arranges: clouds of dots, bent pictures, braided ribbons.
+void VELM4030_sceneExtra9();
+void VELM4030_sceneExtra9Setup();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
