@@ -7,9 +7,12 @@ function(velm_configure target)
   set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF
     RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
-  if(VELM_SANITIZE)
+  if(VELM_SANITIZE OR VELM_BUILD_FUZZ)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all)
     target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+  endif()
+  if(VELM_BUILD_FUZZ)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
   endif()
 endfunction()
 

@@ -33,7 +33,7 @@ extern const ASSET strip;       ///< P6 8 x 128
 extern const ASSET pointer;     ///< P6 16 x 16, the hot spot is the top left pixel
 extern const ASSET font_small;  ///< line font on a grid of 0 to 7
 extern const ASSET font_medium; ///< line font on a grid of 0 to 15
-extern const ASSET drawings;    ///< line drawings on a grid of 0 to 15
+extern const ASSET drawings;    ///< line drawings on a grid of 0 to 16
 extern const ASSET scroll_text; ///< what the scroller shows
 
 } // namespace assets

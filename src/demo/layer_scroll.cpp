@@ -56,8 +56,13 @@ void VELM4030_scrollSetup() {
         setWave(demo.waveRows, demo.scrollStrip, x, 0);
     }
     if (demo.waveColumns == nullptr && (demo.waveColumns = DISTY_new()) != nullptr) {
-        constexpr std::int32_t y = 160;
-        setWave(demo.waveColumns, makeStrip(), 0, y);
+        setWave(demo.waveColumns, makeStrip(), 0, VELM4030_scrollY);
+    }
+}
+
+void VELM4030_placeScroll(std::int32_t y) {
+    if (demo.waveColumns != nullptr) {
+        demo.waveColumns->y = y;
     }
 }
 

@@ -54,6 +54,10 @@ void VELM4030_sceneInterludeBSetup();
 /// effects and deletes them at its end.
 /// The names in the working folder on a drum, in a ring of sound; until Space.
 void VELM4030_sceneExtra1();
+/// 750 frames of a journey along the panorama, over water, with a leaping figure.
+void VELM4030_sceneExtra10();
+/// 750 frames of rain over a city whose windows light up.
+void VELM4030_sceneExtra11();
 /// 900 frames of water that falls through a word, and of sparks that turn it to stone.
 void VELM4030_sceneParticles();
 /// 1000 frames of line text that is what it says: a point, a line, a wave, a circle, and on.
@@ -65,9 +69,19 @@ void VELM4030_sceneExtra8Setup();
 /// 1500 frames that chance arranges: clouds of dots, bent pictures, braided ribbons.
 void VELM4030_sceneExtra9();
 void VELM4030_sceneExtra9Setup();
+/// 900 frames of rings on a pond, from where a hopping word lands.
+void VELM4030_sceneExtra2();
+/// 750 frames of portholes into another picture.
+void VELM4030_sceneExtra3();
+/// 750 frames of flight through stars, hoops and polygons.
+void VELM4030_sceneExtra12();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();
+/// Row about which the scroll text waves, unless a scene places it elsewhere for its time.
+inline constexpr std::int32_t VELM4030_scrollY = 160;
+/// Places the scroll text about another row, once it has been set up.
+void VELM4030_placeScroll(std::int32_t y);
 /// Moves the raster bars and draws them into `rasterTarget`.
 void VELM4030_rasterLayer();
 /// The scroll text in the colours of the raster bars, bent by rows, then by columns.

@@ -20,7 +20,8 @@ void INT_printBinary(std::int32_t value) {
 }
 
 std::int32_t INT_bitLength(std::int32_t value) {
-    return value <= 0 ? 0 : std::bit_width(static_cast<std::uint32_t>(value));
+    const auto bits = static_cast<std::uint32_t>(value <= 0 ? 0 : value);
+    return static_cast<std::int32_t>(std::bit_width(bits));
 }
 
 std::int32_t INT_sqrt(std::uint32_t value) {

@@ -105,7 +105,7 @@ TEST_F(SamTest, SAM_readsBigEndianUnsignedAndSAM_textLosesMinusAndSAM_cutTextIsS
     EXPECT_EQ(read("SAM b s 12 2 1\n\1\x80\xFF\xFE"), (List{0x180, 0xFFFE}));
     EXPECT_EQ(read("SAM b s 24 1 1\n\xFF\2\3"), List{0xFF0203});
     EXPECT_EQ(read("SAM b s 32 1 1\n\xFF\xFF\xFF\xFE"), List{-2});
-    EXPECT_EQ(read("SAM b s 33 1 1\n12345678", "x", SAM_readSam), refused);
+    EXPECT_EQ(read("SAM b s 2147483647 1 1\n12345678", "x", SAM_readSam), refused);
     EXPECT_EQ(read("SAM a s 16 4 1\n-5, 70000\nx2147483648 4"), (List{5, 70000, INT32_MIN, 4}));
     expectReports(SAM_verbose, 1, "SAM error.", [&] {
         EXPECT_EQ(read("SAM a s 16 2147483647 1\n-5 12", "x", SAM_readSam), (List{5, 12}));
@@ -183,6 +183,18 @@ TEST_F(SamTest, HostileFilesAreRefusedAtEveryLength) {
     EXPECT_EQ(read(header + "\nabc"), List{0x6162}) << "half a value is none";
     SAM_setPath(sam, folder.c_str());
     EXPECT_EQ(SAM_load(sam), 0) << "a folder is no sound";
+}
+
+TEST_F(SamTest, AnOpenFileNeedsNoName) {
+    const std::string bytes = saved("x", {1, 2});
+    const Owned<SAM, SAM_delete> nameless(SAM_new());
+    SAM_setSample(nameless, sampleOf({1, 2}));
+    nameless->storage = 'b';
+    nameless->file = std::fopen(sam->path, "wb");
+    EXPECT_EQ(SAM_save(nameless), 1);
+    EXPECT_EQ(contents(), bytes);
+    nameless->file = std::fopen(sam->path, "rb");
+    EXPECT_EQ(SAM_load(nameless) + nameless->sample->length, 1);
 }
 
 TEST_F(SamTest, LoopedReadingWrapsBetweenItsPoints) {

@@ -3,13 +3,18 @@
 #include "effects/archpath.h"
 #include "effects/contract.h"
 #include "effects/fill.h"
+#include "effects/flashpix.h"
 #include "effects/line_font.h"
 #include "effects/lradial.h"
 #include "effects/lrain.h"
 #include "effects/lscrlxyz.h"
 #include "effects/lscroll.h"
+#include "effects/rect.h"
 #include "effects/sineline.h"
+#include "effects/sinescan.h"
 #include "effects/wordzoom.h"
+
+#include <algorithm>
 
 namespace velm::test {
 namespace {
@@ -71,6 +76,31 @@ TEST(Contract, TheWritersWithLineFonts) {
     expectContract<WORDZOOM>({WORDZOOM_new, WORDZOOM_delete, WORDZOOM_randomize, WORDZOOM_advance,
                               WORDZOOM_draw, middle(WORDZOOM_setText)},
                              WORDZOOM_verbose, "WORDZOOM error", 2);
+}
+
+TEST(Contract, RECT) {
+    for (const RECT_PATH path : {RECT_PATH::drift, RECT_PATH::tunnel, RECT_PATH::nest}) {
+        const auto place = [path](RECT* rect) {
+            rect->path = path, rect->width = 96, rect->height = 64;
+            std::for_each_n(rect->panes, rect->count, [](RECT_PANE& pane) { pane.colour &= 0x030303; });
+        };
+        expectContract<RECT>({RECT_new, RECT_delete, RECT_randomize, RECT_advance, RECT_draw, place},
+                             RECT_verbose, "RECT error", 2);
+    }
+}
+
+TEST(Contract, SINESCAN) {
+    const Picture source(noise(40, 30, 1));
+    const auto place = [&source](SINESCAN* scan) { scan->source = source, scan->x = 48, scan->y = 32; };
+    expectContract<SINESCAN>(
+        {SINESCAN_new, SINESCAN_delete, SINESCAN_randomize, SINESCAN_advance, SINESCAN_draw, place},
+        SINESCAN_verbose, "SINESCAN error", 1);
+}
+
+TEST(Contract, FLASHPIX) {
+    expectContract<FLASHPIX>(
+        {FLASHPIX_new, FLASHPIX_delete, FLASHPIX_randomize, FLASHPIX_advance, FLASHPIX_draw},
+        FLASHPIX_verbose, "FLASHPIX error", 3);
 }
 
 } // namespace

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "effects/backmove.h"
 #include "effects/ball3d.h"
+#include "effects/circle.h"
 #include "effects/distx.h"
 #include "effects/disty.h"
 #include "effects/line_font.h"
 #include "effects/logofly.h"
+#include "effects/lstar.h"
 #include "effects/raster.h"
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
@@ -22,12 +25,16 @@ struct Show {
         font->image = IMG_clone(strip);
         SCROLL_setup(scroll, "0123 ABC", font, screen);
         rows->source = columns->source = strip;
+        BACKMOVE_setPicture(back, strip);
         ball->target = logo->target = pen->target = screen;
         logo->pen = pen;
     }
 
     void frame() const {
         RASTER_advance(bars), RASTER_draw(bars, screen);
+        BACKMOVE_drawAverage(back, screen), BACKMOVE_advance(back);
+        CIRCLE_drawXor(circles, screen), CIRCLE_advance(circles);
+        LSTAR_draw(sky, screen), LSTAR_drawPolygons(sky, screen), LSTAR_advance(sky);
         SCROLL_step(scroll), SCROLL_draw(scroll);
         DISTX_draw(rows, screen), DISTX_advance(rows);
         DISTY_draw(columns, screen), DISTY_advance(columns);
@@ -47,6 +54,9 @@ struct Show {
     Owned<SCROLL, SCROLL_delete> scroll{SCROLL_new()};
     Owned<DISTX, DISTX_delete> rows{DISTX_new()};
     Owned<DISTY, DISTY_delete> columns{DISTY_new()};
+    Owned<BACKMOVE, BACKMOVE_delete> back{BACKMOVE_new()};
+    Owned<CIRCLE, CIRCLE_delete> circles{CIRCLE_new()};
+    Owned<LSTAR, LSTAR_delete> sky{LSTAR_new()};
 };
 
 TEST(Instances, DoNotDisturbEachOtherAndAllocateNothing) {

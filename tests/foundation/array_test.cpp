@@ -72,7 +72,7 @@ TEST(Array, ARRAY_copyCountsBytesAndARRAY_sliceIsEmptyAndARRAY_insertRangeOnlyCh
     EXPECT_EQ(textOf(dst), "ARRAY{\nab....\n}\n");
     ARRAY_setElementSize(dst, 0); // elements of no bytes have none to copy
     ARRAY_push(dst, ""), ARRAY_push(dst, ""), ARRAY_push(dst, "");
-    ARRAY_copyInto(src, dst), ARRAY_copyInto(dst, src);
+    ARRAY_copyInto(dst, src), ARRAY_copyInto(src, dst);
     EXPECT_EQ(textOf(src), "ARRAY{\nabcdefghijkl\n}\n");
 }
 
@@ -89,42 +89,37 @@ TEST(Array, ARRAY_nothingEqualsNothing) {
     EXPECT_EQ(ARRAY_equal(array, clone) + ARRAY_equal(clone, array), 0);
 }
 
-TEST(Array, ReportsWhatIsOutsideAndRunsOutOfMemoryUnchanged) {
+TEST(Array, ReportsWhatIsOutsideAndChangesNothing) {
     const Array array(arrayOf({"abc", "def"}));
     const Array empty(ARRAY_new());
     char word[4] = "";
-    expectReports(ARRAY_verbose, 24, "ARRAY error", [&] {
-        ARRAY_push(array, nullptr), ARRAY_push(nullptr, word), ARRAY_insert(array, "xyz", 3);
-        ARRAY_insert(array, "xyz", -1), ARRAY_set(array, "xyz", 2), ARRAY_get(array, word, -1);
-        ARRAY_get(array, nullptr, 0), ARRAY_deleteAt(array, 2), ARRAY_removeRange(array, 1, 1);
+    expectReports(ARRAY_verbose, 18, "ARRAY error", [&] {
+        ARRAY_push(array, nullptr), ARRAY_insert(array, "xyz", 3), ARRAY_set(array, "xyz", 2);
+        ARRAY_get(array, word, -1), ARRAY_get(array, nullptr, 0), ARRAY_deleteAt(array, 2);
         ARRAY_removeRange(array, 1, 3), ARRAY_clear(nullptr), ARRAY_copyInto(array, nullptr);
-        EXPECT_EQ(ARRAY_pop(empty), nullptr);
-        EXPECT_EQ(ARRAY_indexOf(array, nullptr), -1);
-        EXPECT_EQ(ARRAY_equalAt(array, "xyz", 2), 0);
-        EXPECT_EQ(ARRAY_toText(nullptr), nullptr);
+        EXPECT_EQ(ARRAY_indexOf(array, nullptr) + ARRAY_equalAt(array, "xyz", 2), -1);
         ARRAY_delete(nullptr);
+        expectFailure(9, [&] { return ARRAY_pop(empty); });
         expectFailure(1, ARRAY_new), expectFailure(2, ARRAY_new);
         expectFailure(1, [&] { return ARRAY_push(array, "xyz"), nullptr; });
-        expectFailure(1, [&] { return ARRAY_setElementSize(array, 9), nullptr; });
-        expectFailure(1, [&] { return ARRAY_pop(array); });
+        expectFailure(1, [&] { return ARRAY_setElementSize(array, 9), ARRAY_toText(nullptr); });
         expectFailure(3, [&] { return ARRAY_clone(array); });
-        expectFailure(1, [&] { return ARRAY_toText(array); });
     });
-    EXPECT_STREQ(word, "");
-    EXPECT_EQ(textOf(array), "ARRAY{\nabcdef\n}\n");
+    EXPECT_EQ(textOf(array) + word, "ARRAY{\nabcdef\n}\n");
 }
 
 TEST(Array, ARRAY_selfTestKeepsTexts) {
-    const KeptAllocations kept;
-    EXPECT_EQ(printedBy(ARRAY_selfTest), "Creation of new ARRAY...done!\n"
-                                         "Setting size of element...done!\n"
-                                         "Pushing 4 elements...done!\n"
-                                         "ARRAY{\nVELM arrayVELM array\n}\n\n"
-                                         "Inserting 1 element at 0...done!\n"
-                                         "ARRAY{\nHelloVELM arrayVELM array\n}\n\n"
-                                         "Deleting 1 element at 2...done!\n"
-                                         "ARRAY{\nHelloVELM VELM array\n}\n\n");
-    EXPECT_EQ(KeptAllocations::count(), 3);
+    const std::string done = "done!\nARRAY{\n";
+    const auto test = [] { EXPECT_EQ(keptBy(ARRAY_selfTest), 3); };
+    EXPECT_EQ(printedBy(test), "Creation of new ARRAY...done!\nSetting size of element...done!\n"
+                               "Pushing 4 elements..." +
+                                   done +
+                                   "VELM arrayVELM array\n}\n\n"
+                                   "Inserting 1 element at 0..." +
+                                   done +
+                                   "HelloVELM arrayVELM array\n}\n\n"
+                                   "Deleting 1 element at 2..." +
+                                   done + "HelloVELM VELM array\n}\n\n");
     const FailingAllocation failure(1);
     EXPECT_EQ(printedBy(ARRAY_selfTest), "Creation of new ARRAY...failed\n");
 }

@@ -81,16 +81,14 @@ FailingAllocation::~FailingAllocation() {
     failingAllocation = 0;
 }
 
-KeptAllocations::KeptAllocations() {
+std::int64_t keptBy(void (*call)()) {
     isKeeping = true;
-}
-KeptAllocations::~KeptAllocations() {
+    call();
     isKeeping = false;
+    const auto empty = std::count(kept.begin(), kept.end(), nullptr);
     std::for_each(kept.begin(), kept.end(), std::free);
     kept.fill(nullptr);
-}
-std::int64_t KeptAllocations::count() {
-    return std::count_if(kept.begin(), kept.end(), [](const void* memory) { return memory != nullptr; });
+    return static_cast<std::int64_t>(kept.size()) - empty;
 }
 
 } // namespace velm::test

@@ -23,15 +23,8 @@ public:
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 };
 
-/// While it lives, remembers what the project allocates and does not free. In the end it frees that, so that
-/// a leak which is kept on purpose is counted and no sanitizer complains.
-class KeptAllocations {
-public:
-    KeptAllocations();
-    ~KeptAllocations();
-    KeptAllocations(const KeptAllocations&) = delete;
-    KeptAllocations& operator=(const KeptAllocations&) = delete;
-    static std::int64_t count();
-};
+/// Frees what the project allocates during the call and keeps, and gives how many those were: for leaks that
+/// are kept on purpose.
+std::int64_t keptBy(void (*call)());
 
 } // namespace velm::test

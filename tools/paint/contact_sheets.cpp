@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace velm::paint {
@@ -106,12 +107,42 @@ Face bitmapFace(const IMG* sheet, std::int32_t width, std::int32_t height) {
             }};
 }
 
+/// A line of text in each face, to see that they belong together.
+Picture family(const std::vector<std::pair<Face, std::string>>& faces) {
+    constexpr std::int32_t gap = 6;
+    std::int32_t width = 0;
+    std::int32_t height = gap;
+    for (const auto& [face, text] : faces) {
+        width = std::max(width, face.width * static_cast<std::int32_t>(text.size()) + 2 * gap);
+        height += face.height + gap;
+    }
+    Picture img = makePicture(width, height);
+    std::int32_t y = gap;
+    for (const auto& [face, text] : faces) {
+        std::int32_t x = gap;
+        for (const char character : text) {
+            face.draw(*img, character, x, y);
+            x += face.width;
+        }
+        y += face.height + gap;
+    }
+    return img;
+}
+
 bool writeFontSheets(const std::string& place) {
     const Objects small = parse(writeFontSmall());
     const Objects medium = parse(writeFontMedium());
     const Picture sheet = paintFontSheet();
     const Picture shaded = paintFontShaded();
-    return writePng(place + "font_small.png", *twice(*specimen(lineFace(small.get(), 8, 0xFFC060)))) &&
+    const Picture faces =
+        family({{bitmapFace(shaded.get(), 32, 64), "Sphinx 4030"},
+                {bitmapFace(sheet.get(), 16, 16), "SPHINX OF BLACK QUARTZ"},
+                {bitmapFace(sheet.get(), 16, 16), "Judge my vow: O0 I1l!*"},
+                {lineFace(medium.get(), 16, 0x60FFC0), "SPHINX OF BLACK QUARTZ"},
+                {lineFace(medium.get(), 16, 0x60FFC0), "Judge my vow: O0 I1l!*"},
+                {lineFace(small.get(), 8, 0xFFC060), "SPHINX OF BLACK QUARTZ, judge my vow: 012345"}});
+    return writePng(place + "faces.png", *twice(*faces)) &&
+           writePng(place + "font_small.png", *twice(*specimen(lineFace(small.get(), 8, 0xFFC060)))) &&
            writePng(place + "font_medium.png", *twice(*specimen(lineFace(medium.get(), 16, 0x60FFC0)))) &&
            writePng(place + "font_sheet.png", *twice(*specimen(bitmapFace(sheet.get(), 16, 16)))) &&
            writePng(place + "font_shaded.png", *twice(*specimen(bitmapFace(shaded.get(), 32, 64)))) &&
@@ -119,28 +150,64 @@ bool writeFontSheets(const std::string& place) {
            writePng(place + "font_shaded_cells.png", *twice(*shaded));
 }
 
-/// All pictures under each other, the columns of digits side by side.
+/// A column of square cells, side by side.
+Picture inRow(const IMG& column) {
+    const std::int32_t cell = column.width;
+    Picture row = makePicture(column.height, cell);
+    for (std::int32_t at = 0; at < column.height; at += cell) {
+        IMG_blit(&column, row.get(), 0, at, at, 0, cell, cell);
+    }
+    return row;
+}
+
+/// The picture on its side, the top to the left.
+Picture turned(const IMG& img) {
+    Picture side = makePicture(img.height, img.width);
+    for (std::int32_t i = 0; i < img.width * img.height; ++i) {
+        IMG_putPixel(side.get(), i / img.width, i % img.width, img.pixels[i]);
+    }
+    return side;
+}
+
+/// The pointer on black, on its brightest colour and on white.
+Picture pointerGrounds() {
+    const Picture pointer = paintPointer();
+    Picture grounds = makePicture(3 * pointer->width, pointer->height);
+    std::int32_t x = 0;
+    for (const std::uint32_t ground : {0x000000U, 0x20D0FFU, 0xFFFFFFU}) {
+        IMG_fillRect(grounds.get(), x, 0, pointer->width, pointer->height, ground);
+        IMG_blit(pointer.get(), grounds.get(), 0, 0, x, 0, pointer->width, pointer->height);
+        x += pointer->width;
+    }
+    return grounds;
+}
+
+/// All pictures under each other, small ones side by side.
 bool writePictureSheet(const std::string& place) {
-    constexpr std::int32_t wide = 256 * enlargement + 2 * margin;
+    constexpr std::int32_t wide = 256 * enlargement;
+    constexpr std::int32_t half = wide / 2;
+    constexpr std::int32_t right = half + margin;
+    constexpr std::int32_t pair = 2 * (half + margin);         // the row of pictures A and B
+    constexpr std::int32_t small = pair + half / 2 + margin;   // the row of the logo
+    constexpr std::int32_t digits = small + half / 2 + margin; // the first row of digits
+    constexpr std::int32_t digitRow = 16 * enlargement + margin;
     struct Placed {
         Picture picture;
         std::int32_t x;
         std::int32_t y;
     };
-    constexpr std::int32_t half = 128 * enlargement;
-    Placed placed[] = {
+    const Placed placed[] = {
         {paintPictureWide(), 0, 0},
         {paintPictureMask(), 0, half + margin},
-        {paintPictureA(), 0, 2 * (half + margin)},
-        {paintPictureB(), half + margin, 2 * (half + margin)},
-        {paintLogo(), 0, 2 * (half + margin) + half / 2 + margin},
-        {paintPointer(), half + margin, 2 * (half + margin) + half / 2 + margin},
-        {paintDigitsA(), half + 10 * margin, 2 * (half + margin) + half / 2 + margin},
-        {paintDigitsB(), half + 20 * margin, 2 * (half + margin) + half / 2 + margin},
-        {paintStrip(), half + 30 * margin, 2 * (half + margin) + half / 2 + margin},
+        {paintPictureA(), 0, pair},
+        {paintPictureB(), right, pair},
+        {paintLogo(), 0, small},
+        {pointerGrounds(), right, small},
+        {turned(*paintStrip()), right, small + digitRow},
+        {inRow(*paintDigitsA()), 0, digits},
+        {inRow(*paintDigitsB()), 0, digits + digitRow},
     };
-    Picture sheet =
-        makePicture(wide + margin, 2 * (half + margin) + half / 2 + 256 * enlargement + 3 * margin);
+    Picture sheet = makePicture(right + half + 2 * margin, digits + 2 * digitRow + margin);
     IMG_fill(sheet.get(), paper);
     for (const auto& [picture, x, y] : placed) {
         drawEnlarged(*picture, *sheet, margin + x, margin + y, enlargement);

@@ -26,9 +26,8 @@ std::int32_t topOf(std::int32_t digit) {
 Picture boldDigit(std::int32_t digit) {
     constexpr std::string_view names = "0123456789ABCDEF";
     constexpr std::int32_t middle = 6;
-    // The zero goes without its dot: nothing here can be taken for the letter.
-    constexpr std::string_view zero = "51 91 B3 B9 9B 5B 39 33 51";
-    Strokes strokes = parseStrokes(digit == 0 ? zero : mediumGlyph(names[static_cast<std::size_t>(digit)]));
+    Strokes strokes =
+        parseStrokes(digit == 0 ? openZero : mediumGlyph(names[static_cast<std::size_t>(digit)]));
     for (Segment& segment : strokes) {
         segment.from.y += segment.from.y > middle ? 1 : 0;
         segment.to.y += segment.to.y > middle ? 1 : 0;
@@ -97,7 +96,8 @@ Picture paintDigitsA() {
     Picture column = makePicture(cell, cell * digits);
     for (std::int32_t digit = 0; digit < digits; ++digit) {
         const Picture shape = boldDigit(digit);
-        const std::uint32_t colour = hue(digit * hueStep + hueTurn / 3);
+        // A little white brings the dark blues up to the light of the other hues.
+        const std::uint32_t colour = blended(hue(digit * hueStep + hueTurn / 3), 0xFFFFFF, 60);
         for (std::int32_t i = 0; i < cell * cell; ++i) {
             const std::int32_t x = i % cell;
             const std::int32_t y = i / cell;

@@ -13,7 +13,7 @@ namespace velm::paint {
 
 struct Drawing {
     std::string_view name;
-    std::string_view shorthand; ///< on a grid of 0 to 15, the middle at (8, 8)
+    std::string_view shorthand; ///< on a grid of 0 to 16, the middle at (8, 8)
 };
 
 /// All of them, solids and stars first.

@@ -27,26 +27,31 @@ constexpr std::int32_t middleGrey = 150;
 constexpr std::int32_t slopeGrey = 100; ///< what a slope that faces the light or turns away adds or takes
 constexpr std::int32_t ridgeGrey = 255;
 
-/// How far the drawing grid is stretched into the cell, and how thick its strokes are.
+/// How far the drawing grid is stretched into the cell, and how thick its strokes are; all in eighths.
 struct Cut {
     std::int32_t scaleX;
     std::int32_t scaleY;
     std::int32_t left;
     std::int32_t top;
-    std::int32_t halfWidth; ///< in eighths
+    std::int32_t halfWidth;
 };
 
-constexpr Cut letterCut = {2, 4, 2, 3, 30};
-constexpr Cut crowdedCut = {2, 4, 2, 3, 21};
-constexpr Cut drawingCut = {2, 2, 0, 16, 10};
+constexpr Cut letterCut = {16, 32, 20, 28, 30};
+constexpr Cut crowdedCut = {16, 32, 20, 28, 21};
+constexpr Cut drawingCut = {14, 14, 16, 144, 10};
 
-/// A stroke's axis. An end is square where nothing or a stroke at a right angle meets it, otherwise round.
+constexpr std::int32_t longSlant = 128; ///< the least height of strokes like those of X, in eighths
+
+/// A stroke's axis. An end is square where nothing or a stroke at a right angle meets it, otherwise round. A
+/// long slanted stroke's square end is cut level, so that all letters stand on one line.
 struct Axis {
     Point from;
     Point along;
     std::int32_t length;
     bool squareFrom;
     bool squareTo;
+
+    bool isSlanted() const { return along.x != 0 && std::abs(along.y) >= longSlant; }
 };
 
 /// What a sample sees of one axis: its distance, and how far the slope there faces the light, -256 to 256.
@@ -84,8 +89,7 @@ bool isSquareEnd(const Strokes& strokes, const Segment& segment, Point end) {
 /// The strokes in the cell, in eighths of a pixel.
 Strokes placed(Strokes strokes, const Cut& cut) {
     const auto place = [&cut](Point p) {
-        return Point{(p.x * cut.scaleX + cut.left) * unit + unit / 2,
-                     (p.y * cut.scaleY + cut.top) * unit + unit / 2};
+        return Point{p.x * cut.scaleX + cut.left, p.y * cut.scaleY + cut.top};
     };
     for (Segment& segment : strokes) {
         segment.from = place(segment.from);
@@ -110,6 +114,22 @@ Slope aroundEnd(Point offset) {
     return {distance, lightOn(offset.x, offset.y, distance)};
 }
 
+/// How far a sample lies beyond the start; `offset` from there.
+std::int64_t pastStart(const Axis& axis, Point offset) {
+    if (axis.isSlanted() && axis.squareFrom) {
+        return axis.along.y > 0 ? -offset.y : offset.y;
+    }
+    return -dot(axis.along, offset) / axis.length;
+}
+
+/// How far it lies beyond the finish; `offset` from there.
+std::int64_t pastFinish(const Axis& axis, Point offset) {
+    if (axis.isSlanted() && axis.squareTo) {
+        return axis.along.y > 0 ? offset.y : -offset.y;
+    }
+    return dot(axis.along, offset) / axis.length;
+}
+
 /// Beyond a square end the roof falls off like a hip: the steeper of the side and the end counts.
 Slope beyondSquareEnd(const Axis& axis, std::int64_t side, std::int64_t beyond, std::int32_t sign) {
     if (std::max(side, -side) > beyond) {
@@ -117,8 +137,10 @@ Slope beyondSquareEnd(const Axis& axis, std::int64_t side, std::int64_t beyond, 
         return {static_cast<std::int32_t>(side * turn),
                 lightOn(-turn * axis.along.y, turn * axis.along.x, axis.length)};
     }
+    const std::int64_t x = axis.isSlanted() ? 0 : axis.along.x;
     return {static_cast<std::int32_t>(beyond),
-            lightOn(std::int64_t{sign} * axis.along.x, std::int64_t{sign} * axis.along.y, axis.length)};
+            lightOn(sign * x, std::int64_t{sign} * axis.along.y,
+                    rootOf(x * x + std::int64_t{axis.along.y} * axis.along.y))};
 }
 
 Slope slopeAt(const Axis& axis, Point sample) {
@@ -130,13 +152,14 @@ Slope slopeAt(const Axis& axis, Point sample) {
         return {distance, lightOn(level ? offset.x : 0, level ? 0 : offset.y, distance)};
     }
     const std::int64_t side = cross(axis.along, offset) / axis.length;
-    const std::int64_t forward = dot(axis.along, offset) / axis.length;
-    if (forward < 0) {
-        return axis.squareFrom ? beyondSquareEnd(axis, side, -forward, -1) : aroundEnd(offset);
+    const Point offsetTo = minus(offset, axis.along);
+    const std::int64_t before = pastStart(axis, offset);
+    const std::int64_t after = pastFinish(axis, offsetTo);
+    if (before > 0) {
+        return axis.squareFrom ? beyondSquareEnd(axis, side, before, -1) : aroundEnd(offset);
     }
-    if (forward > axis.length) {
-        return axis.squareTo ? beyondSquareEnd(axis, side, forward - axis.length, 1)
-                             : aroundEnd(minus(offset, axis.along));
+    if (after > 0) {
+        return axis.squareTo ? beyondSquareEnd(axis, side, after, 1) : aroundEnd(offsetTo);
     }
     return beyondSquareEnd(axis, side, 0, 1);
 }
@@ -195,7 +218,7 @@ void cutGlyph(IMG& sheet, std::int32_t code, const Strokes& strokes, const Cut& 
 
 /// The control codes and code 127 hold drawings.
 std::size_t drawingOf(std::int32_t code) {
-    return static_cast<std::size_t>(code) * 2 % drawings().size();
+    return (static_cast<std::size_t>(code) * 2 + 1) % drawings().size();
 }
 
 } // namespace

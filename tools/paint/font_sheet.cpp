@@ -33,6 +33,7 @@ struct Pen {
 
 constexpr Pen broad = {3, 2}; ///< upright stems of 3 pixels, level ones of 2
 constexpr Pen fine = {2, 2};  ///< for what has many strokes
+constexpr Pen light = {2, 1}; ///< for letters within letters
 constexpr Pen hair = {1, 1};
 
 void write(const Cell& at, const Strokes& strokes, Pen pen) {
@@ -110,38 +111,38 @@ struct Sign {
 
 /// The signs from 160 to 191.
 constexpr std::array<Sign, 32> signs = {{
-    {"3A 3C BC BA", fine},                                            // a space that holds
-    {"71 72, 75 7B", broad},                                          // inverted !
-    {"B6 94 54 36 39 5B 9B B9, 71 74, 7B 7E", fine},                  // cent
-    {"B3 91 71 53 5B, 36 86, 3B BB", broad},                          // pound
-    {"55 95 99 59 55, 33 55, B3 95, 3B 59, BB 99", fine},             // any money
-    {"21 76 C1, 76 7B, 36 B6, 39 B9", fine},                          // yen
-    {"70 75, 79 7E", broad},                                          // broken bar
-    {"A1 51 42 43 54 94 A5 A7 98 58 47 45 54, 98 A9 AA 9B 4B", fine}, // section
-    {"41, 91", broad},                                                // two dots
-    {"51 91 C4 C8 9B 5B 28 24 51, 94 64 68 98", fine},                // copyright
-    {"41 81 92 97 47 44 94, 4A 9A", fine},                            // feminine ordinal
-    {"63 27 6B, C3 87 CB", broad},                                    // left quotation
-    {"36 B6 B9", broad},                                              // not
-    {"47 A7", broad},                                                 // short dash
-    {"51 91 C4 C8 9B 5B 28 24 51, 68 64 84 85 66 98", fine},          // registered
-    {"31 B1", broad},                                                 // level accent
-    {"51 81 93 95 86 56 44 43 51", fine},                             // degree
-    {"72 7A, 36 B6, 3D BD", broad},                                   // plus or minus
-    {"41 81 92 93 57 97", fine},                                      // 2 above
-    {"41 81 92 83 63, 83 94 96 87 47", fine},                         // 3 above
-    {"94 B2", broad},                                                 // acute
-    {"34 3E, 39 5B 8B B8, B4 BB", broad},                             // micro
-    {"A1 AC, 71 7C, A1 51 33 35 57 77", fine},                        // paragraph
-    {"76 77", broad},                                                 // middle dot
-    {"7B 8C 8D 7E 5E", broad},                                        // cedilla
-    {"53 71 77, 57 97", fine},                                        // 1 above
-    {"51 81 93 95 87 57 45 43 51, 4A 9A", fine},                      // masculine ordinal
-    {"23 67 2B, 83 C7 8B", broad},                                    // right quotation
-    {"32 41 46, C1 2B, 97 9A DA, C8 CD", fine},                       // a quarter
-    {"32 41 46, C1 2B, 98 C8 CA 9A 9D DD", fine},                     // a half
-    {"21 51 53 33, 53 56 26, C1 2B, 97 9A DA, C8 CD", fine},          // three quarters
-    {"B9 9B 5B 39 75, 72 71", broad},                                 // inverted ?
+    {"3A 3C BC BA", fine},                                              // a space that holds
+    {"71 72, 75 7B", broad},                                            // inverted !
+    {"B6 94 54 36 39 5B 9B B9, 71 74, 7B 7E", fine},                    // cent
+    {"B3 91 71 53 5B, 36 86, 3B BB", broad},                            // pound
+    {"55 95 99 59 55, 33 55, B3 95, 3B 59, BB 99", fine},               // any money
+    {"21 76 C1, 76 7B, 36 B6, 39 B9", fine},                            // yen
+    {"70 75, 79 7E", broad},                                            // broken bar
+    {"A1 51 42 43 54 94 A5 A7 98 58 47 45 54, 98 A9 AA 9B 4B", fine},   // section
+    {"41, 91", broad},                                                  // two dots
+    {"41 A1 D4 D9 AC 4C 19 14 41, A5 93 63 54 59 6A 9A A8", light},     // copyright
+    {"41 81 92 97 47 44 94, 4A 9A", fine},                              // feminine ordinal
+    {"63 27 6B, C3 87 CB", broad},                                      // left quotation
+    {"36 B6 B9", broad},                                                // not
+    {"47 A7", broad},                                                   // short dash
+    {"41 A1 D4 D9 AC 4C 19 14 41, 5A 53 93 A4 A5 96 56, 86 AA", light}, // registered
+    {"31 B1", broad},                                                   // level accent
+    {"51 81 93 95 86 56 44 43 51", fine},                               // degree
+    {"72 7A, 36 B6, 3D BD", broad},                                     // plus or minus
+    {"41 81 92 93 57 97", fine},                                        // 2 above
+    {"41 81 92 83 63, 83 94 96 87 47", fine},                           // 3 above
+    {"94 B2", broad},                                                   // acute
+    {"34 3E, 39 5B 8B B8, B4 BB", broad},                               // micro
+    {"A1 AC, 71 7C, A1 51 33 35 57 77", fine},                          // paragraph
+    {"76 77", broad},                                                   // middle dot
+    {"7B 8C 8D 7E 5E", broad},                                          // cedilla
+    {"53 71 77, 57 97", fine},                                          // 1 above
+    {"51 81 93 95 87 57 45 43 51, 4A 9A", fine},                        // masculine ordinal
+    {"23 67 2B, 83 C7 8B", broad},                                      // right quotation
+    {"22 31 36, D1 2E, 98 9B DB, B8 BE", light},                        // a quarter
+    {"22 31 36, D1 2E, 99 A8 B8 C9 CA 9D 9E CE", light},                // a half
+    {"11 31 42 43 34 45 46 37 17, D1 2E, 98 9B DB, B8 BE", light},      // three quarters
+    {"B9 9B 5B 39 75, 72 71", broad},                                   // inverted ?
 }};
 
 /// Capitals step down to row 4 to make room for their accents.
@@ -167,7 +168,7 @@ void writeAccent(const Cell& at, char accent) {
     case '"':
         return write(at, parseStrokes("40, 90"), broad);
     case 'o':
-        return write(at, parseStrokes("60 90, 51 53, A1 A3, 63 93"), hair);
+        return write(at, parseStrokes("60 90, 51, A1, 62 92"), hair);
     default:
         return write(at, parseStrokes("7C 8D 7E 5E"), fine);
     }
@@ -191,7 +192,7 @@ std::string_view specialLetter(std::int32_t code) {
     case 0xE6:
         return "24 54 76 7A 5B 3B 2A 28 37 D7 D6 B4 94 76, 7A 9B DB"; // ae
     case 0xF0:
-        return "B6 94 54 36 39 5B 9B B9 B5 61, 53 92"; // eth
+        return "55 95 B7 B9 9B 5B 39 37 55, B7 B5 71, 74 A1"; // eth
     case 0xF7:
         return "73, 37 B7, 7B"; // divided by
     case 0xF8:
@@ -210,8 +211,9 @@ void writeLetter(const Cell& at, std::int32_t code) {
         "`'^~\"o ,`'^\"`'^\" ~`'^~\"  `'^\"'  `'^~\"o ,`'^\"`'^\" ~`'^~\"  `'^\"' \"";
     const std::string_view special = specialLetter(code);
     if (!special.empty()) {
-        const bool crowded = code == 0xC6 || code == 0xE6 || code == 0xD8 || code == 0xF8;
-        return write(at, parseStrokes(special), crowded ? fine : broad);
+        constexpr std::string_view roomy = "\xD0\xD7\xDE\xF7\xFE";
+        const bool isRoomy = roomy.find(static_cast<char>(code)) != std::string_view::npos;
+        return write(at, parseStrokes(special), isRoomy ? broad : fine);
     }
     const auto index = static_cast<std::size_t>(code - firstLetter);
     const char letter = letters[index];

@@ -7,6 +7,7 @@
 #include "paint/strokes.h"
 
 #include <array>
+#include <vector>
 
 namespace velm::paint {
 
@@ -14,69 +15,115 @@ namespace {
 
 constexpr std::uint32_t white = 0xFFFFFF;
 
-/// How the 16 x 16 letters become large ones.
-struct Lettering {
-    std::int32_t scaleX;
-    std::int32_t scaleY;
-    std::int32_t penW;
-    std::int32_t penH;
-    std::int32_t advance; ///< pixels from letter to letter
+/// The mark's lines: its unit of length and the thickness of a line, in pixels.
+struct Lines {
+    std::int32_t unit;
+    std::int32_t pen;
 };
 
-/// Writes capitals and digits; (x, y) is the top left pixel of the first capital.
-void letter(IMG& img, std::string_view word, const Lettering& style, std::int32_t x, std::int32_t y) {
-    constexpr std::int32_t capitalLeft = 2;
-    constexpr std::int32_t capitalTop = 1;
-    for (const char character : word) {
-        Strokes strokes = parseStrokes(mediumGlyph(character));
-        for (Segment& segment : strokes) {
-            segment.from = {segment.from.x * style.scaleX, segment.from.y * style.scaleY};
-            segment.to = {segment.to.x * style.scaleX, segment.to.y * style.scaleY};
-        }
-        drawStrokes(img, strokes, x - capitalLeft * style.scaleX, y - capitalTop * style.scaleY, style.penW,
-                    style.penH, white);
-        x += style.advance;
+constexpr std::int32_t bands = 3;     ///< parallel lines of a stroke
+constexpr std::int32_t bandPitch = 4; ///< from one to the next, in units
+constexpr std::int32_t tall = 36;     ///< the letters, in units
+
+/// A polyline, its points in pixels from (x, y).
+void drawPath(IMG& img, const std::vector<Point>& points, std::int32_t x, std::int32_t y, std::int32_t pen) {
+    Strokes strokes;
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        strokes.push_back({points[i - 1], points[i], i == 1});
+    }
+    drawStrokes(img, strokes, x, y, pen, pen, white);
+}
+
+/// Points on the left half, then the same from right to left on the right half.
+std::vector<Point> mirrored(std::vector<Point> left, std::int32_t width) {
+    for (std::size_t i = left.size() - 1; i > 0; --i) {
+        left.push_back({width - left[i - 1].x, left[i - 1].y});
+    }
+    return left;
+}
+
+/// One of the parallel lines of a letter, `in` pixels inside the outermost. Corners are mitred: a line moves
+/// by in * tan 22.5 along a corner of 135 degrees, by in * sqrt 2 along the crest of two slopes.
+std::vector<Point> letterLine(char letter, std::int32_t in, std::int32_t width, std::int32_t height) {
+    const std::int32_t corner = in * 5 / 12;
+    const std::int32_t crest = in * 17 / 12;
+    const std::int32_t half = width / 2;
+    switch (letter) {
+    case 'V':
+        return mirrored({{in, 0}, {in, height - half - corner}, {half, height - crest}}, width);
+    case 'E':
+        return {{width, in}, {in, in}, {in, height - in}, {width, height - in}};
+    case 'L':
+        return {{in, 0}, {in, height - in}, {width, height - in}};
+    default: // M
+        return mirrored({{in, height}, {in, in + crest}, {half, half + crest}}, width);
     }
 }
 
-/// Level slits that grow from row to row, as if the letters sank into their mirror image.
-void cutSlits(IMG& img, std::int32_t top, std::int32_t pitch, std::int32_t count) {
-    for (std::int32_t i = 0; i < count; ++i) {
-        const std::int32_t thickness = 1 + i * (pitch - 2) / (count + 1);
-        IMG_fillRect(&img, 0, top + i * pitch, img.width, thickness, 0);
+/// A letter of the word and its place, in units.
+struct MarkLetter {
+    char letter;
+    std::int32_t left;
+    std::int32_t width;
+};
+
+constexpr std::array<MarkLetter, 4> word = {{{'V', 3, 24}, {'E', 35, 20}, {'L', 63, 18}, {'M', 89, 34}}};
+
+void drawWord(IMG& img, const Lines& lines) {
+    for (const auto& [letter, left, width] : word) {
+        for (std::int32_t band = 0; band < bands; ++band) {
+            const std::int32_t in = band * bandPitch * lines.unit;
+            const std::int32_t x = left * lines.unit;
+            drawPath(img, letterLine(letter, in, width * lines.unit, tall * lines.unit), x, 0, lines.pen);
+            if (letter == 'E') {
+                const std::int32_t y = (tall / 2 - bandPitch) * lines.unit + in;
+                drawPath(img, {{bands * bandPitch * lines.unit, y}, {width * lines.unit, y}}, x, 0,
+                         lines.pen);
+            }
+        }
     }
+}
+
+/// The number in the line font, twice as large, at the end of three lines.
+void drawNumber(IMG& img, const Lines& lines) {
+    constexpr std::int32_t top = 41;
+    constexpr std::int32_t right = 123;
+    constexpr std::int32_t advance = 24;
+    constexpr std::int32_t scale = 2;
+    constexpr Point corner = {3, 1}; ///< of a digit in its cell
+    constexpr std::string_view number = "4030";
+    for (std::size_t i = 0; i < number.size(); ++i) {
+        const std::int32_t left = right - 16 - advance * static_cast<std::int32_t>(number.size() - 1 - i);
+        for (auto [from, to, starts] : parseStrokes(number[i] == '0' ? openZero : mediumGlyph(number[i]))) {
+            const auto place = [&](Point p) {
+                return Point{((p.x - corner.x) * scale + left) * lines.unit,
+                             ((p.y - corner.y) * scale + top) * lines.unit};
+            };
+            drawStrokes(img, {{place(from), place(to), starts}}, 0, 0, lines.pen, lines.pen, white);
+        }
+    }
+    for (std::int32_t band = 0; band < bands; ++band) {
+        const std::int32_t y = (top + 6 + band * bandPitch) * lines.unit;
+        drawPath(img, {{3 * lines.unit, y}, {21 * lines.unit, y}}, 0, 0, lines.pen);
+    }
+}
+
+void drawMark(IMG& img, const Lines& lines) {
+    drawWord(img, lines);
+    drawNumber(img, lines);
 }
 
 } // namespace
 
 Picture paintLogo() {
-    constexpr Lettering large = {2, 3, 6, 7, 33};
-    constexpr Lettering small = {1, 1, 2, 2, 17};
     Picture logo = makePicture(128, 64);
-    letter(*logo, "VELM", large, 1, 1);
-    cutSlits(*logo, 18, 5, 4);
-    letter(*logo, "4030", small, 32, 48);
-    for (std::int32_t i = 0; i < 5; ++i) {
-        // Speed lines run towards the number from both sides.
-        const std::int32_t y = 48 + 3 * i;
-        const std::int32_t length = 8 + 4 * i;
-        IMG_drawHLine(logo.get(), white, y, 24 - length + 4, 24);
-        IMG_drawHLine(logo.get(), white, y, 127 - 24, 127 - 24 + length - 4);
-    }
+    drawMark(*logo, {1, 2});
     return logo;
 }
 
 Picture paintPictureMask() {
-    constexpr Lettering huge = {4, 6, 13, 15, 67};
-    constexpr std::int32_t top = 26;
     Picture mask = makePicture(256, 128);
-    letter(*mask, "VELM", huge, 1, top);
-    for (std::int32_t y = 0; y < mask->height; ++y) {
-        const std::int32_t fromEdge = y < 64 ? y : 127 - y;
-        if (fromEdge < top - 3 && y % 4 < 1 + fromEdge / 8) {
-            IMG_drawHLine(mask.get(), white, y, 0, mask->width - 1);
-        }
-    }
+    drawMark(*mask, {2, 5});
     return mask;
 }
 

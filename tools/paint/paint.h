@@ -46,6 +46,6 @@ Picture paintPointer();     ///< 16 x 16, the hot spot is the top left pixel
 // One function a text.
 std::string writeFontSmall();  ///< line font on a grid of 0 to 7
 std::string writeFontMedium(); ///< line font on a grid of 0 to 15
-std::string writeDrawings();   ///< line drawings on a grid of 0 to 15, turning about (8, 8)
+std::string writeDrawings();   ///< line drawings on a grid of 0 to 16, turning about (8, 8)
 
 } // namespace velm::paint

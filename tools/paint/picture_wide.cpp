@@ -28,7 +28,9 @@ std::uint32_t aurora(std::uint32_t sky, std::int32_t x, std::int32_t y, std::int
     const std::int32_t strength =
         (reach - above) * 150 / reach * (160 + (SINE_entry(x * 97 + curtain * 50) >> 9)) / 224;
     const std::uint32_t light = blended(0x30FFA0, 0xC040FF, above * whole / reach);
-    return isLit(strength, x, y) ? blended(sky, light, 150) : blended(sky, light, strength / 3);
+    // The strength goes through the pattern, not the colour: few steps over any sky.
+    const auto amount = static_cast<std::int32_t>(dither({0, whole - 1, 6}, strength, x, y));
+    return blended(sky, light, amount);
 }
 
 void paintSky(IMG& img) {
@@ -115,6 +117,20 @@ void paintRoof(IMG& img, std::int32_t kind, std::int32_t x, std::int32_t y, std:
     }
 }
 
+/// The wall that a tower turns to the middle of the picture; the farther out the tower stands, the wider.
+void paintSide(IMG& img, std::int32_t x, std::int32_t y, std::int32_t w, std::uint32_t edge) {
+    constexpr std::uint32_t wall = 0x0C0626;
+    const std::int32_t fromMiddle = x + w / 2 - width / 2;
+    const std::int32_t toMiddle = fromMiddle < 0 ? 1 : -1;
+    const std::int32_t corner = fromMiddle < 0 ? x + w - 1 : x;
+    const std::int32_t depth = std::abs(fromMiddle) / 18;
+    for (std::int32_t i = 1; i <= depth; ++i) {
+        const std::int32_t top = y + i * (shore - y) / 64;
+        IMG_drawVLine(&img, i == depth ? dimmed(edge, 130) : wall, corner + i * toMiddle, top, shore - 1);
+        IMG_putPixel(&img, corner + i * toMiddle, top, dimmed(edge, 130));
+    }
+}
+
 void paintTowers(IMG& img, const Layer& layer, bool outlined) {
     std::int32_t x = -4;
     for (std::int32_t i = 0; x < width; ++i) {
@@ -122,6 +138,9 @@ void paintTowers(IMG& img, const Layer& layer, bool outlined) {
         const std::int32_t tall = between(layer.lowest, layer.highest, scattered(layer.seed, i));
         const std::int32_t y = shore - tall;
         const std::uint32_t edge = outlined ? dimmed(hue(x * 5 + 200), 230) : layer.windows;
+        if (outlined) {
+            paintSide(img, x, y, w, edge);
+        }
         IMG_fillRect(&img, x, y, w, tall, layer.wall);
         paintRoof(img, scattered(i, layer.seed + 1) % 5, x, y, w, layer.wall, outlined ? edge : layer.wall);
         paintWindows(img, layer, x, y, w);

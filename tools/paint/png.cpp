@@ -4,8 +4,7 @@
 
 #include "paint/files.h"
 
-#include <algorithm>
-#include <string_view>
+#include <zlib.h>
 
 namespace velm::paint {
 
@@ -22,44 +21,19 @@ void appendWord(std::string& bytes, std::uint32_t value) {
     }
 }
 
-std::uint32_t crcOf(std::string_view bytes) {
-    constexpr std::uint32_t polynomial = 0xEDB88320;
-    std::uint32_t crc = 0xFFFFFFFF;
-    for (const char byte : bytes) {
-        crc ^= static_cast<unsigned char>(byte);
-        for (std::int32_t bit = 0; bit < 8; ++bit) {
-            crc = (crc >> 1) ^ ((crc & 1U) != 0 ? polynomial : 0U);
-        }
-    }
-    return ~crc;
+std::uint32_t crcOf(const std::string& bytes) {
+    const auto* const start = reinterpret_cast<const Bytef*>(bytes.data());
+    return static_cast<std::uint32_t>(crc32(0, start, static_cast<uInt>(bytes.size())));
 }
 
-std::uint32_t adlerOf(std::string_view bytes) {
-    constexpr std::uint32_t prime = 65521;
-    std::uint32_t sum = 1;
-    std::uint32_t sumOfSums = 0;
-    for (const char byte : bytes) {
-        sum = (sum + static_cast<unsigned char>(byte)) % prime;
-        sumOfSums = (sumOfSums + sum) % prime;
-    }
-    return (sumOfSums << 16) | sum;
-}
-
-/// A zlib stream of stored blocks.
-std::string stored(std::string_view bytes) {
-    constexpr std::size_t largestBlock = 65535;
-    std::string stream = "\x78\x01";
-    for (std::size_t at = 0; at < bytes.size(); at += largestBlock) {
-        const std::string_view block = bytes.substr(at, largestBlock);
-        const auto length = static_cast<std::uint32_t>(block.size());
-        appendByte(stream, at + largestBlock >= bytes.size() ? 1 : 0);
-        for (const std::uint32_t word : {length, ~length}) {
-            appendByte(stream, word);
-            appendByte(stream, word >> 8);
-        }
-        stream += block;
-    }
-    appendWord(stream, adlerOf(bytes));
+/// A zlib stream, as small as it gets; empty when memory runs out.
+std::string compressed(const std::string& bytes) {
+    uLongf length = compressBound(static_cast<uLong>(bytes.size()));
+    std::string stream(length, '\0');
+    const int result = compress2(reinterpret_cast<Bytef*>(stream.data()), &length,
+                                 reinterpret_cast<const Bytef*>(bytes.data()),
+                                 static_cast<uLong>(bytes.size()), Z_BEST_COMPRESSION);
+    stream.resize(result == Z_OK ? length : 0);
     return stream;
 }
 
@@ -95,7 +69,7 @@ bool writePng(const std::string& path, const IMG& img) {
     }
     std::string file = "\x89PNG\r\n\x1A\n";
     appendChunk(file, "IHDR", head);
-    appendChunk(file, "IDAT", stored(rowsOf(img)));
+    appendChunk(file, "IDAT", compressed(rowsOf(img)));
     appendChunk(file, "IEND", "");
     return writeFile(path, file);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// PNG files for the contact sheets, uncompressed, because nothing but a viewer reads them.
+// PNG files for the contact sheets.
 //
 //     writePng(directory + "/font_small.png", *sheet);
 #pragma once

@@ -39,6 +39,9 @@ void drawStrokes(IMG& img, const Strokes& strokes, std::int32_t x, std::int32_t 
 /// The shorthand of a printable character on the 16 x 16 grid: "" for the space.
 std::string_view mediumGlyph(char character);
 
+/// The zero without its dot, for places where no letter O can stand.
+constexpr std::string_view openZero = "51 91 B3 B9 9B 5B 39 33 51";
+
 /// Whether a character has so many strokes that thick ones would fill it.
 bool isCrowded(char character);
 

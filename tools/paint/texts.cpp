@@ -82,7 +82,7 @@ std::string writeFontMedium() {
 }
 
 std::string writeDrawings() {
-    std::string text = opening("Line drawings on a grid of 0 to 15 that turn about its middle (8, 8).",
+    std::string text = opening("Line drawings on a grid of 0 to 16 that turn about its middle (8, 8).",
                                "The demo picks any of them, so every object has segments.", "drawings 16x16");
     for (const Drawing& drawing : drawings()) {
         text += object(drawing.name, drawing.shorthand, spacedSegment);

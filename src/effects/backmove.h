@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// BACKMOVE, a background without edges: a picture repeats in both directions and travels at a steady speed,
+// swings along a Lissajous path about it, and may ripple row by row. Cut into depths, its upper bands lag
+// behind the lower ones.
+//
+//     BACKMOVE* ground = BACKMOVE_new();
+//     BACKMOVE_setPicture(ground, picture), ground->brightness = 128;
+//     BACKMOVE_draw(ground, screen), BACKMOVE_advance(ground); // each frame
+#pragma once
+
+#include "foundation/identity.h"
+#include "foundation/sine.h"
+#include "image/img.h"
+
+#include <cstdint>
+
+namespace velm {
+
+inline constexpr std::int32_t BACKMOVE_mostDepths = 16;
+
+struct BACKMOVE {
+    std::int64_t x, y;           ///< 16.16 pixels travelled, 0 to just below `depths` pictures; 0
+    std::int32_t speedX, speedY; ///< 16.16 pixels a frame; random, 0.5 to just under 2.5 either way
+    SINE pathX, pathY;           ///< the swing: `speed` in 1/1024 turns a frame; random phases, speeds 1..4
+    std::int32_t reachX, reachY; ///< of the swing to either side, pixels; random 16..47
+    SINE ripple;                 ///< `offsetStep` 8 from row to row, `speed` 6 a frame, in 1/1024 turns
+    std::int32_t rippleReach;    ///< of the ripple to either side, pixels; 0
+    std::int32_t depths;         ///< bands of the picture; band k moves across (k + 1) / depths as fast; 1
+    std::uint32_t brightness;    ///< of what is drawn, 0 black .. 256 as it is; 256
+    const IMG* picture;          ///< borrowed; nullptr
+};
+
+extern const IDENTITY BACKMOVE_identity;
+extern std::uint8_t BACKMOVE_verbose;
+
+/// A still picture-less background with random motion (8 draws of rand()), or nullptr (reported).
+BACKMOVE* BACKMOVE_new();
+
+/// Shows another picture of at least one pixel; the motion goes on.
+void BACKMOVE_setPicture(BACKMOVE* back, const IMG* picture);
+
+/// Cuts the picture into 1..BACKMOVE_mostDepths bands and begins at the place (0, 0).
+void BACKMOVE_setDepths(BACKMOVE* back, std::int32_t depths);
+
+/// Draws new motion, 8 numbers from rand(), for x before y each time: the speeds, then the swing's phases,
+/// speeds and reaches. Ripple, depths and place stay.
+void BACKMOVE_randomize(BACKMOVE* back);
+
+/// Moves the picture, its swing and its ripple by one frame.
+void BACKMOVE_advance(BACKMOVE* back);
+
+// All that draws covers the whole target and reports a missing, empty or identical picture.
+
+/// Copies the picture, black included.
+void BACKMOVE_draw(const BACKMOVE* back, IMG* target);
+
+/// The same, 0 pixels being transparent: several backgrounds over each other.
+void BACKMOVE_drawOver(const BACKMOVE* back, IMG* target);
+
+/// Adds the picture to the target, each channel stopping at 255.
+void BACKMOVE_drawAdd(const BACKMOVE* back, IMG* target);
+
+/// The mean, rounded down, of the picture and the target: what moved leaves a trail.
+void BACKMOVE_drawAverage(const BACKMOVE* back, IMG* target);
+
+/// Frees the record and stores nullptr in the handle; the picture is untouched.
+void BACKMOVE_delete(BACKMOVE** handle);
+
+/// Prints "BACKMOVE error" while BACKMOVE_verbose is set.
+void BACKMOVE_error();
+
+} // namespace velm

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The fleet; its shapes are drawn in circle_shape.cpp.
+#include "effects/circle.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/wrap.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY CIRCLE_identity = makeIdentity("CIRCLE", "ZENDORAK", "20150613", "CODE", "C");
+std::uint8_t CIRCLE_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newSize = 256;
+constexpr std::int32_t newLargest = 128;
+constexpr std::int32_t newSpacing = 8;
+constexpr std::int32_t newCount = 16;
+constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
+constexpr std::int32_t mostPixels = CIRCLE_largestRadius;
+
+/// A length in pixels as 16.16, at least 1.0 and small enough for two of them to be added.
+std::int32_t lengthOf(std::int32_t pixels) {
+    return std::clamp(pixels, 1, mostPixels) * one;
+}
+
+CIRCLE_BODY randomBody(const CIRCLE& circle) {
+    constexpr std::int32_t speeds = 4 * one;
+    constexpr std::int32_t growths = 2 * one;
+    CIRCLE_BODY body{};
+    body.x = std::rand() % lengthOf(circle.width);
+    body.y = std::rand() % lengthOf(circle.height);
+    body.speedX = std::rand() % speeds - speeds / 2;
+    body.speedY = std::rand() % speeds - speeds / 2;
+    body.radius = std::rand() % lengthOf(circle.largest);
+    body.growth = std::rand() % growths + one / 2;
+    body.colour = (static_cast<std::uint32_t>(std::rand()) & 0x7F7F7F) + 0x808080;
+    return body;
+}
+
+/// One axis of a centre: what would go past an edge comes back from it, and moves the other way.
+void bounce(std::int32_t& place, std::int32_t& speed, std::int32_t size) {
+    const std::int64_t moved = std::int64_t{place} + speed;
+    const std::int64_t back = moved < 0 ? -moved : moved > size ? 2 * std::int64_t{size} - moved : moved;
+    if (back != moved) {
+        speed = wrapSub(0, speed);
+    }
+    place = static_cast<std::int32_t>(std::clamp<std::int64_t>(back, 0, size));
+}
+
+/// Calls ring(body, radius in pixels) for every nested ring of every circle, the widest first, or reports.
+template <typename Ring>
+void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ring ring) {
+    if (circle == nullptr || circle->bodies == nullptr || target == nullptr || target->pixels == nullptr) {
+        CIRCLE_error();
+        return;
+    }
+    const std::int32_t spacing = std::max(circle->spacing, 1);
+    for (std::int32_t i = 0; i < circle->count; ++i) {
+        const CIRCLE_BODY& body = circle->bodies[i];
+        std::int32_t radius = body.radius >> 16;
+        for (std::int32_t k = 0; k < rings && radius >= 0; ++k) {
+            ring(body, radius);
+            radius -= spacing;
+        }
+    }
+}
+
+} // namespace
+
+CIRCLE* CIRCLE_new() {
+    CIRCLE* circle = allocateRecord<CIRCLE>();
+    if (circle == nullptr) {
+        CIRCLE_error();
+        return nullptr;
+    }
+    circle->width = circle->height = newSize;
+    circle->largest = newLargest;
+    circle->rings = 1;
+    circle->spacing = newSpacing;
+    CIRCLE_setCount(circle, newCount);
+    if (circle->bodies == nullptr) {
+        CIRCLE_delete(&circle);
+    }
+    return circle;
+}
+
+void CIRCLE_setCount(CIRCLE* circle, std::int32_t count) {
+    CIRCLE_BODY* const bodies = circle != nullptr && count >= 1 ? allocateArray<CIRCLE_BODY>(count) : nullptr;
+    if (bodies == nullptr) {
+        CIRCLE_error();
+        return;
+    }
+    delete[] circle->bodies;
+    circle->bodies = bodies;
+    circle->count = count;
+    CIRCLE_randomize(circle);
+}
+
+void CIRCLE_randomize(CIRCLE* circle) {
+    if (circle == nullptr || circle->bodies == nullptr) {
+        CIRCLE_error();
+        return;
+    }
+    for (std::int32_t i = 0; i < circle->count; ++i) {
+        circle->bodies[i] = randomBody(*circle);
+    }
+}
+
+void CIRCLE_advance(CIRCLE* circle) {
+    if (circle == nullptr || circle->bodies == nullptr) {
+        CIRCLE_error();
+        return;
+    }
+    const std::int32_t largest = lengthOf(circle->largest);
+    for (std::int32_t i = 0; i < circle->count; ++i) {
+        CIRCLE_BODY& body = circle->bodies[i];
+        bounce(body.x, body.speedX, lengthOf(circle->width));
+        bounce(body.y, body.speedY, lengthOf(circle->height));
+        body.radius = positiveModulo(wrapAdd(body.radius, body.growth), largest);
+    }
+}
+
+void CIRCLE_draw(const CIRCLE* circle, IMG* target) {
+    forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
+                [target](const CIRCLE_BODY& body, std::int32_t radius) {
+                    CIRCLE_drawRing(target, body.x >> 16, body.y >> 16, radius, body.colour);
+                });
+}
+
+void CIRCLE_drawAdd(const CIRCLE* circle, IMG* target) {
+    const std::int32_t largest = circle == nullptr ? 1 : std::clamp(circle->largest, 1, mostPixels);
+    forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
+                [=](const CIRCLE_BODY& body, std::int32_t radius) {
+                    const std::int32_t left = std::max(largest - radius, 0);
+                    const auto brightness = static_cast<std::uint32_t>(256 * left / largest);
+                    CIRCLE_addRing(target, body.x >> 16, body.y >> 16, radius,
+                                   RGB888_mix(0, body.colour, brightness));
+                });
+}
+
+void CIRCLE_drawDiscs(const CIRCLE* circle, IMG* target) {
+    forEachRing(circle, target, 1, [target](const CIRCLE_BODY& body, std::int32_t radius) {
+        CIRCLE_addDisc(target, body.x >> 16, body.y >> 16, radius, body.colour);
+    });
+}
+
+void CIRCLE_drawXor(const CIRCLE* circle, IMG* target) {
+    forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
+                [target](const CIRCLE_BODY& body, std::int32_t radius) {
+                    CIRCLE_xorDisc(target, body.x >> 16, body.y >> 16, radius, body.colour);
+                });
+}
+
+void CIRCLE_delete(CIRCLE** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        CIRCLE_error();
+        return;
+    }
+    delete[](*handle)->bodies;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void CIRCLE_error() {
+    reportLine(CIRCLE_verbose, "CIRCLE error");
+}
+
+} // namespace velm

@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/flashpix.h"
+
+#include "foundation/memory.h"
+#include "foundation/report.h"
+#include "foundation/wrap.h"
+#include "image/imgfx.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace velm {
+
+const IDENTITY FLASHPIX_identity = makeIdentity("FLASHPIX", "C", "ZENDORAK", "20150713", "CODE");
+std::uint8_t FLASHPIX_verbose = 0;
+
+namespace {
+
+constexpr std::int32_t newField = 256;
+constexpr std::int32_t newHueSpeed = 4;
+constexpr std::int32_t newHueSlope = 2;
+constexpr std::int32_t newHueSpread = 96;
+constexpr std::int32_t newShortest = 12;
+constexpr std::int32_t newLongest = 40;
+constexpr std::int32_t newGlintShare = 16;
+constexpr std::int32_t newCount = 1024;
+constexpr std::int32_t full = 256; // of shares and brightness
+constexpr std::uint32_t white = 0xFFFFFF;
+
+/// A number 0..limit - 1; 0 when the limit is not positive.
+std::int32_t randomBelow(const FLASHPIX& flash, std::int32_t limit) {
+    const std::int32_t number = RANDOM_next(flash.random);
+    return limit > 0 ? number % limit : 0;
+}
+
+/// True for a share 0..256 of the calls.
+bool happens(const FLASHPIX& flash, std::int32_t share) {
+    return (RANDOM_next(flash.random) & (full - 1)) < share;
+}
+
+std::uint32_t hueAt(const FLASHPIX& flash, std::int32_t x, std::int32_t y) {
+    const std::int32_t spread = randomBelow(flash, flash.hueSpread);
+    if (flash.hues == nullptr || flash.hues->length < 1) {
+        return white;
+    }
+    const std::int32_t hue = wrapAdd(wrapAdd(flash.hue, spread), wrapMul(flash.hueSlope, wrapAdd(x, y)));
+    return static_cast<std::uint32_t>(SAMPLE_get(flash.hues, positiveModulo(hue, flash.hues->length)));
+}
+
+/// Every spark takes its numbers in the same order, whatever becomes of it.
+void begin(const FLASHPIX& flash, FLASHPIX_SPARK& spark) {
+    spark.life = std::max(flash.shortest + randomBelow(flash, wrapSub(flash.longest, flash.shortest) + 1), 1);
+    spark.age = happens(flash, flash.lit) ? 0 : -spark.life;
+    if (happens(flash, flash.inShape) && flash.placeCount > 0) {
+        const std::int32_t* const place =
+            flash.places + 2 * std::int64_t{randomBelow(flash, flash.placeCount)};
+        spark.x = place[0];
+        spark.y = place[1];
+    } else {
+        spark.x = randomBelow(flash, flash.width);
+        spark.y = randomBelow(flash, flash.height);
+    }
+    spark.colour = hueAt(flash, spark.x, spark.y);
+    spark.glints = happens(flash, flash.glintShare);
+}
+
+/// 0..256: up within a quarter of its life, then down, the last part slowest.
+std::int32_t brightnessOf(const FLASHPIX_SPARK& spark) {
+    const std::int32_t rise = std::max(spark.life / 4, 1);
+    if (spark.age < rise) {
+        return full * (spark.age + 1) / rise;
+    }
+    const std::int32_t left = full * (spark.life - spark.age) / std::max(spark.life - rise, 1);
+    return (left * left) >> 8;
+}
+
+void drawSpark(const FLASHPIX& flash, const FLASHPIX_SPARK& spark, IMG* target) {
+    const std::int32_t shine = (std::clamp(flash.brightness, 0, full) * brightnessOf(spark)) >> 8;
+    const std::uint32_t colour = RGB888_mix(0, spark.colour, static_cast<std::uint32_t>(shine));
+    const std::int32_t x = wrapAdd(flash.x, spark.x);
+    const std::int32_t y = wrapAdd(flash.y, spark.y);
+    IMGFX_addPixel(target, x, y, colour);
+    if (!spark.glints) {
+        return;
+    }
+    // The cross shrinks faster than the spark fades, and its middle turns white.
+    constexpr std::int32_t longestArm = 3;
+    const std::int32_t arm = (longestArm * shine) >> 8;
+    IMGFX_addPixel(target, x, y, RGB888_mix(0, white, static_cast<std::uint32_t>(shine / 2)));
+    for (std::int32_t i = 1; i <= arm; ++i) {
+        const std::uint32_t ray = RGB888_mix(0, colour, static_cast<std::uint32_t>(full / (2 * i)));
+        IMGFX_addPixel(target, wrapAdd(x, i), y, ray);
+        IMGFX_addPixel(target, wrapSub(x, i), y, ray);
+        IMGFX_addPixel(target, x, wrapAdd(y, i), ray);
+        IMGFX_addPixel(target, x, wrapSub(y, i), ray);
+    }
+}
+
+std::int32_t litPixels(const IMG& img) {
+    const std::int64_t size = std::int64_t{img.width} * img.height;
+    return static_cast<std::int32_t>(size - std::count(img.pixels, img.pixels + size, 0U));
+}
+
+} // namespace
+
+FLASHPIX* FLASHPIX_new() {
+    FLASHPIX* flash = allocateRecord<FLASHPIX>();
+    if (flash == nullptr || (flash->random = RANDOM_new()) == nullptr ||
+        (flash->sparks = allocateArray<FLASHPIX_SPARK>(newCount)) == nullptr) {
+        FLASHPIX_error();
+        if (flash != nullptr) {
+            FLASHPIX_delete(&flash);
+        }
+        return nullptr;
+    }
+    flash->width = flash->height = newField;
+    flash->hueSpeed = newHueSpeed;
+    flash->hueSlope = newHueSlope;
+    flash->hueSpread = newHueSpread;
+    flash->shortest = newShortest;
+    flash->longest = newLongest;
+    flash->inShape = flash->lit = flash->brightness = full;
+    flash->glintShare = newGlintShare;
+    flash->count = newCount;
+    FLASHPIX_randomize(flash);
+    return flash;
+}
+
+void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count) {
+    FLASHPIX_SPARK* const sparks = flash == nullptr ? nullptr : allocateArray<FLASHPIX_SPARK>(count);
+    if (sparks == nullptr) {
+        FLASHPIX_error();
+        return;
+    }
+    delete[] flash->sparks;
+    flash->sparks = sparks;
+    flash->count = count;
+    FLASHPIX_randomize(flash);
+}
+
+void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
+    if (flash == nullptr || (shape != nullptr && shape->pixels == nullptr)) {
+        FLASHPIX_error();
+        return;
+    }
+    const std::int32_t count = shape == nullptr ? 0 : litPixels(*shape);
+    std::int32_t* const places = count == 0 ? nullptr : allocateArray<std::int32_t>(2 * std::int64_t{count});
+    if (count != 0 && places == nullptr) {
+        FLASHPIX_error();
+        return;
+    }
+    delete[] flash->places;
+    flash->places = places;
+    flash->placeCount = count;
+    if (count == 0) {
+        return;
+    }
+    std::int64_t next = 0;
+    for (std::int32_t y = 0; y < shape->height; ++y) {
+        for (std::int32_t x = 0; x < shape->width; ++x) {
+            if (shape->pixels[x + std::int64_t{y} * shape->width] != 0) {
+                places[next++] = x;
+                places[next++] = y;
+            }
+        }
+    }
+}
+
+void FLASHPIX_randomize(FLASHPIX* flash) {
+    if (flash == nullptr) {
+        FLASHPIX_error();
+        return;
+    }
+    flash->random->counter = static_cast<std::uint32_t>(std::rand());
+    for (std::int32_t i = 0; i < flash->count; ++i) {
+        begin(*flash, flash->sparks[i]);
+        flash->sparks[i].age = randomBelow(*flash, 2 * flash->sparks[i].life) - flash->sparks[i].life;
+    }
+}
+
+void FLASHPIX_advance(FLASHPIX* flash) {
+    if (flash == nullptr) {
+        FLASHPIX_error();
+        return;
+    }
+    flash->hue = wrapAdd(flash->hue, flash->hueSpeed);
+    for (std::int32_t i = 0; i < flash->count; ++i) {
+        FLASHPIX_SPARK& spark = flash->sparks[i];
+        ++spark.age;
+        // A spark that waited begins anew, too: its place was drawn long ago.
+        if (spark.age == 0 || spark.age >= spark.life) {
+            begin(*flash, spark);
+        }
+    }
+}
+
+void FLASHPIX_draw(const FLASHPIX* flash, IMG* target) {
+    if (flash == nullptr || target == nullptr || target->pixels == nullptr) {
+        FLASHPIX_error();
+        return;
+    }
+    for (std::int32_t i = 0; i < flash->count; ++i) {
+        if (flash->sparks[i].age >= 0) {
+            drawSpark(*flash, flash->sparks[i], target);
+        }
+    }
+}
+
+void FLASHPIX_delete(FLASHPIX** handle) {
+    if (handle == nullptr || *handle == nullptr) {
+        FLASHPIX_error();
+        return;
+    }
+    if ((*handle)->random != nullptr) {
+        RANDOM_delete(&(*handle)->random);
+    }
+    delete[](*handle)->sparks;
+    delete[](*handle)->places;
+    delete *handle;
+    *handle = nullptr;
+}
+
+void FLASHPIX_error() {
+    reportLine(FLASHPIX_verbose, "FLASHPIX error");
+}
+
+} // namespace velm

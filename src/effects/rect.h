@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// RECT, rectangles in motion: a fleet that drifts and tumbles, a winding tunnel that the viewer flies
+// through, or a nest of rectangles one inside the other; as thin frames or as panes of glass that add up or
+// average.
+//
+//     RECT* rect = RECT_new();
+//     rect->path = RECT_PATH::tunnel, rect->twist = 12;
+//     RECT_advance(rect), RECT_draw(rect, screen); // each frame
+#pragma once
+
+#include "foundation/identity.h"
+#include "foundation/sine.h"
+#include "image/img.h"
+
+#include <cstdint>
+
+namespace velm {
+
+enum class RECT_PATH : std::uint8_t { drift, tunnel, nest };
+enum class RECT_FACE : std::uint8_t {
+    frame,
+    pane,
+    both
+}; ///< both: a pane in a quarter of the frame's colour
+enum class RECT_MIX : std::uint8_t { set, add, average };
+
+/// One of the fleet. Tunnels and nests take its colour only.
+struct RECT_PANE {
+    std::int32_t x, y;           ///< 16.16 pixels from the field's corner; its middle
+    std::int32_t speedX, speedY; ///< 16.16 pixels a frame
+    std::int32_t width, height;  ///< pixels, within +-16383, negative ones show the back; 16..79
+    std::int32_t flip;           ///< 1/1024 turns about its upright axis: its width is seen from the side
+    std::int32_t flipSpeed;      ///< added to `flip` a frame; -12..12
+    std::int32_t turn;           ///< 1/1024 turns in the plane
+    std::int32_t turnSpeed;      ///< added to `turn` a frame; -4..4
+    std::uint32_t colour;        ///< 0x00RRGGBB; halved when its back is seen
+};
+
+struct RECT {
+    std::int32_t x, y;          ///< the field's top left corner, target pixels; 0, 0
+    std::int32_t width, height; ///< the field, pixels; what drifts out on one side comes in on the other; 256
+    RECT_PATH path;             ///< drift
+    RECT_FACE face;             ///< both
+    RECT_MIX mix;               ///< add
+    std::int32_t paneWidth;     ///< of a tunnel's frame one step away, of a nest's outermost, pixels; 192
+    std::int32_t paneHeight;    ///< the same; 192
+    std::int32_t travel;        ///< how far a tunnel or nest has come, 1/256 steps; 0
+    std::int32_t speed;         ///< added to `travel` a frame; negative: backwards; 24
+    std::int32_t turn;          ///< of the nearest rectangle, 1/1024 turns; 0
+    std::int32_t turnSpeed;     ///< added to `turn` a frame; 2
+    std::int32_t twist;         ///< further turn from one rectangle to the next; 16
+    SINE windX, windY;          ///< the way of the tunnel or nest across the field: `speed` 3 and 2 a frame,
+                                ///< `offsetStep` 48 and 40 a step, in 1/1024 turns
+    std::int32_t reach;         ///< how far it winds, pixels; 64
+    std::int32_t brightness;    ///< of all colours, 0..256; 256
+    std::int32_t count;         ///< rectangles; 24
+    RECT_PANE* panes;           ///< owned
+};
+
+extern const IDENTITY RECT_identity;
+extern std::uint8_t RECT_verbose;
+
+/// A fleet with the defaults above (11 draws of rand() a pane), or nullptr (reported).
+RECT* RECT_new();
+
+/// Makes it `count` (>= 0) panes and randomizes. On failure it reports and leaves the record as it was.
+void RECT_setCount(RECT* rect, std::int32_t count);
+
+/// Draws every pane anew, 11 numbers of rand() each: x, y, both speeds, both sizes, flip, its speed, turn,
+/// its speed, colour.
+void RECT_randomize(RECT* rect);
+
+/// One frame of all three paths: fleet, travel, turn and winding.
+void RECT_advance(RECT* rect);
+
+/// Draws along `path`, the farthest or innermost first.
+void RECT_draw(const RECT* rect, IMG* target);
+
+/// One filled rectangle, the pixels of IMG_fillRect: a negative w or h extends it to the left or upwards.
+void RECT_drawPane(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
+                   std::uint32_t colour, RECT_MIX mix);
+
+/// Its border alone, `thickness` pixels inwards; each pixel is mixed once.
+void RECT_drawFrame(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
+                    std::int32_t thickness, std::uint32_t colour, RECT_MIX mix);
+
+/// A rectangle about its middle (x, y), turned by `angle` in 1/1024 turns; sizes within +-65535. A frame is
+/// four lines of single pixels.
+void RECT_drawTurned(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
+                     std::int32_t angle, RECT_FACE face, std::uint32_t colour, RECT_MIX mix);
+
+/// Frees the panes and the record and stores nullptr in the handle.
+void RECT_delete(RECT** handle);
+
+/// Prints "RECT error" while RECT_verbose is set.
+void RECT_error();
+
+} // namespace velm

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// SINESCAN bends a picture by scanning it: every row or column of the target takes a line of the source from
+// a place, and at a length, that sine waves decide. It makes flags, rubber pictures and a twisting column.
+//
+//     SINESCAN* scan = SINESCAN_new();
+//     scan->source = picture, scan->way = SINESCAN_WAY::twister;
+//     SINESCAN_advance(scan), SINESCAN_draw(scan, screen); // each frame
+#pragma once
+
+#include "foundation/identity.h"
+#include "foundation/sine.h"
+#include "image/img.h"
+
+#include <cstdint>
+
+namespace velm {
+
+/// What a line is: a row, a column, or a row of a four-sided column that is seen from outside and shows the
+/// picture on each of its sides.
+enum class SINESCAN_WAY : std::uint8_t { rows, columns, twister };
+
+/// A wave over the lines. All angles are in 1/1024 turns.
+struct SINESCAN_WAVE {
+    SINE wave;          ///< `speed` a frame, `offsetStep` from line to line
+    std::int32_t reach; ///< how much it does at its peak
+};
+
+struct SINESCAN {
+    std::int32_t x, y;          ///< the middle of the picture, target pixels; 128, 128
+    std::int32_t width, height; ///< its size unbent, pixels, 0..4096; a negative one draws nothing; 128, 64
+    SINESCAN_WAY way;           ///< rows
+    SINESCAN_WAVE shift;        ///< moves a line along itself, pixels; 12
+    SINESCAN_WAVE stretch;      ///< lengthens it, 1/256 of its length; from -256 on it turns over; 32
+    SINESCAN_WAVE scan;         ///< takes it from that many source lines farther on, wrapped; 4
+    SINESCAN_WAVE twist;        ///< turns a twister's line, 1/1024 turns; 256
+    std::int32_t turn;          ///< further turn of a whole twister; 0
+    std::int32_t turnSpeed;     ///< added to `turn` a frame; 6
+    std::int32_t pinned;        ///< 1: shift and stretch grow from nothing at the first line; 0
+    std::int32_t shade;         ///< 0..256: how dark the folds are, and a twister's sides that turn away; 128
+    std::int32_t brightness;    ///< of all colours, 0..256; 256
+    const IMG* source;          ///< borrowed; 0 pixels are transparent; set by the user; nullptr
+};
+
+extern const IDENTITY SINESCAN_identity;
+extern std::uint8_t SINESCAN_verbose;
+
+/// A scan with the defaults above and random waves (12 draws of rand()), or nullptr (reported).
+SINESCAN* SINESCAN_new();
+
+/// Draws phase, speed and step from line to line of shift, stretch, scan and twist: 12 numbers from rand().
+void SINESCAN_randomize(SINESCAN* scan);
+
+/// Moves the four waves and the turn by their speeds.
+void SINESCAN_advance(SINESCAN* scan);
+
+/// Draws the picture, clipped. Without a source, or with one that has no pixels, nothing is drawn and it is
+/// reported.
+void SINESCAN_draw(const SINESCAN* scan, IMG* target);
+
+/// Frees the record and stores nullptr in the handle; the source is untouched.
+void SINESCAN_delete(SINESCAN** handle);
+
+/// Prints "SINESCAN error" while SINESCAN_verbose is set.
+void SINESCAN_error();
+
+} // namespace velm

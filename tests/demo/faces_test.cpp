@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The fonts among the assets: no glyph can be taken for another, and all stand on the same lines.
+#include "demo/assets.h"
+#include "image/img.h"
+#include "support/owned.h"
+#include "vector/objects.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velm::test {
+namespace {
+
+/// A font's glyphs as pixels; what its letters share.
+struct Face {
+    const char* name;
+    std::int32_t width;
+    std::vector<std::vector<std::uint32_t>> cells; ///< by character code
+};
+
+Face lineFace(const char* name, const ASSET& text, std::int32_t size) {
+    Face face = {name, size, {}};
+    const Objects glyphs(text.bytes);
+    for (std::int32_t code = 0; code < glyphs.list->count; ++code) {
+        const Picture cell(IMG_newSized(size, size));
+        OBJ2D_draw(glyphs[code], cell);
+        face.cells.emplace_back(cell->pixels, cell->pixels + size * size);
+    }
+    return face;
+}
+
+Face sheetFace(const char* name, const ASSET& bytes, std::int32_t width, std::int32_t height) {
+    Face face = {name, width, {}};
+    const Picture sheet(IMG_fromPNM(bytes.bytes, bytes.size));
+    for (std::int32_t at = 0; at < sheet->width * sheet->height / height; at += width) {
+        const Picture cell(IMG_newSized(width, height));
+        IMG_blit(sheet, cell, at % sheet->width, at / sheet->width * height, 0, 0, width, height);
+        face.cells.emplace_back(cell->pixels, cell->pixels + width * height);
+    }
+    return face;
+}
+
+struct Extent {
+    std::int32_t left = 99;
+    std::int32_t right = -1;
+    std::int32_t top = 99;
+    std::int32_t bottom = -1;
+};
+
+Extent extentOf(const Face& face, char character) {
+    Extent extent;
+    const auto& cell = face.cells[static_cast<std::size_t>(character)];
+    for (std::int32_t i = 0; i < static_cast<std::int32_t>(cell.size()); ++i) {
+        if (cell[static_cast<std::size_t>(i)] != 0) {
+            extent.left = std::min(extent.left, i % face.width);
+            extent.right = std::max(extent.right, i % face.width);
+            extent.top = std::min(extent.top, i / face.width);
+            extent.bottom = std::max(extent.bottom, i / face.width);
+        }
+    }
+    return extent;
+}
+
+void expectDistinct(const Face& face, std::size_t first, std::size_t last) {
+    std::map<std::vector<std::uint32_t>, std::size_t> seen;
+    seen[std::vector<std::uint32_t>(face.cells.at(first).size(), 0)] = ' ';
+    for (std::size_t code = first; code <= last; ++code) {
+        const auto [twin, isNew] = seen.emplace(face.cells.at(code), code);
+        EXPECT_TRUE(isNew || code == ' ') << face.name << ": " << code << " looks like " << twin->second;
+    }
+}
+
+TEST(Faces, NoGlyphIsEmptyOrLooksLikeAnother) {
+    expectDistinct(lineFace("small", assets::font_small, 8), ' ', '~');
+    expectDistinct(lineFace("medium", assets::font_medium, 16), ' ', '~');
+    expectDistinct(sheetFace("sheet", assets::font_sheet, 16, 16), 0, 255);
+    expectDistinct(sheetFace("shaded", assets::font_shaded, 32, 64), 0, 127);
+    expectDistinct(sheetFace("digits A", assets::digits_a, 16, 16), 0, 15);
+    expectDistinct(sheetFace("digits B", assets::digits_b, 16, 16), 0, 15);
+}
+
+TEST(Faces, LettersStandOnCommonLinesAndDigitsAreOfEqualWidth) {
+    for (const Face& face :
+         {lineFace("small", assets::font_small, 8), lineFace("medium", assets::font_medium, 16),
+          sheetFace("sheet", assets::font_sheet, 16, 16)}) {
+        const Extent capital = extentOf(face, 'H');
+        const Extent small = extentOf(face, 'x');
+        const Extent zero = extentOf(face, '0');
+        for (const char c : std::string_view("ABCDEFGHIJKLMNOPRSTUVWXYZ0123456789")) {
+            EXPECT_EQ(extentOf(face, c).top, capital.top) << face.name << c;
+            EXPECT_EQ(extentOf(face, c).bottom, capital.bottom) << face.name << c;
+        }
+        for (const char c : std::string_view("abcdehiklmnorstuvwxz")) {
+            EXPECT_EQ(extentOf(face, c).bottom, capital.bottom) << face.name << c;
+        }
+        for (const char c : std::string_view("acegmnopqrsuvwxyz")) {
+            EXPECT_EQ(extentOf(face, c).top, small.top) << face.name << c;
+        }
+        for (const char c : std::string_view("gjpqy")) {
+            EXPECT_GT(extentOf(face, c).bottom, capital.bottom) << face.name << c << " descends";
+        }
+        for (const char c : std::string_view("123456789")) {
+            EXPECT_EQ(extentOf(face, c).left, zero.left) << face.name << c;
+            EXPECT_EQ(extentOf(face, c).right, zero.right) << face.name << c;
+        }
+    }
+}
+
+} // namespace
+} // namespace velm::test

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "effects/rect.h"
+#include "image/rgb888.h"
+#include "support/owned.h"
+
+#include <climits>
+
+namespace velm::test {
+namespace {
+
+constexpr RECT_MIX mixes[] = {RECT_MIX::set, RECT_MIX::add, RECT_MIX::average};
+constexpr std::uint32_t colour = 0x8040FF;
+
+/// What one mixing makes of a pixel.
+std::uint32_t mixed(std::uint32_t pixel, RECT_MIX mix) {
+    return mix == RECT_MIX::set   ? colour
+           : mix == RECT_MIX::add ? RGB888_add(pixel, colour)
+                                  : RGB888_average(pixel, colour);
+}
+
+/// Every pixel of the rectangle by itself, its inner part of `thickness` left out.
+void plain(IMG* img, std::int64_t x, std::int64_t y, std::int64_t w, std::int64_t h, std::int64_t thickness,
+           RECT_MIX mix) {
+    const std::int64_t left = std::min(x, x + w);
+    const std::int64_t top = std::min(y, y + h);
+    const std::int64_t right = std::max(x, x + w);
+    const std::int64_t bottom = std::max(y, y + h);
+    for (std::int32_t r = 0; r < img->height; ++r) {
+        for (std::int32_t c = 0; c < img->width; ++c) {
+            const bool inside = c >= left && c < right && r >= top && r < bottom;
+            const bool inner = c >= left + thickness && c < right - thickness && r >= top + thickness &&
+                               r < bottom - thickness;
+            if (inside && !inner) {
+                IMG_putPixel(img, c, r, mixed(IMG_getPixel(img, c, r), mix));
+            }
+        }
+    }
+}
+
+TEST(Rect, NegativeAndClippedSizesAreThePlainOnes) {
+    Images random(11);
+    const Picture fast(noise(40, 30, 1));
+    const Picture slow(noise(40, 30, 1));
+    for (std::int32_t i = 0; i < 600; ++i) {
+        const std::int32_t x = random.number(-50, 60);
+        const std::int32_t y = random.number(-40, 50);
+        const std::int32_t w = i == 7 ? INT_MAX : i == 8 ? INT_MIN : random.number(-70, 70);
+        const std::int32_t h = i == 7 ? INT_MIN : i == 8 ? INT_MAX : random.number(-60, 60);
+        const std::int32_t thickness = random.number(0, 20);
+        const RECT_MIX mix = mixes[i % 3];
+        RECT_drawPane(fast, x, y, w, h, colour, mix);
+        plain(slow, x, y, w, h, INT_MAX, mix);
+        RECT_drawFrame(fast, y, x, h, w, thickness, colour, mix);
+        plain(slow, y, x, h, w, thickness, mix);
+        ASSERT_EQ(difference(fast, slow), "") << "rectangle " << i;
+    }
+    const Picture filled(noise(40, 30, 2));
+    const Picture pane(noise(40, 30, 2));
+    IMG_fillRect(filled, 30, 20, -25, -50, colour);
+    RECT_drawPane(pane, 30, 20, -25, -50, colour, RECT_MIX::set);
+    EXPECT_EQ(difference(pane, filled), "");
+}
+
+/// Pixels that are not black.
+std::int32_t lit(const IMG* img) {
+    std::int32_t count = 0;
+    for (std::int32_t i = 0; i < img->width * img->height; ++i) {
+        count += img->pixels[i] != 0 ? 1 : 0;
+    }
+    return count;
+}
+
+TEST(Rect, TurnedOnesKeepTheirAreaAndTheirPlace) {
+    for (std::int32_t angle = -2048; angle <= 2048; angle += 37) {
+        const Picture pane(IMG_newSized(200, 200));
+        RECT_drawTurned(pane, 100, 100, 80, -60, angle, RECT_FACE::pane, colour, RECT_MIX::add);
+        EXPECT_NEAR(lit(pane), 80 * 60, 240) << angle; // the rim's rounding
+        EXPECT_EQ(IMG_getPixel(pane, 100, 100), colour);
+        const Picture frame(IMG_newSized(200, 200));
+        RECT_drawTurned(frame, 100, 100, 80, 60, angle, RECT_FACE::frame, colour, RECT_MIX::set);
+        EXPECT_EQ(IMG_getPixel(frame, 100, 100), 0U);
+        EXPECT_EQ(IMG_getPixel(frame, 100 + SINE_cosineScaled(38, angle), 100 + SINE_scaled(38, angle)), 0U);
+        EXPECT_NEAR(lit(frame), 240, 48) << angle;
+        // The same, cut off on all sides and moved far outside.
+        const Picture window(IMG_newSized(30, 20));
+        for (const std::int32_t x : {-70000, -20, 15, 50, 70000}) {
+            for (const std::int32_t y : {-70000, -20, 10, 40, INT_MAX}) {
+                RECT_drawTurned(window, x, y, 80, 60, angle, RECT_FACE::both, colour, RECT_MIX::average);
+            }
+        }
+    }
+}
+
+TEST(Rect, ThePanesDriftAroundTheFieldAndShowTheirBacks) {
+    const Owned<RECT, RECT_delete> rect(RECT_new());
+    RECT_setCount(rect, 1);
+    rect->width = 100, rect->height = 50;
+    RECT_PANE& pane = *rect->panes;
+    pane = {.x = 119 << 16,
+            .y = -(19 << 16),
+            .speedX = 2 << 16,
+            .speedY = -(2 << 16),
+            .width = -22,
+            .height = 18,
+            .flip = 500,
+            .flipSpeed = 12,
+            .turn = 0,
+            .turnSpeed = 0,
+            .colour = 0x808080};
+    RECT_advance(rect); // past the margins of 20 pixels
+    EXPECT_EQ(pane.x, -(19 << 16));
+    EXPECT_EQ(pane.y, 69 << 16);
+    EXPECT_EQ(pane.flip, 512);
+    rect->face = RECT_FACE::pane;
+    const auto middle = [&](std::int32_t flip) {
+        const Picture screen(IMG_newSized(100, 50));
+        pane.x = pane.y = 25 << 16;
+        pane.flip = flip;
+        RECT_draw(rect, screen);
+        return IMG_getPixel(screen, 25, 25);
+    };
+    EXPECT_EQ(middle(512), 0x808080U) << "a negative width, flipped";
+    EXPECT_EQ(middle(0), 0x404040U);
+    rect->brightness = 128;
+    EXPECT_EQ(middle(512), 0x404040U);
+}
+
+TEST(Rect, TunnelAndNestKeepTheColoursOfWhatComesNearer) {
+    const Owned<RECT, RECT_delete> rect(RECT_new());
+    RECT_setCount(rect, 3);
+    for (const RECT_PATH path : {RECT_PATH::tunnel, RECT_PATH::nest}) {
+        rect->path = path;
+        rect->reach = rect->turn = rect->twist = 0;
+        // One step of travel later everything is one place further, so three steps later it looks the same.
+        const Picture screens[] = {Picture(IMG_newSized(256, 256)), Picture(IMG_newSized(256, 256)),
+                                   Picture(IMG_newSized(256, 256))};
+        const std::int32_t travels[] = {-100, -100 + 3 * 256, -100 + 256};
+        for (std::size_t i = 0; i < 3; ++i) {
+            rect->travel = travels[i];
+            RECT_draw(rect, screens[i]);
+        }
+        EXPECT_GT(lit(screens[0]), 100);
+        EXPECT_EQ(difference(screens[0], screens[1]), "");
+        EXPECT_NE(difference(screens[0], screens[2]), "");
+    }
+    RECT_setCount(rect, 0);
+    const Picture empty(IMG_newSized(8, 8));
+    RECT_advance(rect), RECT_draw(rect, empty);
+    EXPECT_EQ(lit(empty), 0);
+}
+
+} // namespace
+} // namespace velm::test
