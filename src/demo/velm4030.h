@@ -54,6 +54,12 @@ void VELM4030_sceneInterludeBSetup();
 /// effects and deletes them at its end.
 /// The names in the working folder on a drum, in a ring of sound; until Space.
 void VELM4030_sceneExtra1();
+/// 900 frames through two doors and a winding tunnel of neon frames to a logo of glittering dust.
+void VELM4030_sceneExtra4();
+/// 750 frames of lines and panes of colour that compose a picture, swing, breathe and leave.
+void VELM4030_sceneExtra5();
+/// 1000 frames in a theatre: a curtain parts for a twister, a rubber picture and a flag.
+void VELM4030_sceneExtra6();
 /// 750 frames of a journey along the panorama, over water, with a leaping figure.
 void VELM4030_sceneExtra10();
 /// 750 frames of rain over a city whose windows light up.

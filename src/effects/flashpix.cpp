@@ -29,15 +29,21 @@ constexpr std::int32_t newCount = 1024;
 constexpr std::int32_t full = 256; // of shares and brightness
 constexpr std::uint32_t white = 0xFFFFFF;
 
-/// A number 0..limit - 1; 0 when the limit is not positive.
+/// A number 0..limit - 1; 0 when the limit is not positive. The generator's numbers run in step from draw to
+/// draw, which would stand on the screen as lines, so their bits are mixed first (multiplicative hashing).
 std::int32_t randomBelow(const FLASHPIX& flash, std::int32_t limit) {
-    const std::int32_t number = RANDOM_next(flash.random);
-    return limit > 0 ? number % limit : 0;
+    constexpr std::uint32_t goldenRatio = 0x9E3779B1; // of 2 to the 32nd
+    auto number = static_cast<std::uint32_t>(RANDOM_next(flash.random));
+    number = (number ^ (number >> 11)) * goldenRatio;
+    number = (number ^ (number >> 15)) * goldenRatio;
+    return limit > 0
+               ? static_cast<std::int32_t>((std::uint64_t{number} * static_cast<std::uint32_t>(limit)) >> 32)
+               : 0;
 }
 
 /// True for a share 0..256 of the calls.
 bool happens(const FLASHPIX& flash, std::int32_t share) {
-    return (RANDOM_next(flash.random) & (full - 1)) < share;
+    return randomBelow(flash, full) < share;
 }
 
 std::uint32_t hueAt(const FLASHPIX& flash, std::int32_t x, std::int32_t y) {

@@ -26,7 +26,8 @@ constexpr std::int32_t newReach = 64;
 constexpr std::int32_t newCount = 24;
 constexpr std::int32_t step = 256; // `travel` from one rectangle to the next
 constexpr std::int32_t fullBrightness = 256;
-constexpr std::int32_t nearestStep = 40; // nearer frames surround the viewer and are left out
+constexpr std::int32_t fullSizeSteps = 4; // a tunnel's frame has its full size that far away
+constexpr std::int32_t nearestStep = 128; // nearer frames surround the viewer and are left out
 constexpr std::uint32_t backBits = 0x7F7F7F;
 
 std::int32_t randomWithin(std::int32_t reach) {
@@ -110,14 +111,25 @@ void drawTunnel(const RECT& rect, IMG* target) {
             continue;
         }
         const auto seen = [away](std::int32_t size) {
-            return static_cast<std::int32_t>(std::int64_t{size} * step / away);
+            return static_cast<std::int32_t>(std::int64_t{size} * fullSizeSteps * step / away);
         };
         const std::int32_t x = middleX + seen(windAt(rect.windX, rect.reach, away) - hereX);
         const std::int32_t y = middleY + seen(windAt(rect.windY, rect.reach, away) - hereY);
-        const std::int32_t share = fullBrightness - away / rect.count;
-        RECT_drawTurned(target, x, y, seen(rect.paneWidth), seen(rect.paneHeight),
-                        rect.turn + ((rect.twist * away) >> 8), rect.face,
-                        dimmed(rect, colourAhead(rect, ahead), share), rect.mix);
+        const std::int32_t angle = rect.turn + ((rect.twist * away) >> 8);
+        const std::uint32_t colour =
+            dimmed(rect, colourAhead(rect, ahead), fullBrightness - away / rect.count);
+        const auto draw = [&](RECT_FACE face, std::uint32_t shade) {
+            RECT_drawTurned(target, x, y, seen(rect.paneWidth), seen(rect.paneHeight), angle, face, shade,
+                            rect.mix);
+        };
+        if (rect.face != RECT_FACE::both) {
+            draw(rect.face, colour);
+            continue;
+        }
+        // Glass clears as it comes near, so that nothing flickers when it passes the viewer.
+        constexpr std::uint32_t sixteenthBits = 0x0F0F0F;
+        draw(RECT_FACE::pane, dimmed(rect, (colour >> 4) & sixteenthBits, (away - nearestStep) / 4));
+        draw(RECT_FACE::frame, colour);
     }
 }
 

@@ -19,11 +19,7 @@
 namespace velm {
 
 enum class RECT_PATH : std::uint8_t { drift, tunnel, nest };
-enum class RECT_FACE : std::uint8_t {
-    frame,
-    pane,
-    both
-}; ///< both: a pane in a quarter of the frame's colour
+enum class RECT_FACE : std::uint8_t { frame, pane, both }; ///< both: see RECT_draw
 enum class RECT_MIX : std::uint8_t { set, add, average };
 
 /// One of the fleet. Tunnels and nests take its colour only.
@@ -44,7 +40,7 @@ struct RECT {
     RECT_PATH path;             ///< drift
     RECT_FACE face;             ///< both
     RECT_MIX mix;               ///< add
-    std::int32_t paneWidth;     ///< of a tunnel's frame one step away, of a nest's outermost, pixels; 192
+    std::int32_t paneWidth;     ///< of a tunnel's frame four steps away, of a nest's outermost, pixels; 192
     std::int32_t paneHeight;    ///< the same; 192
     std::int32_t travel;        ///< how far a tunnel or nest has come, 1/256 steps; 0
     std::int32_t speed;         ///< added to `travel` a frame; negative: backwards; 24
@@ -53,7 +49,7 @@ struct RECT {
     std::int32_t twist;         ///< further turn from one rectangle to the next; 16
     SINE windX, windY;          ///< the way of the tunnel or nest across the field: `speed` 3 and 2 a frame,
                                 ///< `offsetStep` 48 and 40 a step, in 1/1024 turns
-    std::int32_t reach;         ///< how far it winds, pixels; 64
+    std::int32_t reach;         ///< how far it winds, pixels, a tunnel's seen four steps away; 64
     std::int32_t brightness;    ///< of all colours, 0..256; 256
     std::int32_t count;         ///< rectangles; 24
     RECT_PANE* panes;           ///< owned
@@ -75,7 +71,8 @@ void RECT_randomize(RECT* rect);
 /// One frame of all three paths: fleet, travel, turn and winding.
 void RECT_advance(RECT* rect);
 
-/// Draws along `path`, the farthest or innermost first.
+/// Draws along `path`, the farthest or innermost first. With both faces a pane has a quarter of its frame's
+/// colour; in a tunnel, where all of them overlap, a sixteenth.
 void RECT_draw(const RECT* rect, IMG* target);
 
 /// One filled rectangle, the pixels of IMG_fillRect: a negative w or h extends it to the left or upwards.
