@@ -24,6 +24,7 @@ constexpr std::int32_t frames = 750;
 constexpr std::int32_t middle = 128;
 constexpr std::int32_t starCount = 420;
 constexpr std::int32_t polygonCount = 36;
+constexpr std::int32_t tunnelSway = 6500; // of its bends, pixels at a depth of 1
 
 constexpr std::int32_t tunnelBegin = 110, tunnelEnd = 520;
 constexpr std::int32_t arrival = 480; // the brakes: streaks give way to polygons
@@ -71,16 +72,21 @@ RASTER* makeAurora() {
     return aurora;
 }
 
-/// Where a hoop at `depth` hangs: the tunnel winds, the more the farther away.
+/// How far the tunnel lies off its straight line, `place` hoop distances / 256 from its beginning.
+std::int32_t windAcross(std::int32_t place) {
+    return SINE_scaled(tunnelSway, place * 40 >> 8);
+}
+
+std::int32_t windDown(std::int32_t place) {
+    return SINE_scaled(tunnelSway, (place * 28 >> 8) + 200);
+}
+
+/// One hoop, `depth` in front of the viewer, who is in the middle of the tunnel.
 void drawHoop(const Flight& flight, std::int32_t depth, std::int32_t index, std::uint32_t brightness) {
-    constexpr std::int32_t near = 40;
+    constexpr std::int32_t near = 24;
     constexpr std::int32_t radius = 5200; // at a depth of 1
-    constexpr std::int32_t sway = 2600;
-    const std::int32_t x =
-        middle + (SINE_scaled(sway, 40 * index) - SINE_scaled(sway, flight.way / 6)) / (depth + near);
-    const std::int32_t y =
-        middle +
-        (SINE_scaled(sway, 28 * index + 200) - SINE_scaled(sway, flight.way / 9 + 200)) / (depth + near);
+    const std::int32_t x = middle + (windAcross(index << 8) - windAcross(flight.way)) / (depth + near);
+    const std::int32_t y = middle + (windDown(index << 8) - windDown(flight.way)) / (depth + near);
     const std::uint32_t colour = curveHue(48 * index, brightness);
     const std::int32_t size = radius / (depth + near);
     CIRCLE_addRing(flight.light, x, y, size, colour);

@@ -23,9 +23,9 @@ constexpr SCENE scenes[] = {
      VELM4030_sceneExtra9},
     {"extra-2", "a word hops over a pond, and its rings meet, cross and run home", VELM4030_sceneExtra2},
     {"extra-3", "portholes that open on another world, over a city without end", VELM4030_sceneExtra3},
-    {"extra-12", "a flight through stars and a winding tunnel of hoops", VELM4030_sceneExtra12},
     {"extra-10", "a journey through the panorama, over water, with a leaping figure", VELM4030_sceneExtra10},
     {"extra-11", "rain falls on a city, and window after window lights up", VELM4030_sceneExtra11},
+    {"extra-12", "a flight through stars and a winding tunnel of hoops", VELM4030_sceneExtra12},
     {"particles", "water falls through the letters, and sparks turn it to stone", VELM4030_sceneParticles},
 };
 
