@@ -16,6 +16,8 @@
 
 namespace velm {
 
+inline constexpr std::int32_t curveFull = 256; ///< the weight of all of it
+
 /// 0 up to frame `first`, 256 from frame `last` on, a straight line between them; first < last.
 constexpr std::int32_t curveRise(std::int32_t frame, std::int32_t first, std::int32_t last) {
     return 256 * (std::clamp(frame, first, last) - first) / (last - first);
@@ -32,6 +34,11 @@ constexpr std::uint32_t curveShow(std::int32_t frame, std::int32_t first, std::i
                                   std::int32_t slope) {
     return static_cast<std::uint32_t>(
         std::min(curveRise(frame, first, first + slope), 256 - curveRise(frame, last - slope, last)));
+}
+
+/// A value on its way: `from` at a weight of 0, `to` at 256.
+constexpr std::int32_t curveBetween(std::int32_t from, std::int32_t to, std::int32_t weight) {
+    return from + (to - from) * weight / curveFull;
 }
 
 /// A colour of the hue ramp, which is used as a ring, at a brightness of 0..256.

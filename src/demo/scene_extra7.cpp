@@ -3,8 +3,8 @@
 //
 // A play of words that are what they say, in line text alone: a point goes for a walk and is a line, the line
 // dances, bites its tail, stands up, lets go, turns every way at once, and is a point again.
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
-#include "demo/scene_timing.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "effects/lscrlxyz.h"
@@ -160,6 +160,11 @@ bool isWhole(const Play& play) {
            std::all_of(std::begin(play.hoops), std::end(play.hoops), isThere);
 }
 
+/// How bright a part is that begins at one frame and is gone at another.
+std::int32_t lightOf(std::int32_t frame, std::int32_t first, std::int32_t last, std::int32_t slope) {
+    return static_cast<std::int32_t>(curveShow(frame, first, last, slope));
+}
+
 /// Writes a line, centred, as far as it is typed.
 void write(LFONT* pen, const char* text, std::int32_t y, std::int32_t typed, std::int32_t light) {
     if (pen == nullptr || pen->spacing == nullptr || light <= 0) {
@@ -199,7 +204,7 @@ void drawCaption(std::int32_t frame) {
     };
     constexpr std::int32_t y = 246;
     for (const Caption& caption : captions) {
-        const std::int32_t light = envelope(frame, caption.begin, caption.end, 12);
+        const std::int32_t light = lightOf(frame, caption.begin, caption.end, 12);
         write(demo.textSmall, caption.text, y, frame - caption.begin, light / 2);
     }
 }
@@ -240,11 +245,11 @@ void drawPoint(std::int32_t frame, std::int32_t light) {
 }
 
 void playPoint(std::int32_t frame) {
-    const std::int32_t light = envelope(frame, 0, lineBegin + 16, 16);
+    const std::int32_t light = lightOf(frame, 0, lineBegin + 16, 16);
     write(demo.textMedium, "FIRST THERE WAS", 88, frame / 2, light);
     write(demo.textMedium, "A POINT", 152, (frame - 36) / 2, light);
     if (frame < lineBegin) { // then it goes away
-        drawPoint(frame, rise(frame, 0, 16));
+        drawPoint(frame, curveRise(frame, 0, 16));
     }
 }
 
@@ -253,17 +258,17 @@ void playLines(const Play& play, std::int32_t frame) {
     constexpr std::int32_t danceBegin = 200;
     constexpr std::int32_t danceRamp = 90;
     constexpr std::int32_t moments = 3;
-    const std::int32_t light = fullLight - rise(frame, ringBegin, 24);
-    const std::int32_t dance = smooth(rise(frame, danceBegin, danceRamp));
+    const std::int32_t light = curveFull - curveRise(frame, ringBegin, ringBegin + 24);
+    const std::int32_t dance = curveEase(frame, danceBegin, danceBegin + danceRamp);
     for (std::int32_t i = 0; frame >= lineBegin && light > 0 && i < lineCount; ++i) {
         LSCROLL& line = *play.lines[i];
         const std::int32_t away = std::abs(i - lineCount / 2);
         LSCROLL_advance(&line);
-        line.liftHeight = between(0, 64 - 12 * away, dance);
-        line.swingAngle = between(0, 90, dance);
+        line.liftHeight = curveBetween(0, 64 - 12 * away, dance);
+        line.swingAngle = curveBetween(0, 90, dance);
         const std::int32_t phase = line.lift.phase;
         for (std::int32_t k = 0; k <= (away == 0 ? moments : 0); ++k) {
-            line.light = (k == 0 ? light : light * dance / fullLight >> (k + 1)) >> away;
+            line.light = (k == 0 ? light : light * dance / curveFull >> (k + 1)) >> away;
             line.lift.phase = phase - 28 * k;
             LSCROLL_draw(&line, demo.screen);
         }
@@ -272,14 +277,14 @@ void playLines(const Play& play, std::int32_t frame) {
 }
 
 void playRings(const Play& play, std::int32_t frame) {
-    const std::int32_t light = envelope(frame, ringBegin, cylinderBegin + 16, 24);
+    const std::int32_t light = lightOf(frame, ringBegin, cylinderBegin + 16, 24);
     if (light == 0) {
         return;
     }
-    const std::int32_t calm = smooth(rise(frame, ringBegin, 70));
-    play.ring->liftHeight = between(60, 7, calm);
-    play.ring->swingAngle = between(200, 20, calm);
-    play.innerRing->liftHeight = between(40, 4, calm);
+    const std::int32_t calm = curveEase(frame, ringBegin, ringBegin + 70);
+    play.ring->liftHeight = curveBetween(60, 7, calm);
+    play.ring->swingAngle = curveBetween(200, 20, calm);
+    play.innerRing->liftHeight = curveBetween(40, 4, calm);
     play.innerRing->swingAngle = 0;
     for (LSCROLL* const ring : {play.ring, play.innerRing}) {
         ring->light = light;
@@ -290,15 +295,15 @@ void playRings(const Play& play, std::int32_t frame) {
 
 /// Seen from above it is a circle still; then it stands up, row by row.
 void playCylinder(const Play& play, std::int32_t frame) {
-    const std::int32_t light = envelope(frame, cylinderBegin, screwBegin + 16, 20);
-    const std::int32_t up = smooth(rise(frame, cylinderBegin + 10, 80));
+    const std::int32_t light = lightOf(frame, cylinderBegin, screwBegin + 16, 20);
+    const std::int32_t up = curveEase(frame, cylinderBegin + 10, cylinderBegin + 90);
     for (std::int32_t i = 0; light > 0 && i < rowCount; ++i) {
         LSCRLXYZ& row = *play.rows[i];
         row.light = light;
-        row.across = between(0, (i - rowCount / 2) * 32, up);
-        row.radius = between(96, 84, up);
-        row.angle.x = between(SINE_quarter, 0, up) + SINE_scaled(34, 7 * frame);
-        row.angle.z = SINE_scaled(between(0, 60, up), 5 * frame);
+        row.across = curveBetween(0, (i - rowCount / 2) * 32, up);
+        row.radius = curveBetween(96, 84, up);
+        row.angle.x = curveBetween(SINE_quarter, 0, up) + SINE_scaled(34, 7 * frame);
+        row.angle.z = SINE_scaled(curveBetween(0, 60, up), 5 * frame);
         LSCRLXYZ_advance(&row);
         LSCRLXYZ_draw(&row, demo.screen);
     }
@@ -306,13 +311,13 @@ void playCylinder(const Play& play, std::int32_t frame) {
 
 /// The spring bounces: it is long and short by turns.
 void playScrew(LSCRLXYZ& screw, std::int32_t frame) {
-    const std::int32_t light = envelope(frame, screwBegin, hoopsBegin + 16, 20);
+    const std::int32_t light = lightOf(frame, screwBegin, hoopsBegin + 16, 20);
     if (light == 0) {
         return;
     }
     const std::int32_t swing = SINE_scaled(16, 22 * (frame - screwBegin));
     screw.light = light;
-    screw.rise = between(32, 40 + swing, rise(frame, screwBegin, 30));
+    screw.rise = curveBetween(32, 40 + swing, curveRise(frame, screwBegin, screwBegin + 30));
     screw.angle.x = 24 + SINE_scaled(30, 6 * frame);
     screw.angle.z = SINE_scaled(70, 4 * frame);
     screw.spin.y = 6;
@@ -323,12 +328,12 @@ void playScrew(LSCRLXYZ& screw, std::int32_t frame) {
 /// Three hoops in three planes, and in the end all of them fall into a point.
 void playHoops(const Play& play, std::int32_t frame) {
     constexpr LSCRLXYZ_AXES spins[hoopCount] = {{7, 5, 0}, {-6, 4, 5}, {5, -8, -3}};
-    const std::int32_t light = envelope(frame, hoopsBegin, pointBegin + 25, 20);
-    const std::int32_t fall = smooth(rise(frame, pointBegin - 45, 60));
+    const std::int32_t light = lightOf(frame, hoopsBegin, pointBegin + 25, 20);
+    const std::int32_t fall = curveEase(frame, pointBegin - 45, pointBegin + 15);
     for (std::int32_t i = 0; light > 0 && i < hoopCount; ++i) {
         LSCRLXYZ& hoop = *play.hoops[i];
         hoop.light = light;
-        hoop.radius = std::max(1, between(104 - 26 * i, 1, fall));
+        hoop.radius = std::max(1, curveBetween(104 - 26 * i, 1, fall));
         LSCRLXYZ_fit(&hoop);
         hoop.spin = spins[i];
         LSCRLXYZ_advance(&hoop);
@@ -337,7 +342,7 @@ void playHoops(const Play& play, std::int32_t frame) {
 }
 
 void playEnd(std::int32_t frame) {
-    const std::int32_t light = envelope(frame, pointBegin, frames - 8, 20);
+    const std::int32_t light = lightOf(frame, pointBegin, frames - 8, 20);
     if (light > 0) {
         drawPoint(frame - pointBegin, light);
         write(demo.textMedium, "AND THAT", 88, (frame - pointBegin - 8) / 2, light);

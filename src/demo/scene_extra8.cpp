@@ -4,8 +4,8 @@
 // Outlines and what happens inside them: drawings and words are drawn stroke by stroke, then colour springs
 // up in their cells and floods them and the spaces between, one mosaic after the other. Words out of the
 // depth open and close it.
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
-#include "demo/scene_timing.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "effects/fill.h"
@@ -39,24 +39,30 @@ struct Studio {
     IMG* canvas; ///< the outlines
 };
 
-/// A drawing on the canvas, by its number among the drawings, about its middle.
+/// A drawing on the canvas, by its name among the drawings, about its middle.
 struct Figure {
-    std::int32_t drawing, x, y, scale, angle;
+    std::string_view name;
+    std::int32_t x, y, scale;
 };
+
+/// The drawing of that name, or nullptr.
+const OBJ2D* drawingOf(std::string_view name) {
+    const std::int32_t count = demo.fontLarge == nullptr ? 0 : demo.fontLarge->count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        const auto* const obj = static_cast<const OBJ2D*>(LIST_get(demo.fontLarge, i));
+        if (obj != nullptr && obj->name != nullptr && obj->name == name) {
+            return obj;
+        }
+    }
+    return nullptr;
+}
 
 /// Calls draw(a, b) with the ends of every stroke of a figure as it stands on the canvas.
 template <typename Draw>
 void forEachStrokeOf(const Figure& figure, Draw draw) {
-    const OBJ2D* const obj = glyphOf(demo.fontLarge, static_cast<std::uint8_t>(figure.drawing));
-    const VEC2D scale{figure.scale, figure.scale, 0};
-    const VEC2D position{figure.x, figure.y, 0};
-    forEachStroke(obj, [&](VEC2D a, VEC2D b) {
-        for (VEC2D* const end : {&a, &b}) {
-            VEC2D_scale(end, &scale);
-            VEC2D_rotate(end, figure.angle);
-            VEC2D_add(&position, end);
-        }
-        draw(a, b);
+    forEachStroke(drawingOf(figure.name), [&](const VEC2D& a, const VEC2D& b) {
+        draw(VEC2D{figure.x + a.x * figure.scale, figure.y + a.y * figure.scale, 0},
+             VEC2D{figure.x + b.x * figure.scale, figure.y + b.y * figure.scale, 0});
     });
 }
 
@@ -96,7 +102,7 @@ constexpr std::string_view lowerWord = "4030";
 constexpr std::int32_t letterScale = 4;
 constexpr std::int32_t upperY = 24; // top of the letters' cells
 constexpr std::int32_t lowerY = 132;
-constexpr Figure window{28, 128, 128, 17, 0}; // seven corners, each joined to each
+constexpr Figure window{"mystic rose", 128, 128, 15}; // twelve corners, each joined to each
 constexpr std::int32_t windowMiddle = 128;
 
 /// A maze of slashes, a bit for each of 16 by 16: set, it leans to the right.
@@ -105,9 +111,11 @@ constexpr std::uint16_t slashes[16] = {0xE86A, 0xD897, 0x7D4A, 0xCFE4, 0xB73E, 0
 constexpr std::int32_t slashSize = 16;
 
 /// Sixteen figures in four rows.
-constexpr std::int32_t gallery[16] = {62, 89, 107, 18, 92, 80, 100, 42, 82, 74, 105, 68, 22, 101, 53, 109};
+constexpr std::string_view gallery[16] = {"heart",    "cat",      "flower",   "gem",    "rocket", "web",
+                                          "robot",    "iris",     "globe",    "clover", "leaf",   "cogwheel",
+                                          "hexagram", "pinwheel", "carousel", "fir"};
 Figure pictureOf(std::int32_t i) {
-    return {gallery[i], 32 + i % 4 * 64, 32 + i / 4 * 64, 3, 0};
+    return {gallery[i], 32 + i % 4 * 64, 32 + i / 4 * 64, 3};
 }
 
 /// Calls draw(a, b) with every stroke of a mosaic, in the order in which they are drawn.
@@ -148,7 +156,7 @@ void forEachStrokeIn(std::int32_t mosaic, Draw draw) {
 void drawStrokes(IMG* canvas, std::int32_t mosaic, std::int32_t share) {
     std::int32_t count = 0;
     forEachStrokeIn(mosaic, [&count](const VEC2D&, const VEC2D&) { ++count; });
-    const std::int32_t shown = count * share / fullLight;
+    const std::int32_t shown = count * share / curveFull;
     std::int32_t n = 0;
     forEachStrokeIn(mosaic, [&](VEC2D a, VEC2D b) {
         if (n++ < shown) {
@@ -168,10 +176,10 @@ std::int32_t hueOfSide(const VEC2D& a, const VEC2D& b) {
 
 /// Ring by ring from the middle, every pane in the hue of its ring; the sky around it comes last.
 void pourWindow(FILL* fill, std::int32_t age) {
-    constexpr std::int32_t panes = 28;
+    constexpr std::int32_t panes = 24;
     const std::int32_t radius = 3 * age;
     for (std::int32_t i = 0; i < panes && radius < 112; ++i) {
-        const std::int32_t angle = i * SINE_tableLength / panes;
+        const std::int32_t angle = (2 * i + 1) * SINE_tableLength / (2 * panes);
         FILL_pour(fill, windowMiddle + SINE_scaled(radius, angle),
                   windowMiddle - SINE_cosineScaled(radius, angle), 13 * radius + 200 * (i % 2));
     }
@@ -269,15 +277,16 @@ void playMosaic(const Studio& studio, std::int32_t number, std::int32_t age) {
         beginMosaic(studio, mosaicsInOrder[number]);
     }
     if (age < drawFrames) {
-        drawStrokes(studio.canvas, number, rise(age + 1, 0, drawFrames));
+        drawStrokes(studio.canvas, number, curveRise(age + 1, 0, drawFrames));
     } else {
         mosaicsInOrder[number].pour(&fill, age - drawFrames);
     }
     FILL_advance(&fill);
     const std::int32_t oldest = fill.count > 0 ? fill.spans[fill.count - 1].age + 1 : 0;
-    fill.drained = between(0, oldest, rise(age, drainFrom, mosaicFrames - drainFrom - 2));
+    fill.drained = curveBetween(0, oldest, curveRise(age, drainFrom, mosaicFrames - 2));
     FILL_draw(&fill, demo.screen);
-    const std::int32_t dark = std::max(rise(age, drawFrames, 50) * 7 / 8, rise(age, drainFrom, 20));
+    const std::int32_t dark = std::max(curveRise(age, drawFrames, drawFrames + 50) * 7 / 8,
+                                       curveRise(age, drainFrom, drainFrom + 20));
     paintWalls(*studio.canvas, RGB888_mix(0xD0F0FF, 0x000000, static_cast<std::uint32_t>(dark)));
 }
 

@@ -4,8 +4,8 @@
 // A garden that chance arranges: every season a generator of its own draws new curves of dots, new hues, new
 // waves for the pictures that bend and for the ribbons that braid; what was fades while what comes grows. The
 // generator starts the same each time, so the garden is always this one, and the music's choices stay.
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
-#include "demo/scene_timing.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "foundation/sine.h"
@@ -68,12 +68,8 @@ struct Season {
 constexpr Season plan[seasons] = {{1, 0, 0, 0}, {2, 0, 0, 0}, {2, 1, 0, 0}, {2, 1, 0, 1}, {3, 0, 0, 1},
                                   {2, 0, 1, 1}, {2, 1, 1, 0}, {3, 0, 0, 1}, {3, 1, 0, 1}, {3, 0, 0, 0}};
 
-std::uint32_t hueOf(std::int32_t index) {
-    return static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, positiveModulo(index, hueCount)));
-}
-
 std::uint32_t dimmed(std::uint32_t colour, std::int32_t light) {
-    return RGB888_mix(0, colour, static_cast<std::uint32_t>(std::clamp(light, 0, fullLight)));
+    return RGB888_mix(0, colour, static_cast<std::uint32_t>(std::clamp(light, 0, curveFull)));
 }
 
 /// A number least..most.
@@ -121,11 +117,11 @@ void spinRibbon(Garden& garden) {
 void paintRibbon(const Garden& garden, IMG* ribbon, std::int32_t light) {
     const bool lies = ribbon->width > ribbon->height;
     for (std::int32_t x = 0; x < ribbonLength; ++x) {
-        const std::uint32_t colour = dimmed(hueOf(garden.ribbonHue[x]), light);
+        const std::uint32_t colour = curveHue(garden.ribbonHue[x], static_cast<std::uint32_t>(light));
         for (std::int32_t thread = 0; thread < ribbonWidth; ++thread) {
             const std::int32_t bright = SINE_entry((2 * thread + 1) * SINE_quarter / ribbonWidth) >> 7;
             // Never quite black: the edge of a ribbon sets it off from what lies behind.
-            const std::uint32_t shaded = dimmed(colour, bright * bright / fullLight) | 0x010101;
+            const std::uint32_t shaded = dimmed(colour, bright * bright / curveFull) | 0x010101;
             IMG_putPixel(ribbon, lies ? x : thread, lies ? thread : x, shaded);
         }
     }
@@ -156,16 +152,16 @@ std::int32_t grownAt(std::int32_t frame, std::uint8_t Season::*kind) {
     const std::int32_t season = frame / seasonFrames;
     const std::int32_t now = plan[season].*kind != 0 ? 1 : 0;
     const std::int32_t before = season > 0 && plan[season - 1].*kind != 0 ? 1 : 0;
-    const std::int32_t change = smooth(rise(frame % seasonFrames, 0, growFrames));
-    return between(before * fullLight, now * fullLight, change);
+    const std::int32_t change = curveEase(frame % seasonFrames, 0, growFrames);
+    return curveBetween(before * curveFull, now * curveFull, change);
 }
 
 /// The light of the picture: where one follows another, the first has to go before the second may come.
 std::int32_t pictureLightAt(std::int32_t frame) {
     const std::int32_t season = frame / seasonFrames;
     const bool follows = season > 0 && plan[season].picture != 0 && plan[season - 1].picture != 0;
-    const std::int32_t change = rise(frame % seasonFrames, 0, growFrames);
-    return follows ? std::abs(between(-fullLight, fullLight, change)) : grownAt(frame, &Season::picture);
+    const std::int32_t change = curveRise(frame % seasonFrames, 0, growFrames);
+    return follows ? std::abs(curveBetween(-curveFull, curveFull, change)) : grownAt(frame, &Season::picture);
 }
 
 void copyDimmed(const IMG* from, IMG* to, std::int32_t left, std::int32_t top, std::int32_t light) {
@@ -204,7 +200,7 @@ void drawRibbons(const Garden& garden, Dist* const (&ribbons)[ribbonCount], void
     }
     paintRibbon(garden, ribbons[0]->source, grown);
     for (Dist* const ribbon : ribbons) {
-        ribbon->amplitude = garden.ribbonSway.amplitude / 16 * grown / fullLight;
+        ribbon->amplitude = garden.ribbonSway.amplitude / 16 * grown / curveFull;
         ribbon->wave.offsetStep = garden.ribbonStep;
         drawOne(ribbon, demo.screen);
     }
@@ -230,14 +226,14 @@ void drawCloud(SINEDOTS& cloud, std::uint32_t colour, std::int32_t light) {
 /// Both beds: the one of this season as it grows, the one before as it fades.
 void drawClouds(Garden& garden, std::int32_t frame, std::int32_t light) {
     const std::int32_t season = frame / seasonFrames;
-    const std::int32_t grown = rise(frame % seasonFrames, 0, growFrames);
+    const std::int32_t grown = curveRise(frame % seasonFrames, 0, growFrames);
     for (std::int32_t age = 0; age < bedCount && age <= season; ++age) {
         Bed& bed = garden.beds[(season - age) % bedCount];
-        const std::int32_t bedLight = (age == 0 ? grown : fullLight - grown) * light / fullLight;
+        const std::int32_t bedLight = (age == 0 ? grown : curveFull - grown) * light / curveFull;
         for (std::int32_t i = 0; i < plan[season - age].clouds; ++i) {
             SINEDOTS_advance(bed.clouds[i]);
             if (bedLight > 0) {
-                drawCloud(*bed.clouds[i], hueOf(bed.hue[i] + frame), bedLight);
+                drawCloud(*bed.clouds[i], curveHue(bed.hue[i] + frame, curveFull), bedLight);
             }
         }
     }
@@ -248,7 +244,7 @@ void drawFrame(Garden& garden, std::int32_t frame) {
     if (frame % seasonFrames == 0) {
         beginSeason(garden, frame / seasonFrames);
     }
-    const std::int32_t light = fullLight - rise(frame, frames - leadOut, leadOut - 6);
+    const std::int32_t light = curveFull - curveRise(frame, frames - leadOut, frames - 6);
     if (frame % seasonFrames == growFrames / 2) {
         changePicture(garden);
     }
