@@ -106,7 +106,7 @@ TEST_F(SamTest, SAM_readsBigEndianUnsignedAndSAM_textLosesMinusAndSAM_cutTextIsS
     EXPECT_EQ(read("SAM b s 24 1 1\n\xFF\2\3"), List{0xFF0203});
     EXPECT_EQ(read("SAM b s 32 1 1\n\xFF\xFF\xFF\xFE"), List{-2});
     EXPECT_EQ(read("SAM b s 2147483647 1 1\n12345678", "x", SAM_readSam), refused);
-    EXPECT_EQ(read("SAM a s 16 4 1\n-5, 70000\nx2147483648 4"), (List{5, 70000, INT32_MIN, 4}));
+    EXPECT_EQ(read("SAM a s 99 4 1\n-5, 70000\nx2147483648 4"), (List{5, 70000, INT32_MIN, 4}));
     expectReports(SAM_verbose, 1, "SAM error.", [&] {
         EXPECT_EQ(read("SAM a s 16 2147483647 1\n-5 12", "x", SAM_readSam), (List{5, 12}));
     });
