@@ -70,7 +70,8 @@ std::string wave(std::uint32_t depth, const std::string& data, std::uint32_t siz
            number(depth, 2) + "data" + number(size, 4) + data;
 }
 
-TEST_F(SamTest, SAM_chanelsAndSAM_wavHasNoRiffAndSAM_rawLosesLoudPeaks) {
+TEST_F(SamTest, SAM_chanelsAndSAM_writesSixteenBitsAndSAM_wavHasNoRiffAndSAM_rawLosesLoudPeaks) {
+    sam->channels = 2, sam->depth = 8, sam->sign = 'u', sam->endian = 'm'; // of no account
     const std::string form = "signed\nbits 16\nlittle endian\nchanels 1\n3\n";
     EXPECT_EQ(saved("x", {1, -2, 0x12345}, 'B'), "SAM\nbinary\n" + form + "\1\0\xFE\xFF\x45\x23"s);
     EXPECT_EQ(saved("x.WAV", {1, -2, 70000}, 'A'), "SAM\nASCII\n" + form + "1\n-2\n70000\n");
