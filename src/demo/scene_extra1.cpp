@@ -4,6 +4,7 @@
 // Extra scene 1, the directory browser: the names in the working folder on a turning drum, the selected one
 // large before the others, and around it the bar of music that is playing as a ring of rays. The keys e and d
 // or the arrows turn the drum.
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
@@ -67,17 +68,15 @@ std::int32_t selection() {
     return std::clamp(demo.dirSelection, 0, std::max(nameCount() - 1, 0));
 }
 
-std::uint32_t hueOf(std::int32_t index) {
-    const std::int32_t hue = positiveModulo(wrapMul(index, hueStep), std::max(demo.hueRamp->length, 1));
-    return static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
+std::uint32_t hueOf(std::int32_t index, std::uint32_t brightness = 256) {
+    return curveHue(wrapMul(index, hueStep), brightness);
 }
 
 void makeRing(Browser& browser) {
     constexpr std::int32_t rays = 128;
     browser.shades = SAMPLE_clone(demo.hueRamp);
     for (std::int32_t i = 0; browser.shades != nullptr && i < browser.shades->length; ++i) {
-        const auto hue = static_cast<std::uint32_t>(SAMPLE_get(browser.shades, i));
-        SAMPLE_set(browser.shades, i, static_cast<std::int32_t>(RGB888_mix(0, hue, 170)));
+        SAMPLE_set(browser.shades, i, static_cast<std::int32_t>(curveHue(i, 170)));
     }
     if ((browser.ring = LRADIAL_new()) != nullptr) {
         LRADIAL_setCount(browser.ring, rays);
@@ -154,7 +153,7 @@ void drawDrumName(std::int32_t index, std::int32_t turned) {
         return;
     }
     const std::int32_t y = middle + SINE_scaled(drumRadius, turned);
-    LFONT_setColour(demo.textSmall, RGB888_mix(0, hueOf(index), static_cast<std::uint32_t>(facing * 3 / 4)));
+    LFONT_setColour(demo.textSmall, hueOf(index, static_cast<std::uint32_t>(facing * 3 / 4)));
     drawName(static_cast<const char*>(LIST_get(demo.dirListing->names, index)),
              nameX + (((256 - facing) * depthX) >> 8), y, 1, true);
 }
@@ -189,7 +188,7 @@ void drawCount() {
     constexpr std::int32_t y = 7;
     char text[32];
     std::snprintf(text, sizeof text, "%d/%d", selection() + 1, nameCount());
-    LFONT_setColour(demo.textSmall, RGB888_mix(0, hueOf(selection()), 160));
+    LFONT_setColour(demo.textSmall, hueOf(selection(), 160));
     drawName(text, middle - static_cast<std::int32_t>(std::strlen(text)) * cell / 2, y, 1, false);
 }
 

@@ -3,6 +3,7 @@
 //
 // Extra scene 10, the journey: the panorama travels by in depths, panes of glass
 // drift in its sky, a figure leaps along, and the word hops. The key s looks at the land through the mask.
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
@@ -26,6 +27,7 @@ constexpr std::int32_t leapsBegin = 240; // the figure comes
 constexpr std::int32_t wordBegins = 440; // the nest opens around the hopping word
 constexpr std::int32_t leapsEnd = 640;
 constexpr std::int32_t dusk = 680;
+constexpr std::int32_t slope = 64; // frames that everything takes to come and to go
 constexpr std::int32_t landHeight = 128;
 constexpr std::int32_t landTop = 56; // row where its sky begins
 constexpr std::int32_t shore = 148;  // row of its waterline
@@ -42,11 +44,6 @@ struct Journey {
     SINEDOTS* dots;
     IMG* land; ///< 256 by 128: the panorama as it stands in this frame
 };
-
-/// 0..256: up over 64 frames from `begin` on, down again before `end`.
-std::uint32_t between(std::int32_t frame, std::int32_t begin, std::int32_t end) {
-    return static_cast<std::uint32_t>(std::clamp(std::min(frame - begin, end - frame) * 4, 0, 256));
-}
 
 BACKMOVE* makeGround() {
     constexpr std::int32_t depths = 8;
@@ -94,7 +91,7 @@ void drawLand(const Journey& journey, std::int32_t frame) {
     }
     ground->speedX = 0x8000 + 0x200 * frame;
     ground->rippleReach = std::clamp((frame - wordBegins) / 40, 0, 5);
-    ground->brightness = between(frame, dawns, frames - 8);
+    ground->brightness = curveShow(frame, dawns, frames - 8, slope);
     BACKMOVE_draw(ground, journey.land);
     BACKMOVE_advance(ground);
     if (settings.flagS == 0) {
@@ -125,7 +122,7 @@ void drawTitle(std::int32_t frame) {
 
 void drawSky(const Journey& journey, std::int32_t frame) {
     if (journey.dots != nullptr) {
-        journey.dots->colour = RGB888_mix(0, 0x101840, between(frame, -64, frames));
+        journey.dots->colour = RGB888_mix(0, 0x101840, curveShow(frame, -64, frames, slope));
         SINEDOTS_advance(journey.dots);
         SINEDOTS_drawAdd(journey.dots, demo.screen);
     }
@@ -136,7 +133,7 @@ void drawSky(const Journey& journey, std::int32_t frame) {
     // Glass that drifts, then a nest that opens around the word; the brightness hides the change.
     const bool nested = frame >= wordBegins;
     const std::uint32_t bright =
-        nested ? between(frame, wordBegins, dusk) : between(frame, panesBegin, wordBegins);
+        nested ? curveShow(frame, wordBegins, dusk, slope) : curveShow(frame, panesBegin, wordBegins, slope);
     panes->path = nested ? RECT_PATH::nest : RECT_PATH::drift;
     panes->brightness = static_cast<std::int32_t>(bright / 2);
     RECT_advance(panes);
@@ -147,9 +144,8 @@ void drawLeap(const Journey& journey, std::int32_t frame) {
     if (journey.leap == nullptr || frame < leapsBegin || frame >= leapsEnd + 64) {
         return;
     }
-    const std::int32_t hue = positiveModulo(frame * 5, std::max(demo.hueRamp->length, 1));
-    journey.leap->colour = RGB888_mix(0, static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue)) | 0x606060,
-                                      between(frame, leapsBegin, leapsEnd + 64));
+    journey.leap->colour = RGB888_mix(0, curveHue(5 * frame, 256) | 0x606060,
+                                      curveShow(frame, leapsBegin, leapsEnd + slope, slope));
     ARCHPATH_advance(journey.leap);
     ARCHPATH_draw(journey.leap, demo.screen);
 }
@@ -158,7 +154,7 @@ void drawWord(const Journey& journey, std::int32_t frame) {
     if (journey.word == nullptr || frame < wordBegins) {
         return;
     }
-    journey.word->colour = RGB888_mix(0, 0xFFFFFF, between(frame, wordBegins, dusk + 64));
+    journey.word->colour = RGB888_mix(0, 0xFFFFFF, curveShow(frame, wordBegins, dusk + 64, slope));
     LOGOFLY_advance(journey.word);
     LOGOFLY_draw(journey.word);
 }

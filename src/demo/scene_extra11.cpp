@@ -4,6 +4,7 @@
 // Extra scene 11, rain over a city: towers grow out of the dark, their windows light up one by one, lines of
 // light breathe in the sky, and when the rain is over the picture melts. On a white background it is drawn in
 // ink.
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
@@ -149,10 +150,10 @@ void mirrorCity(const City& city, std::int32_t frame) {
     IMGFX_averageBlit(city.melted, screen, 0, horizon + 1, 0, horizon + 1, screen->width, screen->height);
 }
 
-/// `colour` coming up over 64 frames from `begin` on, and going again before `end`.
+/// `colour` coming up from `begin` on and gone again at `end`.
 std::uint32_t between(std::uint32_t colour, std::int32_t frame, std::int32_t begin, std::int32_t end) {
-    const std::int32_t bright = std::min({(frame - begin) * 4, (end - frame) * 4, 256});
-    return bright <= 0 ? 0 : RGB888_mix(0, colour, static_cast<std::uint32_t>(bright));
+    constexpr std::int32_t slope = 64;
+    return RGB888_mix(0, colour, curveShow(frame, begin, end, slope));
 }
 
 void drawSky(City& city, std::int32_t frame) {

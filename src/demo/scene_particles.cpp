@@ -4,6 +4,7 @@
 // The particle scene: water falls through the letters of a word into a bowl, sparks rise from two fires and
 // turn what they touch to stone, and in the end the stage is taken away and all of it runs off. The particles
 // live in an image of their own, the world; the screen shows it in brighter colours.
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
@@ -146,9 +147,7 @@ void drawWorld(const Particles& particles, std::int32_t frame) {
     constexpr std::int32_t reveal = 6; // columns of the stage that appear a frame
     const IMG* const world = particles.world;
     for (std::int32_t x = 0; x < world->width; ++x) {
-        const std::int32_t at = positiveModulo(4 * x - 6 * frame, std::max(demo.hueRamp->length, 1));
-        const bool visible = x < frame * reveal;
-        const std::uint32_t hue = visible ? static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, at)) : 0;
+        const std::uint32_t hue = x < frame * reveal ? curveHue(4 * x - 6 * frame, 256) : 0;
         std::uint32_t above = 0;
         for (std::int32_t y = 0; y < world->height; ++y) {
             const std::int64_t i = x + std::int64_t{y} * world->width;

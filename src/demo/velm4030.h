@@ -66,6 +66,21 @@ void VELM4030_sceneExtra10();
 void VELM4030_sceneExtra11();
 /// 900 frames of water that falls through a word, and of sparks that turn it to stone.
 void VELM4030_sceneParticles();
+/// 1000 frames of line text that is what it says: a point, a line, a wave, a circle, and on.
+void VELM4030_sceneExtra7();
+void VELM4030_sceneExtra7Setup();
+/// 750 frames of drawings that colour floods, and of words out of the depth.
+void VELM4030_sceneExtra8();
+void VELM4030_sceneExtra8Setup();
+/// 1500 frames that chance arranges: clouds of dots, bent pictures, braided ribbons.
+void VELM4030_sceneExtra9();
+void VELM4030_sceneExtra9Setup();
+/// 900 frames of rings on a pond, from where a hopping word lands.
+void VELM4030_sceneExtra2();
+/// 750 frames of portholes into another picture.
+void VELM4030_sceneExtra3();
+/// 750 frames of flight through stars, hoops and polygons.
+void VELM4030_sceneExtra12();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();

@@ -86,7 +86,7 @@ struct Surface {
         }
         const std::int64_t height =
             scroll.shape == LSCRLXYZ_SHAPE::screw ? u * turns * rise / std::max(1, length) : 0;
-        return {2 * radius * s, v + height, -2 * radius * c};
+        return {std::int64_t{2} * radius * s, v + height, std::int64_t{-2} * radius * c};
     }
 
     /// The same, turned as the record is.

@@ -29,7 +29,7 @@ constexpr std::int32_t newHueStep = 200;
 constexpr std::int32_t newEchoes = 3;
 constexpr std::int32_t mostTwist = 160; // 1/1024 turns
 // A word's way, as scales: it starts as a spark, is bright from there to there, and is past.
-constexpr std::int32_t farthest = one / 24;
+constexpr std::int32_t farthest = one / 12;
 constexpr std::int32_t brightFrom = one * 3 / 4;
 constexpr std::int32_t brightTo = one * 5 / 2;
 constexpr std::int32_t past = one * 10;

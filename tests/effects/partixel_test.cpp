@@ -128,6 +128,7 @@ TEST(Partixel, PARTIXEL_scanMeetsAgainAndPARTIXEL_sparkMergesWithItselfAndPARTIX
     }
     EXPECT_EQ(allocationCount(), allocations);
     EXPECT_EQ(digest, 0x976F9FF8U) << "a third transcription, in another language, gives the same";
+    EXPECT_EQ(blue->particles + green->particles + fire->particles, 420 + 237 + 17);
     RANDOM_delete(&PARTIXEL_random);
     PARTIXEL_random = own;
 }

@@ -127,7 +127,7 @@ TEST(Wordzoom, SendsWordByWordAndEnds) {
         WORDZOOM_advance(zoom);
         WORDZOOM_draw(zoom, pen.target);
         for (const WORDZOOM_FLIGHT& flight : zoom->flights) {
-            if (flight.word != nullptr && flight.scale == one / 24) {
+            if (flight.word != nullptr && flight.scale == one / 12) {
                 order += std::string(flight.word, static_cast<std::size_t>(flight.length)) + ",";
             }
         }

@@ -93,7 +93,7 @@ TEST(Array, ReportsWhatIsOutsideAndChangesNothing) {
     const Array array(arrayOf({"abc", "def"}));
     const Array empty(ARRAY_new());
     char word[4] = "";
-    expectReports(ARRAY_verbose, 18, "ARRAY error", [&] {
+    expectReports(ARRAY_verbose, 19, "ARRAY error", [&] {
         ARRAY_push(array, nullptr), ARRAY_insert(array, "xyz", 3), ARRAY_set(array, "xyz", 2);
         ARRAY_get(array, word, -1), ARRAY_get(array, nullptr, 0), ARRAY_deleteAt(array, 2);
         ARRAY_removeRange(array, 1, 3), ARRAY_clear(nullptr), ARRAY_copyInto(array, nullptr);
