@@ -53,8 +53,8 @@ std::int32_t SAM_load(SAM* sam);
 /// Reads the file `path`, PCM behind a WAVE header of 44 bytes: 1, or 0 (reported). Values of 8 and 16 bits
 /// are read, all others are 0.
 std::int32_t SAM_readWave(SAM* sam);
-/// Reads the open file, or else `path`, as SAM: 1, or 0 (reported) when its header is cut short or names more
-/// than 32 bits. Text that is cut short is reported and gives 1.
+/// Reads the open file, or else `path`, as SAM: 1, or 0 (reported) when its header is cut short or its binary
+/// values are wider than 32 bits. Text that is cut short is reported and gives 1.
 std::int32_t SAM_readSam(SAM* sam);
 /// Reads the file `path` to its end as values of `depth` bits in `endian` order, the sign not extended: 1, or
 /// 0 (reported) when `depth` or `endian` have no meaning.

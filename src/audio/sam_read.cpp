@@ -206,12 +206,15 @@ std::int32_t SAM_readSam(SAM* sam) {
     }
     SamHeader header;
     SAMPLE* sample = nullptr;
-    if (!readSamHeader(sam->file, header) || header.number[SamHeader::depth] > widestValue ||
-        (sample = SAMPLE_new()) == nullptr) {
+    if (!readSamHeader(sam->file, header)) {
+        return refuse(sam);
+    }
+    const bool isText = isOneOf(header.storage, "aA"); // and its width of no account
+    if ((!isText && header.number[SamHeader::depth] > widestValue) || (sample = SAMPLE_new()) == nullptr) {
         return refuse(sam);
     }
     const std::int32_t count = header.number[SamHeader::count];
-    if (isOneOf(header.storage, "aA")) {
+    if (isText) {
         // SAM_cutTextIsSuccess: one expects 0 when values are missing; it is reported, and 1.
         if (!readText(sam->file, sample, count)) {
             SAM_error();

@@ -75,6 +75,8 @@ std::int32_t SAM_writeSam(SAM* sam) {
     const bool isText = sam->storage == 'a' || sam->storage == 'A';
     const char* const storage = isBinary ? "binary\n" : isText ? "ASCII\n" : "";
     // SAM_chanels: one expects two n; files have always been written with one.
+    // SAM_writesSixteenBits: one expects the record's own form, and clipped values; whatever the record says
+    // it is this one, and binary values keep their low 16 bits, as in all files there are.
     std::fprintf(sam->file, "SAM\n%ssigned\nbits 16\nlittle endian\nchanels 1\n%d\n", storage,
                  sam->sample->length);
     return finish(sam, isBinary ? SAMPLE_writeRaw(sam->sample, sam->file, 2, 'l') != 0

@@ -76,6 +76,8 @@ void drawView(SAMDRAW* draw, Value value) {
     }
 }
 
+/// SAMDRAW_extremesIgnoreView: one expects marks on the bars that are in view; the extremes are those of the
+/// whole sample, and so are their columns, so that they meet the bars only where the whole sample is shown.
 void markFirst(const SAMDRAW& draw, std::int32_t value) {
     const SAMPLE* const sample = draw.source->sample;
     const std::int64_t index = SAMPLE_find(sample, value, 0);

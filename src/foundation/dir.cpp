@@ -52,7 +52,8 @@ DIR* DIR_new() {
 }
 
 std::int32_t DIR_read(DIR* dir, const char* path) {
-    ::DIR* const stream = dir != nullptr && path != nullptr ? opendir(path) : nullptr;
+    const bool canRead = dir != nullptr && dir->names != nullptr && path != nullptr;
+    ::DIR* const stream = canRead ? opendir(path) : nullptr;
     if (stream == nullptr) {
         DIR_error();
         return 0;

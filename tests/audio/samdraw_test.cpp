@@ -62,7 +62,7 @@ TEST_F(SamdrawTest, SmoothIsTheMeanOfThree) {
     EXPECT_EQ(difference(actual, Picture(plain({-10921, -10924, 9998, 9999, 10002}, 5, 65536))), "");
 }
 
-TEST_F(SamdrawTest, ExtremesAreMarkedOverTheWholeSample) {
+TEST_F(SamdrawTest, SAMDRAW_extremesIgnoreView) {
     draw->markColour = 0x112233;
     const Picture actual(show({0, -32768, 5, 16384, 16384, -32768}, 5, 3, 60, 64, SAMDRAW_drawExtremes));
     EXPECT_EQ(draw->first * 10 + draw->last, 35);
