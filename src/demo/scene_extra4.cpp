@@ -181,11 +181,25 @@ void drawWord(LOGOFLY* word, std::int32_t frame) {
     constexpr std::int32_t letters = 10;
     const std::int32_t enter = fullShare - ease(frame, wordBegins, 60);
     const std::int32_t leave = ease(frame, wordEnds - 60, 60);
-    word->x = middleX - letters * cell / 2 + enter - leave;
+    const std::int32_t x = middleX - letters * cell / 2 + enter - leave;
+    const std::int32_t y = word->y;
+    LOGOFLY_advance(word);
+    // Two pixels bold, in a dark rim that keeps it apart from the tunnel.
+    word->colour = 0;
+    for (const std::int32_t rim : {-1, 0, 1, 2}) {
+        word->x = x + rim;
+        for (const std::int32_t above : {-1, 0, 1}) {
+            word->y = y + above;
+            LOGOFLY_draw(word);
+        }
+    }
+    word->y = y;
     word->colour =
         dimmed(RGB888_mix(hueAt(frame * 4), 0xFFFFFF, 160), between(frame, wordBegins, wordEnds, 40));
-    LOGOFLY_advance(word);
-    LOGOFLY_draw(word);
+    for (const std::int32_t bold : {0, 1}) {
+        word->x = x + bold;
+        LOGOFLY_draw(word);
+    }
 }
 
 Shaft VELM4030_sceneExtra4Setup() {

@@ -225,8 +225,8 @@ void drawFlag(const Theatre& theatre, std::int32_t frame) {
     show.way = SINESCAN_WAY::columns;
     show.x = middle;
     show.y = stageMiddle - 4;
-    show.width = 216;
-    show.height = 108;
+    show.width = 186;
+    show.height = 100;
     show.shift.reach = 18;
     show.shift.wave.speed = -22;
     show.shift.wave.offsetStep = 5;
@@ -307,6 +307,14 @@ void drawProscenium(std::int32_t frame) {
     }
     RECT_drawPane(demo.screen, 0, stageHeight, demo.screen->width, demo.screen->height - stageHeight,
                   0x060208, RECT_MIX::set);
+    // Footlights: a wave of light runs along them.
+    constexpr std::int32_t lamps = 16;
+    for (std::int32_t i = 0; i < lamps; ++i) {
+        const std::int32_t light = 148 + SINE_scaled(108, 24 * frame - 128 * i);
+        const std::uint32_t colour = dimmed(0xFFC860, (share * light) >> 8);
+        RECT_drawPane(demo.screen, 6 + 16 * i, stageHeight + 2, 4, 2, colour, RECT_MIX::set);
+        RECT_drawPane(demo.screen, 2 + 16 * i, stageHeight, 12, 6, dimmed(colour, 48), RECT_MIX::add);
+    }
 }
 
 void writeLine(LFONT* pen, std::string_view text, std::int32_t y, std::int32_t scale, std::uint32_t colour) {
