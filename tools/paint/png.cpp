@@ -4,8 +4,7 @@
 
 #include "paint/files.h"
 
-#include <algorithm>
-#include <string_view>
+#include <zlib.h>
 
 namespace velm::paint {
 
@@ -22,55 +21,30 @@ void appendWord(std::string& bytes, std::uint32_t value) {
     }
 }
 
-std::uint32_t crcOf(std::string_view bytes) {
-    constexpr std::uint32_t polynomial = 0xEDB88320;
-    std::uint32_t crc = 0xFFFFFFFF;
-    for (const char byte : bytes) {
-        crc ^= static_cast<unsigned char>(byte);
-        for (std::int32_t bit = 0; bit < 8; ++bit) {
-            crc = (crc >> 1) ^ ((crc & 1U) != 0 ? polynomial : 0U);
-        }
-    }
-    return ~crc;
+const Bytef* rawBytes(const std::string& bytes) {
+    return reinterpret_cast<const Bytef*>(bytes.data());
 }
 
-std::uint32_t adlerOf(std::string_view bytes) {
-    constexpr std::uint32_t prime = 65521;
-    std::uint32_t sum = 1;
-    std::uint32_t sumOfSums = 0;
-    for (const char byte : bytes) {
-        sum = (sum + static_cast<unsigned char>(byte)) % prime;
-        sumOfSums = (sumOfSums + sum) % prime;
-    }
-    return (sumOfSums << 16) | sum;
-}
-
-/// A zlib stream of stored blocks.
-std::string stored(std::string_view bytes) {
-    constexpr std::size_t largestBlock = 65535;
-    std::string stream = "\x78\x01";
-    for (std::size_t at = 0; at < bytes.size(); at += largestBlock) {
-        const std::string_view block = bytes.substr(at, largestBlock);
-        const auto length = static_cast<std::uint32_t>(block.size());
-        appendByte(stream, at + largestBlock >= bytes.size() ? 1 : 0);
-        for (const std::uint32_t word : {length, ~length}) {
-            appendByte(stream, word);
-            appendByte(stream, word >> 8);
-        }
-        stream += block;
-    }
-    appendWord(stream, adlerOf(bytes));
+/// A zlib stream; "" when memory runs out.
+std::string packed(const std::string& bytes) {
+    uLongf size = compressBound(static_cast<uLong>(bytes.size()));
+    std::string stream(size, '\0');
+    const int result = compress2(reinterpret_cast<Bytef*>(stream.data()), &size, rawBytes(bytes),
+                                 static_cast<uLong>(bytes.size()), Z_BEST_COMPRESSION);
+    stream.resize(result == Z_OK ? size : 0);
     return stream;
 }
 
 void appendChunk(std::string& file, const std::string& type, const std::string& content) {
     appendWord(file, static_cast<std::uint32_t>(content.size()));
     file += type + content;
-    appendWord(file, crcOf(type + content));
+    const std::string covered = type + content;
+    appendWord(file,
+               static_cast<std::uint32_t>(crc32(0, rawBytes(covered), static_cast<uInt>(covered.size()))));
 }
 
-/// Each row: the filter byte 0, then red, green and blue of every pixel.
-std::string rowsOf(const IMG& img) {
+/// Each row: the filter byte 0, then red, green, blue and, if there is one, coverage of every pixel.
+std::string rowsOf(const IMG& img, const IMG* coverage) {
     std::string rows;
     for (std::int32_t y = 0; y < img.height; ++y) {
         appendByte(rows, 0);
@@ -79,6 +53,9 @@ std::string rowsOf(const IMG& img) {
             appendByte(rows, pixel >> 16);
             appendByte(rows, pixel >> 8);
             appendByte(rows, pixel);
+            if (coverage != nullptr) {
+                appendByte(rows, IMG_getPixel(coverage, x, y));
+            }
         }
     }
     return rows;
@@ -86,16 +63,19 @@ std::string rowsOf(const IMG& img) {
 
 } // namespace
 
-bool writePng(const std::string& path, const IMG& img) {
+bool writePng(const std::string& path, const IMG& img, const IMG* coverage) {
+    constexpr std::uint32_t trueColour = 2;
+    constexpr std::uint32_t withAlpha = 6;
     std::string head;
     appendWord(head, static_cast<std::uint32_t>(img.width));
     appendWord(head, static_cast<std::uint32_t>(img.height));
-    for (const std::uint32_t byte : {8U, 2U, 0U, 0U, 0U}) { // 8 bits, true colour, no interlace
+    for (const std::uint32_t byte :
+         {8U, coverage != nullptr ? withAlpha : trueColour, 0U, 0U, 0U}) { // 8 bits
         appendByte(head, byte);
     }
     std::string file = "\x89PNG\r\n\x1A\n";
     appendChunk(file, "IHDR", head);
-    appendChunk(file, "IDAT", stored(rowsOf(img)));
+    appendChunk(file, "IDAT", packed(rowsOf(img, coverage)));
     appendChunk(file, "IEND", "");
     return writeFile(path, file);
 }
