@@ -21,26 +21,26 @@ void appendWord(std::string& bytes, std::uint32_t value) {
     }
 }
 
-const Bytef* rawBytes(const std::string& bytes) {
-    return reinterpret_cast<const Bytef*>(bytes.data());
+std::uint32_t crcOf(const std::string& bytes) {
+    const auto* const start = reinterpret_cast<const Bytef*>(bytes.data());
+    return static_cast<std::uint32_t>(crc32(0, start, static_cast<uInt>(bytes.size())));
 }
 
-/// A zlib stream; "" when memory runs out.
-std::string packed(const std::string& bytes) {
-    uLongf size = compressBound(static_cast<uLong>(bytes.size()));
-    std::string stream(size, '\0');
-    const int result = compress2(reinterpret_cast<Bytef*>(stream.data()), &size, rawBytes(bytes),
+/// A zlib stream, as small as it gets; empty when memory runs out.
+std::string compressed(const std::string& bytes) {
+    uLongf length = compressBound(static_cast<uLong>(bytes.size()));
+    std::string stream(length, '\0');
+    const int result = compress2(reinterpret_cast<Bytef*>(stream.data()), &length,
+                                 reinterpret_cast<const Bytef*>(bytes.data()),
                                  static_cast<uLong>(bytes.size()), Z_BEST_COMPRESSION);
-    stream.resize(result == Z_OK ? size : 0);
+    stream.resize(result == Z_OK ? length : 0);
     return stream;
 }
 
 void appendChunk(std::string& file, const std::string& type, const std::string& content) {
     appendWord(file, static_cast<std::uint32_t>(content.size()));
     file += type + content;
-    const std::string covered = type + content;
-    appendWord(file,
-               static_cast<std::uint32_t>(crc32(0, rawBytes(covered), static_cast<uInt>(covered.size()))));
+    appendWord(file, crcOf(type + content));
 }
 
 /// Each row: the filter byte 0, then red, green, blue and, if there is one, coverage of every pixel.
@@ -69,13 +69,13 @@ bool writePng(const std::string& path, const IMG& img, const IMG* coverage) {
     std::string head;
     appendWord(head, static_cast<std::uint32_t>(img.width));
     appendWord(head, static_cast<std::uint32_t>(img.height));
-    for (const std::uint32_t byte :
-         {8U, coverage != nullptr ? withAlpha : trueColour, 0U, 0U, 0U}) { // 8 bits
+    const std::uint32_t kind = coverage != nullptr ? withAlpha : trueColour;
+    for (const std::uint32_t byte : {8U, kind, 0U, 0U, 0U}) { // 8 bits, no interlace
         appendByte(head, byte);
     }
     std::string file = "\x89PNG\r\n\x1A\n";
     appendChunk(file, "IHDR", head);
-    appendChunk(file, "IDAT", packed(rowsOf(img, coverage)));
+    appendChunk(file, "IDAT", compressed(rowsOf(img, coverage)));
     appendChunk(file, "IEND", "");
     return writeFile(path, file);
 }
