@@ -23,24 +23,22 @@ constexpr std::int32_t cell = canvas / 32; ///< the shapes are written on a grid
 struct Style {
     std::string_view letter;     ///< the V
     std::int32_t from;           ///< the smallest size in pixels
-    std::int32_t tube;           ///< half the width of its tube
-    std::int32_t glow;           ///< how far its light reaches
+    std::int32_t tube;           ///< half the width of its tubes
+    std::int32_t glow;           ///< how far their light reaches
     std::int32_t margin, corner; ///< of the tile
     std::int32_t edge;           ///< half the width of the tile's edge line
     std::int32_t samples;        ///< places looked at across a pixel
-    bool isOutline;              ///< whether the tube runs around the letter, which is then filled with bars
     bool hasScene;               ///< whether the letter stands above a floor under stars
 };
 
-constexpr std::string_view plainV = "66 6C GQ QC Q6";
-constexpr std::string_view outlinedV = "44 4C GN SC S4 L4 LA GF BA B4 44";
+constexpr std::string_view oneTube = "66 6F GP QF Q6";
+constexpr std::string_view twoTubes = "66 6G GQ QG Q6, B6 BE GJ LE L6";
+constexpr std::string_view threeTubes = "64 6E GO QE Q4, 94 9D GK ND N4, C4 CC GG KC K4";
 
 constexpr Style styles[] = {
-    {outlinedV, 128, 54, 520, 64, 640, 18, 3, true, true},
-    {outlinedV, 64, 84, 560, 64, 640, 30, 4, true, true},
-    {plainV, 48, 230, 700, 64, 640, 30, 4, false, true},
-    {plainV, 32, 250, 560, 64, 640, 40, 4, false, false},
-    {plainV, 16, 290, 380, 0, 640, 0, 4, false, false},
+    {threeTubes, 128, 76, 520, 64, 640, 18, 3, true}, {threeTubes, 64, 100, 520, 64, 640, 30, 4, true},
+    {twoTubes, 48, 150, 500, 64, 640, 30, 4, true},   {twoTubes, 32, 150, 400, 64, 640, 40, 4, false},
+    {oneTube, 16, 290, 380, 0, 640, 0, 4, false},
 };
 
 const Style& styleOf(std::int32_t size) {
@@ -116,40 +114,13 @@ std::uint32_t sceneAt(std::int32_t x, std::int32_t y) {
     return lit(floor, 0x40E0FF, lightAt(depth, 90));
 }
 
-/// Whether a place lies inside a closed outline: a ray to the right crosses it an odd number of times.
-bool isInside(const Strokes& outline, std::int32_t x, std::int32_t y) {
-    bool inside = false;
-    for (const Segment& segment : outline) {
-        const Point& upper = segment.from.y < segment.to.y ? segment.from : segment.to;
-        const Point& lower = segment.from.y < segment.to.y ? segment.to : segment.from;
-        if (y >= upper.y * cell && y < lower.y * cell) {
-            const std::int32_t crossing =
-                upper.x * cell + (lower.x - upper.x) * (y - upper.y * cell) / (lower.y - upper.y);
-            inside = inside != (crossing > x);
-        }
-    }
-    return inside;
-}
-
-/// Whether a slit cuts the filling here; slits grow downwards, as in the logo.
-bool isSlit(std::int32_t y) {
-    constexpr std::int32_t first = 8 * cell;
-    constexpr std::int32_t pitch = 3 * cell / 2;
-    const std::int32_t number = (y - first) / pitch;
-    return y >= first && (y - first) % pitch < cell * (2 + number) / 8;
-}
-
 std::uint32_t colourAt(const Style& style, const Strokes& letter, std::int32_t x, std::int32_t y) {
     constexpr std::uint32_t night = 0x06000C;
-    constexpr std::int32_t filling = 150;
     std::uint32_t colour = style.hasScene ? sceneAt(x, y) : night;
     const std::int32_t fromEdge = std::abs(distanceToTile(style, x, y) + 2 * style.edge);
     colour = lit(colour, 0x7030E0, style.edge > 0 ? lightAt(fromEdge, 2 * style.edge) : 0);
     const std::int32_t away = distanceTo(letter, x, y);
     const std::uint32_t neon = neonAt(y);
-    if (style.isOutline && isInside(letter, x, y)) {
-        colour = isSlit(y) ? night : dimmed(neon, filling);
-    }
     colour = lit(colour, neon, lightAt(away, style.glow) / 2);
     return away < style.tube ? blended(neon, 0xFFFFFF, lightAt(away, style.tube) * 3 / 4) : colour;
 }

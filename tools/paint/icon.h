@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The program's icon: the logo's V as a neon sign in a black tile. It is drawn for every size: small ones are
-// a plain tube that stays readable, larger ones show more and more of the scene behind it.
+// The program's icon: the logo's V of three lines as a neon sign in a black tile. It is drawn for every size:
+// small ones are one plain tube that stays readable, larger ones have more tubes and a scene behind them.
 //
 //     bool written = writeIcons("build/icons"); // 16.png to 256.png
 #pragma once

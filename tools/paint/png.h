@@ -10,8 +10,8 @@
 
 namespace velm::paint {
 
-/// Writes 8-bit red, green and blue, and the blue channel of `coverage`, a picture of the same size, as alpha;
-/// nullptr for none. False, after a message on stderr, when the file cannot be written whole.
+/// Writes 8-bit red, green and blue, and the blue channel of `coverage`, a picture of the same size, as
+/// alpha; nullptr for none. False, after a message on stderr, when the file cannot be written whole.
 bool writePng(const std::string& path, const IMG& img, const IMG* coverage = nullptr);
 
 } // namespace velm::paint
