@@ -35,8 +35,9 @@ function draw(target, isLibrary, name, style) {
     }
     isLibrary = target ~ /^velm_/
     name = target in folder ? folder[target] : isLibrary ? "src/" substr(target, 6) : target
+    programs = programs (isLibrary ? "" : " \"" target "\";")
     style = isLibrary ? "" : ", fillcolor=\"#1a0030\", fontcolor=\"#40f0ff\", color=\"#ff2890\""
     printf "\"%s\" [label=<<b>%s</b><br/><font point-size=\"10\">%s</font>>%s];\n", target, name, holds[target], style
 }
 { draw($1); draw($2); printf "\"%s\" -> \"%s\";\n", $1, $2 }
-END { print "}" }
+END { print "{ rank=min;" programs " }"; print "}" }
