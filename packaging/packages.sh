@@ -6,7 +6,7 @@
 # shellcheck disable=SC2034
 build_packages=(g++ cmake ninja-build libx11-dev)
 tool_packages=(libcli11-dev zlib1g-dev)
-package_packages=("${build_packages[@]}" "${tool_packages[@]}" dpkg-dev)
+package_packages=("${build_packages[@]}" "${tool_packages[@]}" dpkg-dev file)
 test_packages=("${package_packages[@]}" libgtest-dev libgmock-dev libxfixes-dev ffmpeg netpbm pulseaudio
     pulseaudio-utils libpulsedsp xdotool xvfb)
 lint_packages=(clang-format clang-tidy libbenchmark-dev appstream desktop-file-utils doxygen graphviz lintian man-db
