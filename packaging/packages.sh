@@ -2,9 +2,12 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# The Debian 12 packages that the project needs, by purpose. Sourced by run.sh, test.sh and .ci/run.
+# The Debian 12 packages that the project needs, by purpose. Sourced by run.sh, test.sh, .ci/run and package.sh.
 # shellcheck disable=SC2034
 build_packages=(g++ cmake ninja-build libx11-dev)
-test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev libcli11-dev libxfixes-dev zlib1g-dev ffmpeg netpbm
-    pulseaudio pulseaudio-utils libpulsedsp sox xdotool xvfb)
-lint_packages=(clang-format clang-tidy libbenchmark-dev)
+tool_packages=(libcli11-dev zlib1g-dev)
+package_packages=("${build_packages[@]}" "${tool_packages[@]}" dpkg-dev file)
+test_packages=("${package_packages[@]}" libgtest-dev libgmock-dev libxfixes-dev ffmpeg netpbm pulseaudio
+    pulseaudio-utils libpulsedsp sox xdotool xvfb)
+lint_packages=(clang-format clang-tidy libbenchmark-dev appstream desktop-file-utils doxygen graphviz lintian man-db
+    mandoc)

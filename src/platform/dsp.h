@@ -33,6 +33,7 @@ std::int32_t DSP_request(std::int32_t device, DspRequest request, std::int32_t* 
 /// offered, or -1.
 std::int32_t DSP_write(std::int32_t device, const std::int16_t* block, std::int32_t samples);
 
+/// Closes the device.
 void DSP_close(std::int32_t device);
 
 } // namespace velm

@@ -3,8 +3,10 @@
 //
 // paint_assets DIRECTORY: paints every picture and writes every line drawing of the demo into DIRECTORY.
 // paint_assets --sheet DIRECTORY: writes contact sheets of all of them instead.
+// paint_assets --icons DIRECTORY: writes the program's icon in all sizes instead.
 #include "paint/contact_sheets.h"
 #include "paint/files.h"
+#include "paint/icon.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -46,13 +48,17 @@ bool paintAssets(const std::string& directory) {
 } // namespace velm::paint
 
 int main(int count, char** arguments) {
-    const bool wantsSheets = count == 3 && std::string(arguments[1]) == "--sheet";
-    if (count != 2 && !wantsSheets) {
-        std::cerr << "usage: paint_assets [--sheet] DIRECTORY\n";
-        return EXIT_FAILURE;
-    }
     const std::string directory = arguments[count - 1];
-    const bool done =
-        wantsSheets ? velm::paint::writeContactSheets(directory) : velm::paint::paintAssets(directory);
+    const std::string choice = count == 3 ? arguments[1] : "";
+    bool done = false;
+    if (count == 2) {
+        done = velm::paint::paintAssets(directory);
+    } else if (choice == "--sheet") {
+        done = velm::paint::writeContactSheets(directory);
+    } else if (choice == "--icons") {
+        done = velm::paint::writeIcons(directory);
+    } else {
+        std::cerr << "usage: paint_assets [--sheet | --icons] DIRECTORY\n";
+    }
     return done ? EXIT_SUCCESS : EXIT_FAILURE;
 }

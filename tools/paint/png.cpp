@@ -43,8 +43,8 @@ void appendChunk(std::string& file, const std::string& type, const std::string& 
     appendWord(file, crcOf(type + content));
 }
 
-/// Each row: the filter byte 0, then red, green and blue of every pixel.
-std::string rowsOf(const IMG& img) {
+/// Each row: the filter byte 0, then red, green, blue and, if there is one, coverage of every pixel.
+std::string rowsOf(const IMG& img, const IMG* coverage) {
     std::string rows;
     for (std::int32_t y = 0; y < img.height; ++y) {
         appendByte(rows, 0);
@@ -53,6 +53,9 @@ std::string rowsOf(const IMG& img) {
             appendByte(rows, pixel >> 16);
             appendByte(rows, pixel >> 8);
             appendByte(rows, pixel);
+            if (coverage != nullptr) {
+                appendByte(rows, IMG_getPixel(coverage, x, y));
+            }
         }
     }
     return rows;
@@ -60,16 +63,19 @@ std::string rowsOf(const IMG& img) {
 
 } // namespace
 
-bool writePng(const std::string& path, const IMG& img) {
+bool writePng(const std::string& path, const IMG& img, const IMG* coverage) {
+    constexpr std::uint32_t trueColour = 2;
+    constexpr std::uint32_t withAlpha = 6;
     std::string head;
     appendWord(head, static_cast<std::uint32_t>(img.width));
     appendWord(head, static_cast<std::uint32_t>(img.height));
-    for (const std::uint32_t byte : {8U, 2U, 0U, 0U, 0U}) { // 8 bits, true colour, no interlace
+    const std::uint32_t kind = coverage != nullptr ? withAlpha : trueColour;
+    for (const std::uint32_t byte : {8U, kind, 0U, 0U, 0U}) { // 8 bits, no interlace
         appendByte(head, byte);
     }
     std::string file = "\x89PNG\r\n\x1A\n";
     appendChunk(file, "IHDR", head);
-    appendChunk(file, "IDAT", compressed(rowsOf(img)));
+    appendChunk(file, "IDAT", compressed(rowsOf(img, coverage)));
     appendChunk(file, "IEND", "");
     return writeFile(path, file);
 }

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The tutorial's effect on the demo's screen: docs/effects.md quotes the declaration and the row below.
+#include "demo/demo_run.h"
+#include "demo/scenes.h"
+#include "support/owned.h"
+
+#include <set>
+
+namespace velm {
+
+/// 600 frames of a sea of colour.
+void VELM4030_scenePlasma();
+
+namespace test {
+namespace {
+
+constexpr SCENE scenes[] = {
+    {"plasma", "a sea of colour", VELM4030_scenePlasma},
+};
+
+TEST(Tutorial, TheSceneShowsAMovingSeaUntilSpace) {
+    startDemo();
+    std::vector<std::set<std::uint32_t>> colours;
+    std::vector<std::uint32_t> corners;
+    headless.onFrame = [&](const IMG& frame) {
+        colours.emplace_back(frame.pixels, frame.pixels + frame.width * frame.height);
+        corners.push_back(frame.pixels[0]);
+    };
+    pressAt(headless.frames + 40, ' ');
+    scenes[0].run();
+    headless.onFrame = nullptr;
+    ASSERT_EQ(corners.size(), 40U);
+    for (const std::set<std::uint32_t>& frame : colours) {
+        EXPECT_GT(frame.size(), 100U);
+    }
+    EXPECT_GT(std::set(corners.begin(), corners.end()).size(), 10U);
+}
+
+} // namespace
+} // namespace test
+} // namespace velm
