@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "capture/options.h"
 
+#include "platform/dsp.h"
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
@@ -13,11 +15,6 @@ namespace {
 
 constexpr int statusWrongArgument = 2;
 constexpr std::int32_t noKeycode = 1; ///< any keycode that stands for no arrow
-
-/// One sample more than a frame lasts: a bar of three seconds then takes 90 or 180 calls, its last block
-/// being short, and picture and sound stay together. Exactly a frame would add an empty call to every bar.
-constexpr std::int32_t blockAt30 = 2942;
-constexpr std::int32_t blockAt60 = 1472;
 
 std::vector<std::string> split(const std::string& text, char separator) {
     std::vector<std::string> parts;
@@ -167,7 +164,7 @@ CaptureOptions parseOptions(int argc, char** argv) {
         std::exit(statusWrongArgument);
     }
     if (options.block == 0) {
-        options.block = options.rate == 60 ? blockAt60 : blockAt30;
+        options.block = DSP_blockBytes(options.rate);
     }
     return options;
 }
