@@ -111,6 +111,7 @@ bool X11ErrorTrap::caught() const {
 
 void x11GiveUp(const char* what, const char* detail) {
     std::fprintf(stderr, "%s: %s \"%s\"\n", x11Display.program, what, detail);
+    x11Display.connection = nullptr; // nothing that runs at the program's end may use it
     std::exit(1);
 }
 

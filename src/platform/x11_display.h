@@ -18,7 +18,7 @@ namespace velm {
 /// The display state of the process, written by XDPY alone.
 struct X11_DISPLAY {
     const char* program;   ///< what messages begin with
-    ::Display* connection; ///< nullptr until the first XDPY_open; never closed
+    ::Display* connection; ///< nullptr until the first XDPY_open; never closed, but gone once x11GiveUp ran
     ::Window window;       ///< 0 while no window is open
     ::Window root;
     int screen;
