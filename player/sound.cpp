@@ -46,7 +46,7 @@ std::int64_t CLOCK_now() {
 }
 
 void CLOCK_sleep(std::int32_t micros) {
-    const std::int32_t correction = soundLeads ? PACE_correction(sound.waitingMicros()) : 0;
+    const std::int32_t correction = soundLeads ? PACE_correction(sound.aheadMicros()) : 0;
     soundLeads = false;
     std::this_thread::sleep_for(std::chrono::microseconds(std::max(micros + correction, 0)));
 }

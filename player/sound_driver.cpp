@@ -9,7 +9,8 @@ namespace velm {
 
 namespace {
 
-constexpr SoundDriver drivers[] = {{"oss", ossOpen, ossWrite}, {"alsa", alsaOpen, alsaWrite}};
+constexpr SoundDriver drivers[] = {{"oss", ossOpen, ossWrite, ossIdle},
+                                   {"alsa", alsaOpen, alsaWrite, alsaIdle}};
 
 std::int32_t ossDevice = -1;
 
@@ -30,16 +31,20 @@ bool ossOpen() {
            OSS_request(ossDevice, DspRequest::speed, &rate) >= 0;
 }
 
-bool ossWrite(std::span<const std::int16_t> samples) {
+std::int32_t ossWrite(std::span<const std::int16_t> samples) {
     while (!samples.empty()) {
         const std::int32_t bytes =
             OSS_write(ossDevice, samples.data(), static_cast<std::int32_t>(samples.size()));
         if (bytes <= 0) {
-            return false;
+            return -1;
         }
         samples = samples.subspan(static_cast<std::size_t>(bytes) / sizeof samples[0]);
     }
-    return true;
+    return 0;
+}
+
+bool ossIdle() {
+    return true; // it waits in silence by itself
 }
 
 } // namespace velm

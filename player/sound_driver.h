@@ -5,7 +5,7 @@
 // only (sound_process.h): there they may wait, complain and fall over.
 //
 //     if (driver.open()) {
-//         driver.write(block);
+//         const std::int32_t room = driver.write(block);
 //     }
 #pragma once
 
@@ -16,8 +16,11 @@ namespace velm {
 
 struct SoundDriver {
     const char* name;
-    bool (*open)();                               ///< false without a device
-    bool (*write)(std::span<const std::int16_t>); ///< waits while the device is full; false when it is lost
+    bool (*open)(); ///< false without a device; may wait until it plays
+    /// Waits while the device is full; gives the samples that would fit now, or a negative number when it is
+    /// lost. A device that does not tell is full.
+    std::int32_t (*write)(std::span<const std::int16_t>);
+    bool (*idle)(); ///< called now and then while nothing is to be written; false when the device is lost
 };
 
 /// Every driver but silence.
@@ -26,8 +29,10 @@ std::span<const SoundDriver> soundDrivers();
 inline constexpr const char* silentDriver = "none";
 
 bool ossOpen();
-bool ossWrite(std::span<const std::int16_t> samples);
+std::int32_t ossWrite(std::span<const std::int16_t> samples);
+bool ossIdle();
 bool alsaOpen();
-bool alsaWrite(std::span<const std::int16_t> samples);
+std::int32_t alsaWrite(std::span<const std::int16_t> samples);
+bool alsaIdle();
 
 } // namespace velm

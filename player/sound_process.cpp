@@ -29,9 +29,23 @@ std::int64_t microsOf(std::int64_t samples) {
     return samples * microsPerSecond / SAMPLE_rate;
 }
 
-/// Tells the player how many samples the device has just taken; 0 says that it is open.
-bool tell(int line, std::int32_t samples) {
-    return ::send(line, &samples, sizeof samples, MSG_NOSIGNAL) == sizeof samples;
+/// What the process tells the player.
+struct News {
+    std::int32_t taken; ///< samples that the device has just taken; 0 says that it is open
+    std::int32_t room;  ///< samples that it could take besides
+};
+
+bool tell(int line, News news) {
+    return ::send(line, &news, sizeof news, MSG_NOSIGNAL) == sizeof news;
+}
+
+/// Takes a block from the line to the device; false when one of them is lost.
+bool passOn(const SoundDriver& driver, int line) {
+    std::int16_t block[mostBlockSamples];
+    const ssize_t bytes = recv(line, block, sizeof block, 0);
+    const std::size_t samples = static_cast<std::size_t>(std::max<ssize_t>(bytes, 0)) / sizeof block[0];
+    const std::int32_t room = samples > 0 ? driver.write({block, samples}) : -1;
+    return room >= 0 && tell(line, {static_cast<std::int32_t>(samples), room});
 }
 
 /// All that the process does. It has nothing of the player's but the line: no display, no terminal for a
@@ -45,13 +59,11 @@ bool tell(int line, std::int32_t samples) {
     dup2(playersLine, line);
     close_range(line + 1, ~0U, 0);
     std::signal(SIGPIPE, SIG_IGN);
-    bool plays = driver.open() && tell(line, 0);
-    std::int16_t block[mostBlockSamples];
+    bool plays = driver.open() && tell(line, {0, 0});
     while (plays) {
-        const ssize_t bytes = recv(line, block, sizeof block, 0);
-        const std::size_t samples = static_cast<std::size_t>(std::max<ssize_t>(bytes, 0)) / sizeof block[0];
-        plays =
-            samples > 0 && driver.write({block, samples}) && tell(line, static_cast<std::int32_t>(samples));
+        constexpr int idleMillis = 10;
+        pollfd input{line, POLLIN, 0};
+        plays = poll(&input, 1, idleMillis) == 0 ? driver.idle() : passOn(driver, line);
     }
     _exit(1);
 }
@@ -77,6 +89,7 @@ bool SoundProcess::start(const SoundDriver& soundDriver) {
     line = ends[0];
     open = false;
     waiting = 0;
+    room = 0;
     heardMicros = CLOCK_now();
     if (process < 0) {
         lose();
@@ -115,25 +128,26 @@ bool SoundProcess::send(std::span<const std::int16_t> block) {
     return true;
 }
 
-std::int64_t SoundProcess::waitingMicros() const {
+std::int64_t SoundProcess::aheadMicros() const {
     // It tells of whole blocks; in between, the device goes on taking.
     const std::int64_t taken = std::min(CLOCK_now() - heardMicros, microsOf(lastBlock));
-    return std::max<std::int64_t>(microsOf(waiting) - taken, 0);
+    return std::max<std::int64_t>(microsOf(waiting) - taken, 0) - microsOf(room);
 }
 
 /// Reads what the process has told.
 void SoundProcess::hear() {
     for (;;) {
-        std::int32_t samples = 0;
-        const ssize_t bytes = recv(line, &samples, sizeof samples, MSG_DONTWAIT);
-        if (bytes != sizeof samples) {
+        News news{};
+        const ssize_t bytes = recv(line, &news, sizeof news, MSG_DONTWAIT);
+        if (bytes != sizeof news) {
             if (bytes == 0 || (bytes < 0 && errno != EAGAIN && errno != EINTR)) {
                 lose();
             }
             return;
         }
         open = true;
-        waiting -= samples;
+        waiting -= news.taken;
+        room = news.room;
         heardMicros = CLOCK_now();
     }
 }

@@ -34,9 +34,9 @@ public:
     /// that would wait for too long.
     bool send(std::span<const std::int16_t> block);
 
-    /// How long what was sent will take to reach the device, in microseconds; what the device holds is not
-    /// counted.
-    [[nodiscard]] std::int64_t waitingMicros() const;
+    /// How far the player is ahead of a device that is just full, in microseconds; negative while the device
+    /// could take more.
+    [[nodiscard]] std::int64_t aheadMicros() const;
 
     void end();
 
@@ -50,6 +50,7 @@ private:
     int line = -1;                ///< to the process; -1 while there is none
     bool open = false;            ///< the device has been opened
     std::int64_t waiting = 0;     ///< samples sent that the device has not taken
+    std::int64_t room = 0;        ///< samples that the device could take, when it last told
     std::int64_t lastBlock = 0;   ///< samples of the last block sent
     std::int64_t heardMicros = 0; ///< when the process last told something, or was started
     std::int64_t startMicros = 0; ///< when to start the next process
