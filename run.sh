@@ -4,13 +4,24 @@
 #
 # ./run.sh: installs what is missing, builds the demo and plays it. Without a display it plays in a private Xvfb;
 # without /dev/dsp it plays through a sound server, or silent.
+# ./run.sh ARGUMENT...: the same for the player, velm4030-play, which takes the arguments ("--help" names them) and finds
+# the sound by itself.
 set -euo pipefail
 cd "$(dirname "$0")"
 . packaging/packages.sh
 
-packaging/need.sh "${build_packages[@]}"
-cmake --preset release -DVELM_BUILD_TESTS=OFF -DVELM_BUILD_TOOLS=OFF >/dev/null
-cmake --build --preset release --target velm4030 -- --quiet
+if [ $# -eq 0 ]; then
+    program=velm4030
+    tools=OFF
+    packages=("${build_packages[@]}")
+else
+    program=velm4030-play
+    tools=ON
+    packages=("${player_packages[@]}")
+fi
+packaging/need.sh "${packages[@]}"
+cmake --preset release -DVELM_BUILD_TESTS=OFF "-DVELM_BUILD_TOOLS=$tools" >/dev/null
+cmake --build --preset release --target "$program" -- --quiet
 
 # Asks the sound server where its client is installed; else its socket must do for an answer.
 server_answers() {
@@ -27,7 +38,7 @@ pulse_library() {
     dpkg -L libpulsedsp | grep -m 1 '/libpulsedsp\.so$'
 }
 
-if [ ! -e /dev/dsp ]; then
+if [ "$program" = velm4030 ] && [ ! -e /dev/dsp ]; then
     if server_answers && library=$(pulse_library) && [ -n "$library" ]; then
         export LD_PRELOAD="$library${LD_PRELOAD:+:$LD_PRELOAD}"
     else
@@ -36,8 +47,8 @@ if [ ! -e /dev/dsp ]; then
 fi
 
 if [ -n "${DISPLAY:-}" ]; then
-    exec build/release/velm4030
+    exec "build/release/$program" "$@"
 fi
 echo 'No display: playing in a private Xvfb.'
 env -u LD_PRELOAD packaging/need.sh xvfb
-exec packaging/private_display.sh build/release/velm4030
+exec packaging/private_display.sh "build/release/$program" "$@"

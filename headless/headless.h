@@ -11,6 +11,7 @@
 #pragma once
 
 #include "image/img.h"
+#include "platform/dsp.h"
 
 #include <cstdint>
 #include <functional>
@@ -38,7 +39,8 @@ struct HeadlessPointer {
 struct Headless {
     std::vector<HeadlessKey> keys;         ///< in the order of their frames
     std::vector<HeadlessPointer> pointers; ///< in the order of their frames
-    std::int32_t blockBytes = 2942;        ///< what the sound driver says its block size is; 0 for no device
+    std::int32_t blockBytes =
+        DSP_blockBytes(30); ///< what the sound driver says its block size is; 0 for no device
     std::uint32_t frameLimit =
         0; ///< presentations before onLimit is called instead of another; 0 for no limit
 

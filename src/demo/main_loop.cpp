@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "demo/scenes.h"
 #include "demo/velm4030.h"
 
 #include <cstdlib>
@@ -10,9 +11,7 @@ const IDENTITY VELM4030_identity = makeIdentity("VELM4030", "20150614", "ZENDORA
 
 void VELM4030_main() {
     VELM4030_init();
-    for (;;) {
-        VELM4030_runSchedule();
-    }
+    SCENE_runForEver(nullptr);
 }
 
 void VELM4030_runSchedule() {

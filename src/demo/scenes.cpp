@@ -46,4 +46,10 @@ const SCENE* SCENE_find(std::string_view name) {
     return found == std::end(scenes) ? nullptr : found;
 }
 
+void SCENE_runForEver(const SCENE* scene) {
+    for (;;) {
+        scene != nullptr ? scene->run() : VELM4030_runSchedule();
+    }
+}
+
 } // namespace velm

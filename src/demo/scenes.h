@@ -25,4 +25,7 @@ std::span<const SCENE> SCENE_all();
 /// The scene of that name, or nullptr.
 const SCENE* SCENE_find(std::string_view name);
 
+/// Runs a scene again and again, or for nullptr the schedule. Only Escape ends it.
+[[noreturn]] void SCENE_runForEver(const SCENE* scene);
+
 } // namespace velm

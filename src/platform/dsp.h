@@ -23,6 +23,14 @@ enum class DspRequest : std::uint32_t {
     format = 0xC0045005,    ///< 16: signed 16-bit, low byte first
 };
 
+/// The block in bytes that suits a frame rate: one sample more than a frame lasts. A bar of three seconds
+/// then takes 90 calls at 30 frames a second and 180 at 60, its last block being short, and picture and sound
+/// stay together. Exactly a frame would add an empty call to every bar.
+constexpr std::int32_t DSP_blockBytes(std::int32_t framesPerSecond) {
+    constexpr std::int32_t samplesPerSecond = 44100;
+    return 2 * (samplesPerSecond / framesPerSecond + 1);
+}
+
 /// Opens the device for writing and gives its descriptor, or a negative number.
 std::int32_t DSP_open(const char* path);
 

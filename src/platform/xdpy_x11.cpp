@@ -4,15 +4,9 @@
 #include "platform/x11_display.h"
 #include "platform/x11_pixels.h"
 
-#include <X11/Xutil.h>
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <unistd.h>
 
 namespace velm {
-
-X11_DISPLAY x11Display{};
 
 namespace {
 
@@ -21,114 +15,38 @@ constexpr unsigned int borderWidth = 2;
 constexpr unsigned long borderColour = 0xFFFFFF;
 constexpr unsigned long backgroundColour = 0x0080FF;
 
-/// While set, protocol errors are expected and only counted.
-bool errorsAreExpected = false;
-
-int onError(::Display*, XErrorEvent* error) {
-    const bool ours = x11Display.window != 0 && error->resourceid == x11Display.window;
-    if (!errorsAreExpected && ours && (error->error_code == BadWindow || error->error_code == BadDrawable)) {
-        x11GiveUp("the window is gone", "closed by another program");
-    }
-    XDPY_error();
-    return 0;
-}
-
-[[noreturn]] int onConnectionLost(::Display*) {
-    x11GiveUp("lost the display", XDisplayName(nullptr));
-}
-
-void connect() {
-    if (x11Display.connection != nullptr) {
-        return;
-    }
-    x11Display.connection = XOpenDisplay(nullptr);
-    if (x11Display.connection == nullptr) {
-        x11GiveUp("cannot open display", XDisplayName(nullptr));
-    }
-    XSetErrorHandler(onError);
-    XSetIOErrorHandler(onConnectionLost);
-    x11Display.root = DefaultRootWindow(x11Display.connection);
-    x11Display.screen = DefaultScreen(x11Display.connection);
-    x11Display.graphics = DefaultGC(x11Display.connection, x11Display.screen);
-    // Without masks for the channels there is no place in a pixel for a colour of ours.
-    const Visual* const visual = DefaultVisual(x11Display.connection, x11Display.screen);
-    if (visual->red_mask == 0 || visual->green_mask == 0 || visual->blue_mask == 0) {
-        x11GiveUp("needs a TrueColor display, unlike", XDisplayName(nullptr));
-    }
-}
+/// nullptr until the first presentation, then kept for the life of the program.
+XImage* frameImage = nullptr;
 
 std::uint32_t rootDepth() {
     return static_cast<std::uint32_t>(DefaultDepth(x11Display.connection, 0));
 }
 
-/// Asks that the close button sends us a message, where it would otherwise cut the connection.
-void receiveClose() {
-    x11Display.protocols = XInternAtom(x11Display.connection, "WM_PROTOCOLS", False);
-    x11Display.deleteWindow = XInternAtom(x11Display.connection, "WM_DELETE_WINDOW", False);
-    XSetWMProtocols(x11Display.connection, x11Display.window, &x11Display.deleteWindow, 1);
-}
-
-bool isViewable() {
-    XWindowAttributes attributes{};
-    return XGetWindowAttributes(x11Display.connection, x11Display.window, &attributes) != 0 &&
-           attributes.map_state == IsViewable;
-}
-
-/// Gives a window manager a moment to map the window, so that the start-up picture is seen; without one the
-/// window is there at once.
-void waitForWindowManager() {
-    constexpr int tries = 100;
-    constexpr useconds_t pause = 1000;
-    for (int i = 0; i < tries && !isViewable(); ++i) {
-        usleep(pause);
-    }
-}
-
 /// An image of the window's size: what the server shows, or an empty one where it cannot tell (a window that
 /// is partly off the screen).
 XImage* makeImage(const XDPY* display) {
-    errorsAreExpected = true;
-    XImage* image = XGetImage(x11Display.connection, x11Display.window, 0, 0, display->width, display->height,
-                              AllPlanes, ZPixmap);
-    errorsAreExpected = false;
-    if (image != nullptr) {
-        return image;
+    XImage* image = nullptr;
+    {
+        const X11ErrorTrap trap;
+        image = XGetImage(x11Display.connection, x11Display.window, 0, 0, display->width, display->height,
+                          AllPlanes, ZPixmap);
     }
-    const auto depth = static_cast<unsigned int>(DefaultDepth(x11Display.connection, x11Display.screen));
-    image = XCreateImage(x11Display.connection, DefaultVisual(x11Display.connection, x11Display.screen),
-                         depth, ZPixmap, 0, nullptr, display->width, display->height,
-                         BitmapPad(x11Display.connection), 0);
-    if (image == nullptr) {
-        return nullptr;
-    }
-    image->data = allocateArray<char>(std::int64_t{image->bytes_per_line} * image->height);
-    if (image->data == nullptr) {
-        XDestroyImage(image);
-        return nullptr;
-    }
-    return image;
+    return image != nullptr ? image
+                            : x11NewImage(static_cast<std::int32_t>(display->width),
+                                          static_cast<std::int32_t>(display->height));
 }
 
 bool haveImage(const XDPY* display) {
-    if (x11Display.image == nullptr) {
-        x11Display.image = makeImage(display);
+    if (frameImage == nullptr) {
+        frameImage = makeImage(display);
     }
-    return x11Display.image != nullptr;
+    return frameImage != nullptr;
 }
 
 } // namespace
 
-void x11GiveUp(const char* what, const char* detail) {
-    std::fprintf(stderr, "velm4030: %s \"%s\"\n", what, detail);
-    std::exit(1);
-}
-
-void x11RequireWindow() {
-    isViewable();
-}
-
 XDPY* XDPY_open() {
-    connect();
+    x11Connect("velm4030");
     XDPY* const display = allocateRecord<XDPY>();
     XDPY_current = display;
     if (display == nullptr) {
@@ -144,7 +62,7 @@ XDPY* XDPY_open() {
     display->width = windowSize;
     display->height = windowSize;
     display->depth = rootDepth();
-    receiveClose();
+    x11ReceiveClose();
     XFlush(x11Display.connection);
     XMapWindow(x11Display.connection, x11Display.window);
     XRaiseWindow(x11Display.connection, x11Display.window);
@@ -154,20 +72,28 @@ XDPY* XDPY_open() {
     XDPY_resize(display, windowSize, windowSize);
     XStoreName(x11Display.connection, x11Display.window, "VELM4030");
     XFlush(x11Display.connection);
-    waitForWindowManager();
+    x11WaitForWindowManager();
     return display;
 }
 
-bool XDPY_isOpen() {
-    return x11Display.connection != nullptr && x11Display.window != 0;
+void XDPY_selectInput() {
+    static_assert(x11InputEvents == 0x204F);
+    if (XDPY_isOpen()) {
+        XSelectInput(x11Display.connection, x11Display.window, x11InputEvents);
+    }
 }
 
-void XDPY_selectInput() {
-    constexpr long mask = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
-                          PointerMotionMask | ButtonMotionMask;
-    static_assert(mask == 0x204F);
-    if (XDPY_isOpen()) {
-        XSelectInput(x11Display.connection, x11Display.window, mask);
+void x11ToPicture(std::int32_t&, std::int32_t&) {}
+
+void x11AfterPoll(bool tookKey) {
+    // A paused demo polls and does nothing else, so nobody else would notice that the window is gone.
+    constexpr std::int32_t pollsBetweenLooks = 4096;
+    static std::int32_t idlePolls = 0;
+    idlePolls = tookKey ? 0 : idlePolls + 1;
+    if (idlePolls >= pollsBetweenLooks) {
+        idlePolls = 0;
+        XWindowAttributes attributes{};
+        x11IsViewable(attributes);
     }
 }
 
@@ -192,7 +118,8 @@ void XDPY_present(XDPY* display, const IMG* img) {
         return;
     }
     XDPY_dumpFrame(img);
-    if (!isViewable()) {
+    XWindowAttributes attributes{};
+    if (!x11IsViewable(attributes)) {
         return;
     }
     if (!haveImage(display)) {
@@ -200,7 +127,7 @@ void XDPY_present(XDPY* display, const IMG* img) {
         return;
     }
     XFlush(x11Display.connection);
-    XImage* const image = x11Display.image;
+    XImage* const image = frameImage;
     x11CopyPixels(*img, *image);
     // A window that grew since shows the part that the first image can hold.
     const auto width = static_cast<unsigned int>(std::min(img->width, image->width));

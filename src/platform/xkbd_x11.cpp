@@ -21,17 +21,6 @@ bool takeClose() {
            static_cast<Atom>(event.xclient.data.l[0]) == x11Display.deleteWindow;
 }
 
-/// A paused demo polls and does nothing else, so nobody else would notice that the window is gone.
-void watchWindowWhileIdle(bool tookKey) {
-    constexpr std::int32_t pollsBetweenLooks = 4096;
-    static std::int32_t idlePolls = 0;
-    idlePolls = tookKey ? 0 : idlePolls + 1;
-    if (idlePolls >= pollsBetweenLooks) {
-        idlePolls = 0;
-        x11RequireWindow();
-    }
-}
-
 } // namespace
 
 void XKBD_poll(XKBD* keyboard) {
@@ -53,7 +42,7 @@ void XKBD_poll(XKBD* keyboard) {
         XLookupString(&event.xkey, keyboard->text, lookedUpBytes, nullptr, nullptr);
         keyboard->keycode = static_cast<std::int32_t>(event.xkey.keycode);
     }
-    watchWindowWhileIdle(taken);
+    x11AfterPoll(taken);
 }
 
 } // namespace velm

@@ -39,6 +39,12 @@ bool isUsable(const XPTR* pointer) {
     return true;
 }
 
+void place(XPTR* pointer, int windowX, int windowY) {
+    pointer->x = windowX;
+    pointer->y = windowY;
+    x11ToPicture(pointer->x, pointer->y);
+}
+
 /// Sets or clears a button's bit. The state is that before the event, so a button that was held is being let
 /// go.
 void applyButton(XPTR* pointer, const XButtonEvent& event) {
@@ -78,8 +84,7 @@ void XPTR_poll(XPTR* pointer) {
     // XPTR_firstMotionWins: one expects the latest position; the frame's first motion is taken and XPTR_flush
     // drops the rest, so a fast pointer trails behind.
     if (XCheckWindowEvent(x11Display.connection, x11Display.window, PointerMotionMask, &event) != 0) {
-        pointer->x = event.xmotion.x;
-        pointer->y = event.xmotion.y;
+        place(pointer, event.xmotion.x, event.xmotion.y);
     }
     if (XCheckWindowEvent(x11Display.connection, x11Display.window, ButtonPressMask | ButtonReleaseMask,
                           &event) != 0) {
@@ -101,8 +106,7 @@ void XPTR_query(XPTR* pointer) {
     unsigned int state = 0;
     if (XQueryPointer(x11Display.connection, x11Display.window, &root, &child, &rootX, &rootY, &x, &y,
                       &state) != 0) {
-        pointer->x = x;
-        pointer->y = y;
+        place(pointer, x, y);
         for (unsigned int button = 0; button < std::size(buttonMasks); ++button) {
             const std::int32_t bit = 1 << button;
             const bool held = (state & buttonMasks[button]) != 0;

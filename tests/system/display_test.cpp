@@ -32,21 +32,6 @@ XServer& server() {
     return one;
 }
 
-/// What the server must hold for a pixel of ours.
-unsigned long expectedOnScreen(std::uint32_t pixel) {
-    const unsigned long red = (pixel >> 16) & 255;
-    const unsigned long green = (pixel >> 8) & 255;
-    const unsigned long blue = pixel & 255;
-    if (testDepth() == "16") {
-        return (red >> 3) << 11 | (green >> 2) << 5 | blue >> 3;
-    }
-    if (testDepth() == "30") {
-        const auto widened = [](unsigned long value) { return value << 2 | value >> 6; };
-        return widened(red) << 20 | widened(green) << 10 | widened(blue);
-    }
-    return pixel;
-}
-
 class DisplayTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -72,7 +57,7 @@ protected:
         for (std::size_t i = 0; i < pixels.size(); ++i) {
             const std::int32_t column = x + static_cast<std::int32_t>(i % width);
             const std::int32_t row = y + static_cast<std::int32_t>(i / width);
-            if (pixels[i] != expectedOnScreen(IMG_getPixel(frame, column, row))) {
+            if (pixels[i] != onScreen(testDepth(), IMG_getPixel(frame, column, row))) {
                 return "pixel " + std::to_string(column) + ", " + std::to_string(row);
             }
         }

@@ -45,6 +45,24 @@ int openDisplayPipe() {
     return ends[0];
 }
 
+std::vector<std::string> serverCommand(const std::string& depth, const std::string& size,
+                                       const std::vector<std::string>& more) {
+    std::vector<std::string> command = {"Xvfb",      "-displayfd", std::to_string(displayPipe),
+                                        "-screen",   "0",          size + "x" + depth,
+                                        "-nolisten", "tcp",        "-noreset"};
+    command.insert(command.end(), more.begin(), more.end());
+    return command;
+}
+
+double processorSecondsOf(pid_t pid) {
+    // The 14th and 15th word count ticks; the second, the name in brackets, has no blank in it here.
+    std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
+    const std::vector<std::string> words{std::istream_iterator<std::string>(file), {}};
+    return words.size() < 15
+               ? 0
+               : (std::stod(words[13]) + std::stod(words[14])) / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
 } // namespace
 
 Child::Child(const std::vector<std::string>& arguments, const Environment& environment)
@@ -104,15 +122,23 @@ void Child::signal(int number) const {
     kill(pid, number);
 }
 
+double Child::processorSeconds() const {
+    double seconds = processorSecondsOf(pid);
+    const std::string id = std::to_string(pid);
+    std::ifstream children("/proc/" + id + "/task/" + id + "/children");
+    for (pid_t child = 0; children >> child;) {
+        seconds += processorSecondsOf(child);
+    }
+    return seconds;
+}
+
 std::string Child::contents(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-XServer::XServer(const std::string& depth)
-    : readEnd(openDisplayPipe()), child({"Xvfb", "-displayfd", std::to_string(displayPipe), "-screen", "0",
-                                         "640x480x" + depth, "-nolisten", "tcp", "-noreset"},
-                                        {}) {
+XServer::XServer(const std::string& depth, const std::string& size, const std::vector<std::string>& more)
+    : readEnd(openDisplayPipe()), child(serverCommand(depth, size, more), {}) {
     close(displayPipe);
     char digit = 0;
     while (read(readEnd, &digit, 1) == 1 && digit != '\n') {

@@ -35,6 +35,8 @@ public:
     [[nodiscard]] std::string errors() const { return contents(errorPath); }
     /// The most resident memory that it had when it was last seen running.
     [[nodiscard]] long peakKilobytes() const { return peak; }
+    /// The processor time that it and its own children that still run have used, in seconds.
+    [[nodiscard]] double processorSeconds() const;
     [[nodiscard]] pid_t id() const { return pid; }
 
 private:
@@ -48,10 +50,11 @@ private:
     std::string errorPath;
 };
 
-/// A private Xvfb with one screen of 640 x 480.
+/// A private Xvfb with one screen.
 class XServer {
 public:
-    explicit XServer(const std::string& depth);
+    explicit XServer(const std::string& depth, const std::string& size = "640x480",
+                     const std::vector<std::string>& more = {});
 
     [[nodiscard]] const std::string& display() const { return name; }
     void end() { child.signal(15); }

@@ -22,21 +22,36 @@ Session::~Session() {
 }
 
 ::Window Session::findDemo() const {
+    return findBelow(DefaultRootWindow(connection));
+}
+
+::Window Session::findBelow(::Window parent) const {
     ::Window root = 0;
-    ::Window parent = 0;
+    ::Window grandparent = 0;
     ::Window* children = nullptr;
     unsigned int count = 0;
     ::Window found = 0;
-    XQueryTree(connection, DefaultRootWindow(connection), &root, &parent, &children, &count);
+    XQueryTree(connection, parent, &root, &grandparent, &children, &count);
     for (unsigned int i = 0; i < count && found == 0; ++i) {
         char* title = nullptr;
         if (XFetchName(connection, children[i], &title) != 0) {
             found = std::string(title) == "VELM4030" ? children[i] : 0;
             XFree(title);
         }
+        found = found == 0 ? findBelow(children[i]) : found;
     }
     XFree(children);
     return found;
+}
+
+Session::Place Session::placeOf(::Window window) const {
+    XWindowAttributes attributes{};
+    XGetWindowAttributes(connection, window, &attributes);
+    Place place{0, 0, attributes.width, attributes.height};
+    ::Window child = 0;
+    XTranslateCoordinates(connection, window, DefaultRootWindow(connection), 0, 0, &place.x, &place.y,
+                          &child);
+    return place;
 }
 
 std::vector<unsigned long> Session::screen(int x, int y, unsigned int width, unsigned int height) const {
@@ -95,6 +110,20 @@ bool Session::cursorIsVisible() const {
                                      [](unsigned long pixel) { return (pixel >> 24) != 0; });
     XFree(image);
     return visible;
+}
+
+unsigned long onScreen(const std::string& depth, std::uint32_t pixel) {
+    const unsigned long red = (pixel >> 16) & 255;
+    const unsigned long green = (pixel >> 8) & 255;
+    const unsigned long blue = pixel & 255;
+    if (depth == "16") {
+        return (red >> 3) << 11 | (green >> 2) << 5 | blue >> 3;
+    }
+    if (depth == "30") {
+        const auto widened = [](unsigned long value) { return value << 2 | value >> 6; };
+        return widened(red) << 20 | widened(green) << 10 | widened(blue);
+    }
+    return pixel;
 }
 
 } // namespace velm::test

@@ -27,7 +27,7 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// The window titled "VELM4030", or 0.
+    /// The window titled "VELM4030", whatever a window manager put around it, or 0.
     [[nodiscard]] ::Window findDemo() const;
 
     /// The pixels of the screen from (x, y) on, as the server holds them, row by row.
@@ -46,12 +46,25 @@ public:
     /// True when the cursor that the server shows has a visible pixel.
     [[nodiscard]] bool cursorIsVisible() const;
 
+    /// Where the demo's window is on the screen.
+    struct Place {
+        int x, y, width, height;
+        bool operator==(const Place&) const = default;
+    };
+    [[nodiscard]] Place placeOf(::Window window) const;
+
+    /// Any command of the tool that presses the keys: "windowsize", the window, a width, a height.
+    void xdotool(std::vector<std::string> arguments) const;
+
     ::Display* connection;
 
 private:
-    void xdotool(std::vector<std::string> arguments) const;
+    [[nodiscard]] ::Window findBelow(::Window parent) const;
 
     std::string name;
 };
+
+/// What a server of that depth must hold for a pixel of ours.
+unsigned long onScreen(const std::string& depth, std::uint32_t pixel);
 
 } // namespace velm::test

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Preloaded into the demo: writes a line to the file that VELM_SPY names for every picture sent to the
-// server, the largest of its pixels in hexadecimal and the milliseconds since the process began.
+// server, the largest of its pixels (of 32 bits) in hexadecimal and the milliseconds since the process began.
 #include <X11/Xlib.h>
 #include <algorithm>
 #include <cstdint>
@@ -27,19 +27,37 @@ double processMilliseconds() {
 /// Starts the clock when the library is loaded.
 const double loaded = processMilliseconds();
 
+void note(const XImage* image, unsigned int width, unsigned int height) {
+    static std::FILE* const log = std::fopen(std::getenv("VELM_SPY"), "a");
+    // Xlib sends the pixel of an invisible cursor this way, too.
+    if (width * height <= 1) {
+        return;
+    }
+    std::uint32_t brightest = 0;
+    if (image->bits_per_pixel == 32) {
+        const auto* const pixels = reinterpret_cast<const std::uint32_t*>(image->data);
+        brightest = *std::max_element(pixels, pixels + width * height);
+    }
+    std::fprintf(log, "%06x %.1f\n", brightest, processMilliseconds() - loaded);
+    std::fflush(log);
+}
+
 } // namespace
 
 extern "C" int XPutImage(Display* display, Drawable drawable, GC graphics, XImage* image, int srcX, int srcY,
                          int dstX, int dstY, unsigned int width, unsigned int height) {
     using Put = int (*)(Display*, Drawable, GC, XImage*, int, int, int, int, unsigned int, unsigned int);
     static const auto put = reinterpret_cast<Put>(dlsym(RTLD_NEXT, "XPutImage"));
-    static std::FILE* const log = std::fopen(std::getenv("VELM_SPY"), "a");
-    // Xlib sends the pixel of an invisible cursor this way, too; frames have 32 bits.
-    if (image->bits_per_pixel == 32) {
-        const auto* const pixels = reinterpret_cast<const std::uint32_t*>(image->data);
-        std::fprintf(log, "%06x %.1f\n", *std::max_element(pixels, pixels + width * height),
-                     processMilliseconds() - loaded);
-        std::fflush(log);
-    }
+    note(image, width, height);
     return put(display, drawable, graphics, image, srcX, srcY, dstX, dstY, width, height);
+}
+
+extern "C" Bool XShmPutImage(Display* display, Drawable drawable, GC graphics, XImage* image, int srcX,
+                             int srcY, int dstX, int dstY, unsigned int width, unsigned int height,
+                             Bool sendEvent) {
+    using Put =
+        Bool (*)(Display*, Drawable, GC, XImage*, int, int, int, int, unsigned int, unsigned int, Bool);
+    static const auto put = reinterpret_cast<Put>(dlsym(RTLD_NEXT, "XShmPutImage"));
+    note(image, width, height);
+    return put(display, drawable, graphics, image, srcX, srcY, dstX, dstY, width, height, sendEvent);
 }

@@ -49,7 +49,5 @@ int main(int argc, char** argv) {
     std::atexit(finishRecording);
     VELM4030_init();
     demo.fps->targetRate = options.rate;
-    for (;;) {
-        options.scene != nullptr ? options.scene->run() : VELM4030_runSchedule();
-    }
+    SCENE_runForEver(options.scene);
 }

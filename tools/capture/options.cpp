@@ -2,22 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "capture/options.h"
 
+#include "common/arguments.h"
+#include "platform/dsp.h"
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
-#include <optional>
 
 namespace velm {
 
 namespace {
 
-constexpr int statusWrongArgument = 2;
 constexpr std::int32_t noKeycode = 1; ///< any keycode that stands for no arrow
-
-/// One sample more than a frame lasts: a bar of three seconds then takes 90 or 180 calls, its last block
-/// being short, and picture and sound stay together. Exactly a frame would add an empty call to every bar.
-constexpr std::int32_t blockAt30 = 2942;
-constexpr std::int32_t blockAt60 = 1472;
 
 std::vector<std::string> split(const std::string& text, char separator) {
     std::vector<std::string> parts;
@@ -30,14 +25,6 @@ std::vector<std::string> split(const std::string& text, char separator) {
         }
         begin = end + 1;
     }
-}
-
-template <typename Number>
-std::optional<Number> numberOf(const std::string& text) {
-    Number number{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool whole = error == std::errc() && end == text.data() + text.size() && !text.empty();
-    return whole ? std::optional(number) : std::nullopt;
 }
 
 std::optional<HeadlessKey> keyOf(const std::string& name) {
@@ -96,14 +83,6 @@ std::string parsePointers(const std::string& text, std::vector<HeadlessPointer>&
     return "";
 }
 
-std::string sceneNames() {
-    std::string names;
-    for (const SCENE& scene : SCENE_all()) {
-        names += (names.empty() ? "" : ", ") + std::string(scene.name);
-    }
-    return names;
-}
-
 /// Refuses two outputs on one file or stream, and on a stream what must be written from its start again.
 void requireApart(const CaptureOptions& options) {
     std::vector<std::string> outputs = {options.raw, options.crc, options.audio, options.film,
@@ -128,19 +107,13 @@ CaptureOptions parseOptions(int argc, char** argv) {
     std::string pointers;
     CLI::App app("The VELM4030 demo without a screen, in virtual time, as fast as the machine goes.");
     app.set_version_flag("--version", "velm4030-capture " VELM_VERSION);
-    app.add_option("--frames", options.frames, "how many presentations, the start-up logo included")
-        ->required()
-        ->check([](const std::string& text) {
-            return numberOf<std::uint32_t>(text).value_or(0) > 0 ? ""
-                                                                 : "not a number of frames: '" + text + "'";
-        });
-    app.add_option("--scene", scene, "this scene again and again instead of the schedule: " + sceneNames())
-        ->check([&options](const std::string& name) {
-            options.scene = SCENE_find(name);
-            return options.scene == nullptr ? "no such scene: '" + name + "'; there are " + sceneNames() : "";
-        });
-    app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60")
-        ->check(CLI::IsMember({30, 60}));
+    takeFrames(
+        *app.add_option("--frames", options.frames, "how many presentations, the start-up logo included")
+             ->required());
+    takeScene(*app.add_option("--scene", scene,
+                              "this scene again and again instead of the schedule: " + sceneNames()),
+              options.scene);
+    takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60"));
     app.add_option("--keys", keys,
                    "FRAME:KEY,... presses a key (a character, esc, space, up, down) after a frame")
         ->check([&options](const std::string& text) { return parseKeys(text, options.keys); });
@@ -157,17 +130,9 @@ CaptureOptions parseOptions(int argc, char** argv) {
     app.add_option("--scale", options.scale, "enlargement of the film, without smoothing")
         ->check(CLI::Range(1, 16));
     app.add_flag("--quiet", options.quiet, "no progress line");
-    try {
-        app.parse(argc, argv);
-        requireApart(options);
-    } catch (const CLI::Success& success) {
-        std::exit(app.exit(success));
-    } catch (const CLI::ParseError& error) {
-        std::fprintf(stderr, "velm4030-capture: %s\n", error.what());
-        std::exit(statusWrongArgument);
-    }
+    parseOrLeave(app, "velm4030-capture", argc, argv, [&options] { requireApart(options); });
     if (options.block == 0) {
-        options.block = options.rate == 60 ? blockAt60 : blockAt30;
+        options.block = DSP_blockBytes(options.rate);
     }
     return options;
 }

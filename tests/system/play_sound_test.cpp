@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The player on a real sound server: through libasound, through the stand-in for "/dev/dsp", and through the
+// server's death.
+#include "sound_server.h"
+
+#include <csignal>
+
+namespace velm::test {
+namespace {
+
+class PlaySoundTest : public SoundServer {
+protected:
+    /// A null sink that nobody has listened to sleeps for up to two seconds at a time; a recording shows that
+    /// it has woken up.
+    void waitForRecorder() {
+        ASSERT_TRUE(eventually([this] { return recorded().size() > 5 * samplesPerSecond / 2; }));
+    }
+
+    [[nodiscard]] bool isPictureMoving() const {
+        const auto picture = [this] { return session.screen(192, 112, 256, 256); };
+        const auto before = picture();
+        return eventually([&] { return picture() != before; }, 2);
+    }
+};
+
+TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
+    waitForRecorder();
+    Child player({VELM_PLAYER, "--scale", "1", "--frames", "220"}, withDisplay());
+    ASSERT_EQ(player.waitForExit(60), 0) << player.errors();
+    EXPECT_EQ(player.output(), "sound: alsa\n");
+    EXPECT_EQ(player.errors(), "");
+    const Sound heard = recorded();
+    const Sound expected = captured(200); // the end of the sound goes down with the program
+    constexpr std::size_t pieceLength = samplesPerSecond / 10;
+    std::size_t pieces = 0;
+    std::size_t found = 0;
+    std::size_t from = 0;
+    for (std::size_t at = 0; at + pieceLength <= expected.size(); at += pieceLength) {
+        const auto piece = expected.begin() + static_cast<std::ptrdiff_t>(at);
+        ++pieces;
+        const std::size_t place = find(heard, {piece, piece + pieceLength}, from);
+        if (place != heard.size()) {
+            ++found;
+            from = place + pieceLength;
+        }
+    }
+    ASSERT_GT(pieces, 50U);
+    // A machine under load may let the server miss a beat.
+    EXPECT_GE(found, pieces - pieces / 10);
+
+    // The same through the other driver, at half the volume.
+    Child half({VELM_PLAYER, "--scale", "1", "--volume", "50", "--sound", "oss"}, withDevice());
+    Sound stretch = loudestWindow(captured(60));
+    for (std::int16_t& value : stretch) {
+        value /= 2;
+    }
+    EXPECT_TRUE(eventually([&] { return contains(recorded(), stretch, heard.size()); })) << half.errors();
+    EXPECT_EQ(half.output(), "sound: oss\n");
+}
+
+TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundReturns) {
+    waitForRecorder();
+    constexpr int movesToSee = 30; // a second's
+    Child player({VELM_PLAYER, "--scale", "1"}, withDisplay());
+    ASSERT_TRUE(eventually([this] { return !isSilent(recorded()); }, 40)) << player.errors();
+    pulseaudio->signal(SIGSTOP);
+    for (int i = 0; i < movesToSee; ++i) {
+        EXPECT_TRUE(isPictureMoving()) << "while the server hangs";
+    }
+    pulseaudio->signal(SIGKILL);
+    for (int i = 0; i < movesToSee; ++i) {
+        EXPECT_TRUE(isPictureMoving()) << "after the server's death";
+    }
+    startServer();
+    EXPECT_TRUE(eventually([this] { return !isSilent(recorded()); })) << "the sound returns";
+    session.movePointer(320, 240);
+    session.press("Escape");
+    EXPECT_EQ(player.waitForExit(), 0);
+    EXPECT_EQ(player.errors(), "");
+    EXPECT_EQ(player.output(), "sound: alsa\n");
+}
+
+TEST_F(PlaySoundTest, WithoutADeviceItSaysSoAndPlaysOn) {
+    pulseaudio->signal(SIGKILL);
+    Child player({VELM_PLAYER, "--scale", "1", "--sound", "oss", "--frames", "50"}, withDisplay());
+    EXPECT_EQ(player.waitForExit(), 0);
+    EXPECT_EQ(player.output(), "sound: none (no oss device)\n");
+    EXPECT_EQ(player.errors(), "");
+}
+
+} // namespace
+} // namespace velm::test

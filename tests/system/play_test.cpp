@@ -1,0 +1,348 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The player on real X servers of several kinds, with a real window manager and without one. A pause freezes
+// the picture, so a screenshot can be looked up among the frames of a capture.
+#include "demo/assets.h"
+#include "demo/scenes.h"
+#include "image/img.h"
+#include "process.h"
+#include "x11_session.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <memory>
+
+namespace velm::test {
+namespace {
+
+constexpr int pictureSize = 256;
+constexpr std::size_t framePixels = std::size_t{pictureSize} * pictureSize;
+constexpr std::ptrdiff_t startFrames = 33; ///< the logo and its fading out; the last ones are all black
+
+using Frame = std::vector<std::uint32_t>;
+
+std::string temporaryFile() {
+    std::string path = std::filesystem::temp_directory_path() / "velm-play-XXXXXX";
+    close(mkstemp(path.data()));
+    return path;
+}
+
+std::string contents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// The demo's first frames, from the capture tool.
+const std::vector<Frame>& captured() {
+    static const std::vector<Frame> all = [] {
+        const std::string path = temporaryFile();
+        EXPECT_EQ(runTool({VELM_CAPTURE, "--frames", "400", "--quiet", "--raw", path}, {}), 0);
+        const std::string raw = contents(path);
+        std::filesystem::remove(path);
+        std::vector<Frame> frames(raw.size() / (4 * framePixels), Frame(framePixels));
+        for (std::size_t i = 0; i < frames.size(); ++i) {
+            std::memcpy(frames[i].data(), &raw[i * 4 * framePixels], 4 * framePixels);
+        }
+        return frames;
+    }();
+    return all;
+}
+
+/// A player on a server, and what a viewer sees of it.
+class Stage {
+public:
+    Stage(std::string serverDepth, const std::string& size, const std::vector<std::string>& serverArguments,
+          const std::string& host = "")
+        : depth(std::move(serverDepth)), server(depth, size, serverArguments),
+          session(host + server.display()) {
+        // The pointer rests where windows get the keyboard. It does not move, so the demo leaves it in its
+        // corner.
+        session.movePointer(320, 240);
+    }
+    ~Stage() { std::filesystem::remove(spyLog); }
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    void play(std::vector<std::string> arguments, const std::string& host = "") {
+        std::ofstream(spyLog, std::ios::trunc);
+        arguments.insert(arguments.begin(), {VELM_PLAYER, "--sound", "none"});
+        player =
+            std::make_unique<Child>(arguments, Environment{{"DISPLAY", host + server.display()},
+                                                           {"LD_PRELOAD", VELM_X11_SPY},
+                                                           {"VELM_SPY", spyLog},
+                                                           {"ASAN_OPTIONS", "verify_asan_link_order=0"}});
+        ASSERT_TRUE(eventually([this] { return puts() > startFrames + 3; }, 60)) << player->errors();
+        window = session.findDemo();
+        ASSERT_NE(window, 0U);
+    }
+
+    /// Pictures sent so far.
+    [[nodiscard]] std::ptrdiff_t puts() const {
+        const std::string log = contents(spyLog);
+        return std::count(log.begin(), log.end(), '\n');
+    }
+
+    void pause() {
+        session.press("p");
+        ASSERT_TRUE(eventually([this] {
+            const std::ptrdiff_t before = puts();
+            return std::system("sleep 0.2") == 0 && puts() == before;
+        }));
+    }
+
+    /// The number of the captured frame that the window shows at `scale` from (left, top) on, black around; 0
+    /// for none.
+    [[nodiscard]] std::size_t shown(int scale, int left, int top) const {
+        const Session::Place place = session.placeOf(window);
+        const auto pixels = session.screen(place.x, place.y, static_cast<unsigned int>(place.width),
+                                           static_cast<unsigned int>(place.height));
+        const auto seen = [&](int x, int y) { return pixels[static_cast<std::size_t>(y * place.width + x)]; };
+        const auto matches = [&](const Frame& frame) {
+            for (int y = 0; y < place.height; ++y) {
+                for (int x = 0; x < place.width; ++x) {
+                    const bool inside = x >= left && y >= top && x < left + pictureSize * scale &&
+                                        y < top + pictureSize * scale;
+                    const std::size_t at =
+                        inside
+                            ? static_cast<std::size_t>((y - top) / scale * pictureSize + (x - left) / scale)
+                            : 0;
+                    if (seen(x, y) != (inside ? onScreen(depth, frame[at]) : 0)) {
+                        return false;
+                    }
+                }
+            }
+            return true;
+        };
+        const auto& frames = captured();
+        const auto found = std::find_if(frames.begin() + startFrames, frames.end(), matches);
+        return found == frames.end() ? 0 : static_cast<std::size_t>(found - frames.begin()) + 1;
+    }
+
+    /// Waits for the server: it reads the player's connection and the viewer's in the order that it likes.
+    void expectShown(int scale, int left, int top) const {
+        EXPECT_TRUE(eventually([&] { return shown(scale, left, top) != 0; }, 5)) << "not a frame of the demo";
+    }
+
+    std::string depth;
+    XServer server;
+    Session session;
+    std::string spyLog = temporaryFile();
+    std::unique_ptr<Child> player;
+    ::Window window = 0;
+};
+
+/// How a picture may get to the server.
+struct Way {
+    const char* name;
+    std::vector<std::string> serverArguments;
+    const char* host; ///< a connection by TCP is told of shared memory, and refused it
+    bool announced;
+    bool shared;
+};
+
+class PlayFrames : public testing::TestWithParam<const char*> {};
+
+TEST_P(PlayFrames, AreTheDemosBitForBitOnEveryWayToTheServer) {
+    const Way ways[] = {{"shared", {}, "", true, true},
+                        {"without", {"-extension", "MIT-SHM"}, "", false, false},
+                        {"refused", {"-listen", "tcp", "-ac"}, "127.0.0.1", true, false}};
+    for (const Way& way : ways) {
+        SCOPED_TRACE(way.name);
+        Stage stage(GetParam(), "640x600", way.serverArguments, way.host);
+        int code = 0;
+        EXPECT_EQ(XQueryExtension(stage.session.connection, "MIT-SHM", &code, &code, &code) != 0,
+                  way.announced);
+        stage.play({"--scale", "2"}, way.host);
+        const std::string maps = contents("/proc/" + std::to_string(stage.player->id()) + "/maps");
+        EXPECT_EQ(maps.find("/SYSV") != std::string::npos, way.shared);
+        stage.pause();
+        stage.expectShown(2, 0, 0);
+        const std::size_t first = stage.shown(2, 0, 0);
+        EXPECT_EQ(first, static_cast<std::size_t>(stage.puts())) << "the frame of the same number";
+        stage.session.press("p");
+        ASSERT_TRUE(eventually([&] { return static_cast<std::size_t>(stage.puts()) > first; }));
+        stage.pause();
+        stage.expectShown(2, 0, 0);
+        EXPECT_GT(stage.shown(2, 0, 0), first);
+        stage.session.press("Escape");
+        EXPECT_EQ(stage.player->waitForExit(), 0);
+        EXPECT_EQ(stage.player->errors(), "");
+        EXPECT_EQ(stage.player->output(), "sound: none\n");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Depth, PlayFrames, testing::Values("16", "24", "30"),
+                         [](const auto& depth) { return std::string(depth.param); });
+
+TEST(Play, TheWindowSuitsTheScreenAndCanBeResizedAlsoDuringAPause) {
+    Stage stage("24", "1280x1024", {});
+    stage.play({});
+    stage.pause();
+    EXPECT_EQ(stage.session.placeOf(stage.window), (Session::Place{256, 128, 768, 768}));
+    stage.expectShown(3, 0, 0);
+    const struct {
+        unsigned int width, height;
+        int scale, left, top;
+    } sizes[] = {{1000, 600, 2, 244, 44}, {300, 257, 1, 22, 0}, {520, 1000, 2, 4, 244}};
+    for (const auto& size : sizes) {
+        XMoveResizeWindow(stage.session.connection, stage.window, 0, 0, size.width, size.height);
+        XSync(stage.session.connection, False);
+        SCOPED_TRACE(size.width);
+        stage.expectShown(size.scale, size.left, size.top);
+    }
+    // A cover that goes away leaves nothing of its own.
+    const ::Window cover =
+        XCreateSimpleWindow(stage.session.connection, DefaultRootWindow(stage.session.connection), 50, 300,
+                            200, 200, 0, 0, 0x00FF00);
+    XMapRaised(stage.session.connection, cover);
+    XSync(stage.session.connection, False);
+    XDestroyWindow(stage.session.connection, cover);
+    XSync(stage.session.connection, False);
+    stage.expectShown(2, 4, 244);
+    XDestroyWindow(stage.session.connection, stage.window);
+    XFlush(stage.session.connection);
+    EXPECT_EQ(stage.player->waitForExit(), 1);
+    EXPECT_EQ(stage.player->errors(), "velm4030-play: the window is gone \"closed by another program\"\n");
+}
+
+TEST(Play, ThePointerIsThatOfThePicture) {
+    Stage stage("24", "640x640", {});
+    stage.play({});
+    XResizeWindow(stage.session.connection, stage.window, 600, 640);
+    XMoveWindow(stage.session.connection, stage.window, 0, 0);
+    XSync(stage.session.connection, False);
+    const std::ptrdiff_t resized = stage.puts();
+    ASSERT_TRUE(eventually([&] { return stage.puts() > resized + 2; }));
+    IMG* picture = IMG_fromPNM(assets::pointer.bytes, assets::pointer.size);
+    const auto showsPointerAt = [&](int x, int y) {
+        const auto pixels = stage.session.screen(0, 0, 600, 640);
+        for (int i = 0; i < picture->width * picture->height; ++i) {
+            const int seenX = 44 + 2 * (x + i % picture->width);
+            const int seenY = 64 + 2 * (y + i / picture->width);
+            const bool inside = seenX >= 44 && seenX < 44 + 512 && seenY < 64 + 512;
+            if (picture->pixels[i] != 0 && inside &&
+                pixels[static_cast<std::size_t>(seenY * 600 + seenX)] != picture->pixels[i]) {
+                return false;
+            }
+        }
+        return true;
+    };
+    const int places[][4] = {{44 + 2 * 20, 64 + 2 * 110, 20, 110},
+                             {44 + 2 * 60 + 1, 64 + 2 * 150 + 1, 60, 150},
+                             {44 - 10, 64 + 2 * 100, -5, 100}}; // in the margin, half of it in the picture
+    for (const auto& [x, y, pictureX, pictureY] : places) {
+        stage.session.movePointer(x, y);
+        EXPECT_TRUE(eventually([&, px = pictureX, py = pictureY] { return showsPointerAt(px, py); }, 5))
+            << x << ", " << y;
+    }
+    IMG_delete(&picture);
+}
+
+TEST(Play, AManagerFillsTheScreenHidesResizesAndCloses) {
+    Stage stage("24", "1280x1050", {});
+    const std::string started = temporaryFile();
+    const Child manager({"openbox", "--sm-disable", "--startup", "rm " + started},
+                        {{"DISPLAY", stage.server.display()}});
+    ASSERT_TRUE(eventually([&] { return !std::filesystem::exists(started); }));
+    stage.play({"--fullscreen"});
+    EXPECT_TRUE(eventually([&] {
+        return stage.session.placeOf(stage.window) == Session::Place{0, 0, 1280, 1050};
+    }));
+    // Four times as wide and high, the picture needs less than 15 % of a processor.
+    const double before = stage.player->processorSeconds();
+    const double begin = secondsNow();
+    ASSERT_EQ(std::system("sleep 2"), 0);
+    const double share = (stage.player->processorSeconds() - before) / (secondsNow() - begin);
+    EXPECT_LT(share, VELM_IS_SANITIZED ? 1.0 : 0.15);
+    testing::Test::RecordProperty("processorPercent", static_cast<int>(100 * share));
+    stage.pause();
+    stage.expectShown(4, 128, 13);
+    stage.session.press("Escape");
+    EXPECT_EQ(stage.player->waitForExit(), 0);
+
+    stage.play({"--scale", "2"});
+    const std::string id = std::to_string(stage.window);
+    stage.session.xdotool({"windowsize", "--sync", id, "800", "600"});
+    stage.session.xdotool({"windowminimize", "--sync", id});
+    ASSERT_EQ(std::system("sleep 0.1"), 0);
+    const std::ptrdiff_t hidden = stage.puts();
+    ASSERT_EQ(std::system("sleep 0.3"), 0);
+    EXPECT_EQ(stage.puts(), hidden) << "an iconified window is not drawn";
+    stage.session.xdotool({"windowactivate", "--sync", id});
+    EXPECT_TRUE(eventually([&] { return stage.puts() > hidden; }));
+    stage.pause();
+    stage.expectShown(2, 144, 44);
+    stage.session.press("alt+F4");
+    EXPECT_EQ(stage.player->waitForExit(), 0) << "the close button counts as Escape";
+    EXPECT_EQ(stage.player->errors(), "");
+}
+
+TEST(Play, WithoutAManagerItFillsTheScreenAndHasTheKeyboard) {
+    Stage stage("24", "800x600", {});
+    const ::Window other = XCreateSimpleWindow(
+        stage.session.connection, DefaultRootWindow(stage.session.connection), 0, 0, 10, 10, 0, 0, 0);
+    XMapWindow(stage.session.connection, other);
+    XSetInputFocus(stage.session.connection, other, RevertToPointerRoot, CurrentTime);
+    XSync(stage.session.connection, False);
+    stage.play({"--fullscreen"});
+    EXPECT_EQ(stage.session.placeOf(stage.window), (Session::Place{0, 0, 800, 600}));
+    stage.pause();
+    stage.expectShown(2, 144, 44);
+    stage.session.press("Escape");
+    EXPECT_EQ(stage.player->waitForExit(), 0);
+    ::Window focus = 0;
+    int revert = 0;
+    XGetInputFocus(stage.session.connection, &focus, &revert);
+    EXPECT_EQ(focus, other) << "the keyboard is given back";
+}
+
+TEST(Play, ALostDisplayEndsItWithOneLine) {
+    auto stage = std::make_unique<Stage>("24", "640x480", std::vector<std::string>{});
+    stage->play({"--fullscreen"});
+    XKillClient(stage->session.connection, stage->window);
+    XFlush(stage->session.connection);
+    EXPECT_EQ(stage->player->waitForExit(), 1);
+    EXPECT_EQ(stage->player->errors(),
+              "velm4030-play: lost the display \"" + stage->server.display() + "\"\n");
+    Child missing({VELM_PLAYER}, {{"DISPLAY", ":4095"}});
+    EXPECT_EQ(missing.waitForExit(), 1);
+    EXPECT_EQ(missing.errors(), "velm4030-play: cannot open display \":4095\"\n");
+}
+
+TEST(Play, TakesItsArgumentsAndRefusesWrongOnesWithOneLine) {
+    for (const std::vector<std::string>& wrong :
+         std::vector<std::vector<std::string>>{{"nothing"},
+                                               {"default", "default"},
+                                               {"--scale", "0"},
+                                               {"--scale", "2", "--fullscreen"},
+                                               {"--sound", "loud"},
+                                               {"--volume", "101"},
+                                               {"--rate", "50"},
+                                               {"--frames", "0"},
+                                               {"--unknown"}}) {
+        std::vector<std::string> command = wrong;
+        command.insert(command.begin(), VELM_PLAYER);
+        Child player(command, {});
+        EXPECT_EQ(player.waitForExit(), 2) << wrong.front();
+        const std::string line = player.errors();
+        EXPECT_EQ(line.substr(0, 15), "velm4030-play: ");
+        EXPECT_EQ(line.find('\n'), line.size() - 1) << line;
+    }
+    Child list({VELM_PLAYER, "--list"}, {{"DISPLAY", ""}});
+    EXPECT_EQ(list.waitForExit(), 0);
+    const std::string lines = list.output();
+    EXPECT_EQ(static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n')), SCENE_all().size());
+    const XServer server("24");
+    Child frames({VELM_PLAYER, "--sound", "none", "--frames", "60", "--rate", "60", "interlude-a"},
+                 {{"DISPLAY", server.display()}});
+    EXPECT_EQ(frames.waitForExit(), 0) << frames.errors();
+}
+
+} // namespace
+} // namespace velm::test

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "sound_server.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace velm::test {
+
+namespace {
+
+constexpr std::size_t windowLength = 400;
+
+double energy(const std::int16_t* begin) {
+    double sum = 0;
+    for (std::size_t i = 0; i < windowLength; ++i) {
+        sum += static_cast<double>(begin[i]) * begin[i];
+    }
+    return sum;
+}
+
+} // namespace
+
+Sound readSound(const std::string& path, std::size_t headerBytes) {
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    Sound sound;
+    for (std::size_t i = headerBytes; i + 1 < bytes.size(); i += 2) {
+        sound.push_back(static_cast<std::int16_t>(static_cast<unsigned char>(bytes[i]) |
+                                                  static_cast<unsigned char>(bytes[i + 1]) << 8));
+    }
+    return sound;
+}
+
+Sound loudestWindow(const Sound& sound) {
+    std::size_t best = 0;
+    for (std::size_t at = 0; at + windowLength < sound.size(); at += windowLength / 4) {
+        if (energy(&sound[at]) > energy(&sound[best])) {
+            best = at;
+        }
+    }
+    const auto begin = sound.begin() + static_cast<std::ptrdiff_t>(best);
+    return {begin, begin + windowLength};
+}
+
+bool isSilent(const Sound& sound) {
+    return std::all_of(sound.begin(), sound.end(), [](std::int16_t s) { return s == 0; });
+}
+
+std::size_t find(const Sound& recording, const Sound& stretch, std::size_t from) {
+    constexpr int tolerance = 1;
+    const auto near = [](std::int16_t a, std::int16_t b) { return std::abs(a - b) <= tolerance; };
+    const auto begin = recording.begin() + static_cast<std::ptrdiff_t>(std::min(from, recording.size()));
+    return static_cast<std::size_t>(
+        std::search(begin, recording.end(), stretch.begin(), stretch.end(), near) - recording.begin());
+}
+
+bool contains(const Sound& recording, const Sound& stretch, std::size_t from) {
+    return find(recording, stretch, from) != recording.size();
+}
+
+std::string SoundServer::temporaryFolder() {
+    std::string name = std::filesystem::temp_directory_path() / "velm-sound-XXXXXX";
+    return mkdtemp(name.data());
+}
+
+void SoundServer::SetUp() {
+    startServer();
+}
+
+void SoundServer::startServer() {
+    recorder.reset();
+    pulseaudio.reset();
+    std::filesystem::remove(folder + "/native");
+    pulseaudio = std::make_unique<Child>(
+        std::vector<std::string>{
+            "pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
+            "--load=module-null-sink sink_name=velm rate=44100 format=s16le channels=1",
+            "--load=module-native-protocol-unix auth-anonymous=1 socket=" + folder + "/native"},
+        Environment{{"HOME", folder}, {"XDG_RUNTIME_DIR", folder}});
+    ASSERT_TRUE(eventually([this] { return runTool({"pactl", "info"}, pulse) == 0; }));
+    recorder = std::make_unique<Child>(
+        std::vector<std::string>{"sh", "-c",
+                                 "exec parec --raw -d velm.monitor --rate=44100 --channels=1"
+                                 " --format=s16le --latency-msec=20 > " +
+                                     recording},
+        pulse);
+}
+
+void SoundServer::TearDown() {
+    recorder.reset();
+    std::filesystem::remove_all(folder);
+}
+
+Environment SoundServer::withDisplay() const {
+    Environment environment = pulse;
+    environment.emplace_back("DISPLAY", server.display());
+    environment.emplace_back("ASAN_OPTIONS", "verify_asan_link_order=0");
+    return environment;
+}
+
+Environment SoundServer::withDevice() const {
+    Environment environment = withDisplay();
+    environment.emplace_back("LD_PRELOAD", VELM_PULSE_DSP);
+    return environment;
+}
+
+Sound SoundServer::captured(int frames) const {
+    const std::string wav = folder + "/captured.wav";
+    EXPECT_EQ(runTool({VELM_CAPTURE, "--frames", std::to_string(frames), "--quiet", "--audio", wav}, {}), 0);
+    constexpr std::size_t headerBytes = 44;
+    return readSound(wav, headerBytes);
+}
+
+} // namespace velm::test

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "play/options.h"
+
+#include "common/arguments.h"
+#include "player.h"
+#include "sound_driver.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace velm {
+
+namespace {
+
+void listScenes() {
+    constexpr int nameWidth = 16;
+    for (const SCENE& scene : SCENE_all()) {
+        std::printf("%-*s%s\n", nameWidth, std::string(scene.name).c_str(),
+                    std::string(scene.description).c_str());
+    }
+}
+
+std::vector<std::string> driverNames() {
+    std::vector<std::string> names = {"auto"};
+    for (const SoundDriver& driver : soundDrivers()) {
+        names.emplace_back(driver.name);
+    }
+    names.emplace_back(silentDriver);
+    return names;
+}
+
+} // namespace
+
+PlayOptions parseOptions(int argc, char** argv) {
+    PlayOptions options;
+    std::string scene;
+    bool list = false;
+    std::string sound = "auto";
+    constexpr int mostScale = 16;
+    constexpr int mostVolume = 100;
+    CLI::App app("The VELM4030 demo, enlarged or full screen, with sound through what the desktop has.");
+    app.set_version_flag("--version", std::string(playerName) + " " VELM_VERSION);
+    takeScene(*app.add_option("SCENE", scene, "this scene again and again instead of the schedule"),
+              options.scene);
+    app.add_flag("--list", list, "names the scenes and leaves");
+    CLI::Option* const scale =
+        app.add_option("--scale", options.scale, "enlargement, without smoothing (what suits the screen)")
+            ->check(CLI::Range(1, mostScale));
+    app.add_flag("--fullscreen", options.fullScreen, "fills the screen, in whole multiples")->excludes(scale);
+    app.add_option("--sound", sound, "where the sound goes (auto, the first that answers)")
+        ->check(CLI::IsMember(driverNames()));
+    app.add_option("--volume", options.volume, "of the sound, per cent (100)")
+        ->check(CLI::Range(0, mostVolume));
+    takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
+    takeFrames(*app.add_option("--frames", options.frames, "leaves after so many presentations"));
+    parseOrLeave(app, playerName, argc, argv);
+    if (list) {
+        listScenes();
+        std::exit(0);
+    }
+    options.sound = sound == "auto" ? "" : sound;
+    return options;
+}
+
+} // namespace velm
