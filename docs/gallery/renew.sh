@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The VELM4030 developers
+# SPDX-License-Identifier: MIT
+#
+# docs/gallery/renew.sh [velm4030-capture]: takes the pictures of docs/gallery.md and the README's short film anew.
+# Needs netpbm and ffmpeg, which ./test.sh installs.
+set -euo pipefail
+cd "$(dirname "$0")"
+capture=$(realpath "${1:-../../build/release/velm4030-capture}")
+work=$(mktemp -d)
+trap 'rm -r "$work"' EXIT
+
+# take SCENE FRAME ARGUMENT...: that presentation as SCENE.png.
+take() {
+    rm -rf "$work/frames"
+    "$capture" --quiet --scene "$1" --frames "$2" --ppm "$work/frames" "${@:3}"
+    pnmtopng -compression 9 "$work/frames/$(printf 'frame-%05d.ppm' "$2")" >"$1.png" 2>/dev/null
+}
+
+# A folder for the directory browser to list.
+mkdir "$work/listing"
+touch "$work/listing"/{README,LICENSE,demo.cpp,music.cpp,scenes.cpp,sine.cpp,drum.txt,glow.txt,rays.txt,stars.txt}
+
+take default 1420
+take interlude-a 500
+take interlude-b 300
+(
+    # The pictures go here, the names come from there.
+    here=$PWD
+    cd "$work/listing"
+    "$capture" --quiet --scene extra-1 --frames 260 --ppm "$work/browser" --keys 60:d,80:d,100:d,120:d,140:d,160:d
+    pnmtopng -compression 9 "$work/browser/frame-00260.ppm" >"$here/extra-1.png" 2>/dev/null
+)
+take extra-2 560
+take extra-3 410
+take extra-4 410
+take extra-5 480
+take extra-6 210
+take extra-7 460
+take extra-8 230
+take extra-9 690
+take extra-10 560
+take extra-11 520
+take extra-12 360
+take particles 500
+
+# Six seconds of the schedule at 15 frames a second.
+rm -rf "$work/frames"
+"$capture" --quiet --frames 1080 --ppm "$work/frames"
+ffmpeg -v error -y -framerate 30 -start_number 900 -i "$work/frames/frame-%05d.ppm" \
+    -vf 'fps=15,split[a][b];[a]palettegen=max_colors=64[p];[b][p]paletteuse=dither=none' demo.gif
