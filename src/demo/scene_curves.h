@@ -30,10 +30,20 @@ constexpr std::int32_t curveEase(std::int32_t frame, std::int32_t first, std::in
 }
 
 /// Rises from `first` on, stands at 256 and is 0 again at `last`; each slope takes `slope` (> 0) frames.
+constexpr std::int32_t curveStay(std::int32_t frame, std::int32_t first, std::int32_t last,
+                                 std::int32_t slope) {
+    return std::min(curveRise(frame, first, first + slope), 256 - curveRise(frame, last - slope, last));
+}
+
+/// The same as RGB888_mix takes it.
 constexpr std::uint32_t curveShow(std::int32_t frame, std::int32_t first, std::int32_t last,
                                   std::int32_t slope) {
-    return static_cast<std::uint32_t>(
-        std::min(curveRise(frame, first, first + slope), 256 - curveRise(frame, last - slope, last)));
+    return static_cast<std::uint32_t>(curveStay(frame, first, last, slope));
+}
+
+/// A colour at a brightness of 0..256; what lies beyond counts as the nearer of the two.
+constexpr std::uint32_t curveDim(std::uint32_t colour, std::int32_t brightness) {
+    return RGB888_mix(0, colour, static_cast<std::uint32_t>(std::clamp(brightness, 0, curveFull)));
 }
 
 /// A value on its way: `from` at a weight of 0, `to` at 256.

@@ -3,7 +3,7 @@
 //
 // Extra scene 4, the shaft: two doors swing open, the way behind them becomes a winding tunnel of neon
 // frames, a word hops through it, and at its end the logo comes out of glittering dust.
-#include "demo/envelope.h"
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
@@ -44,7 +44,7 @@ void colourTunnel(RECT& tunnel) {
     constexpr std::int32_t hues = 560;
     for (std::int32_t i = 0; i < tunnel.count; ++i) {
         const std::int32_t there = std::min(i, tunnel.count - i);
-        tunnel.panes[i].colour = hueAt(cyan + 2 * there * hues / tunnel.count);
+        tunnel.panes[i].colour = curveHue(cyan + 2 * there * hues / tunnel.count, curveFull);
     }
 }
 
@@ -100,8 +100,8 @@ void drawLeaf(std::int32_t hinge, std::int32_t top, std::int32_t width, std::int
               std::int32_t swing, std::int32_t share) {
     const std::int32_t seen = SINE_cosineScaled(width, swing);
     const bool isOpen = (seen < 0) != (width < 0);
-    const std::uint32_t rim = dimmed(isOpen ? 0x103860 : 0x2080E0, share);
-    RECT_drawPane(demo.screen, hinge, top, seen, height, dimmed(0x040C20, share), RECT_MIX::set);
+    const std::uint32_t rim = curveDim(isOpen ? 0x103860 : 0x2080E0, share);
+    RECT_drawPane(demo.screen, hinge, top, seen, height, curveDim(0x040C20, share), RECT_MIX::set);
     RECT_drawFrame(demo.screen, hinge, top, seen, height, 1, rim, RECT_MIX::set);
     // Two panels, inset by an eighth of what is seen of the leaf.
     for (const std::int32_t panel : {0, 1}) {
@@ -115,9 +115,9 @@ void drawDoors(std::int32_t frame) {
     if (frame >= doorsPassed) {
         return;
     }
-    const std::int32_t share = rise(frame, 0, doorsOpen);
-    const std::int32_t walk = ease(frame, doorsOpen + 40, doorsPassed - doorsOpen - 40);
-    const std::int32_t zoom = fullShare + 2 * ((walk * walk) >> 8);
+    const std::int32_t share = curveRise(frame, 0, doorsOpen);
+    const std::int32_t walk = curveEase(frame, doorsOpen + 40, doorsPassed);
+    const std::int32_t zoom = curveFull + 2 * ((walk * walk) >> 8);
     const std::int32_t width = (doorWidth * zoom) >> 8;
     const std::int32_t height = (doorHeight * zoom) >> 8;
     const std::int32_t left = middleX - width;
@@ -128,9 +128,9 @@ void drawDoors(std::int32_t frame) {
     RECT_drawPane(screen, right, 0, screen->width - right, screen->height, 0, RECT_MIX::set);
     RECT_drawPane(screen, left, top, 2 * width, -screen->height, 0, RECT_MIX::set);
     RECT_drawPane(screen, left, top + height, 2 * width, screen->height, 0, RECT_MIX::set);
-    RECT_drawFrame(screen, left - 3, top - 3, 2 * width + 6, height + 6, 2, dimmed(hueAt(256 + frame), share),
-                   RECT_MIX::add);
-    const std::int32_t swing = 2 * ease(frame, doorsOpen, 100);
+    RECT_drawFrame(screen, left - 3, top - 3, 2 * width + 6, height + 6, 2,
+                   curveDim(curveHue(256 + frame, curveFull), share), RECT_MIX::add);
+    const std::int32_t swing = 2 * curveEase(frame, doorsOpen, doorsOpen + 100);
     drawLeaf(left, top, width, height, swing, share);
     drawLeaf(right, top, -width, height, swing, share);
 }
@@ -140,14 +140,15 @@ void drawTunnel(RECT* tunnel, std::int32_t frame) {
     if (tunnel == nullptr || frame >= tunnelEnds) {
         return;
     }
-    const std::int32_t winding = ease(frame, windsBegin, 170);
-    const std::int32_t slowing = ease(frame, wordEnds, tunnelEnds - wordEnds);
-    tunnel->speed = blend(blend(24, 150, ease(frame, doorsOpen, 300)), 20, slowing);
-    tunnel->twist = blend(0, 11, winding);
+    const std::int32_t winding = curveEase(frame, windsBegin, windsBegin + 170);
+    const std::int32_t slowing = curveEase(frame, wordEnds, tunnelEnds);
+    tunnel->speed =
+        curveBetween(curveBetween(24, 150, curveEase(frame, doorsOpen, doorsOpen + 300)), 20, slowing);
+    tunnel->twist = curveBetween(0, 11, winding);
     tunnel->turnSpeed = frame >= glassBegins ? 3 : 0;
-    tunnel->reach = blend(0, 110, winding);
+    tunnel->reach = curveBetween(0, 110, winding);
     tunnel->face = frame >= glassBegins ? RECT_FACE::both : RECT_FACE::frame;
-    tunnel->brightness = between(frame, doorsOpen, tunnelEnds, 70);
+    tunnel->brightness = curveStay(frame, doorsOpen, tunnelEnds, 70);
     RECT_advance(tunnel);
     RECT_draw(tunnel, demo.screen);
 }
@@ -157,16 +158,17 @@ void drawDust(FLASHPIX* dust, std::int32_t frame) {
     if (dust == nullptr || frame < windsBegin) {
         return;
     }
-    dust->lit = frame < logoEnds ? blend(8, fullShare, ease(frame, logoBegins - 80, 120)) : 0;
-    dust->inShape =
-        blend(0, 250, ease(frame, logoBegins, 90)) - blend(0, 250, ease(frame, logoEnds - 50, 40));
+    dust->lit =
+        frame < logoEnds ? curveBetween(8, curveFull, curveEase(frame, logoBegins - 80, logoBegins + 40)) : 0;
+    dust->inShape = curveBetween(0, 250, curveEase(frame, logoBegins, logoBegins + 90)) -
+                    curveBetween(0, 250, curveEase(frame, logoEnds - 50, logoEnds - 10));
     FLASHPIX_advance(dust);
     FLASHPIX_draw(dust, demo.screen);
 }
 
 void drawGalaxy(SINEDOTS* galaxy, std::int32_t frame) {
     if (galaxy != nullptr && frame >= wordEnds - 40) {
-        galaxy->colour = dimmed(0x100C28, between(frame, wordEnds - 40, frames, 60));
+        galaxy->colour = curveDim(0x100C28, curveStay(frame, wordEnds - 40, frames, 60));
         SINEDOTS_advance(galaxy);
         SINEDOTS_drawAdd(galaxy, demo.screen);
     }
@@ -179,8 +181,8 @@ void drawWord(LOGOFLY* word, std::int32_t frame) {
     }
     constexpr std::int32_t cell = 16;
     constexpr std::int32_t letters = 10;
-    const std::int32_t enter = fullShare - ease(frame, wordBegins, 60);
-    const std::int32_t leave = ease(frame, wordEnds - 60, 60);
+    const std::int32_t enter = curveFull - curveEase(frame, wordBegins, wordBegins + 60);
+    const std::int32_t leave = curveEase(frame, wordEnds - 60, wordEnds);
     const std::int32_t x = middleX - letters * cell / 2 + enter - leave;
     const std::int32_t y = word->y;
     LOGOFLY_advance(word);
@@ -194,8 +196,8 @@ void drawWord(LOGOFLY* word, std::int32_t frame) {
         }
     }
     word->y = y;
-    word->colour =
-        dimmed(RGB888_mix(hueAt(frame * 4), 0xFFFFFF, 160), between(frame, wordBegins, wordEnds, 40));
+    word->colour = curveDim(RGB888_mix(curveHue(frame * 4, curveFull), 0xFFFFFF, 160),
+                            curveStay(frame, wordBegins, wordEnds, 40));
     for (const std::int32_t bold : {0, 1}) {
         word->x = x + bold;
         LOGOFLY_draw(word);

@@ -4,7 +4,7 @@
 // Extra scene 5, the composition: thick lines divide the ground, panes of colour swing into the fields like
 // doors, and through one field after the other something moves. The lines breathe, glass tumbles over them,
 // and all of it leaves as it came. The ground is the background, the lines are its complement.
-#include "demo/envelope.h"
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
@@ -77,7 +77,7 @@ std::uint32_t ink() {
 
 /// The lines' places: still at first, breathing later.
 void placeLines(Composition& composition, std::int32_t frame) {
-    const std::int32_t breath = between(frame, breathBegins, leaves, 80);
+    const std::int32_t breath = curveStay(frame, breathBegins, leaves, 80);
     const auto place = [=](const Bar& bar, std::int32_t phase) {
         return bar.at + SINE_scaled((bar.reach * breath) >> 8, (frame - breathBegins) * bar.speed + phase);
     };
@@ -93,13 +93,13 @@ void drawLines(const Composition& composition, std::int32_t frame) {
     IMG* const screen = demo.screen;
     for (std::size_t i = 1; i + 1 < uprights.size(); ++i) {
         const auto order = static_cast<std::int32_t>(i);
-        const std::int32_t in = ease(frame, 12 * order, 50);
-        const std::int32_t out = ease(frame, leaves + 30 + 8 * order, 40);
-        const std::int32_t from = blend(0, screen->width, out);
-        const std::int32_t length = blend(0, screen->width, in) - from;
+        const std::int32_t in = curveEase(frame, 12 * order, 12 * order + 50);
+        const std::int32_t out = curveEase(frame, leaves + 30 + 8 * order, leaves + 30 + 8 * order + 40);
+        const std::int32_t from = curveBetween(0, screen->width, out);
+        const std::int32_t length = curveBetween(0, screen->width, in) - from;
         const std::int32_t foot = composition.y[levels.size() - 2];
-        const std::int32_t upFrom = blend(0, foot, out);
-        const std::int32_t upLength = blend(0, foot, in) - upFrom;
+        const std::int32_t upFrom = curveBetween(0, foot, out);
+        const std::int32_t upLength = curveBetween(0, foot, in) - upFrom;
         const bool flips = i % 2 == 0;
         RECT_drawPane(screen, flips ? screen->width - from : from, composition.y[i], flips ? -length : length,
                       thickness, ink(), RECT_MIX::set);
@@ -111,9 +111,10 @@ void drawLines(const Composition& composition, std::int32_t frame) {
 /// A pane swings in from the far side of its hinge, where its width is negative, over the neighbour. Averaged
 /// twice, it is glass of three quarters of its colour.
 void drawField(const Composition& composition, const Field& field, std::int32_t frame) {
-    const std::int32_t in = ease(frame, panesBegin + field.begins, 70);
-    const std::int32_t out = ease(frame, leaves - 30 + field.begins / 2, 60);
-    if (in == 0 || out == fullShare) {
+    const std::int32_t in = curveEase(frame, panesBegin + field.begins, panesBegin + field.begins + 70);
+    const std::int32_t out =
+        curveEase(frame, leaves - 30 + field.begins / 2, leaves - 30 + field.begins / 2 + 60);
+    if (in == 0 || out == curveFull) {
         return;
     }
     const std::int32_t left = composition.x[field.left] + thickness;
@@ -121,7 +122,7 @@ void drawField(const Composition& composition, const Field& field, std::int32_t 
     const std::int32_t top = composition.y[field.top] + thickness;
     const std::int32_t height = composition.y[field.bottom] - top;
     // From lying on the neighbour (half a turn) over edge-on to closed, and edge-on again to leave.
-    const std::int32_t swing = blend(400, 0, in) + blend(0, SINE_quarter, out);
+    const std::int32_t swing = curveBetween(400, 0, in) + curveBetween(0, SINE_quarter, out);
     const std::int32_t seen = SINE_cosineScaled(right - left + 1, swing);
     for (std::int32_t coat = 0; coat < 2; ++coat) {
         RECT_drawPane(demo.screen, field.hingesRight ? right : left, top, field.hingesRight ? -seen : seen,
@@ -139,7 +140,7 @@ void showView(const IMG* view, std::int32_t left, std::int32_t top, std::int32_t
 
 /// Raster bars that sway, upper left of the middle.
 void drawBars(const Composition& composition, std::int32_t frame) {
-    const std::int32_t share = between(frame, windowsBegin, leaves + 20, 40);
+    const std::int32_t share = curveStay(frame, windowsBegin, leaves + 20, 40);
     if (share == 0 || composition.bars == nullptr || composition.sway == nullptr ||
         composition.swayView == nullptr) {
         return;
@@ -156,7 +157,7 @@ void drawBars(const Composition& composition, std::int32_t frame) {
 
 /// A figure of dots in the ink's colour, below the middle.
 void drawDots(const Composition& composition, std::int32_t frame) {
-    const std::int32_t share = between(frame, windowsBegin + 30, leaves + 30, 40);
+    const std::int32_t share = curveStay(frame, windowsBegin + 30, leaves + 30, 40);
     if (share == 0 || composition.dots == nullptr || composition.dotView == nullptr) {
         return;
     }
@@ -171,7 +172,7 @@ void drawDots(const Composition& composition, std::int32_t frame) {
 
 /// The world outside, through the two right fields: the panorama, swinging to and fro.
 void drawOutlook(const Composition& composition, std::int32_t frame) {
-    const std::int32_t share = between(frame, windowsBegin + 60, leaves + 10, 40);
+    const std::int32_t share = curveStay(frame, windowsBegin + 60, leaves + 10, 40);
     const IMG* const panorama = demo.pictureWide;
     if (share == 0 || panorama == nullptr) {
         return;
@@ -190,7 +191,7 @@ void drawOutlook(const Composition& composition, std::int32_t frame) {
 /// The ground of the scroll text is dark on either background, so that all hues can be read on it.
 void drawFooting(const Composition& composition, std::int32_t frame) {
     const std::int32_t height = demo.screen->height - composition.y[levels.size() - 2];
-    const std::int32_t share = between(frame, 20, frames - 10, 60);
+    const std::int32_t share = curveStay(frame, 20, frames - 10, 60);
     RECT_drawPane(demo.screen, 0, demo.screen->height, demo.screen->width, -((height * share) >> 8), 0x080810,
                   RECT_MIX::set);
 }
@@ -198,7 +199,7 @@ void drawFooting(const Composition& composition, std::int32_t frame) {
 /// A drawing that turns in the red field, and the captions.
 void drawWriting(const Composition& composition, std::int32_t frame) {
     LFONT* const figure = demo.textLarge;
-    const std::int32_t share = between(frame, windowsBegin, leaves, 50);
+    const std::int32_t share = curveStay(frame, windowsBegin, leaves, 50);
     if (figure != nullptr && share > 0 && demo.fontLarge != nullptr) {
         constexpr std::int32_t framesPerFigure = 77;
         figure->character = 1 + (frame / framesPerFigure) % std::max(demo.fontLarge->count - 1, 1);
@@ -217,8 +218,8 @@ void drawWriting(const Composition& composition, std::int32_t frame) {
         if (frame < begins[i] || frame >= begins[i + 1]) {
             continue;
         }
-        const std::int32_t arrive = fullShare - ease(frame, begins[i], 24);
-        const std::int32_t depart = ease(frame, begins[i + 1] - 20, 20);
+        const std::int32_t arrive = curveFull - curveEase(frame, begins[i], begins[i] + 24);
+        const std::int32_t depart = curveEase(frame, begins[i + 1] - 20, begins[i + 1]);
         LFONT_setColour(pen, ink());
         pen->scale->x = pen->scale->y = 1;
         pen->angle = 0;
@@ -264,7 +265,7 @@ RASTER* makeBars() {
     if (bars != nullptr) {
         RASTER_setCount(bars, 64);
         for (std::int32_t i = 0; i < bars->count; ++i) {
-            bars->colours[i] = i % 8 < 6 ? hueAt(i * hueStep) : 0x000001;
+            bars->colours[i] = i % 8 < 6 ? curveHue(i * hueStep, curveFull) : 0x000001;
         }
         bars->speed = 0x8000;
     }
@@ -307,6 +308,10 @@ void VELM4030_sceneExtra5Cleanup(Composition& composition) {
     IMG_delete(&composition.swayView);
     IMG_delete(&composition.dotView);
     VELM4030_placeScroll(VELM4030_scrollY);
+    if (demo.textLarge != nullptr) {
+        demo.textLarge->scale->x = demo.textLarge->scale->y = 1;
+        demo.textLarge->angle = 0;
+    }
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 // Extra scene 6, the theatre: behind a golden frame a red curtain parts three times, for a twisting column,
 // for a rubber landscape and for the name on a flag; spotlights cross, confetti falls, and the curtain
 // closes.
-#include "demo/envelope.h"
+#include "demo/scene_curves.h"
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
@@ -51,9 +51,9 @@ struct Theatre {
 std::int32_t opening(std::int32_t frame) {
     std::int32_t share = 0;
     for (const Act& act : acts) {
-        const std::int32_t up = ease(frame, act.begins, curtainFrames);
-        const std::int32_t down = ease(frame, act.ends - curtainFrames, curtainFrames);
-        share = std::max(share, std::min(up, fullShare - down));
+        const std::int32_t up = curveEase(frame, act.begins, act.begins + curtainFrames);
+        const std::int32_t down = curveEase(frame, act.ends - curtainFrames, act.ends);
+        share = std::max(share, std::min(up, curveFull - down));
     }
     return share;
 }
@@ -70,7 +70,7 @@ RASTER* makeFolds() {
     for (std::int32_t i = 0; i < raster->count; ++i) {
         const std::int32_t angle = i * folds * SINE_tableLength / width;
         const std::int32_t light = 128 + SINE_scaled(84, angle) + SINE_scaled(43, 3 * angle + 100);
-        raster->colours[i] = RGB888_add(dimmed(0xC8101C, light), dimmed(0x604030, 2 * light - 330)) | 1;
+        raster->colours[i] = RGB888_add(curveDim(0xC8101C, light), curveDim(0x604030, 2 * light - 330)) | 1;
     }
     return raster;
 }
@@ -110,7 +110,7 @@ RASTER* makeFlagBars() {
     }
     RASTER_setCount(bars, count);
     for (std::int32_t i = 0; i < bars->count; ++i) {
-        bars->colours[i] = hueAt(magenta + std::min(i, count - i) * 2 * hues / count);
+        bars->colours[i] = curveHue(magenta + std::min(i, count - i) * 2 * hues / count, curveFull);
     }
     bars->speed = 0x14000;
     return bars;
@@ -134,7 +134,7 @@ RECT* makeConfetti() {
         pane.speedY = fall + std::abs(pane.speedY) / 2;
         pane.flipSpeed *= 3;
         pane.turnSpeed *= 4;
-        pane.colour = hueAt(1000 + i * 7); // from red over gold to green
+        pane.colour = curveHue(1000 + i * 7, curveFull); // from red over gold to green
     }
     return confetti;
 }
@@ -143,7 +143,7 @@ RECT* makeConfetti() {
 void drawHalf(SINESCAN& curtain, bool isRight, std::int32_t open) {
     constexpr std::int32_t gathered = 20;
     constexpr std::int32_t shut = 130;
-    const std::int32_t width = blend(shut, gathered, open);
+    const std::int32_t width = curveBetween(shut, gathered, open);
     curtain.width = width;
     curtain.x = isRight ? demo.screen->width - width / 2 : width / 2;
     // The cloth reaches over its side, so that no wave shows what is behind it.
@@ -156,7 +156,7 @@ void drawCurtain(const Theatre& theatre, std::int32_t frame) {
     if (theatre.curtain == nullptr || theatre.cloth == nullptr) {
         return;
     }
-    theatre.curtain->brightness = blend(0, 230, between(frame, 0, frames, 60));
+    theatre.curtain->brightness = curveBetween(0, 230, curveStay(frame, 0, frames, 60));
     SINESCAN_advance(theatre.curtain);
     const std::int32_t open = opening(frame);
     drawHalf(*theatre.curtain, false, open);
@@ -171,15 +171,15 @@ void drawBeam(std::int32_t fromX, std::int32_t toX, std::uint32_t colour) {
         const std::int32_t x = fromX + (toX - fromX) * i / slices;
         const std::int32_t width = 6 + i;
         RECT_drawPane(demo.screen, x - width / 2, i * sliceHeight, width, sliceHeight,
-                      dimmed(colour, fullShare - i * 3), RECT_MIX::add);
+                      curveDim(colour, curveFull - i * 3), RECT_MIX::add);
     }
 }
 
 void drawBeams(std::int32_t frame) {
-    const std::int32_t share = between(frame, 20, frames - 20, 60);
+    const std::int32_t share = curveStay(frame, 20, frames - 20, 60);
     const std::int32_t swing = SINE_scaled(70, 6 * frame);
-    drawBeam(40, middle + swing, dimmed(0x302408, share));
-    drawBeam(216, middle - swing, dimmed(0x281018, share));
+    drawBeam(40, middle + swing, curveDim(0x302408, share));
+    drawBeam(216, middle - swing, curveDim(0x281018, share));
 }
 
 /// Act one: a column with four sides that twists, grows and sinks.
@@ -192,10 +192,10 @@ void drawColumn(const Theatre& theatre, std::int32_t frame) {
     show.y = stageMiddle;
     show.width = 84;
     show.height = stageHeight;
-    show.twist.reach = blend(0, 420, ease(frame, act.begins + 40, 90));
+    show.twist.reach = curveBetween(0, 420, curveEase(frame, act.begins + 40, act.begins + 130));
     show.twist.wave.offsetStep = 2;
-    show.shift.reach = blend(0, 22, ease(frame, act.begins + 110, 60));
-    show.stretch.reach = blend(0, 90, ease(frame, act.begins + 60, 90));
+    show.shift.reach = curveBetween(0, 22, curveEase(frame, act.begins + 110, act.begins + 170));
+    show.stretch.reach = curveBetween(0, 90, curveEase(frame, act.begins + 60, act.begins + 150));
     show.scan.reach = 10;
     show.shade = 230;
 }
@@ -204,17 +204,18 @@ void drawColumn(const Theatre& theatre, std::int32_t frame) {
 void drawRubber(const Theatre& theatre, std::int32_t frame) {
     SINESCAN& show = *theatre.show;
     const Act& act = acts[1];
-    const std::int32_t bend = ease(frame, act.begins + 60, 60);
+    const std::int32_t bend = curveEase(frame, act.begins + 60, act.begins + 120);
     show.source = demo.pictureA;
     show.way = SINESCAN_WAY::columns;
     show.x = middle;
     show.y = stageMiddle;
     show.width = 176;
     show.height = 96;
-    show.shift.reach = blend(0, 14, bend);
-    show.stretch.reach = blend(0, 120, bend) + blend(0, 260, ease(frame, act.begins + 130, 50));
-    show.scan.reach = blend(0, 14, bend);
-    show.shade = blend(0, 150, bend);
+    show.shift.reach = curveBetween(0, 14, bend);
+    show.stretch.reach = curveBetween(0, 120, bend) +
+                         curveBetween(0, 260, curveEase(frame, act.begins + 130, act.begins + 180));
+    show.scan.reach = curveBetween(0, 14, bend);
+    show.shade = curveBetween(0, 150, bend);
     RECT_drawFrame(demo.screen, middle - 94, stageMiddle - 54, 188, 108, 2, 0x604818, RECT_MIX::add);
 }
 
@@ -242,7 +243,7 @@ void drawFlag(const Theatre& theatre, std::int32_t frame) {
         IMG_andMask(demo.pictureMask, theatre.flag);
     }
     if (theatre.confetti != nullptr) {
-        theatre.confetti->brightness = rise(frame, acts[2].begins + 60, 60);
+        theatre.confetti->brightness = curveRise(frame, acts[2].begins + 60, acts[2].begins + 120);
         RECT_advance(theatre.confetti);
     }
 }
@@ -298,12 +299,12 @@ void drawAct(const Theatre& theatre, std::int32_t frame) {
 void drawProscenium(std::int32_t frame) {
     constexpr std::array<std::uint32_t, 6> gold = {0x402808, 0x906018, 0xE0B048,
                                                    0xFFE898, 0xB08028, 0x402808};
-    const std::int32_t share = between(frame, 0, frames, 50);
+    const std::int32_t share = curveStay(frame, 0, frames, 50);
     for (std::size_t i = 0; i < gold.size(); ++i) {
         const auto inset = static_cast<std::int32_t>(i);
         const std::int32_t shine = 176 + SINE_scaled(80, 18 * frame - 90 * inset);
         RECT_drawFrame(demo.screen, inset, inset, demo.screen->width - 2 * inset, stageHeight - 2 * inset, 1,
-                       dimmed(gold[i], (share * shine) >> 8), RECT_MIX::set);
+                       curveDim(gold[i], (share * shine) >> 8), RECT_MIX::set);
     }
     RECT_drawPane(demo.screen, 0, stageHeight, demo.screen->width, demo.screen->height - stageHeight,
                   0x060208, RECT_MIX::set);
@@ -311,9 +312,9 @@ void drawProscenium(std::int32_t frame) {
     constexpr std::int32_t lamps = 16;
     for (std::int32_t i = 0; i < lamps; ++i) {
         const std::int32_t light = 148 + SINE_scaled(108, 24 * frame - 128 * i);
-        const std::uint32_t colour = dimmed(0xFFC860, (share * light) >> 8);
+        const std::uint32_t colour = curveDim(0xFFC860, (share * light) >> 8);
         RECT_drawPane(demo.screen, 6 + 16 * i, stageHeight + 2, 4, 2, colour, RECT_MIX::set);
-        RECT_drawPane(demo.screen, 2 + 16 * i, stageHeight, 12, 6, dimmed(colour, 48), RECT_MIX::add);
+        RECT_drawPane(demo.screen, 2 + 16 * i, stageHeight, 12, 6, curveDim(colour, 48), RECT_MIX::add);
     }
 }
 
@@ -339,17 +340,18 @@ void drawTitles(std::int32_t frame) {
     std::int32_t shutSince = 20;
     std::int32_t number = 1;
     for (const Act& act : acts) {
-        const std::int32_t share = between(frame, shutSince, act.begins + 8, 16);
+        const std::int32_t share = curveStay(frame, shutSince, act.begins + 8, 16);
         if (share > 0) {
             constexpr std::array<std::string_view, 3> counts = {"ONE", "TWO", "THREE"};
             writeLine(demo.textMedium, counts[static_cast<std::size_t>(number - 1)], 56, 1,
-                      dimmed(0xFFD880, share));
-            writeLine(demo.textMedium, act.title, 84, 2, dimmed(0xFFF4D0, share));
+                      curveDim(0xFFD880, share));
+            writeLine(demo.textMedium, act.title, 84, 2, curveDim(0xFFF4D0, share));
         }
         shutSince = act.ends - 4;
         ++number;
     }
-    writeLine(demo.textMedium, "FINIS", 72, 2, dimmed(0xFFF4D0, between(frame, shutSince, frames - 12, 20)));
+    writeLine(demo.textMedium, "FINIS", 72, 2,
+              curveDim(0xFFF4D0, curveStay(frame, shutSince, frames - 12, 20)));
 }
 
 Theatre VELM4030_sceneExtra6Setup() {

@@ -44,6 +44,31 @@ TEST_F(ScenesTest, LastAsLongAsTheyShould) {
     EXPECT_EQ(lengthOf(VELM4030_sceneDefault), fade + 3000);
     EXPECT_EQ(demo.dots, nullptr);
     EXPECT_EQ(lengthOf(VELM4030_sceneInterludeA), 750U);
+    EXPECT_EQ(lengthOf(VELM4030_sceneExtra4), 900U);
+    EXPECT_EQ(lengthOf(VELM4030_sceneExtra5), 750U);
+    EXPECT_EQ(lengthOf(VELM4030_sceneExtra6), 1000U);
+    EXPECT_EQ(demo.waveColumns->y, VELM4030_scrollY) << "the scroll text is back in its place";
+}
+
+TEST_F(ScenesTest, TheCompositionIsDrawnOnTheBackgroundInItsComplement) {
+    const auto lightPixels = [] { // of the presented frame 90, when its lines stand alone
+        std::int64_t light = 0;
+        const std::uint32_t wanted = headless.frames + 90;
+        headless.onFrame = [&light, wanted](const IMG& frame) {
+            if (headless.frames == wanted) {
+                light = std::count(frame.pixels, frame.pixels + 256 * 128, 0xFFFFFFU);
+            }
+        };
+        runFor(90, VELM4030_sceneExtra5);
+        return light;
+    };
+    const std::int64_t onBlack = lightPixels();
+    press('q');
+    const std::int64_t onWhite = lightPixels();
+    press('q');
+    EXPECT_GT(onBlack, 2000);
+    EXPECT_NEAR(static_cast<double>(onBlack + onWhite), 256 * 128, 256)
+        << "all but the pointer is one of both";
 }
 
 TEST_F(ScenesTest, VELM4030_meshFrames) {
