@@ -361,8 +361,6 @@ void drawFrame(const Play& play, std::int32_t frame) {
     drawCaption(frame);
 }
 
-} // namespace
-
 void VELM4030_sceneExtra7Setup() {
     VELM4030_fadeOut();
     settings.fadeOn = 0;
@@ -371,6 +369,8 @@ void VELM4030_sceneExtra7Setup() {
     demo.glare = 1;
     demo.clearMode = ClearMode::black;
 }
+
+} // namespace
 
 void VELM4030_sceneExtra7() {
     VELM4030_sceneExtra7Setup();

@@ -319,8 +319,6 @@ Studio makeStudio() {
     return studio;
 }
 
-} // namespace
-
 void VELM4030_sceneExtra8Setup() {
     VELM4030_fadeOut();
     settings.fadeOn = 0;
@@ -329,6 +327,8 @@ void VELM4030_sceneExtra8Setup() {
     demo.glare = 0;
     demo.clearMode = ClearMode::black;
 }
+
+} // namespace
 
 void VELM4030_sceneExtra8() {
     VELM4030_sceneExtra8Setup();

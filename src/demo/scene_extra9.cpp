@@ -334,8 +334,6 @@ void deleteGarden(Garden& garden) {
     }
 }
 
-} // namespace
-
 void VELM4030_sceneExtra9Setup() {
     VELM4030_fadeOut();
     settings.fadeOn = 0;
@@ -344,6 +342,8 @@ void VELM4030_sceneExtra9Setup() {
     demo.glare = 1;
     demo.clearMode = ClearMode::black;
 }
+
+} // namespace
 
 void VELM4030_sceneExtra9() {
     VELM4030_sceneExtra9Setup();
