@@ -29,18 +29,13 @@ constexpr std::int32_t echoFrames = 2; // between one echo and the next
 constexpr std::int32_t mostEchoes = (ARCHPATH_trailLength - 1) / echoFrames;
 constexpr std::int32_t halfTurn = SINE_tableLength / 2;
 
-/// 0..most-1, for a most above 0.
-std::int32_t drawBelow(ARCHPATH& path, std::int32_t most) {
-    return (RANDOM_next(path.random) & 0xFFFFFF) % std::max(most, 1);
-}
-
 /// Begins an arch where the last one ended.
 void beginArch(ARCHPATH& path) {
     path.step = 0;
     path.from = path.to;
-    path.to = path.left + drawBelow(path, path.right - path.left + 1);
-    path.height = path.rise / 2 + drawBelow(path, path.rise / 2 + 1);
-    const std::int32_t spin = 4 + drawBelow(path, 16);
+    path.to = path.left + RANDOM_below(path.random, path.right - path.left + 1);
+    path.height = path.rise / 2 + RANDOM_below(path.random, path.rise / 2 + 1);
+    const std::int32_t spin = 4 + RANDOM_below(path.random, 16);
     // It rolls the way it leaps.
     path.spin = path.to < path.from ? -spin : spin;
 }
@@ -79,7 +74,7 @@ void ARCHPATH_randomize(ARCHPATH* path) {
         return;
     }
     path->random->counter = static_cast<std::uint32_t>(std::rand());
-    path->to = path->left + drawBelow(*path, path->right - path->left + 1);
+    path->to = path->left + RANDOM_below(path->random, path->right - path->left + 1);
     beginArch(*path);
     std::fill(std::begin(path->trail), std::end(path->trail),
               ARCHPATH_POSE{.x = path->from, .y = path->ground, .angle = 0});

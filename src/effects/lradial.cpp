@@ -3,6 +3,7 @@
 #include "effects/lradial.h"
 
 #include "foundation/memory.h"
+#include "foundation/random.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
@@ -70,8 +71,7 @@ void LRADIAL_randomize(LRADIAL* rays) {
         return;
     }
     rays->turn = std::rand() & SINE_tableMask;
-    const std::int32_t spin = std::rand() & 7;
-    rays->spin = spin < 4 ? spin + 1 : 3 - spin;
+    rays->spin = RANDOM_eitherWay(std::rand());
     const std::int32_t phase = std::rand() & SINE_tableMask;
     const std::int32_t speed = std::rand() % 16 + 4;
     const std::int32_t waves = std::rand() % mostWaves + 1;

@@ -3,6 +3,7 @@
 #include "effects/sineline.h"
 
 #include "foundation/memory.h"
+#include "foundation/random.h"
 #include "foundation/report.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
@@ -30,12 +31,6 @@ constexpr std::int32_t leastCorners = 3;
 struct Corner {
     std::int32_t x, y;
 };
-
-/// 1..4 or -4..-1.
-std::int32_t drawSpeed() {
-    const std::int32_t number = std::rand() & 7;
-    return number < 4 ? number + 1 : 3 - number;
-}
 
 std::int32_t drawTurns() {
     return std::rand() % 3 + 1;
@@ -101,8 +96,8 @@ void SINELINE_randomize(SINELINE* line) {
     for (SINELINE_WAVE& wave : line->wave) {
         wave.phaseX = std::rand() & SINE_tableMask;
         wave.phaseY = std::rand() & SINE_tableMask;
-        wave.speedX = drawSpeed();
-        wave.speedY = drawSpeed();
+        wave.speedX = RANDOM_eitherWay(std::rand());
+        wave.speedY = RANDOM_eitherWay(std::rand());
         wave.turnsX = drawTurns();
         wave.turnsY = drawTurns();
     }

@@ -28,6 +28,7 @@ constexpr std::int32_t newSpread = 12;
 constexpr std::int32_t newHueStep = 200;
 constexpr std::int32_t newEchoes = 3;
 constexpr std::int32_t mostTwist = 160; // 1/1024 turns
+constexpr std::int32_t mostDrift = 4096;
 // A word's way, as scales: it starts as a spark, is bright from there to there, and is past.
 constexpr std::int32_t farthest = one / 12;
 constexpr std::int32_t brightFrom = one * 3 / 4;
@@ -41,8 +42,8 @@ bool isGap(char character) {
 
 /// A number -most..most.
 std::int32_t drawNumber(WORDZOOM& zoom, std::int32_t most) {
-    const std::int32_t number = RANDOM_next(zoom.random);
-    return most <= 0 ? 0 : number % (2 * most + 1) - most;
+    const std::int32_t reach = std::clamp(most, 0, mostDrift);
+    return RANDOM_below(zoom.random, 2 * reach + 1) - reach;
 }
 
 /// Goes to the next word and gives its length; 0 when there is none any more.

@@ -44,7 +44,7 @@ struct WORDZOOM {
     std::int32_t growth;   ///< 16.16, what a frame adds to a scale, as a share of it; 0.05
     std::int32_t interval; ///< frames from word to word; 30
     std::int32_t wait;     ///< frames until the next word starts; 0
-    std::int32_t spread;   ///< drifts are drawn from -spread..spread, pixels; 12
+    std::int32_t spread;   ///< drifts are drawn from -spread..spread, pixels up to 4096; 12
     std::int32_t hueStep;  ///< palette entries from word to word; 200
     std::int32_t hue;      ///< palette entry of the next word; random
     std::int32_t echoes;   ///< copies behind each word; 3

@@ -5,6 +5,8 @@
 #include "foundation/memory.h"
 #include "foundation/report.h"
 
+#include <algorithm>
+
 namespace velm {
 
 const IDENTITY RANDOM_identity = makeIdentity("RANDOM", "ZENDORAK", "C", "CODE", "20150318");
@@ -85,6 +87,10 @@ std::int32_t RANDOM_nextMix(RANDOM* random) {
         r.state += r.counter;
         r.state *= r.counter;
     });
+}
+
+std::int32_t RANDOM_below(RANDOM* random, std::int32_t limit) {
+    return RANDOM_next(random) % std::max(limit, 1);
 }
 
 RANDOM* RANDOM_clone(const RANDOM* src) {

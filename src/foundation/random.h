@@ -43,6 +43,15 @@ std::int32_t RANDOM_nextSpread(RANDOM* random);
 /// Any 32-bit value: exclusive or, sum and product with the counter.
 std::int32_t RANDOM_nextMix(RANDOM* random);
 
+/// 0..limit-1 of the main generator; always 0 for a limit of 1 or less.
+std::int32_t RANDOM_below(RANDOM* random, std::int32_t limit);
+
+/// -4..-1 or 1..4 by the low three bits of a number, whichever generator it is from.
+constexpr std::int32_t RANDOM_eitherWay(std::int32_t number) {
+    const std::int32_t choice = number & 7;
+    return choice < 4 ? choice + 1 : 3 - choice;
+}
+
 /// A new generator with the defaults: the state of `src` is not copied (see docs/quirks.md).
 RANDOM* RANDOM_clone(const RANDOM* src);
 
