@@ -14,15 +14,6 @@ namespace velm {
 
 namespace {
 
-/// Makes the pen write upright and unscaled from (x, y) on.
-void placePen(LFONT* pen, std::int32_t x, std::int32_t y) {
-    pen->scale->x = 1;
-    pen->scale->y = 1;
-    pen->angle = 0;
-    pen->position->x = x;
-    pen->position->y = y;
-}
-
 /// Prepares `screen` for the next frame.
 void clearScreen() {
     constexpr std::uint32_t white = 0xFFFFFF;
@@ -93,11 +84,11 @@ void VELM4030_fpsLayer() {
     }
     constexpr std::int32_t countX = 128;
     demo.textMedium->target = demo.screen;
-    placePen(demo.textMedium, 0, 0);
+    LFONT_place(demo.textMedium, 0, 0, 1);
     // VELM4030_rateInHex: one expects 30; the overlay has always spoken hexadecimal and says 1E.
     LFONT_drawHexByte(demo.textMedium, static_cast<std::uint8_t>(demo.fps->shownRate));
     LFONT_drawLine(demo.textMedium, "fps");
-    placePen(demo.textMedium, countX, 0);
+    LFONT_place(demo.textMedium, countX, 0, 1);
     LFONT_drawHexLong(demo.textMedium, demo.fps->frameCount);
 }
 
@@ -108,7 +99,7 @@ void VELM4030_logoLettersLayer() {
     }
     LFONT* const pen = demo.textMedium;
     const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
-    placePen(pen, settings.lettersX, settings.lettersY);
+    LFONT_place(pen, settings.lettersX, settings.lettersY, 1);
     std::int32_t k = 0;
     for (const char letter : std::string_view("VELM")) {
         const std::int32_t hue = wrapAdd(frame, 192 - 64 * k) % demo.hueRamp->length;

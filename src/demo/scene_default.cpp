@@ -81,12 +81,7 @@ void VELM4030_sceneDefault() {
     VELM4030_sceneDefaultSetup();
     VELM4030_fadeOut();
     runFrames(frames, [](std::int32_t frame) {
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
+        drawScrollText();
         VELM4030_dotsLayer();
         drawFigure(frames - frame);
         VELM4030_mouseLayer();

@@ -11,6 +11,7 @@
 #include "effects/lradial.h"
 #include "effects/sineline.h"
 #include "foundation/sine.h"
+#include "foundation/wrap.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -130,13 +131,13 @@ char printable(char byte) {
 void drawName(const char* name, std::int32_t x, std::int32_t y, std::int32_t scale, bool cut) {
     LFONT* const pen = demo.textSmall;
     const std::int32_t width = cell * scale;
-    pen->angle = 0;
-    pen->scale->x = pen->scale->y = scale;
+    if (pen == nullptr) {
+        return;
+    }
     for (std::int32_t i = std::max(-x / width - 1, 0); name[i] != '\0' && x + i * width < demo.screen->width;
          ++i) {
         const bool last = cut && name[i + 1] != '\0' && x + (i + 2) * width > demo.screen->width;
-        pen->position->x = x + i * width + width / 2;
-        pen->position->y = y;
+        LFONT_place(pen, x + i * width + width / 2, y, scale);
         pen->character = static_cast<unsigned char>(last ? '>' : printable(name[i]));
         LFONT_drawChar(pen);
         if (last) {
@@ -194,7 +195,7 @@ void drawCount() {
 
 void drawEmpty(std::int32_t frame) {
     constexpr std::string_view text = "NOTHING TO READ HERE";
-    const auto bright = static_cast<std::uint32_t>(160 + SINE_scaled(90, 12 * frame));
+    const auto bright = static_cast<std::uint32_t>(160 + SINE_scaled(90, wrapMul(12, frame)));
     LFONT_setColour(demo.textSmall, RGB888_mix(0, 0xFFFFFF, bright));
     drawName(text.data(), middle - static_cast<std::int32_t>(text.size()) * cell / 2, middle, 1, false);
 }
@@ -270,8 +271,7 @@ void VELM4030_sceneExtra1() {
         } else {
             drawEmpty(frame);
         }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra1Cleanup(browser);
 }

@@ -177,6 +177,7 @@ Journey VELM4030_sceneExtra10Setup() {
     demo.blur = 0;
     demo.glare = 0;
     settings.fadeOn = 0;
+    settings.fadeStep = 0x101010;
     demo.clearMode = ClearMode::black;
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
@@ -212,14 +213,8 @@ void VELM4030_sceneExtra10() {
         drawTitle(frame);
         drawLeap(journey, frame);
         drawWord(journey, frame);
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawScrollText();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra10Cleanup(journey);
 }

@@ -29,9 +29,8 @@ constexpr std::int32_t skyBegins = 240;
 constexpr std::int32_t wordsBegin = 380;
 constexpr std::int32_t rainEnds = 560;
 constexpr std::int32_t melts = 660;
-constexpr std::int32_t horizon = 168;   // row where the towers stand
-constexpr std::int32_t streetY = 206;   // where the scroll text runs in this scene
-constexpr std::int32_t scrollerY = 160; // and in the others
+constexpr std::int32_t horizon = 168; // row where the towers stand
+constexpr std::int32_t streetY = 206; // where the scroll text runs in this scene
 constexpr std::uint32_t white = 0xFFFFFF;
 
 constexpr std::size_t towerCount = 11;
@@ -55,10 +54,6 @@ struct City {
     std::array<Tower, towerCount> towers;
 };
 
-std::int32_t drawBelow(City& city, std::int32_t most) {
-    return (RANDOM_next(city.random) & 0xFFFFFF) % most;
-}
-
 /// Two rows of towers, every other one nearer, wider and lower.
 void placeTowers(City& city) {
     for (std::size_t i = 0; i < towerCount; ++i) {
@@ -67,7 +62,7 @@ void placeTowers(City& city) {
         Tower& tower = city.towers[i];
         tower.width = columns * windowPitch + 3;
         tower.x = static_cast<std::int32_t>(i) * 24 - 4;
-        tower.height = windowPitch * ((near ? 6 : 10) + drawBelow(city, 6)) + 3;
+        tower.height = windowPitch * ((near ? 6 : 10) + RANDOM_below(city.random, 6)) + 3;
         tower.grown = 0;
     }
 }
@@ -100,10 +95,10 @@ SINEDOTS* makeStars() {
 /// Lights a window that some tower has already, or none.
 void lightWindow(City& city) {
     constexpr std::array<std::uint32_t, 5> lights = {0xFFD060, 0xFFA030, 0xFFF0B0, 0x60C0FF, 0xFF6080};
-    const Tower& tower = city.towers[static_cast<std::size_t>(drawBelow(city, towerCount))];
-    const std::int32_t column = drawBelow(city, tower.width / windowPitch);
-    const std::int32_t floor = drawBelow(city, std::max(tower.height / windowPitch, 1));
-    const std::uint32_t light = lights[static_cast<std::size_t>(drawBelow(city, lights.size()))];
+    const Tower& tower = city.towers[static_cast<std::size_t>(RANDOM_below(city.random, towerCount))];
+    const std::int32_t column = RANDOM_below(city.random, tower.width / windowPitch);
+    const std::int32_t floor = RANDOM_below(city.random, tower.height / windowPitch);
+    const std::uint32_t light = lights[static_cast<std::size_t>(RANDOM_below(city.random, lights.size()))];
     RECT_drawPane(city.windows, tower.x + 3 + column * windowPitch,
                   horizon - tower.height + 3 + floor * windowPitch, windowWidth, windowHeight, light,
                   RECT_MIX::set);
@@ -179,19 +174,20 @@ void drawWords(std::int32_t frame) {
         std::string_view text;
         std::int32_t y, begin;
     };
+    LFONT* const pen = demo.textMedium;
+    if (pen == nullptr) {
+        return;
+    }
     constexpr Line lines[] = {{"ALL THE LIGHTS", 20, wordsBegin}, {"WAIT FOR YOU", 44, wordsBegin + 54}};
     for (const Line& line : lines) {
         const std::int32_t typed = std::max((frame - line.begin) / framesPerLetter, 0);
         const std::int32_t taken = std::max((frame - rainEnds - 40) / 2, 0);
         const auto length = static_cast<std::int32_t>(line.text.size());
-        LFONT_setColour(demo.textMedium, frame % 2 == 0 ? 0xC0F0FF : 0x90D8F0);
-        demo.textMedium->angle = 0;
-        demo.textMedium->scale->x = demo.textMedium->scale->y = 1;
+        LFONT_setColour(pen, frame % 2 == 0 ? 0xC0F0FF : 0x90D8F0);
+        LFONT_place(pen, 128 - length * cell / 2 + taken * cell, line.y, 1);
         for (std::int32_t i = taken; i < std::min(typed, length); ++i) {
-            demo.textMedium->position->x = 128 - length * cell / 2 + i * cell;
-            demo.textMedium->position->y = line.y;
-            demo.textMedium->character = static_cast<unsigned char>(line.text[static_cast<std::size_t>(i)]);
-            LFONT_drawChar(demo.textMedium);
+            pen->character = static_cast<unsigned char>(line.text[static_cast<std::size_t>(i)]);
+            LFONT_drawChar(pen);
         }
     }
 }
@@ -223,6 +219,7 @@ City VELM4030_sceneExtra11Setup() {
     demo.blur = 0;
     demo.glare = 0;
     settings.fadeOn = 0;
+    settings.fadeStep = 0x101010;
     demo.clearMode = ClearMode::black;
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
@@ -270,18 +267,12 @@ void VELM4030_sceneExtra11() {
         mirrorCity(city, frame);
         drawRain(city, frame);
         drawWords(frame);
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
+        drawScrollText();
         melt(city, frame);
         if (demo.background == white) {
             IMGFX_invert(demo.screen);
         }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra11Cleanup(city);
 }

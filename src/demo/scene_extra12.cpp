@@ -164,10 +164,7 @@ void drawLine(const char* text, std::int32_t y, std::uint32_t colour) {
         return;
     }
     LFONT_setColour(pen, colour);
-    pen->angle = 0;
-    pen->scale->x = pen->scale->y = 2;
-    pen->position->x = middle - (static_cast<std::int32_t>(std::strlen(text)) - 1) * pen->spacing->x;
-    pen->position->y = y;
+    LFONT_place(pen, middle - (static_cast<std::int32_t>(std::strlen(text)) - 1) * pen->spacing->x, y, 2);
     LFONT_drawLine(pen, text);
 }
 
@@ -220,10 +217,7 @@ void VELM4030_sceneExtra12Cleanup(Flight& flight) {
     RASTER_delete(&flight.aurora);
     IMG_delete(&flight.light);
     IMG_delete(&flight.bloom);
-    if (demo.textSmall != nullptr) {
-        LFONT_setColour(demo.textSmall, 0xFFFFFF);
-        demo.textSmall->scale->x = demo.textSmall->scale->y = 1;
-    }
+    LFONT_place(demo.textSmall, 0, 0, 1);
 }
 
 } // namespace
@@ -238,15 +232,9 @@ void VELM4030_sceneExtra12() {
             drawCurve(flight, frame);
             showLight(flight, frame);
         }
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
+        drawScrollText();
         drawCaptions(frame);
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra12Cleanup(flight);
 }

@@ -231,7 +231,6 @@ void VELM4030_sceneExtra2Cleanup(Pond& pond) {
     DISTY_delete(&pond.bendColumns);
     IMG_delete(&pond.water);
     IMG_delete(&pond.bent);
-    LFONT_setColour(demo.textMedium, 0xFFFFFF);
 }
 
 } // namespace
@@ -243,18 +242,12 @@ void VELM4030_sceneExtra2() {
         callRingsBack(pond, frame);
         drawWater(pond, frame);
         drawBands(pond, frame);
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
+        drawScrollText();
         if (pond.word != nullptr) {
             pond.word->colour = RGB888_average(curveHue(6 * frame, 256), 0xFFFFFF);
             LOGOFLY_draw(pond.word);
         }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra2Cleanup(pond);
 }

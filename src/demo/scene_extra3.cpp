@@ -207,15 +207,12 @@ void drawLine(const char* text, std::int32_t y, std::int32_t scale, std::uint32_
         return;
     }
     const auto gaps = static_cast<std::int32_t>(std::strlen(text)) - 1;
-    pen->angle = 0;
-    pen->scale->x = pen->scale->y = scale;
     LFONT_setColour(pen, 0);
     for (const auto& at : edge) {
         if (at.x == 0 && at.y == 0) {
             LFONT_setColour(pen, colour);
         }
-        pen->position->x = middle - gaps * scale * pen->spacing->x / 2 + at.x;
-        pen->position->y = y + at.y;
+        LFONT_place(pen, middle - gaps * scale * pen->spacing->x / 2 + at.x, y + at.y, scale);
         LFONT_drawLine(pen, text);
     }
 }
@@ -255,10 +252,7 @@ void VELM4030_sceneExtra3Cleanup(Portholes& show) {
     }
     CIRCLE_delete(&show.holes);
     CIRCLE_delete(&show.hoops);
-    if (demo.textSmall != nullptr) {
-        LFONT_setColour(demo.textSmall, 0xFFFFFF);
-        demo.textSmall->scale->x = demo.textSmall->scale->y = 1;
-    }
+    LFONT_place(demo.textSmall, 0, 0, 1);
 }
 
 } // namespace
@@ -280,8 +274,7 @@ void VELM4030_sceneExtra3() {
             drawLargeWord(frame);
         }
         drawCaptions(frame);
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra3Cleanup(show);
 }

@@ -175,11 +175,7 @@ void write(LFONT* pen, const char* text, std::int32_t y, std::int32_t typed, std
         ++length;
     }
     LFONT_setColour(pen, RGB888_mix(0, 0xC0FFE0, static_cast<std::uint32_t>(light)));
-    pen->target = demo.screen;
-    pen->angle = 0;
-    pen->scale->x = pen->scale->y = 1;
-    pen->position->x = middle - length * pen->spacing->x / 2;
-    pen->position->y = y;
+    LFONT_place(pen, middle - length * pen->spacing->x / 2, y, 1);
     for (std::int32_t i = 0; i < std::min(length, typed); ++i) {
         pen->character = static_cast<std::uint8_t>(text[i]);
         LFONT_drawChar(pen);
@@ -220,13 +216,9 @@ void drawPoint(std::int32_t frame, std::int32_t light) {
     const auto put = [pen](std::int32_t x, std::int32_t y) {
         constexpr std::int32_t glyphX = 7; // where the full stop is in its cell
         constexpr std::int32_t glyphY = 10;
-        pen->position->x = x - glyphX;
-        pen->position->y = y - glyphY;
+        LFONT_place(pen, x - glyphX, y - glyphY, 1);
         LFONT_drawChar(pen);
     };
-    pen->target = demo.screen;
-    pen->angle = 0;
-    pen->scale->x = pen->scale->y = 1;
     pen->character = '.';
     for (std::int32_t age = frame % (pingFrames / 2); age < pingFrames && age <= frame;
          age += pingFrames / 2) {
@@ -381,9 +373,7 @@ void VELM4030_sceneExtra7() {
         if (isComplete) {
             drawFrame(play, frame);
         }
-        LFONT_setColour(demo.textMedium, 0xFFFFFF); // the overlay's, and every following scene's
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     deletePlay(play);
 }

@@ -9,7 +9,6 @@
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "foundation/sine.h"
-#include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -68,13 +67,9 @@ struct Season {
 constexpr Season plan[seasons] = {{1, 0, 0, 0}, {2, 0, 0, 0}, {2, 1, 0, 0}, {2, 1, 0, 1}, {3, 0, 0, 1},
                                   {2, 0, 1, 1}, {2, 1, 1, 0}, {3, 0, 0, 1}, {3, 1, 0, 1}, {3, 0, 0, 0}};
 
-std::uint32_t dimmed(std::uint32_t colour, std::int32_t light) {
-    return RGB888_mix(0, colour, static_cast<std::uint32_t>(std::clamp(light, 0, curveFull)));
-}
-
 /// A number least..most.
 std::int32_t draw(const Garden& garden, std::int32_t least, std::int32_t most) {
-    return least + RANDOM_next(garden.random) % (most - least + 1);
+    return least + RANDOM_below(garden.random, most - least + 1);
 }
 
 /// A number least..most with either sign.
@@ -121,7 +116,7 @@ void paintRibbon(const Garden& garden, IMG* ribbon, std::int32_t light) {
         for (std::int32_t thread = 0; thread < ribbonWidth; ++thread) {
             const std::int32_t bright = SINE_entry((2 * thread + 1) * SINE_quarter / ribbonWidth) >> 7;
             // Never quite black: the edge of a ribbon sets it off from what lies behind.
-            const std::uint32_t shaded = dimmed(colour, bright * bright / curveFull) | 0x010101;
+            const std::uint32_t shaded = curveDim(colour, bright * bright / curveFull) | 0x010101;
             IMG_putPixel(ribbon, lies ? x : thread, lies ? thread : x, shaded);
         }
     }
@@ -167,7 +162,7 @@ std::int32_t pictureLightAt(std::int32_t frame) {
 void copyDimmed(const IMG* from, IMG* to, std::int32_t left, std::int32_t top, std::int32_t light) {
     for (std::int32_t y = 0; from != nullptr && y < from->height; ++y) {
         for (std::int32_t x = 0; x < from->width; ++x) {
-            IMG_putPixel(to, left + x, top + y, dimmed(IMG_getPixel(from, x, y), light));
+            IMG_putPixel(to, left + x, top + y, curveDim(IMG_getPixel(from, x, y), light));
         }
     }
 }
@@ -217,7 +212,7 @@ void drawCloud(SINEDOTS& cloud, std::uint32_t colour, std::int32_t light) {
             cloud.phase[wave].x = phases[wave].x - k * lag * cloud.speed[wave].x;
             cloud.phase[wave].y = phases[wave].y - k * lag * cloud.speed[wave].y;
         }
-        cloud.colour = dimmed(colour, light * (moments - k) / (2 * moments));
+        cloud.colour = curveDim(colour, light * (moments - k) / (2 * moments));
         SINEDOTS_drawAdd(&cloud, demo.screen);
     }
     std::copy_n(phases, SINEDOTS_waveCount, cloud.phase);
@@ -354,8 +349,7 @@ void VELM4030_sceneExtra9() {
         if (isComplete) {
             drawFrame(garden, frame);
         }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     deleteGarden(garden);
 }

@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The loop of every scene: a scene says how many frames it has and what one of them draws.
+// The loop of every scene: a scene says how many frames it has and what one of them draws. And what the
+// frames of several scenes end with.
 //
 //     runFrames(750, [](std::int32_t frame) {
 //         IMG_drawHLine(demo.screen, 0xFFFFFF, frame & 255, 0, 255);
-//         VELM4030_fpsLayer();
+//         drawPointerAndOverlay();
 //     });
 #pragma once
 
@@ -15,6 +16,24 @@
 #include <cstdint>
 
 namespace velm {
+
+/// The bars and the scroll text, each while its key leaves it on.
+inline void drawScrollText() {
+    if (settings.rastersOn != 0) {
+        VELM4030_rasterLayer();
+    }
+    if (settings.scrollOn != 0) {
+        VELM4030_scrollLayer();
+    }
+}
+
+/// The pointer and the overlay, which is white whatever the scene has last written with its pen.
+inline void drawPointerAndOverlay() {
+    constexpr std::uint32_t white = 0xFFFFFF;
+    LFONT_setColour(demo.textMedium, white);
+    VELM4030_mouseLayer();
+    VELM4030_fpsLayer();
+}
 
 /// Calls draw(frame) for frame 0 to `count` - 1, each time between the start of the frame's time and what
 /// ends it: the post layer, the music layer and the keys. Space ends the loop early.

@@ -41,7 +41,7 @@ struct Particles {
     PARTIXEL* sparks;
 };
 
-/// Writes a word into the world, every letter twice its size: basins for the water.
+/// Writes a word into the world, every letter three times its size: basins for the water.
 void writeWord(IMG* world, std::string_view word) {
     constexpr std::int32_t left = 40;
     constexpr std::int32_t top = 64;
@@ -52,15 +52,12 @@ void writeWord(IMG* world, std::string_view word) {
     }
     LFONT_setColour(pen, stage);
     pen->target = world;
-    pen->angle = 0;
-    pen->scale->x = pen->scale->y = 3;
     for (std::size_t i = 0; i < word.size(); ++i) {
-        pen->position->x = left + static_cast<std::int32_t>(i) * pitch;
-        pen->position->y = top;
+        LFONT_place(pen, left + static_cast<std::int32_t>(i) * pitch, top, 3);
         pen->character = static_cast<unsigned char>(word[i]);
         LFONT_drawChar(pen);
     }
-    pen->scale->x = pen->scale->y = 1;
+    LFONT_place(pen, 0, 0, 1);
     pen->target = demo.screen;
 }
 
@@ -166,6 +163,7 @@ Particles VELM4030_sceneParticlesSetup() {
     demo.blur = 0;
     demo.glare = 0;
     settings.fadeOn = 0;
+    settings.fadeStep = 0x101010;
     demo.clearMode = ClearMode::black;
     Particles particles{};
     particles.world = IMG_newSized(settings.windowWidth, settings.windowHeight);
@@ -204,8 +202,7 @@ void VELM4030_sceneParticles() {
                 takeStageAway(particles.world, frame);
             }
             drawWorld(particles, frame);
-            VELM4030_mouseLayer();
-            VELM4030_fpsLayer();
+            drawPointerAndOverlay();
         });
     }
     VELM4030_sceneParticlesCleanup(particles);

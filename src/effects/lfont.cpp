@@ -96,6 +96,17 @@ LFONT* LFONT_new() {
     return pen;
 }
 
+void LFONT_place(LFONT* pen, std::int32_t x, std::int32_t y, std::int32_t scale) {
+    if (!isPen(pen)) {
+        LFONT_error();
+        return;
+    }
+    pen->scale->x = pen->scale->y = scale;
+    pen->angle = 0;
+    pen->position->x = x;
+    pen->position->y = y;
+}
+
 void LFONT_setColour(LFONT* pen, std::uint32_t colour) {
     colourGlyphs(pen, [colour] { return colour; });
 }

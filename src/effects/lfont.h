@@ -35,6 +35,9 @@ extern std::uint8_t LFONT_verbose;
 /// reported and stays where it is, and so is a code without a glyph.
 LFONT* LFONT_new();
 
+/// Makes the pen write upright from (x, y) on, magnified `scale` times.
+void LFONT_place(LFONT* pen, std::int32_t x, std::int32_t y, std::int32_t scale);
+
 /// Gives every glyph the colour 0x00RRGGBB.
 void LFONT_setColour(LFONT* pen, std::uint32_t colour);
 
