@@ -12,7 +12,6 @@
 #include "effects/line_text.h"
 #include "effects/wordzoom.h"
 #include "foundation/sine.h"
-#include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -241,13 +240,14 @@ void pourGallery(FILL* fill, std::int32_t age) {
 
 /// How a mosaic is filled: its seeds, and how the colour flows.
 struct Mosaic {
+    const char* title;
     void (*pour)(FILL* fill, std::int32_t age); ///< called for each frame from the last stroke on
     std::int32_t flow, stretch, speed, ripple;  ///< as in FILL
 };
-constexpr Mosaic mosaicsInOrder[mosaics] = {{pourWindow, 800, 6, 10, 130},
-                                            {pourLetters, 700, 4, 8, 150},
-                                            {pourMaze, 420, 5, 14, 150},
-                                            {pourGallery, 1500, 6, 9, 120}};
+constexpr Mosaic mosaicsInOrder[mosaics] = {{"A ROSE OF GLASS", pourWindow, 800, 6, 10, 130},
+                                            {"LETTERS WITH SIDES", pourLetters, 700, 4, 8, 150},
+                                            {"A MAZE OF SLASHES", pourMaze, 420, 5, 14, 150},
+                                            {"SIXTEEN THINGS", pourGallery, 1500, 6, 9, 120}};
 
 /// The outlines are light on the dark, and dark between the colours.
 void paintWalls(const IMG& canvas, std::uint32_t colour) {
@@ -258,6 +258,28 @@ void paintWalls(const IMG& canvas, std::uint32_t colour) {
         for (std::int32_t x = 0; x < width; ++x) {
             to[x] = from[x] != 0 ? colour : to[x];
         }
+    }
+}
+
+/// The title on a plate at the lower edge: it is typed, and taken back from its end when the colour runs dry.
+void drawTitle(const char* title, std::int32_t age) {
+    constexpr std::int32_t cell = 8;
+    constexpr std::int32_t y = 246;
+    constexpr std::int32_t middle = 128;
+    const std::string_view text = title;
+    const auto length = static_cast<std::int32_t>(text.size());
+    const std::int32_t shown = std::clamp(std::min(age, drainFrom - age), 0, length);
+    LFONT* const pen = demo.textSmall;
+    if (pen == nullptr || shown == 0) {
+        return;
+    }
+    const std::int32_t left = middle - length * cell / 2;
+    IMG_fillRect(demo.screen, left - cell / 2, y - cell, (shown + 1) * cell, 2 * cell, 0);
+    LFONT_setColour(pen, 0xD0F0FF);
+    LFONT_place(pen, left + cell / 2, y, 1); // the small glyphs are drawn about their middle
+    for (std::int32_t i = 0; i < shown; ++i) {
+        pen->character = static_cast<std::uint8_t>(text[static_cast<std::size_t>(i)]);
+        LFONT_drawChar(pen);
     }
 }
 
@@ -288,6 +310,7 @@ void playMosaic(const Studio& studio, std::int32_t number, std::int32_t age) {
     const std::int32_t dark = std::max(curveRise(age, drawFrames, drawFrames + 50) * 7 / 8,
                                        curveRise(age, drainFrom, drainFrom + 20));
     paintWalls(*studio.canvas, RGB888_mix(0xD0F0FF, 0x000000, static_cast<std::uint32_t>(dark)));
+    drawTitle(mosaicsInOrder[number].title, age);
 }
 
 void playWords(WORDZOOM* zoom, std::int32_t frame) {
@@ -343,8 +366,7 @@ void VELM4030_sceneExtra8() {
         if (isComplete) {
             playWords(studio.zoom, frame);
         }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawPointerAndOverlay();
     });
     FILL_delete(&studio.fill);
     WORDZOOM_delete(&studio.zoom);
