@@ -33,7 +33,7 @@ constexpr std::int32_t halfTurn = SINE_tableLength / 2;
 void beginArch(ARCHPATH& path) {
     path.step = 0;
     path.from = path.to;
-    path.to = path.left + RANDOM_below(path.random, path.right - path.left + 1);
+    path.to = path.left + RANDOM_below(path.random, wrapAdd(wrapSub(path.right, path.left), 1));
     path.height = path.rise / 2 + RANDOM_below(path.random, path.rise / 2 + 1);
     const std::int32_t spin = 4 + RANDOM_below(path.random, 16);
     // It rolls the way it leaps.
@@ -41,10 +41,11 @@ void beginArch(ARCHPATH& path) {
 }
 
 ARCHPATH_POSE poseOf(const ARCHPATH& path) {
-    const std::int32_t way = path.to - path.from;
-    return {.x = path.from + way * path.step / path.frames,
-            .y = path.ground - SINE_scaled(path.height, halfTurn * path.step / path.frames),
-            .angle = (path.trail[0].angle + path.spin) & SINE_tableMask};
+    const std::int64_t way = std::int64_t{path.to} - path.from;
+    const auto turned = static_cast<std::int32_t>(std::int64_t{halfTurn} * path.step / path.frames);
+    return {.x = wrapAdd(path.from, static_cast<std::int32_t>(way * path.step / path.frames)),
+            .y = wrapSub(path.ground, SINE_scaled(path.height, turned)),
+            .angle = wrapAdd(path.trail[0].angle, path.spin) & SINE_tableMask};
 }
 
 } // namespace
@@ -74,7 +75,7 @@ void ARCHPATH_randomize(ARCHPATH* path) {
         return;
     }
     path->random->counter = static_cast<std::uint32_t>(std::rand());
-    path->to = path->left + RANDOM_below(path->random, path->right - path->left + 1);
+    path->to = path->left + RANDOM_below(path->random, wrapAdd(wrapSub(path->right, path->left), 1));
     beginArch(*path);
     std::fill(std::begin(path->trail), std::end(path->trail),
               ARCHPATH_POSE{.x = path->from, .y = path->ground, .angle = 0});
@@ -85,7 +86,7 @@ bool ARCHPATH_advance(ARCHPATH* path) {
         ARCHPATH_error();
         return false;
     }
-    ++path->step;
+    path->step = wrapAdd(path->step, 1);
     const ARCHPATH_POSE pose = poseOf(*path);
     std::copy_backward(std::begin(path->trail), std::end(path->trail) - 1, std::end(path->trail));
     path->trail[0] = pose;

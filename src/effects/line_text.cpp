@@ -56,9 +56,7 @@ std::uint32_t paletteColour(const SAMPLE* palette, std::int32_t index) {
 
 void addStroke(IMG* target, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                std::uint32_t colour) {
-    const bool passes = std::max(x1, x2) < 0 || std::max(y1, y2) < 0 || std::min(x1, x2) >= target->width ||
-                        std::min(y1, y2) >= target->height;
-    if (!passes && colour != 0) {
+    if (colour != 0) {
         IMGFX_addLine(target, x1, y1, x2, y2, colour);
     }
 }

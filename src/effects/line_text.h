@@ -43,7 +43,7 @@ const OBJ2D* glyphOf(const LIST* glyphs, std::uint8_t character);
 /// Colour `index` of a palette that goes round, index and all; white without a palette.
 std::uint32_t paletteColour(const SAMPLE* palette, std::int32_t index);
 
-/// A stroke of light from (x1, y1) to (x2, y2). One that passes the target by costs nothing.
+/// A stroke of light from (x1, y1) to (x2, y2); black costs nothing.
 void addStroke(IMG* target, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                std::uint32_t colour);
 

@@ -132,10 +132,10 @@ void LRADIAL_draw(const LRADIAL* rays, IMG* target) {
         const std::uint32_t half = (colourOf(*rays, i) >> 1) & 0x7F7F7F;
         const auto ray = [&](std::int32_t length) {
             const std::int32_t outer = wrapAdd(rays->inner, length);
-            IMGFX_addLine(target, rays->x + SINE_cosineScaled(rays->inner, angle),
-                          rays->y + SINE_scaled(rays->inner, angle),
-                          rays->x + SINE_cosineScaled(outer, angle), rays->y + SINE_scaled(outer, angle),
-                          half);
+            IMGFX_addLine(target, wrapAdd(rays->x, SINE_cosineScaled(rays->inner, angle)),
+                          wrapAdd(rays->y, SINE_scaled(rays->inner, angle)),
+                          wrapAdd(rays->x, SINE_cosineScaled(outer, angle)),
+                          wrapAdd(rays->y, SINE_scaled(outer, angle)), half);
         };
         // Two strokes on one another: the inner half of a ray is twice as bright as its tip.
         ray(rays->lengths[i]);

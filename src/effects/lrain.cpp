@@ -4,6 +4,7 @@
 
 #include "foundation/memory.h"
 #include "foundation/report.h"
+#include "foundation/wrap.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -43,7 +44,7 @@ std::int32_t driftOf(const LRAIN& rain, std::int32_t near) {
 
 /// Row on which a drop of that nearness lands.
 std::int32_t groundOf(const LRAIN& rain, std::int32_t near) {
-    return rain.horizon + (((rain.height - rain.horizon) * near) >> 8);
+    return wrapAdd(rain.horizon, wrapMul(wrapSub(rain.height, rain.horizon), near) >> 8);
 }
 
 std::uint32_t colourOf(const LRAIN& rain, std::int32_t near) {
@@ -56,8 +57,8 @@ void startDrop(LRAIN& rain, LRAIN_DROP& drop, std::int32_t row) {
     const std::int32_t b = RANDOM_next(rain.random) & nearest;
     drop.near = (a * b) >> 8;
     // A margin on both sides, so that the wind has drops to blow in.
-    const std::int32_t place = (RANDOM_next(rain.random) & 0xFFFF) * (2 * rain.width >> 8) >> 8;
-    drop.x = wrapShl(place - rain.width / 2, 16);
+    const std::int32_t place = wrapMul(RANDOM_next(rain.random) & 0xFFFF, wrapMul(2, rain.width) >> 8) >> 8;
+    drop.x = wrapShl(wrapSub(place, rain.width / 2), 16);
     drop.y = wrapShl(row, 16);
 }
 
@@ -67,7 +68,7 @@ void makeRing(LRAIN& rain, const LRAIN_DROP& drop) {
     rain.nextRing = (rain.nextRing + 1) % LRAIN_ringCount;
 }
 
-/// A flat ellipse of eight strokes that grows and fades.
+/// A flat ellipse of twelve strokes that grows and fades.
 void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
     constexpr std::int32_t corners = 12;
     const std::int32_t radius = (ring.age + 1) * (48 + ring.near) >> 8;
@@ -79,7 +80,7 @@ void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
     for (std::int32_t i = 0; i <= corners; ++i) {
         const std::int32_t angle = i * SINE_tableLength / corners;
         const std::int32_t x = ring.x + SINE_cosineScaled(radius, angle);
-        const std::int32_t y = ring.y + SINE_scaled(radius, angle) / 3;
+        const std::int32_t y = wrapAdd(ring.y, SINE_scaled(radius, angle) / 3);
         if (i > 0) {
             IMGFX_addLine(target, fromX, fromY, x, y, colour);
         }
@@ -131,7 +132,8 @@ void LRAIN_randomize(LRAIN* rain) {
     rain->random->counter = static_cast<std::uint32_t>(std::rand());
     for (std::int32_t i = 0; i < rain->count; ++i) {
         startDrop(*rain, rain->drops[i], 0);
-        rain->drops[i].y = (RANDOM_next(rain->random) & 0xFF) * (groundOf(*rain, rain->drops[i].near) << 8);
+        rain->drops[i].y =
+            wrapMul(RANDOM_next(rain->random) & 0xFF, wrapShl(groundOf(*rain, rain->drops[i].near), 8));
     }
     for (LRAIN_RING& ring : rain->rings) {
         ring.age = LRAIN_ringFrames;

@@ -33,6 +33,7 @@ constexpr std::int32_t newDimmest = 40;
 constexpr std::int32_t full = 256;    // brightness
 constexpr std::int32_t nearest = 24;  // pixels from the viewer; what comes closer is left out
 constexpr std::int32_t widest = 4096; // pixels of a radius
+constexpr std::int32_t largest = 256 * one;
 
 /// A point in space, 16.16 pixels from the surface's middle.
 struct Point {
@@ -58,7 +59,7 @@ struct Surface {
     explicit Surface(const LSCRLXYZ& record)
         : scroll(record), radius(std::clamp(record.radius, 1, widest)),
           rise(std::clamp(record.rise, -widest, widest)),
-          distance(std::clamp(record.distance, 1, 2 * widest)) {
+          distance(std::clamp(record.distance, 1, 2 * widest)), waves(std::clamp(record.waves, -one, one)) {
         constexpr std::int32_t mostTurns = 64;
         const bool isStraight = record.shape == LSCRLXYZ_SHAPE::ribbon;
         const bool isScrew = record.shape == LSCRLXYZ_SHAPE::screw;
@@ -73,7 +74,7 @@ struct Surface {
     /// surface.
     [[nodiscard]] Point place(std::int64_t u, std::int64_t v) const {
         if (scroll.shape == LSCRLXYZ_SHAPE::ribbon) {
-            const auto along = static_cast<std::int32_t>((u * scroll.waves) >> 22); // waves per 64 pixels
+            const auto along = static_cast<std::int32_t>((u * waves) >> 22); // waves per 64 pixels
             return {u, v, std::int64_t{2} * rise * SINE_entry(wrapAdd(along, scroll.wave))};
         }
         const auto angle =
@@ -105,8 +106,8 @@ struct Surface {
         if (away < std::int64_t{nearest} << 16) {
             return false;
         }
-        seen.x = scroll.x + static_cast<std::int32_t>((point.x * distance / away));
-        seen.y = scroll.y + static_cast<std::int32_t>((point.y * distance / away));
+        seen.x = wrapAdd(scroll.x, static_cast<std::int32_t>(point.x * distance / away));
+        seen.y = wrapAdd(scroll.y, static_cast<std::int32_t>(point.y * distance / away));
         return true;
     }
 
@@ -119,7 +120,7 @@ struct Surface {
     }
 
     const LSCRLXYZ& scroll;
-    std::int32_t radius, rise, distance;
+    std::int32_t radius, rise, distance, waves;
     std::int32_t turns{};
     std::int32_t length{}; ///< pixels along the surface
     std::int32_t reach{};  ///< pixels from the middle that no point is far beyond
@@ -135,9 +136,10 @@ std::int32_t pitchOf(const LSCRLXYZ& scroll) {
 void drawGlyph(const Surface& surface, const OBJ2D* glyph, std::int64_t u, std::uint32_t hue, IMG* target) {
     const LSCRLXYZ& scroll = surface.scroll;
     const std::int64_t across = std::int64_t{std::clamp(scroll.across, -widest, widest)} * one;
+    const std::int64_t middle = std::clamp(scroll.middle, -widest, widest);
+    const std::int64_t scale = std::clamp(scroll.scale, -largest, largest);
     const auto turned = [&](const VEC2D& point) {
-        return surface.turned(u + (std::int64_t{point.x} - scroll.middle) * scroll.scale,
-                              across + (std::int64_t{point.y} - scroll.middle) * scroll.scale);
+        return surface.turned(u + (point.x - middle) * scale, across + (point.y - middle) * scale);
     };
     forEachStroke(glyph, [&](const VEC2D& a, const VEC2D& b) {
         const Point from = turned(a);

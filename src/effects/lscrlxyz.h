@@ -37,15 +37,15 @@ struct LSCRLXYZ {
     const LIST* glyphs;     ///< borrowed; a line font; nullptr
     const SAMPLE* palette;  ///< borrowed; colours; nullptr is white
     std::int32_t cell;      ///< width of a glyph, font units; 16
-    std::int32_t middle;    ///< where a glyph's middle is, font units, both ways; 8
-    std::int32_t scale;     ///< 16.16, pixels per font unit at the middle's distance; 1.0
+    std::int32_t middle;    ///< where a glyph's middle is, font units within +-4096, both ways; 8
+    std::int32_t scale;     ///< 16.16, pixels per font unit at the middle's distance, to 256.0; 1.0
     std::int32_t speed;     ///< 16.16 pixels a frame along the surface; 1.0
     LSCRLXYZ_SHAPE shape;   ///< cylinder
     std::int32_t radius;    ///< pixels, 1..4096; 88
     std::int32_t turns;     ///< of the screw, 1..64; 3
     std::int32_t across;    ///< pixels that the line lies beside the surface's middle; 0
     std::int32_t rise;      ///< pixels from turn to turn, or of the ribbon's wave; 32
-    std::int32_t waves;     ///< 1/1024 turns of the ribbon's wave per 64 pixels; 256
+    std::int32_t waves;     ///< 1/1024 turns of the ribbon's wave per 64 pixels, within +-65536; 256
     LSCRLXYZ_AXES angle;    ///< 1/1024 turns, about x first, then y, then z; random
     LSCRLXYZ_AXES spin;     ///< added to the angles a frame; 3, 5, 2
     std::int32_t wave;      ///< phase of the ribbon's wave, 1/1024 turns; 0

@@ -100,8 +100,8 @@ void setPath(LSCROLL* scroll, std::int32_t corners, Corner corner) {
     scroll->length = length;
 }
 
-bool isNear(std::int32_t coordinate) {
-    return coordinate >= -farthest && coordinate <= farthest;
+bool isNear(std::int32_t coordinate, std::int32_t limit = farthest) {
+    return coordinate >= -limit && coordinate <= limit;
 }
 
 /// 16.16 pixels from glyph to glyph, one pixel at least.
@@ -201,8 +201,8 @@ void LSCROLL_setLine(LSCROLL* scroll, std::int32_t x1, std::int32_t y1, std::int
 
 void LSCROLL_setCurve(LSCROLL* scroll, const LSCROLL_CURVE& curve) {
     constexpr std::int32_t widest = farthest / 2;
-    const bool isFar = !isNear(curve.centreX) || !isNear(curve.centreY) || std::abs(curve.radiusX) > widest ||
-                       std::abs(curve.radiusY) > widest;
+    const bool isFar = !isNear(curve.centreX) || !isNear(curve.centreY) || !isNear(curve.radiusX, widest) ||
+                       !isNear(curve.radiusY, widest);
     // Radii in half pixels' 16.16 times an entry of 15 bits give 16.16 pixels without a shift.
     setPath(isFar ? nullptr : scroll, SINE_tableLength, [&curve](std::int32_t t) {
         const std::int32_t across = wrapAdd(wrapMul(curve.turnsX, t), curve.phase);

@@ -47,13 +47,8 @@ Point project(const LSTAR& sky, const LSTAR_STAR& star, std::int32_t z, std::int
             wrapAdd(sky.y, static_cast<std::int32_t>(y * focus / depth))};
 }
 
-/// Adds a line unless both its ends lie beyond the same edge.
 void addLine(IMG* target, Point a, Point b, std::uint32_t colour) {
-    const bool beside = (a.x < 0 && b.x < 0) || (a.x >= target->width && b.x >= target->width);
-    const bool aboveOrBelow = (a.y < 0 && b.y < 0) || (a.y >= target->height && b.y >= target->height);
-    if (!beside && !aboveOrBelow) {
-        IMGFX_addLine(target, a.x, a.y, b.x, b.y, colour);
-    }
+    IMGFX_addLine(target, a.x, a.y, b.x, b.y, colour);
 }
 
 /// The hue of a depth, full in front and black at the far end.

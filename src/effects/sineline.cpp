@@ -5,6 +5,7 @@
 #include "foundation/memory.h"
 #include "foundation/random.h"
 #include "foundation/report.h"
+#include "foundation/wrap.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -39,8 +40,10 @@ std::int32_t drawTurns() {
 /// `reach` as the breath of `ago` frames before leaves it.
 std::int32_t breathed(const SINELINE& line, std::int32_t reach, std::int32_t ago) {
     const std::int32_t sunk =
-        (line.depth * (32768 + SINE_entry(line.breath.phase - line.breath.speed * ago))) >> 16;
-    return (reach * (256 - sunk)) >> 8;
+        wrapMul(line.depth,
+                32768 + SINE_entry(wrapSub(line.breath.phase, wrapMul(line.breath.speed, ago)))) >>
+        16;
+    return wrapMul(reach, 256 - sunk) >> 8;
 }
 
 /// A corner of the curve as it was `ago` frames before.
@@ -49,8 +52,12 @@ Corner cornerOf(const SINELINE& line, const std::int32_t (&reach)[2], std::int32
     Corner corner = {.x = line.x, .y = line.y};
     for (std::size_t i = 0; i < 2; ++i) {
         const SINELINE_WAVE& wave = line.wave[i];
-        corner.x += SINE_scaled(reach[i], wave.phaseX - wave.speedX * ago + wave.turnsX * around);
-        corner.y += SINE_scaled(reach[i], wave.phaseY - wave.speedY * ago + wave.turnsY * around);
+        const auto swing = [&](std::int32_t phase, std::int32_t speed, std::int32_t turns) {
+            const std::int32_t then = wrapSub(phase, wrapMul(speed, ago));
+            return SINE_scaled(reach[i], wrapAdd(then, wrapMul(turns, around)));
+        };
+        corner.x = wrapAdd(corner.x, swing(wave.phaseX, wave.speedX, wave.turnsX));
+        corner.y = wrapAdd(corner.y, swing(wave.phaseY, wave.speedY, wave.turnsY));
     }
     return corner;
 }
@@ -109,8 +116,8 @@ void SINELINE_advance(SINELINE* line) {
         return;
     }
     for (SINELINE_WAVE& wave : line->wave) {
-        wave.phaseX = (wave.phaseX + wave.speedX) & SINE_tableMask;
-        wave.phaseY = (wave.phaseY + wave.speedY) & SINE_tableMask;
+        wave.phaseX = wrapAdd(wave.phaseX, wave.speedX) & SINE_tableMask;
+        wave.phaseY = wrapAdd(wave.phaseY, wave.speedY) & SINE_tableMask;
     }
     SINE_advance(&line->breath);
 }
@@ -125,7 +132,7 @@ void SINELINE_draw(const SINELINE* line, IMG* target) {
         // 0 for the newest; the echoes turn into the other colour and fade to nothing.
         const auto age = static_cast<std::uint32_t>(256 * echo / echoes);
         const std::uint32_t colour = RGB888_mix(line->colour, line->echoColour, age);
-        drawCurve(*line, target, echo * line->lag, RGB888_mix(colour, 0, age));
+        drawCurve(*line, target, wrapMul(echo, line->lag), RGB888_mix(colour, 0, age));
     }
 }
 

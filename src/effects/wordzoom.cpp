@@ -29,6 +29,8 @@ constexpr std::int32_t newHueStep = 200;
 constexpr std::int32_t newEchoes = 3;
 constexpr std::int32_t mostTwist = 160; // 1/1024 turns
 constexpr std::int32_t mostDrift = 4096;
+constexpr std::int32_t largestCell = 4096;
+constexpr std::int64_t outOfSight = 1 << 20; // font units from a word's middle
 // A word's way, as scales: it starts as a spark, is bright from there to there, and is past.
 constexpr std::int32_t farthest = one / 12;
 constexpr std::int32_t brightFrom = one * 3 / 4;
@@ -102,8 +104,8 @@ struct Pose {
     [[nodiscard]] VEC2D place(const VEC2D& point) const {
         const std::int64_t u = (left + point.x) * scale;
         const std::int64_t v = (std::int64_t{point.y} - middle) * scale;
-        return {x + static_cast<std::int32_t>((u * cosine - v * sine + half) >> 31),
-                y + static_cast<std::int32_t>((u * sine + v * cosine + half) >> 31), 0};
+        return {wrapAdd(x, static_cast<std::int32_t>((u * cosine - v * sine + half) >> 31)),
+                wrapAdd(y, static_cast<std::int32_t>((u * sine + v * cosine + half) >> 31)), 0};
     }
 };
 
@@ -118,12 +120,14 @@ void drawWord(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, std::int32_t 
               SINE_entry(angle),
               angle == 0 ? 32768 : SINE_entry(angle + SINE_quarter),
               0,
-              zoom.middle,
-              zoom.x + drift(flight.driftX),
-              zoom.y + drift(flight.driftY)};
+              std::clamp(zoom.middle, -largestCell, largestCell),
+              wrapAdd(zoom.x, drift(flight.driftX)),
+              wrapAdd(zoom.y, drift(flight.driftY))};
+    const std::int64_t cell = std::clamp(zoom.cell, -largestCell, largestCell);
     for (std::int32_t i = 0; i < flight.length; ++i) {
         // Twice the way of this character's middle from the word's, halved.
-        pose.left = std::int64_t{zoom.cell} * (2 * i + 1 - flight.length) / 2 - zoom.middle;
+        const std::int64_t twice = 2 * std::int64_t{i} + 1 - flight.length;
+        pose.left = std::clamp(cell * twice / 2 - pose.middle, -outOfSight, outOfSight);
         const OBJ2D* const glyph = glyphOf(zoom.glyphs, static_cast<std::uint8_t>(flight.word[i]));
         forEachStroke(glyph, [&](const VEC2D& a, const VEC2D& b) {
             const VEC2D from = pose.place(a);
@@ -208,7 +212,9 @@ void WORDZOOM_advance(WORDZOOM* zoom) {
             flight = {};
         }
     }
-    if (--zoom->wait < 0) {
+    if (zoom->wait > 0) {
+        --zoom->wait;
+    } else {
         zoom->wait = 0;
         startWord(*zoom);
     }

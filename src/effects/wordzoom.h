@@ -38,8 +38,8 @@ struct WORDZOOM {
     std::int32_t loop;     ///< 1: after the last word comes the first again; 0: then none comes; 1
     const LIST* glyphs;    ///< borrowed; a line font; nullptr
     const SAMPLE* palette; ///< borrowed; the words' colours; nullptr is white
-    std::int32_t cell;     ///< width and height of a glyph, font units; 16
-    std::int32_t middle;   ///< where a glyph's middle is, font units, both ways; 8
+    std::int32_t cell;     ///< width and height of a glyph, font units within +-4096; 16
+    std::int32_t middle;   ///< where a glyph's middle is, font units within +-4096, both ways; 8
     std::int32_t x, y;     ///< vanishing point, target pixels; 128, 128
     std::int32_t growth;   ///< 16.16, what a frame adds to a scale, as a share of it; 0.05
     std::int32_t interval; ///< frames from word to word; 30

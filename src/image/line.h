@@ -32,13 +32,19 @@ void walkLine(std::int64_t major, std::int64_t minor, Plot plot) {
 }
 
 /// Calls touch(pixel) for every pixel of the line from (x1, y1) to (x2, y2), both ends included, in this
-/// order; what lies outside the image is left out. The image must have pixels.
+/// order; what lies outside the image is left out, and a line that passes it by costs nothing. The image must
+/// have pixels.
 template <typename Touch>
 void forEachLinePixel(IMG& img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                       Touch touch) {
     const auto contains = [&img](std::int64_t x, std::int64_t y) {
         return x >= 0 && y >= 0 && x < img.width && y < img.height;
     };
+    const bool passesBy = (x1 < 0 && x2 < 0) || (y1 < 0 && y2 < 0) || (x1 >= img.width && x2 >= img.width) ||
+                          (y1 >= img.height && y2 >= img.height);
+    if (passesBy) {
+        return;
+    }
     const auto signOf = [](std::int64_t value) { return value > 0 ? 1 : value < 0 ? -1 : 0; };
     const std::int64_t dx = std::int64_t{x2} - x1;
     const std::int64_t dy = std::int64_t{y2} - y1;
