@@ -28,6 +28,22 @@ TEST(Random, MixedDrawsFromTheDefaults) {
     RANDOM_delete(&random);
 }
 
+TEST(Random, BoundsAreKept) {
+    RANDOM* random = RANDOM_new();
+    std::int32_t seen = 0;
+    for (std::int32_t i = 0; i < 200; ++i) {
+        seen |= 1 << RANDOM_below(random, 5);
+        EXPECT_EQ(RANDOM_below(random, i % 2 == 0 ? 1 : -7), 0);
+    }
+    EXPECT_EQ(seen, 0x1F) << "0 to 4, each of them";
+    RANDOM_delete(&random);
+    std::int32_t steps = 0;
+    for (std::int32_t number = -8; number < 0; ++number) {
+        steps |= 1 << (RANDOM_eitherWay(number) + 4);
+    }
+    EXPECT_EQ(steps, 0x1EF) << "-4 to 4, but not 0";
+}
+
 TEST(Random, RANDOM_cloneForgets) {
     RANDOM* random = RANDOM_new();
     const std::int32_t first = RANDOM_next(random);
