@@ -69,7 +69,8 @@ bool alsaOpen() {
 
 std::int32_t alsaWrite(std::span<const std::int16_t> samples) {
     const snd_pcm_sframes_t room = roomNow();
-    if (room < 0 || (isIdle && !writeSilence(room - static_cast<snd_pcm_sframes_t>(samples.size())))) {
+    // After a silence the device is filled up first. The block then has to wait as it will from now on.
+    if (room < 0 || (isIdle && !writeSilence(room))) {
         return -1;
     }
     isIdle = false;

@@ -20,6 +20,7 @@ std::int32_t OSS_request(std::int32_t device, DspRequest request, std::int32_t* 
 /// Hands over a block, once, waiting while the device is full: the bytes taken, or -1.
 std::int32_t OSS_write(std::int32_t device, const std::int16_t* block, std::int32_t samples);
 
+/// Closes the device. A negative descriptor is none, and nothing happens.
 void OSS_close(std::int32_t device);
 
 } // namespace velm

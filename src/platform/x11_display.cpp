@@ -50,6 +50,7 @@ void x11Connect(const char* program) {
     // Without masks for the channels there is no place in a pixel for a colour of ours.
     const Visual* const visual = DefaultVisual(x11Display.connection, x11Display.screen);
     if (visual->red_mask == 0 || visual->green_mask == 0 || visual->blue_mask == 0) {
+        XCloseDisplay(x11Display.connection);
         x11GiveUp("needs a TrueColor display, unlike", XDisplayName(nullptr));
     }
 }

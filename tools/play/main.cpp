@@ -8,6 +8,7 @@
 #include "play/options.h"
 #include "player.h"
 
+#include <csignal>
 #include <cstdlib>
 
 namespace {
@@ -25,6 +26,7 @@ void fitBlockToRate() {
 int main(int argc, char** argv) {
     using namespace velm;
     static const PlayOptions options = parseOptions(argc, argv);
+    std::signal(SIGPIPE, SIG_IGN); // nobody may be listening to what it says
     player.scale = options.scale;
     player.fullScreen = options.fullScreen;
     player.soundDriver = options.sound;
