@@ -24,6 +24,7 @@ constexpr std::int32_t fullVolume = 100;
 constexpr std::int32_t blockBytes = DSP_blockBytes(30);
 
 SoundProcess sound;
+Pace pace;
 bool soundLeads = false; ///< a block went to the device since the last sleep
 
 /// The first driver that is wanted and answers, or the silent one.
@@ -46,7 +47,7 @@ std::int64_t CLOCK_now() {
 }
 
 void CLOCK_sleep(std::int32_t micros) {
-    const std::int32_t correction = soundLeads ? PACE_correction(sound.aheadMicros()) : 0;
+    const std::int32_t correction = soundLeads ? pace.correction(sound.aheadMicros()) : 0;
     soundLeads = false;
     std::this_thread::sleep_for(std::chrono::microseconds(std::max(micros + correction, 0)));
 }
