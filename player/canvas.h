@@ -16,6 +16,7 @@
 
 namespace velm {
 
+/// An image of the picture, enlarged.
 class Canvas {
 public:
     Canvas() = default;

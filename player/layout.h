@@ -11,11 +11,13 @@
 
 namespace velm {
 
+/// A picture's place in a window.
 struct Layout {
     std::int32_t scale; ///< >= 1
     std::int32_t left;  ///< of the picture in the window, in its pixels; negative where it is cut off
-    std::int32_t top;
+    std::int32_t top;   ///< likewise
 
+    /// True for the same picture in the same place.
     bool operator==(const Layout&) const = default;
 
     /// A place in the window as one in the picture, rounded down, so that left of the picture is negative.

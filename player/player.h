@@ -17,8 +17,8 @@ namespace velm {
 
 /// The one player of the process. Set it up before the demo starts.
 struct Player {
-    std::int32_t scale = 0; ///< the window's first enlargement; 0 for the largest that leaves a margin
-    bool fullScreen = false;
+    std::int32_t scale = 0;        ///< the window's first enlargement; 0 for the largest that leaves a margin
+    bool fullScreen = false;       ///< instead of a window
     std::string_view soundDriver;  ///< a name of the table of drivers; "" for the first that answers
     std::int32_t volume = 100;     ///< per cent, 0..100
     std::uint32_t frameLimit = 0;  ///< presentations before onLimit is called instead of another; 0 for none
@@ -26,6 +26,7 @@ struct Player {
     std::function<void()> onFrame; ///< called for every presentation
 };
 
+/// Read whenever a window, a sound device or a picture is asked for.
 extern Player player;
 
 /// The program's name, for what it says.

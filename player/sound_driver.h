@@ -14,9 +14,10 @@
 
 namespace velm {
 
+/// A way to a sound device.
 struct SoundDriver {
-    const char* name;
-    bool (*open)(); ///< false without a device; may wait until it plays
+    const char* name; ///< as the command line has it
+    bool (*open)();   ///< false without a device; may wait until it plays
     /// Waits while the device is full; gives the samples that would fit now, or a negative number when it is
     /// lost. A device that does not tell is full.
     std::int32_t (*write)(std::span<const std::int16_t>);
@@ -26,13 +27,21 @@ struct SoundDriver {
 /// Every driver but silence.
 std::span<const SoundDriver> soundDrivers();
 
+/// The driver that is none.
 inline constexpr const char* silentDriver = "none";
 
+/// Opens "/dev/dsp" for the demo's sound; false without one, or with one that refuses.
 bool ossOpen();
+/// As SoundDriver::write. The device does not tell its room.
 std::int32_t ossWrite(std::span<const std::int16_t> samples);
+/// True: the device waits in silence by itself.
 bool ossIdle();
+
+/// Opens ALSA's default device and fills it with silence; false without one.
 bool alsaOpen();
+/// As SoundDriver::write. A device that ran dry is filled with silence first.
 std::int32_t alsaWrite(std::span<const std::int16_t> samples);
+/// As SoundDriver::idle: keeps the device from running dry.
 bool alsaIdle();
 
 } // namespace velm

@@ -16,6 +16,7 @@
 
 namespace velm {
 
+/// One device's process, and the next one when it ends.
 class SoundProcess {
 public:
     SoundProcess() = default;
@@ -38,6 +39,7 @@ public:
     /// could take more.
     [[nodiscard]] std::int64_t aheadMicros() const;
 
+    /// Ends the process, if there is one, and what the device still holds with it.
     void end();
 
 private:
