@@ -10,8 +10,20 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
+
+/// Opens what a caller has closed: else the connection to the display could become the standard output, and
+/// the server would be told what is meant for a terminal.
+void haveStandardFiles() {
+    int file = 0;
+    do {
+        file = open("/dev/null", O_RDWR);
+    } while (file >= 0 && file <= STDERR_FILENO);
+    close(file);
+}
 
 /// The driver's block follows the frame rate, which keys change: each frame hands over what it lasts.
 void fitBlockToRate() {
@@ -25,6 +37,7 @@ void fitBlockToRate() {
 
 int main(int argc, char** argv) {
     using namespace velm;
+    haveStandardFiles();
     static const PlayOptions options = parseOptions(argc, argv);
     std::signal(SIGPIPE, SIG_IGN); // nobody may be listening to what it says
     player.scale = options.scale;
