@@ -44,8 +44,22 @@ take extra-11 520
 take extra-12 360
 take particles 500
 
-# Six seconds of the schedule at 15 frames a second.
-rm -rf "$work/frames"
-"$capture" --quiet --frames 1080 --ppm "$work/frames"
-ffmpeg -v error -y -framerate 30 -start_number 900 -i "$work/frames/frame-%05d.ppm" \
-    -vf 'fps=15,split[a][b];[a]palettegen=max_colors=64[p];[b][p]paletteuse=dither=none' demo.gif
+# film SCENE FIRST COUNT: frames of the short film.
+film() {
+    rm -rf "$work/frames"
+    "$capture" --quiet --scene "$1" --frames "$(($2 + $3))" --ppm "$work/frames"
+    local frame
+    for ((frame = $2; frame < $2 + $3; frame += 2)); do
+        mv "$work/frames/$(printf 'frame-%05d.ppm' "$frame")" "$work/film/$(printf '%05d.ppm' "$filmed")"
+        filmed=$((filmed + 1))
+    done
+}
+
+# Seven seconds of the three scenes of the schedule, 15 frames a second.
+mkdir "$work/film"
+filmed=0
+film default 1180 90
+film interlude-a 400 60
+film interlude-b 200 60
+ffmpeg -v error -y -framerate 15 -i "$work/film/%05d.ppm" \
+    -vf 'split[a][b];[a]palettegen=stats_mode=single[p];[b][p]paletteuse=new=1:dither=bayer:bayer_scale=4' demo.gif

@@ -243,14 +243,8 @@ void VELM4030_sceneExtra4() {
         drawDoors(frame);
         drawDust(shaft.dust, frame);
         drawWord(shaft.word, frame);
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawScrollText();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra4Cleanup(shaft);
 }

@@ -330,12 +330,8 @@ void VELM4030_sceneExtra5() {
         drawLines(composition, frame);
         drawWriting(composition, frame);
         drawGlass(composition.glass, frame);
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
+        drawScrollText();
+        LFONT_setColour(demo.textMedium, ink()); // the overlay's, to be seen on either background
         VELM4030_mouseLayer();
         VELM4030_fpsLayer();
     });

@@ -414,14 +414,8 @@ void VELM4030_sceneExtra6() {
         drawBeams(frame);
         drawProscenium(frame);
         drawTitles(frame);
-        if (settings.rastersOn != 0) {
-            VELM4030_rasterLayer();
-        }
-        if (settings.scrollOn != 0) {
-            VELM4030_scrollLayer();
-        }
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
+        drawScrollText();
+        drawPointerAndOverlay();
     });
     VELM4030_sceneExtra6Cleanup(theatre);
 }

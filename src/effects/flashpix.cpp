@@ -28,6 +28,7 @@ constexpr std::int32_t newGlintShare = 16;
 constexpr std::int32_t newCount = 1024;
 constexpr std::int32_t full = 256; // of shares and brightness
 constexpr std::uint32_t white = 0xFFFFFF;
+constexpr std::int32_t longestLife = 1 << 20; // frames
 
 /// A number 0..limit - 1; 0 when the limit is not positive. The generator's numbers run in step from draw to
 /// draw, which would stand on the screen as lines, so their bits are mixed first (multiplicative hashing).
@@ -57,7 +58,8 @@ std::uint32_t hueAt(const FLASHPIX& flash, std::int32_t x, std::int32_t y) {
 
 /// Every spark takes its numbers in the same order, whatever becomes of it.
 void begin(const FLASHPIX& flash, FLASHPIX_SPARK& spark) {
-    spark.life = std::max(flash.shortest + randomBelow(flash, wrapSub(flash.longest, flash.shortest) + 1), 1);
+    const std::int32_t more = randomBelow(flash, wrapAdd(wrapSub(flash.longest, flash.shortest), 1));
+    spark.life = std::clamp(wrapAdd(flash.shortest, more), 1, longestLife);
     spark.age = happens(flash, flash.lit) ? 0 : -spark.life;
     if (happens(flash, flash.inShape) && flash.placeCount > 0) {
         const std::int32_t* const place =

@@ -35,7 +35,7 @@ struct FLASHPIX {
     std::int32_t hueSlope;      ///< hues farther on per pixel to the right and down; 2
     std::int32_t hueSpread;     ///< up to that many hues farther on, by chance; 96
     std::int32_t shortest;      ///< the least life of a spark, frames, above 0; 12
-    std::int32_t longest;       ///< the most, frames; 40
+    std::int32_t longest;       ///< the most, frames up to 2^20; 40
     std::int32_t inShape;       ///< 0..256: the share of new sparks that keep to the shape; 256
     std::int32_t lit;           ///< 0..256: the share of sparks that begin again when they have faded; 256
     std::int32_t brightness;    ///< of all colours, 0..256; 256

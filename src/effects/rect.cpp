@@ -83,14 +83,15 @@ void drawFleet(const RECT& rect, IMG* target) {
         const RECT_PANE& pane = rect.panes[i];
         const std::int32_t width = SINE_cosineScaled(pane.width, pane.flip);
         const std::uint32_t colour = dimmed(rect, pane.colour, fullBrightness);
-        RECT_drawTurned(target, rect.x + (pane.x >> 16), rect.y + (pane.y >> 16), width, pane.height,
-                        pane.turn, rect.face, width < 0 ? (colour >> 1) & backBits : colour, rect.mix);
+        RECT_drawTurned(target, wrapAdd(rect.x, pane.x >> 16), wrapAdd(rect.y, pane.y >> 16), width,
+                        pane.height, pane.turn, rect.face, width < 0 ? (colour >> 1) & backBits : colour,
+                        rect.mix);
     }
 }
 
 /// How far off its axis a winding way is, `along` 1/256 steps ahead.
 std::int32_t windAt(const SINE& wind, std::int32_t reach, std::int32_t along) {
-    return SINE_scaled(reach, wind.phase + ((wind.offsetStep * along) >> 8));
+    return SINE_scaled(reach, wrapAdd(wind.phase, wrapMul(wind.offsetStep, along) >> 8));
 }
 
 /// The colour that travels with a rectangle which is `ahead` steps away.
@@ -101,8 +102,8 @@ std::uint32_t colourAhead(const RECT& rect, std::int32_t ahead) {
 /// Frames at even distances: the size of one is what its distance leaves of it, and the way winds ahead of
 /// the viewer, who is always on it.
 void drawTunnel(const RECT& rect, IMG* target) {
-    const std::int32_t middleX = rect.x + rect.width / 2;
-    const std::int32_t middleY = rect.y + rect.height / 2;
+    const std::int32_t middleX = wrapAdd(rect.x, rect.width / 2);
+    const std::int32_t middleY = wrapAdd(rect.y, rect.height / 2);
     const std::int32_t hereX = windAt(rect.windX, rect.reach, 0);
     const std::int32_t hereY = windAt(rect.windY, rect.reach, 0);
     for (std::int32_t ahead = rect.count - 1; ahead >= 0; --ahead) {
@@ -113,9 +114,9 @@ void drawTunnel(const RECT& rect, IMG* target) {
         const auto seen = [away](std::int32_t size) {
             return static_cast<std::int32_t>(std::int64_t{size} * fullSizeSteps * step / away);
         };
-        const std::int32_t x = middleX + seen(windAt(rect.windX, rect.reach, away) - hereX);
-        const std::int32_t y = middleY + seen(windAt(rect.windY, rect.reach, away) - hereY);
-        const std::int32_t angle = rect.turn + ((rect.twist * away) >> 8);
+        const std::int32_t x = wrapAdd(middleX, seen(windAt(rect.windX, rect.reach, away) - hereX));
+        const std::int32_t y = wrapAdd(middleY, seen(windAt(rect.windY, rect.reach, away) - hereY));
+        const std::int32_t angle = wrapAdd(rect.turn, wrapMul(rect.twist, away) >> 8);
         const std::uint32_t colour =
             dimmed(rect, colourAhead(rect, ahead), fullBrightness - away / rect.count);
         const auto draw = [&](RECT_FACE face, std::uint32_t shade) {
@@ -135,8 +136,8 @@ void drawTunnel(const RECT& rect, IMG* target) {
 
 /// Rectangles that grow evenly from nothing, each turned and moved a little from the one around it.
 void drawNest(const RECT& rect, IMG* target) {
-    const std::int32_t middleX = rect.x + rect.width / 2;
-    const std::int32_t middleY = rect.y + rect.height / 2;
+    const std::int32_t middleX = wrapAdd(rect.x, rect.width / 2);
+    const std::int32_t middleY = wrapAdd(rect.y, rect.height / 2);
     for (std::int32_t ahead = rect.count - 1; ahead >= 0; --ahead) {
         const std::int32_t away = (ahead + 1) * step - (rect.travel & (step - 1));
         const std::int32_t grown = rect.count * step - away; // of count * step
@@ -145,9 +146,9 @@ void drawNest(const RECT& rect, IMG* target) {
         };
         // Born dark, and dark again before it leaves, so that nothing appears or vanishes at once.
         const std::int32_t share = std::min(grown, away);
-        RECT_drawTurned(target, middleX + seen(windAt(rect.windX, rect.reach, away)),
-                        middleY + seen(windAt(rect.windY, rect.reach, away)), seen(rect.paneWidth),
-                        seen(rect.paneHeight), rect.turn + ((rect.twist * away) >> 8), rect.face,
+        RECT_drawTurned(target, wrapAdd(middleX, seen(windAt(rect.windX, rect.reach, away))),
+                        wrapAdd(middleY, seen(windAt(rect.windY, rect.reach, away))), seen(rect.paneWidth),
+                        seen(rect.paneHeight), wrapAdd(rect.turn, wrapMul(rect.twist, away) >> 8), rect.face,
                         dimmed(rect, colourAhead(rect, ahead), share), rect.mix);
     }
 }

@@ -67,7 +67,7 @@ void drawCurve(const SINELINE& line, IMG* target, std::int32_t ago, std::uint32_
                                    breathed(line, line.wave[1].reach, ago)};
     Corner from = cornerOf(line, reach, 0, ago);
     for (std::int32_t i = 1; i <= line.corners; ++i) {
-        const Corner to = cornerOf(line, reach, i % line.corners, ago);
+        const Corner to = cornerOf(line, reach, i, ago); // the last one is a whole turn on: the first again
         IMGFX_addLine(target, from.x, from.y, to.x, to.y, colour);
         from = to;
     }

@@ -273,6 +273,13 @@ void expectTidyPens(const std::string& scene) {
     }
     EXPECT_EQ(demo.fontBitmap3->target, demo.screen) << scene;
     EXPECT_EQ(demo.waveColumns->y, VELM4030_scrollY) << scene;
+    if (scene.starts_with("extra") || scene == "particles") {
+        IMG_fill(demo.screen, 0);
+        demo.overlay = overlayRate;
+        VELM4030_fpsLayer();
+        demo.overlay = 0;
+        EXPECT_NE(std::count(demo.screen->pixels, demo.screen->pixels + 4096, 0xFFFFFFU), 0) << scene;
+    }
 }
 
 TEST_F(ScenesTest, LastAsLongAsTheyShouldAllocateNothingMeanwhileAndLeaveTidyPens) {

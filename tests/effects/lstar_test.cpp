@@ -8,14 +8,6 @@
 namespace velm::test {
 namespace {
 
-std::int32_t lit(const IMG* image) {
-    std::int32_t count = 0;
-    for (std::int32_t i = 0; i < image->width * image->height; ++i) {
-        count += image->pixels[i] != 0 ? 1 : 0;
-    }
-    return count;
-}
-
 TEST(Lstar, OneStarFliesOutOfTheMiddleAndComesBack) {
     const Owned<LSTAR, LSTAR_delete> sky(LSTAR_new());
     LSTAR_setCount(sky, 1);

@@ -62,15 +62,6 @@ TEST(Rect, NegativeAndClippedSizesAreThePlainOnes) {
     EXPECT_EQ(difference(pane, filled), "");
 }
 
-/// Pixels that are not black.
-std::int32_t lit(const IMG* img) {
-    std::int32_t count = 0;
-    for (std::int32_t i = 0; i < img->width * img->height; ++i) {
-        count += img->pixels[i] != 0 ? 1 : 0;
-    }
-    return count;
-}
-
 TEST(Rect, TurnedOnesKeepTheirAreaAndTheirPlace) {
     for (std::int32_t angle = -2048; angle <= 2048; angle += 37) {
         const Picture pane(IMG_newSized(200, 200));

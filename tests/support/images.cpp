@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/images.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace velm::test {
@@ -39,6 +40,11 @@ std::string difference(const IMG* actual, const IMG* expected) {
         }
     }
     return "";
+}
+
+std::int32_t lit(const IMG* img) {
+    const std::int64_t size = std::int64_t{img->width} * img->height;
+    return static_cast<std::int32_t>(size - std::count(img->pixels, img->pixels + size, 0U));
 }
 
 } // namespace velm::test

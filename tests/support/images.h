@@ -38,4 +38,7 @@ private:
 /// "" when both have the same size and pixels, else the first difference.
 std::string difference(const IMG* actual, const IMG* expected);
 
+/// Pixels that are not black.
+std::int32_t lit(const IMG* img);
+
 } // namespace velm::test

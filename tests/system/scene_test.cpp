@@ -77,7 +77,7 @@ TEST_F(SceneTest, ThePointerPictureFollowsTheRealPointer) {
     const int places[][2] = {{20, 110}, {200, 90}, {60, 180}};
     for (const auto& [x, y] : places) {
         session->movePointer(x + border, y + border);
-        EXPECT_TRUE(eventually([&] { return shows(picture, x, y, false); })) << x << ", " << y;
+        EXPECT_TRUE(eventually([&, x = x, y = y] { return shows(picture, x, y, false); })) << x << ", " << y;
     }
     IMG_delete(&picture);
 }

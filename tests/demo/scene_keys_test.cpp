@@ -1,27 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The pond, the portholes and the flight.
+// What the keys s and q change in the scenes that read their settings.
 #include "demo_run.h"
-#include "support/images.h"
+#include "support/owned.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace velm::test {
 namespace {
 
-class SceneRingsTest : public testing::Test {
+class SceneKeysTest : public testing::Test {
 protected:
     void SetUp() override { startDemo(); }
     void TearDown() override { headless.onFrame = nullptr; }
-
-    /// Runs a scene to its end and gives the presentations that it made.
-    static std::uint32_t lengthOf(void (*scene)()) {
-        const std::uint32_t before = headless.frames;
-        scene();
-        return headless.frames - before;
-    }
 
     /// A new picture of what a scene shows at a frame; Space ends it there.
     static IMG* frameOf(void (*scene)(), std::uint32_t frame) {
@@ -40,30 +34,18 @@ protected:
     }
 };
 
-TEST_F(SceneRingsTest, LastAsLongAsTheyShouldAndLeaveThePensUpright) {
-    EXPECT_EQ(lengthOf(VELM4030_sceneExtra2), 900U);
-    EXPECT_EQ(lengthOf(VELM4030_sceneExtra3), 750U);
-    EXPECT_EQ(lengthOf(VELM4030_sceneExtra12), 750U);
-    for (const LFONT* pen : {demo.textSmall, demo.textMedium}) {
-        EXPECT_TRUE(pen->target == demo.screen && pen->scale->x == 1 && pen->scale->y == 1 &&
-                    pen->angle == 0);
-    }
-    EXPECT_TRUE(demo.clearMode == ClearMode::black && settings.fadeOn == 0);
-}
-
-TEST_F(SceneRingsTest, ThePortholesShowWhatFlagSChooses) {
+TEST_F(SceneKeysTest, ThePortholesShowWhatFlagSChooses) {
     settings.flagS = 1;
-    IMG* planets = frameOf(VELM4030_sceneExtra3, 100);
-    IMG* again = frameOf(VELM4030_sceneExtra3, 100);
+    const Picture planets(frameOf(VELM4030_sceneExtra3, 100));
+    const Picture again(frameOf(VELM4030_sceneExtra3, 100));
     press('s');
-    IMG* sunset = frameOf(VELM4030_sceneExtra3, 100);
+    const Picture sunset(frameOf(VELM4030_sceneExtra3, 100));
     press('s');
     const auto isInside = [](std::int32_t i) { // the first hole, which stands still
         const std::int32_t x = i % 256 - 128;
         const std::int32_t y = i / 256 - 128;
         return x * x + y * y < 70 * 70;
     };
-    ASSERT_TRUE(planets != nullptr && again != nullptr && sunset != nullptr);
     EXPECT_EQ(difference(planets, again), "");
     EXPECT_NE(difference(planets, sunset), "");
     bool sameOutside = true;
@@ -71,9 +53,27 @@ TEST_F(SceneRingsTest, ThePortholesShowWhatFlagSChooses) {
         sameOutside = sameOutside && (isInside(i) || planets->pixels[i] == sunset->pixels[i]);
     }
     EXPECT_TRUE(sameOutside);
-    for (IMG** image : {&planets, &again, &sunset}) {
-        IMG_delete(image);
+}
+
+TEST_F(SceneKeysTest, TheJourneyReadsFlagSAndTheCityReadsTheBackground) {
+    VELM4030_scrollSetup(); // draws numbers the first time
+    settings.scrollOn = 0;  // its text runs on from scene to scene
+    const std::tuple<void (*)(), std::uint32_t, char> readers[] = {{VELM4030_sceneExtra10, 300, 's'},
+                                                                   {VELM4030_sceneExtra11, 300, 'q'}};
+    for (const auto& [scene, frame, key] : readers) {
+        const Picture before(frameOf(scene, frame));
+        const Picture again(frameOf(scene, frame));
+        press(key);
+        const Picture after(frameOf(scene, frame));
+        press(key);
+        EXPECT_EQ(difference(before, again), "");
+        std::int32_t changed = 0;
+        for (std::int32_t i = 0; i < 256 * 256; ++i) {
+            changed += before->pixels[i] != after->pixels[i] ? 1 : 0;
+        }
+        EXPECT_GT(changed, 5000) << key;
     }
+    settings.scrollOn = 1;
 }
 
 } // namespace
