@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <memory>
@@ -18,11 +17,6 @@ namespace velm::test {
 namespace {
 
 constexpr std::size_t frameBytes = 256 * 256 * 4;
-
-std::string contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 class CaptureTest : public testing::Test {
 protected:

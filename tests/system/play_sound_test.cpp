@@ -82,13 +82,5 @@ TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundRetur
     EXPECT_EQ(player.output(), "sound: alsa\n");
 }
 
-TEST_F(PlaySoundTest, WithoutADeviceItSaysSoAndPlaysOn) {
-    pulseaudio->signal(SIGKILL);
-    Child player({VELM_PLAYER, "--scale", "1", "--sound", "oss", "--frames", "50"}, withDisplay());
-    EXPECT_EQ(player.waitForExit(), 0);
-    EXPECT_EQ(player.output(), "sound: none (no oss device)\n");
-    EXPECT_EQ(player.errors(), "");
-}
-
 } // namespace
 } // namespace velm::test

@@ -15,7 +15,6 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <memory>
 
 namespace velm::test {
@@ -26,17 +25,6 @@ constexpr std::size_t framePixels = std::size_t{pictureSize} * pictureSize;
 constexpr std::ptrdiff_t startFrames = 33; ///< the logo and its fading out; the last ones are all black
 
 using Frame = std::vector<std::uint32_t>;
-
-std::string temporaryFile() {
-    std::string path = std::filesystem::temp_directory_path() / "velm-play-XXXXXX";
-    close(mkstemp(path.data()));
-    return path;
-}
-
-std::string contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// The demo's first frames, from the capture tool.
 const std::vector<Frame>& captured() {
@@ -163,13 +151,7 @@ TEST_P(PlayFrames, AreTheDemosBitForBitOnEveryWayToTheServer) {
         EXPECT_EQ(maps.find("/SYSV") != std::string::npos, way.shared);
         stage.pause();
         stage.expectShown(2, 0, 0);
-        const std::size_t first = stage.shown(2, 0, 0);
-        EXPECT_EQ(first, static_cast<std::size_t>(stage.puts())) << "the frame of the same number";
-        stage.session.press("p");
-        ASSERT_TRUE(eventually([&] { return static_cast<std::size_t>(stage.puts()) > first; }));
-        stage.pause();
-        stage.expectShown(2, 0, 0);
-        EXPECT_GT(stage.shown(2, 0, 0), first);
+        EXPECT_EQ(stage.shown(2, 0, 0), static_cast<std::size_t>(stage.puts())) << "that of the same number";
         stage.session.press("Escape");
         EXPECT_EQ(stage.player->waitForExit(), 0);
         EXPECT_EQ(stage.player->errors(), "");
@@ -316,20 +298,11 @@ TEST(Play, ALostDisplayEndsItWithOneLine) {
 }
 
 TEST(Play, TakesItsArgumentsAndRefusesWrongOnesWithOneLine) {
-    for (const std::vector<std::string>& wrong :
-         std::vector<std::vector<std::string>>{{"nothing"},
-                                               {"default", "default"},
-                                               {"--scale", "0"},
-                                               {"--scale", "2", "--fullscreen"},
-                                               {"--sound", "loud"},
-                                               {"--volume", "101"},
-                                               {"--rate", "50"},
-                                               {"--frames", "0"},
-                                               {"--unknown"}}) {
-        std::vector<std::string> command = wrong;
-        command.insert(command.begin(), VELM_PLAYER);
-        Child player(command, {});
-        EXPECT_EQ(player.waitForExit(), 2) << wrong.front();
+    for (const std::string wrong :
+         {"nothing", "default default", "--scale 0", "--scale 2x", "--sound loud", "--scale 2 --fullscreen",
+          "--volume 101", "--rate 50", "--frames 0", "--unknown"}) {
+        Child player({"sh", "-c", "exec \"$0\" " + wrong, VELM_PLAYER}, {});
+        EXPECT_EQ(player.waitForExit(), 2) << wrong;
         const std::string line = player.errors();
         EXPECT_EQ(line.substr(0, 15), "velm4030-play: ");
         EXPECT_EQ(line.find('\n'), line.size() - 1) << line;
@@ -339,9 +312,11 @@ TEST(Play, TakesItsArgumentsAndRefusesWrongOnesWithOneLine) {
     const std::string lines = list.output();
     EXPECT_EQ(static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n')), SCENE_all().size());
     const XServer server("24");
-    Child deaf({"sh", "-c", "exec \"$0\" --sound none --frames 60 --rate 60 interlude-a >&-", VELM_PLAYER},
-               {{"DISPLAY", server.display()}});
-    EXPECT_EQ(deaf.waitForExit(), 0) << deaf.errors();
+    const std::string play = "exec \"$0\" --frames 60 --rate 60 --sound oss interlude-a";
+    Child silent({"sh", "-c", play, VELM_PLAYER}, {{"DISPLAY", server.display()}});
+    EXPECT_EQ(silent.waitForExit(), 0) << silent.errors();
+    EXPECT_EQ(silent.output(), "sound: none (no oss device)\n");
+    EXPECT_EQ(runTool({"sh", "-c", play + " >&-", VELM_PLAYER}, {{"DISPLAY", server.display()}}), 0);
 }
 
 } // namespace

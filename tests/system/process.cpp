@@ -19,12 +19,6 @@ namespace velm::test {
 
 namespace {
 
-std::string temporaryFile() {
-    std::string path = std::filesystem::temp_directory_path() / "velm-child-XXXXXX";
-    close(mkstemp(path.data()));
-    return path;
-}
-
 void redirect(const std::string& path, int descriptor) {
     const int file = ::open(path.c_str(), O_WRONLY | O_TRUNC);
     dup2(file, descriptor);
@@ -64,6 +58,17 @@ double processorSecondsOf(pid_t pid) {
 }
 
 } // namespace
+
+std::string temporaryFile() {
+    std::string path = std::filesystem::temp_directory_path() / "velm-test-XXXXXX";
+    close(mkstemp(path.data()));
+    return path;
+}
+
+std::string contents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 Child::Child(const std::vector<std::string>& arguments, const Environment& environment)
     : outputPath(temporaryFile()), errorPath(temporaryFile()) {
@@ -130,11 +135,6 @@ double Child::processorSeconds() const {
         seconds += processorSecondsOf(child);
     }
     return seconds;
-}
-
-std::string Child::contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 XServer::XServer(const std::string& depth, const std::string& size, const std::vector<std::string>& more)

@@ -17,6 +17,12 @@ namespace velm::test {
 
 using Environment = std::vector<std::pair<std::string, std::string>>;
 
+/// Makes an empty file, which the caller removes.
+std::string temporaryFile();
+
+/// All bytes of a file.
+std::string contents(const std::string& path);
+
 /// A child process; its standard output and error go to files of its own. The destructor ends it.
 class Child {
 public:
@@ -40,8 +46,6 @@ public:
     [[nodiscard]] pid_t id() const { return pid; }
 
 private:
-    static std::string contents(const std::string& path);
-
     pid_t pid = -1;
     int status = -1;
     bool ended = false;

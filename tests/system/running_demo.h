@@ -13,12 +13,10 @@
 #include "process.h"
 #include "x11_session.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace velm::test {
@@ -61,11 +59,7 @@ protected:
 
     XServer server{"24"};
     std::optional<Session> session{server.display()};
-    std::string spyLog = [] {
-        std::string path = std::filesystem::temp_directory_path() / "velm-spy-XXXXXX";
-        close(mkstemp(path.data()));
-        return path;
-    }();
+    std::string spyLog = temporaryFile();
     Child demo{{VELM_PROGRAM}, environment()};
 };
 

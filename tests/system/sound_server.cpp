@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace velm::test {
 
@@ -25,8 +23,7 @@ double energy(const std::int16_t* begin) {
 } // namespace
 
 Sound readSound(const std::string& path, std::size_t headerBytes) {
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = contents(path);
     Sound sound;
     for (std::size_t i = headerBytes; i + 1 < bytes.size(); i += 2) {
         sound.push_back(static_cast<std::int16_t>(static_cast<unsigned char>(bytes[i]) |
