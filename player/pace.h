@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Picture and sound go through two clocks, the machine's and the sound device's. The device leads: the player
-// is kept as far ahead of a device that is just full as it was at first, by frames that last longer while it
+// is kept as far ahead of a device that is full as it was at first, by frames that last longer while it
 // is too far ahead and shorter while it is not enough. So the device never runs dry, and the sound stays with
 // the picture from the first second on.
 //
@@ -18,13 +18,12 @@ namespace velm {
 class Pace {
 public:
     /// Microseconds to add to the sleep of a frame that gave the device a block. A difference is made up for
-    /// within a second or so: a device that takes its sound in large bites is not to shake the picture.
+    /// within a second or so, unseen.
     std::int32_t correction(std::int64_t aheadMicros) {
         if (framesSeen < framesToLearn) {
             ++framesSeen;
             sum += aheadMicros;
-            tellsRoom = tellsRoom || aheadMicros < 0;
-            target = std::clamp(sum / framesToLearn, tellsRoom ? -mostRoom : leastAhead, mostAhead);
+            target = std::clamp(sum / framesToLearn, leastAhead, mostAhead);
             return 0;
         }
         constexpr std::int64_t framesToMakeUp = 16;
@@ -33,16 +32,13 @@ public:
     }
 
 private:
-    /// Bites of a server's 40 ms make the same pattern again after 6 frames of 30 in a second, 12 of 60.
     static constexpr std::int64_t framesToLearn = 36;
-    static constexpr std::int64_t mostRoom = 40000;
-    /// Of a device that does not tell its room, only what waits in front shows that it is full.
+    /// Of a device that does not tell what it lacks, only what waits in front shows that it is full.
     static constexpr std::int64_t leastAhead = 10000;
     static constexpr std::int64_t mostAhead = 80000;
 
     std::int64_t framesSeen = 0;
-    std::int64_t sum = 0; ///< microseconds ahead in the first frames
-    bool tellsRoom = false;
+    std::int64_t sum = 0;    ///< microseconds ahead in the first frames
     std::int64_t target = 0; ///< microseconds ahead to be kept, after these
 };
 

@@ -38,6 +38,18 @@ bool writeSilence(snd_pcm_sframes_t samples) {
     return samples <= 0 || writeAll(std::vector<std::int16_t>(static_cast<std::size_t>(samples)));
 }
 
+/// How many samples the device lacks to hold a buffer and an eighth. A sound server takes its sound in bites;
+/// the samples that it has still to play tell of the time in between. The eighth waits in front of a buffer
+/// that is full.
+std::int32_t lackNow() {
+    snd_pcm_sframes_t toPlay = 0;
+    if (snd_pcm_delay(device, &toPlay) < 0) {
+        toPlay = 0; // it has stopped
+    }
+    toPlay = std::clamp<snd_pcm_sframes_t>(toPlay, 0, 2 * bufferSamples);
+    return static_cast<std::int32_t>(bufferSamples + bufferSamples / 8 - toPlay);
+}
+
 /// How many samples fit now; a device that has stopped is empty and made ready. Negative when it is lost.
 snd_pcm_sframes_t roomNow() {
     const snd_pcm_sframes_t room = snd_pcm_avail_update(device);
@@ -67,17 +79,13 @@ bool alsaOpen() {
     return writeSilence(2 * bufferSamples + bufferSamples / 2);
 }
 
-std::int32_t alsaWrite(std::span<const std::int16_t> samples) {
-    const snd_pcm_sframes_t room = roomNow();
+std::optional<std::int32_t> alsaWrite(std::span<const std::int16_t> samples) {
     // After a silence the device is filled up first. The block then has to wait as it will from now on.
-    if (room < 0 || (isIdle && !writeSilence(room))) {
-        return -1;
+    if (roomNow() < 0 || (isIdle && !writeSilence(lackNow()))) {
+        return std::nullopt;
     }
     isIdle = false;
-    if (!writeAll(samples)) {
-        return -1;
-    }
-    return static_cast<std::int32_t>(std::max<snd_pcm_sframes_t>(snd_pcm_avail_update(device), 0));
+    return writeAll(samples) ? std::optional(lackNow()) : std::nullopt;
 }
 
 bool alsaIdle() {

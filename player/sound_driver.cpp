@@ -31,12 +31,12 @@ bool ossOpen() {
            OSS_request(ossDevice, DspRequest::speed, &rate) >= 0;
 }
 
-std::int32_t ossWrite(std::span<const std::int16_t> samples) {
+std::optional<std::int32_t> ossWrite(std::span<const std::int16_t> samples) {
     while (!samples.empty()) {
         const std::int32_t bytes =
             OSS_write(ossDevice, samples.data(), static_cast<std::int32_t>(samples.size()));
         if (bytes <= 0) {
-            return -1;
+            return std::nullopt;
         }
         samples = samples.subspan(static_cast<std::size_t>(bytes) / sizeof samples[0]);
     }

@@ -21,6 +21,7 @@ namespace {
 
 constexpr std::int64_t microsPerSecond = 1000000;
 constexpr std::int64_t patienceMicros = 3 * microsPerSecond;
+constexpr std::int64_t mostPlayedMicros = microsPerSecond / 10; ///< without telling; more, and it hangs
 constexpr std::int64_t retryMicros = microsPerSecond;
 constexpr std::int64_t mostWaiting = SAMPLE_rate / 4;
 constexpr std::size_t mostBlockSamples = 4096;
@@ -31,11 +32,13 @@ std::int64_t microsOf(std::int64_t samples) {
 
 /// What the process tells the player.
 struct News {
-    std::int32_t taken; ///< samples that the device has just taken; 0 says that it is open
-    std::int32_t room;  ///< samples that it could take besides
+    std::int32_t taken;  ///< samples that the device has just taken; 0 says that it is open
+    std::int32_t lack;   ///< samples that it lacks now
+    std::int64_t micros; ///< the time
 };
 
-bool tell(int line, News news) {
+bool tell(int line, std::int32_t taken, std::int32_t lack) {
+    const News news{taken, lack, CLOCK_now()};
     return ::send(line, &news, sizeof news, MSG_NOSIGNAL) == sizeof news;
 }
 
@@ -44,8 +47,8 @@ bool passOn(const SoundDriver& driver, int line) {
     std::int16_t block[mostBlockSamples];
     const ssize_t bytes = recv(line, block, sizeof block, 0);
     const std::size_t samples = static_cast<std::size_t>(std::max<ssize_t>(bytes, 0)) / sizeof block[0];
-    const std::int32_t room = samples > 0 ? driver.write({block, samples}) : -1;
-    return room >= 0 && tell(line, {static_cast<std::int32_t>(samples), room});
+    const auto lack = samples > 0 ? driver.write({block, samples}) : std::nullopt;
+    return lack && tell(line, static_cast<std::int32_t>(samples), *lack);
 }
 
 /// All that the process does. It has nothing of the player's but the line: no display, no terminal for a
@@ -59,7 +62,7 @@ bool passOn(const SoundDriver& driver, int line) {
     dup2(playersLine, line);
     close_range(line + 1, ~0U, 0);
     std::signal(SIGPIPE, SIG_IGN);
-    bool plays = driver.open() && tell(line, {0, 0});
+    bool plays = driver.open() && tell(line, 0, 0);
     while (plays) {
         constexpr int idleMillis = 10;
         pollfd input{line, POLLIN, 0};
@@ -89,8 +92,8 @@ bool SoundProcess::start(const SoundDriver& soundDriver) {
     line = ends[0];
     open = false;
     waiting = 0;
-    room = 0;
-    heardMicros = CLOCK_now();
+    lack = 0;
+    heardMicros = toldMicros = CLOCK_now();
     if (process < 0) {
         lose();
     }
@@ -124,14 +127,13 @@ bool SoundProcess::send(std::span<const std::int16_t> block) {
         return false;
     }
     waiting += samples;
-    lastBlock = samples;
     return true;
 }
 
 std::int64_t SoundProcess::aheadMicros() const {
-    // It tells of whole blocks; in between, the device goes on taking.
-    const std::int64_t taken = std::min(CLOCK_now() - heardMicros, microsOf(lastBlock));
-    return std::max<std::int64_t>(microsOf(waiting) - taken, 0) - microsOf(room);
+    // It tells of whole blocks; in between, the device goes on playing.
+    const std::int64_t played = std::min(CLOCK_now() - toldMicros, mostPlayedMicros);
+    return microsOf(waiting - lack) - played;
 }
 
 /// Reads what the process has told.
@@ -147,7 +149,8 @@ void SoundProcess::hear() {
         }
         open = true;
         waiting -= news.taken;
-        room = news.room;
+        lack = news.lack;
+        toldMicros = news.micros;
         heardMicros = CLOCK_now();
     }
 }

@@ -35,8 +35,8 @@ public:
     /// that would wait for too long.
     bool send(std::span<const std::int16_t> block);
 
-    /// How far the player is ahead of a device that is just full, in microseconds; negative while the device
-    /// could take more.
+    /// How far the player is ahead of a device that is as full as it is to be, in microseconds; negative
+    /// while the device lacks more than waits.
     [[nodiscard]] std::int64_t aheadMicros() const;
 
     /// Ends the process, if there is one, and what the device still holds with it.
@@ -52,9 +52,9 @@ private:
     int line = -1;                ///< to the process; -1 while there is none
     bool open = false;            ///< the device has been opened
     std::int64_t waiting = 0;     ///< samples sent that the device has not taken
-    std::int64_t room = 0;        ///< samples that the device could take, when it last told
-    std::int64_t lastBlock = 0;   ///< samples of the last block sent
-    std::int64_t heardMicros = 0; ///< when the process last told something, or was started
+    std::int64_t lack = 0;        ///< samples that the device lacked when it last told
+    std::int64_t toldMicros = 0;  ///< when it last told
+    std::int64_t heardMicros = 0; ///< when the process was last heard, or was started
     std::int64_t startMicros = 0; ///< when to start the next process
 };
 

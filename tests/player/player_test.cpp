@@ -72,17 +72,17 @@ TEST(Enlarge, EveryPixelBecomesASquareAndNothingElseChanges) {
 /// and takes them in bites; in front of it waits what it cannot hold.
 struct VirtualDevice {
     double clockRatio;
-    std::int64_t bite;  ///< samples
-    std::int64_t phase; ///< samples of the first bite that it has played when the player starts
+    std::int64_t bite; ///< samples
 
     static constexpr std::int64_t capacity = 8820;
+    static constexpr std::int64_t full = capacity + capacity / 8;
     std::int64_t written = capacity; ///< into the device; it starts full of silence
-    std::int64_t waiting = 0;
+    std::int64_t waiting = full - capacity;
     std::int64_t taken = 0;
     bool ranDry = false;
 
     [[nodiscard]] std::int64_t heard(std::int64_t micros) const {
-        return static_cast<std::int64_t>(static_cast<double>(micros) * clockRatio * 0.0441) + phase;
+        return static_cast<std::int64_t>(static_cast<double>(micros) * clockRatio * 0.0441);
     }
     void fill() {
         const std::int64_t moved = std::min(waiting, capacity - (written - taken));
@@ -96,8 +96,8 @@ struct VirtualDevice {
             fill();
         }
     }
-    [[nodiscard]] std::int64_t aheadMicros() const {
-        return (waiting - (capacity - (written - taken))) * 1000000 / 44100;
+    [[nodiscard]] std::int64_t aheadMicros(std::int64_t micros) const {
+        return (waiting + written - heard(micros) - full) * 1000000 / 44100;
     }
 };
 
@@ -124,7 +124,7 @@ std::int64_t driftOf(VirtualDevice device, std::int32_t rate) {
         }
         const std::int64_t rest = 1000000 / rate - (now - begin);
         if (rest > 0) {
-            now += std::max<std::int64_t>(rest + pace.correction(device.aheadMicros()), 0);
+            now += std::max<std::int64_t>(rest + pace.correction(device.aheadMicros(now)), 0);
             now += random.number(50, 250); // sleeps end late
         }
     }
@@ -137,12 +137,9 @@ TEST(Pace, TenMinutesStayTogetherWithinAFrameAndTheDeviceNeverRunsDry) {
     for (const double clockRatio : {0.9995, 1.0, 1.0005}) {
         for (const std::int64_t bite : {64, 882, 1764}) {
             for (const std::int32_t rate : {30, 60}) {
-                for (const std::int64_t phase : {std::int64_t{0}, bite / 2, bite - 1}) {
-                    const std::int64_t drift = driftOf({clockRatio, bite, phase}, rate);
-                    EXPECT_LT(drift, 44100 / rate)
-                        << clockRatio << ", " << bite << ", " << rate << ", " << phase;
-                    worst = std::max(worst, drift);
-                }
+                const std::int64_t drift = driftOf({clockRatio, bite}, rate);
+                EXPECT_LT(drift, 44100 / rate) << clockRatio << ", " << bite << ", " << rate;
+                worst = std::max(worst, drift);
             }
         }
     }
