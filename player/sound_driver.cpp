@@ -5,6 +5,9 @@
 #include "audio/sample.h"
 #include "platform/oss.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace velm {
 
 namespace {
@@ -13,6 +16,27 @@ constexpr SoundDriver drivers[] = {{"oss", ossOpen, ossWrite, ossIdle},
                                    {"alsa", alsaOpen, alsaWrite, alsaIdle}};
 
 std::int32_t ossDevice = -1;
+constexpr std::int32_t ossFull = SAMPLE_rate / 5;
+
+/// Writes all of it, waiting; false when the device is lost.
+bool ossWriteAll(std::span<const std::int16_t> samples) {
+    while (!samples.empty()) {
+        const std::int32_t bytes =
+            OSS_write(ossDevice, samples.data(), static_cast<std::int32_t>(samples.size()));
+        if (bytes <= 0) {
+            return false;
+        }
+        samples = samples.subspan(static_cast<std::size_t>(bytes) / sizeof samples[0]);
+    }
+    return true;
+}
+
+/// How many samples the device lacks; none when it does not tell.
+std::int32_t ossLack() {
+    std::int32_t bytes = 0;
+    const bool tells = OSS_request(ossDevice, DspRequest::toPlay, &bytes) >= 0;
+    return tells ? ossFull - bytes / static_cast<std::int32_t>(sizeof(std::int16_t)) : 0;
+}
 
 } // namespace
 
@@ -32,15 +56,13 @@ bool ossOpen() {
 }
 
 std::optional<std::int32_t> ossWrite(std::span<const std::int16_t> samples) {
-    while (!samples.empty()) {
-        const std::int32_t bytes =
-            OSS_write(ossDevice, samples.data(), static_cast<std::int32_t>(samples.size()));
-        if (bytes <= 0) {
-            return std::nullopt;
-        }
-        samples = samples.subspan(static_cast<std::size_t>(bytes) / sizeof samples[0]);
+    constexpr std::int32_t nearlyDry = ossFull - ossFull / 8;
+    const std::int32_t lack = ossLack();
+    const auto silence = static_cast<std::size_t>(lack > nearlyDry ? std::min(lack, ossFull) : 0);
+    if (!ossWriteAll(std::vector<std::int16_t>(silence)) || !ossWriteAll(samples)) {
+        return std::nullopt;
     }
-    return 0;
+    return ossLack();
 }
 
 bool ossIdle() {

@@ -33,7 +33,7 @@ inline constexpr const char* silentDriver = "none";
 
 /// Opens "/dev/dsp" for the demo's sound; false without one, or with one that refuses.
 bool ossOpen();
-/// As SoundDriver::write. The device does not tell what it lacks.
+/// As SoundDriver::write. A device that ran dry gets a silence first.
 std::optional<std::int32_t> ossWrite(std::span<const std::int16_t> samples);
 /// True: the device waits in silence by itself.
 bool ossIdle();

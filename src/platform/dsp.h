@@ -21,6 +21,7 @@ enum class DspRequest : std::uint32_t {
     stereo = 0xC0045003,    ///< 0 for mono
     blockSize = 0xC0045004, ///< answer only: bytes of a block
     format = 0xC0045005,    ///< 16: signed 16-bit, low byte first
+    toPlay = 0x80045017,    ///< answer only: bytes that have still to be played
 };
 
 /// The block in bytes that suits a frame rate: one sample more than a frame lasts. A bar of three seconds

@@ -24,7 +24,8 @@ static_assert(isSystems(DspRequest::reset, SNDCTL_DSP_RESET) &&
               isSystems(DspRequest::speed, SNDCTL_DSP_SPEED) &&
               isSystems(DspRequest::stereo, SNDCTL_DSP_STEREO) &&
               isSystems(DspRequest::blockSize, SNDCTL_DSP_GETBLKSIZE) &&
-              isSystems(DspRequest::format, SNDCTL_DSP_SETFMT));
+              isSystems(DspRequest::format, SNDCTL_DSP_SETFMT) &&
+              isSystems(DspRequest::toPlay, SNDCTL_DSP_GETODELAY));
 
 } // namespace
 
