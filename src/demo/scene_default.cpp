@@ -63,11 +63,7 @@ void drawFigure(std::int32_t angle) {
 } // namespace
 
 void VELM4030_sceneDefaultSetup() {
-    settings.fadeStep = (static_cast<std::uint32_t>(rand()) & 63) * 0x010101 + 0x404040;
-    demo.blur = 0;
-    demo.glare = 0;
-    settings.fadeOn = 0;
-    demo.clearMode = ClearMode::black;
+    setLook({.fadeStep = (static_cast<std::uint32_t>(rand()) & 63) * 0x010101 + 0x404040});
     makeDots();
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();

@@ -234,11 +234,7 @@ void spreadGlow(const Browser& browser) {
 
 Browser VELM4030_sceneExtra1Setup() {
     listFolder();
-    settings.fadeStep = 0x181818;
-    settings.fadeOn = 1;
-    demo.blur = 0;
-    demo.glare = 0;
-    demo.clearMode = ClearMode::fade;
+    setLook({.fadeStep = 0x181818, .fadeOn = 1, .clearMode = ClearMode::fade});
     Browser browser{};
     makeRing(browser);
     makeLine(browser);

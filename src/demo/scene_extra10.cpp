@@ -174,11 +174,7 @@ LOGOFLY* makeWord() {
 
 Journey VELM4030_sceneExtra10Setup() {
     constexpr std::int32_t dotCount = 3000;
-    demo.blur = 0;
-    demo.glare = 0;
-    settings.fadeOn = 0;
-    settings.fadeStep = 0x101010;
-    demo.clearMode = ClearMode::black;
+    setLook({});
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     VELM4030_placeScroll(streamY);

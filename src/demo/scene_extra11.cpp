@@ -216,11 +216,7 @@ void melt(const City& city, std::int32_t frame) {
 
 City VELM4030_sceneExtra11Setup() {
     constexpr std::int32_t drops = 180;
-    demo.blur = 0;
-    demo.glare = 0;
-    settings.fadeOn = 0;
-    settings.fadeStep = 0x101010;
-    demo.clearMode = ClearMode::black;
+    setLook({});
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     VELM4030_placeScroll(streetY);

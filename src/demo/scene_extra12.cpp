@@ -183,11 +183,7 @@ void drawCaptions(std::int32_t frame) {
 }
 
 Flight VELM4030_sceneExtra12Setup() {
-    settings.fadeStep = 0x202020;
-    settings.fadeOn = 0;
-    demo.blur = 0;
-    demo.glare = 0;
-    demo.clearMode = ClearMode::black;
+    setLook({.fadeStep = 0x202020});
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     Flight flight{};

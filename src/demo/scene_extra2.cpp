@@ -200,11 +200,7 @@ void drawBands(Pond& pond, std::int32_t frame) {
 }
 
 Pond VELM4030_sceneExtra2Setup() {
-    settings.fadeStep = 0x202020;
-    settings.fadeOn = 0;
-    demo.blur = 0;
-    demo.glare = 1;
-    demo.clearMode = ClearMode::black;
+    setLook({.fadeStep = 0x202020, .glare = 1});
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     Pond pond{};

@@ -225,11 +225,7 @@ void drawCaptions(std::int32_t frame) {
 }
 
 Portholes VELM4030_sceneExtra3Setup() {
-    settings.fadeStep = 0x101010;
-    settings.fadeOn = 0;
-    demo.blur = 0;
-    demo.glare = 0;
-    demo.clearMode = ClearMode::black;
+    setLook({});
     Portholes show{};
     show.city = mirrored(demo.pictureWide, 1, 2);
     show.planets = mirrored(demo.pictureB, 2, 2);

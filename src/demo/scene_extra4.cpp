@@ -208,10 +208,7 @@ Shaft VELM4030_sceneExtra4Setup() {
     constexpr std::int32_t dots = 6000;
     constexpr std::int32_t logoX = 0;
     constexpr std::int32_t logoY = 32;
-    settings.fadeOn = 0;
-    demo.blur = 0;
-    demo.glare = 1; // the frames glow
-    demo.clearMode = ClearMode::black;
+    setLook({.glare = 1});
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     VELM4030_placeScroll(streamY);

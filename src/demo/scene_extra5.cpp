@@ -275,10 +275,7 @@ RASTER* makeBars() {
 Composition VELM4030_sceneExtra5Setup() {
     constexpr std::int32_t viewWidth = 128;
     constexpr std::int32_t viewHeight = 96;
-    settings.fadeOn = 0;
-    demo.blur = 0;
-    demo.glare = 0;
-    demo.clearMode = ClearMode::background;
+    setLook({.clearMode = ClearMode::background});
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     VELM4030_placeScroll(streamY);

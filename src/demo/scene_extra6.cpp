@@ -356,10 +356,7 @@ void drawTitles(std::int32_t frame) {
 
 Theatre VELM4030_sceneExtra6Setup() {
     constexpr std::int32_t dots = 3000;
-    settings.fadeOn = 0;
-    demo.blur = 0;
-    demo.glare = 0;
-    demo.clearMode = ClearMode::black;
+    setLook({});
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     VELM4030_placeScroll(streamY);

@@ -355,11 +355,7 @@ void drawFrame(const Play& play, std::int32_t frame) {
 
 void VELM4030_sceneExtra7Setup() {
     VELM4030_fadeOut();
-    settings.fadeOn = 0;
-    settings.fadeStep = 0x080808;
-    demo.blur = 0;
-    demo.glare = 1;
-    demo.clearMode = ClearMode::black;
+    setLook({.fadeStep = 0x080808, .glare = 1});
 }
 
 } // namespace

@@ -344,11 +344,7 @@ Studio makeStudio() {
 
 void VELM4030_sceneExtra8Setup() {
     VELM4030_fadeOut();
-    settings.fadeOn = 0;
-    settings.fadeStep = 0x080808;
-    demo.blur = 0;
-    demo.glare = 0;
-    demo.clearMode = ClearMode::black;
+    setLook({.fadeStep = 0x080808});
 }
 
 } // namespace

@@ -331,11 +331,7 @@ void deleteGarden(Garden& garden) {
 
 void VELM4030_sceneExtra9Setup() {
     VELM4030_fadeOut();
-    settings.fadeOn = 0;
-    settings.fadeStep = 0x080808;
-    demo.blur = 0;
-    demo.glare = 1;
-    demo.clearMode = ClearMode::black;
+    setLook({.fadeStep = 0x080808, .glare = 1});
 }
 
 } // namespace

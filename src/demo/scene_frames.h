@@ -35,6 +35,23 @@ inline void drawPointerAndOverlay() {
     VELM4030_fpsLayer();
 }
 
+/// How frames are filtered, shown and cleared until a key changes it. A scene says what differs from this.
+struct SceneLook {
+    std::uint32_t fadeStep = 0x101010; ///< what ClearMode::fade takes away a frame
+    std::uint8_t fadeOn = 0;           ///< 1: ClearMode::fade fades
+    std::uint8_t glare = 0;            ///< 1: the glare filter is on
+    ClearMode clearMode = ClearMode::black;
+};
+
+/// Every scene begins with a look of its own; none begins blurred.
+inline void setLook(const SceneLook& look) {
+    settings.fadeStep = look.fadeStep;
+    settings.fadeOn = look.fadeOn;
+    demo.blur = 0;
+    demo.glare = look.glare;
+    demo.clearMode = look.clearMode;
+}
+
 /// Calls draw(frame) for frame 0 to `count` - 1, each time between the start of the frame's time and what
 /// ends it: the post layer, the music layer and the keys. Space ends the loop early.
 template <typename Draw>

@@ -56,11 +56,9 @@ void drawLogo() {
 
 void VELM4030_sceneInterludeASetup() {
     IMG_fill(demo.screen, static_cast<std::uint32_t>(random()) & 0x1F1F1F);
-    settings.fadeStep = (static_cast<std::uint32_t>(rand()) & 15) * 0x010101 + 0x080808;
-    demo.blur = 0;
-    demo.glare = 0;
-    settings.fadeOn = 1;
-    demo.clearMode = ClearMode::fade;
+    setLook({.fadeStep = (static_cast<std::uint32_t>(rand()) & 15) * 0x010101 + 0x080808,
+             .fadeOn = 1,
+             .clearMode = ClearMode::fade});
     if (demo.ball == nullptr) {
         makeBall();
     }

@@ -135,11 +135,7 @@ void advanceWaves() {
 
 void VELM4030_sceneInterludeBSetup() {
     VELM4030_fadeOut();
-    settings.fadeStep = 0x080808;
-    demo.blur = 0;
-    demo.glare = 0;
-    settings.fadeOn = 0;
-    demo.clearMode = ClearMode::black;
+    setLook({.fadeStep = 0x080808});
     if (demo.mesh == nullptr) {
         makeMesh();
     }

@@ -160,11 +160,7 @@ void drawWorld(const Particles& particles, std::int32_t frame) {
 }
 
 Particles VELM4030_sceneParticlesSetup() {
-    demo.blur = 0;
-    demo.glare = 0;
-    settings.fadeOn = 0;
-    settings.fadeStep = 0x101010;
-    demo.clearMode = ClearMode::black;
+    setLook({});
     Particles particles{};
     particles.world = IMG_newSized(settings.windowWidth, settings.windowHeight);
     particles.view = IMG_newSized(settings.windowWidth, settings.windowHeight);
