@@ -197,17 +197,6 @@ void XDPY_present(XDPY* display, const IMG* img) {
     draw();
 }
 
-void XDPY_close(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
-        return;
-    }
-    x11Display.window = 0;
-    XDPY_current = nullptr;
-    delete *handle;
-    *handle = nullptr;
-}
-
 void x11ToPicture(std::int32_t& x, std::int32_t& y) {
     showing.layout.toPicture(x, y);
 }

@@ -120,4 +120,15 @@ bool XDPY_isOpen() {
     return x11Display.connection != nullptr && x11Display.window != 0;
 }
 
+void XDPY_close(XDPY** handle) {
+    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
+        XDPY_error();
+        return;
+    }
+    x11Display.window = 0;
+    XDPY_current = nullptr;
+    delete *handle;
+    *handle = nullptr;
+}
+
 } // namespace velm

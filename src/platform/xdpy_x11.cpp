@@ -137,15 +137,4 @@ void XDPY_present(XDPY* display, const IMG* img) {
     XFlush(x11Display.connection);
 }
 
-void XDPY_close(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
-        return;
-    }
-    x11Display.window = 0;
-    XDPY_current = nullptr;
-    delete *handle;
-    *handle = nullptr;
-}
-
 } // namespace velm
