@@ -6,7 +6,7 @@
 #include "demo/scenes.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
-#include "headless.h"
+#include "headless/headless.h"
 
 #include <benchmark/benchmark.h>
 #include <string>

@@ -28,3 +28,16 @@ function(velm_library name)
     target_link_libraries(velm_${name} PUBLIC velm_${lower})
   endforeach()
 endfunction()
+
+# velm_machine(NAME SOURCES FILE... LINKS LIBRARY...): the folder machines/NAME as velm_NAME, everything that one machine
+# puts behind the seam. It sees the seam, what lies below it, and the libraries of its machine; never another machine,
+# never the demo. An executable links exactly one. Objects, not an archive: the seam's own part needs them as much as
+# they need it.
+function(velm_machine name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  list(TRANSFORM ARG_SOURCES PREPEND "${PROJECT_SOURCE_DIR}/machines/${name}/")
+  add_library(velm_${name} OBJECT ${ARG_SOURCES})
+  velm_configure(velm_${name})
+  target_include_directories(velm_${name} PUBLIC "${PROJECT_SOURCE_DIR}/machines")
+  target_link_libraries(velm_${name} PUBLIC velm_platform PRIVATE ${ARG_LINKS})
+endfunction()

@@ -3,7 +3,7 @@
 #include "canvas.h"
 
 #include "enlarge.h"
-#include "platform/x11_pixels.h"
+#include "x11/pixels.h"
 
 #include <sys/ipc.h>
 #include <sys/shm.h>

@@ -10,7 +10,7 @@
 #pragma once
 
 #include "image/img.h"
-#include "platform/x11_display.h"
+#include "x11/display.h"
 
 #include <X11/extensions/XShm.h>
 

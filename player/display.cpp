@@ -6,6 +6,7 @@
 #include "foundation/memory.h"
 #include "full_screen.h"
 #include "layout.h"
+#include "platform/xkbd.h"
 #include "player.h"
 
 #include <X11/Xutil.h>
@@ -25,7 +26,6 @@ struct Showing {
     Layout layout{1, 0, 0};
     IMG* frame = nullptr; ///< the last one, for a window that is uncovered during a pause
     std::uint32_t frames = 0;
-    std::uint32_t framesAtPoll = 0;
 };
 Showing showing;
 
@@ -187,9 +187,6 @@ void XDPY_present(XDPY* display, const IMG* img) {
     }
     ++showing.frames;
     XDPY_dumpFrame(img);
-    if (player.onFrame) {
-        player.onFrame();
-    }
     if (!keep(*img)) {
         XDPY_error();
         return;
@@ -201,18 +198,10 @@ void x11ToPicture(std::int32_t& x, std::int32_t& y) {
     showing.layout.toPicture(x, y);
 }
 
-void x11AfterPoll(bool) {
-    const bool exposed = takeExposures();
-    // Every frame presents before it polls, so two polls without a presentation between them are a pause.
-    const bool paused = showing.frames == showing.framesAtPoll;
-    showing.framesAtPoll = showing.frames;
-    if (!paused) {
-        return;
-    }
-    constexpr useconds_t pausedMicros = 10000;
-    usleep(pausedMicros); // the demo would ask for the next key at once, for as long as the pause lasts
+void XKBD_rest(XKBD*) {
+    usleep(XKBD_longestRest);
     XWindowAttributes window{};
-    if (exposed && showing.frame != nullptr) {
+    if (takeExposures() && showing.frame != nullptr) {
         draw();
     } else {
         x11IsViewable(window); // notices a window that is gone

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "full_screen.h"
 
-#include "platform/x11_display.h"
+#include "x11/display.h"
 
 #include <X11/Xatom.h>
 #include <algorithm>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The platform headers for today's desktops: an enlarged picture in a window that can be resized or fills the
-// screen, and sound through whichever driver answers. Link velm_player in place of velm_platform.
+// screen, and sound through whichever driver answers. Link velm_player in place of velm_x11.
 //
 //     player.fullScreen = true;
 //     player.soundDriver = "alsa";
@@ -23,7 +23,6 @@ struct Player {
     std::int32_t volume = 100;     ///< per cent, 0..100
     std::uint32_t frameLimit = 0;  ///< presentations before onLimit is called instead of another; 0 for none
     std::function<void()> onLimit; ///< must not return
-    std::function<void()> onFrame; ///< called for every presentation
 };
 
 /// Read whenever a window, a sound device or a picture is asked for.

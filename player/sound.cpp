@@ -62,6 +62,10 @@ std::int32_t DSP_open(const char*) {
     return name == silentDriver ? -1 : theDevice;
 }
 
+std::int32_t DSP_frameRate(std::int32_t, std::int32_t framesPerSecond) {
+    return DSP_blockBytes(framesPerSecond);
+}
+
 std::int32_t DSP_request(std::int32_t, DspRequest request, std::int32_t* word) {
     if (request == DspRequest::blockSize) {
         *word = blockBytes;

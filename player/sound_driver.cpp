@@ -3,7 +3,7 @@
 #include "sound_driver.h"
 
 #include "audio/sample.h"
-#include "platform/oss.h"
+#include "x11/oss.h"
 
 #include <algorithm>
 #include <vector>

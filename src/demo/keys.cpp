@@ -27,12 +27,6 @@ void leave() {
     std::exit(0);
 }
 
-void setRate(std::int32_t rate) {
-    if (demo.fps != nullptr) {
-        demo.fps->targetRate = rate;
-    }
-}
-
 void togglePause() {
     demo.paused ^= 1;
     VELM4030_pauseLoop();
@@ -49,8 +43,8 @@ constexpr KeyCommand commands[] = {
     {'2', [] { settings.flag2 ^= 1; }},
     {'3', [] { settings.flag3 ^= 1; }},
     {'4', [] { settings.rastersOn ^= 1; }},
-    {'5', [] { setRate(30); }},
-    {'6', [] { setRate(60); }},
+    {'5', [] { VELM4030_setFrameRate(30); }},
+    {'6', [] { VELM4030_setFrameRate(60); }},
     {'7', [] { settings.flag3 ^= 4; }},
     {'8', [] { demo.overlay ^= overlayRate; }},
     {'9', [] { demo.overlay ^= overlaySpare; }},
@@ -85,6 +79,13 @@ void VELM4030_handleKey(XKBD* keyboard) {
     }
 }
 
+void VELM4030_setFrameRate(std::int32_t framesPerSecond) {
+    if (demo.fps != nullptr) {
+        demo.fps->targetRate = framesPerSecond;
+        XSND_setFrameRate(demo.sound, framesPerSecond);
+    }
+}
+
 void VELM4030_fadeOut() {
     // VELM4030_fadeOutIsLong: one expects to stop at black, which two passes reach; all 32 are presented, and
     // leaving takes as long.
@@ -99,6 +100,9 @@ void VELM4030_pauseLoop() {
     while (demo.paused != 0) {
         XKBD_poll(demo.keyboard);
         VELM4030_handleKey(demo.keyboard);
+        if (demo.paused != 0) {
+            XKBD_rest(demo.keyboard);
+        }
     }
 }
 

@@ -106,6 +106,8 @@ void VELM4030_musicLayer();
 
 /// Acts on the key press in the record, if there is one, and clears it.
 void VELM4030_handleKey(XKBD* keyboard);
+/// Paces the frames, 30 or 60 a second, and has the sound device follow.
+void VELM4030_setFrameRate(std::int32_t framesPerSecond);
 /// 32 passes of darkening `screen`, each presented.
 void VELM4030_fadeOut();
 /// Polls and handles keys, and does nothing else, until the pause is over.

@@ -31,6 +31,13 @@ XKBD* XKBD_new();
 /// status 0.
 void XKBD_poll(XKBD* keyboard);
 
+/// The longest rest of a paused demo in microseconds: short enough for a key to seem to act at once.
+inline constexpr std::int32_t XKBD_longestRest = 10000;
+
+/// The demo is paused: between two polls it does nothing but call this. A machine may wait here,
+/// XKBD_longestRest microseconds at most, and does what a window needs while it stands still.
+void XKBD_rest(XKBD* keyboard);
+
 /// The text "XKBD".
 const char* XKBD_getName(const XKBD* keyboard);
 /// Always 0: there is no state beyond the record.

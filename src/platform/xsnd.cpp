@@ -32,19 +32,27 @@ bool configure(XSND* sound) {
            accepts(DspRequest::speed, &sound->rate) && accepts(DspRequest::blockSize, &sound->blockSize);
 }
 
+/// Makes a block of that size in place of the one before; false without memory, which leaves that one.
+bool takeBlock(XSND* sound, std::int32_t bytes) {
+    const std::int32_t samples = bytes / 2;
+    auto* const block = allocateArray<std::int16_t>(samples);
+    if (block == nullptr) {
+        return false;
+    }
+    delete[] sound->block;
+    sound->block = block;
+    sound->blockSize = bytes;
+    sound->blockSamples = samples;
+    return true;
+}
+
 /// Opens the device and makes the block that it asks for; false when any of it fails.
 bool openDevice(XSND* sound) {
     sound->fd = DSP_open(sound->device);
     if (sound->fd < 0 || !configure(sound)) {
         return false;
     }
-    const std::int32_t samples = sound->blockSize / 2;
-    sound->block = allocateArray<std::int16_t>(samples);
-    if (sound->block == nullptr) {
-        return false;
-    }
-    sound->blockSamples = samples;
-    return true;
+    return takeBlock(sound, sound->blockSize);
 }
 
 /// Moves the next values of the head into the block and gives their number: a whole block, or what is left,
@@ -119,6 +127,17 @@ std::int32_t XSND_playPart(XSND* sound) {
     }
     playBlock(sound);
     return sound->position != 0 ? 1 : 0;
+}
+
+void XSND_setFrameRate(XSND* sound, std::int32_t framesPerSecond) {
+    if (sound == nullptr) {
+        XSND_error();
+        return;
+    }
+    const std::int32_t bytes = sound->block != nullptr ? DSP_frameRate(sound->fd, framesPerSecond) : 0;
+    if (bytes > 0 && !takeBlock(sound, bytes)) {
+        XSND_error();
+    }
 }
 
 const char* XSND_name(const XSND* sound) {

@@ -26,7 +26,7 @@ struct XSND {
     char endian;                 ///< 'l': low byte first; describes only
     const char* device;          ///< "/dev/dsp"
     std::int32_t fd;             ///< descriptor of the device, negative when it could not be opened
-    std::int32_t blockSize;      ///< bytes of a block, the driver's choice
+    std::int32_t blockSize;      ///< bytes of a block, as the driver says
     LIST* queue;                 ///< owned, its SAMPLEs are not: what is still to be played, head first
     const SAMPLE* current;       ///< borrowed: the head at the last play call
     std::int32_t position;       ///< index of the next value of `current`
@@ -50,6 +50,11 @@ std::int32_t XSND_play(XSND* sound);
 
 /// The same, but gives 1 when `current` is only partly played, else 0.
 std::int32_t XSND_playPart(XSND* sound);
+
+/// Says how often a second XSND_play is called from now on. Where the device leaves the size of its blocks to
+/// the demo they follow, so that a second of frames stays a second of sound; without memory for one the block
+/// stays.
+void XSND_setFrameRate(XSND* sound, std::int32_t framesPerSecond);
 
 /// The empty text.
 const char* XSND_name(const XSND* sound);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A timer without a machine: its alarms come while virtual time passes, at the same moments in every run.
-#include "headless.h"
+#include "headless/headless.h"
 #include "platform/clock.h"
 #include "platform/timer.h"
 

@@ -10,7 +10,7 @@
 
 #include "demo/state.h"
 #include "demo/velm4030.h"
-#include "headless.h"
+#include "headless/headless.h"
 
 namespace velm::test {
 

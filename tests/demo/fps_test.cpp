@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "demo/fps.h"
-#include "headless.h"
+#include "headless/headless.h"
 
 #include <gtest/gtest.h>
 

@@ -1,17 +1,27 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# cmake -DROOT=<the checkout> -P layers.cmake: fails when an #include points up, when Xlib or OSS headers are included
-# outside src/platform, when a source declares an extern of its own, or when a file lacks its licence line.
+# cmake -DROOT=<the checkout> -P layers.cmake: fails when an #include points up or from one machine into another, when
+# Xlib, OSS or SDL headers are included outside the machine that they belong to, when a source declares an extern of
+# its own, draws from the C library's chance, or when a file lacks its licence line.
 cmake_minimum_required(VERSION 3.22)
 
+# What a folder may include, and so what its CMake library may link.
 set(below_foundation foundation)
 set(below_image foundation image)
 set(below_vector foundation image vector)
 set(below_audio foundation image audio)
-set(below_platform foundation image vector audio platform)
-set(below_effects ${below_platform} effects)
+set(below_platform foundation image audio platform)
+set(below_effects foundation image vector audio platform effects)
 set(below_demo ${below_effects} demo)
+set(below_x11 ${below_platform} x11)
+set(below_headless ${below_platform} headless)
+set(below_common ${below_demo} common)
+set(below_capture ${below_common} capture headless)
+set(below_paint foundation image vector paint)
+set(below_play ${below_common} play desktop)
+
+set(systems_x11 "X11|sys/soundcard")
 
 set(findings "")
 function(check file folder)
@@ -20,12 +30,16 @@ function(check file folder)
   foreach(line IN LISTS lines)
     if(line MATCHES "SPDX-License-Identifier: MIT")
       set(has_card TRUE)
-    elseif(line MATCHES "^#include \"([a-z]+)/")
+    elseif(line MATCHES "^#include \"([a-z0-9]+)/")
       if(NOT CMAKE_MATCH_1 IN_LIST below_${folder})
         list(APPEND findings "${file}: ${line} points up")
       endif()
-    elseif(line MATCHES "^#include <(X11/|sys/soundcard|linux/soundcard)" AND NOT folder STREQUAL "platform")
-      list(APPEND findings "${file}: ${line} belongs to src/platform")
+    elseif(line MATCHES "^#include <(X11|sys/soundcard|linux/soundcard|SDL)")
+      if(NOT "${CMAKE_MATCH_1}" MATCHES "^(${systems_${folder}})$")
+        list(APPEND findings "${file}: ${line} belongs to a machine")
+      endif()
+    elseif(line MATCHES "(^|[^A-Za-z_.>])s?rand(om)?\\(" AND NOT line MATCHES "^ *//")
+      list(APPEND findings "${file}: ${line} is any library's to draw from: chance() is ours")
     elseif(line MATCHES "^extern " AND file MATCHES "\\.cpp$")
       list(APPEND findings "${file}: ${line} belongs to a header")
     endif()
@@ -37,15 +51,17 @@ function(check file folder)
 endfunction()
 
 set(checked 0)
-foreach(folder foundation image vector audio platform effects demo)
-  file(GLOB files "${ROOT}/src/${folder}/*.h" "${ROOT}/src/${folder}/*.cpp")
+foreach(place src/foundation src/image src/vector src/audio src/platform src/effects src/demo
+    machines/x11 machines/headless tools/common tools/capture tools/paint tools/play)
+  get_filename_component(folder "${place}" NAME)
+  file(GLOB_RECURSE files "${ROOT}/${place}/*.h" "${ROOT}/${place}/*.cpp")
   foreach(file IN LISTS files)
     check("${file}" "${folder}")
     math(EXPR checked "${checked} + 1")
   endforeach()
 endforeach()
 if(checked LESS 10)
-  list(APPEND findings "only ${checked} files found below ${ROOT}/src")
+  list(APPEND findings "only ${checked} files found below ${ROOT}")
 endif()
 if(findings)
   list(JOIN findings "\n  " text)

@@ -4,9 +4,8 @@
 // velm4030-capture: the demo on the machine without a machine, its frames and its sound written as they come.
 #include "capture/options.h"
 #include "capture/recorder.h"
-#include "demo/state.h"
 #include "demo/velm4030.h"
-#include "headless.h"
+#include "headless/headless.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -48,6 +47,6 @@ int main(int argc, char** argv) {
     headless.onEndlessPause = reportEndlessPause;
     std::atexit(finishRecording);
     VELM4030_init();
-    demo.fps->targetRate = options.rate;
+    VELM4030_setFrameRate(options.rate);
     SCENE_runForEver(options.scene);
 }

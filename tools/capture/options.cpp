@@ -124,14 +124,15 @@ CaptureOptions parseOptions(int argc, char** argv) {
     app.add_option("--crc", options.crc,
                    "a line a frame, number and CRC-32 of its words; - for standard output");
     app.add_option("--audio", options.audio, "what the sound device is handed, as a WAV file");
-    app.add_option("--block", options.block, "bytes of the sound driver's block")
+    app.add_option("--block", options.block, "bytes of the sound driver's block (what a frame lasts at --rate)")
         ->check(CLI::Range(2, 1 << 20));
     app.add_option("--mp4", options.film, "a film with sound, made by ffmpeg");
     app.add_option("--scale", options.scale, "enlargement of the film, without smoothing")
         ->check(CLI::Range(1, 16));
     app.add_flag("--quiet", options.quiet, "no progress line");
     parseOrLeave(app, "velm4030-capture", argc, argv, [&options] { requireApart(options); });
-    if (options.block == 0) {
+    // A driver names its block once, whatever the keys do to the rate; a film's sound has to stay with its picture.
+    if (options.block == 0 && options.film.empty()) {
         options.block = DSP_blockBytes(options.rate);
     }
     return options;

@@ -8,7 +8,7 @@
 #pragma once
 
 #include "demo/scenes.h"
-#include "headless.h"
+#include "headless/headless.h"
 
 #include <cstdint>
 #include <string>
@@ -28,7 +28,7 @@ struct CaptureOptions {
     std::string audio;
     std::string film;
     std::int32_t scale = 2; ///< enlargement of the film
-    std::int32_t block = 0; ///< bytes of the sound driver's block; 0 for what suits the rate
+    std::int32_t block = 0; ///< bytes of the sound driver's block; 0 for what suits the rate of each frame
     bool quiet = false;
 };
 

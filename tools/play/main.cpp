@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // velm4030-play: the demo as today's desktops want it.
-#include "demo/state.h"
 #include "demo/velm4030.h"
-#include "platform/dsp.h"
 #include "play/options.h"
 #include "player.h"
 
@@ -25,14 +23,6 @@ void haveStandardFiles() {
     close(file);
 }
 
-/// The driver's block follows the frame rate, which keys change: each frame hands over what it lasts.
-void fitBlockToRate() {
-    using namespace velm;
-    if (demo.sound != nullptr && demo.sound->block != nullptr && demo.fps != nullptr) {
-        demo.sound->blockSamples = DSP_blockBytes(demo.fps->targetRate) / 2;
-    }
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -46,8 +36,7 @@ int main(int argc, char** argv) {
     player.volume = options.volume;
     player.frameLimit = options.frames;
     player.onLimit = [] { std::exit(0); };
-    player.onFrame = fitBlockToRate;
     VELM4030_init();
-    demo.fps->targetRate = options.rate;
+    VELM4030_setFrameRate(options.rate);
     SCENE_runForEver(options.scene);
 }

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "headless.h"
 #include "platform/dsp.h"
+
+#include "headless/headless.h"
 
 namespace velm {
 
@@ -12,12 +13,17 @@ constexpr std::int32_t theDevice = 0;
 } // namespace
 
 std::int32_t DSP_open(const char*) {
-    return headless.blockBytes > 0 ? theDevice : -1;
+    return headless.hasSound ? theDevice : -1;
+}
+
+std::int32_t DSP_frameRate(std::int32_t, std::int32_t framesPerSecond) {
+    return headless.blockBytes > 0 ? 0 : DSP_blockBytes(framesPerSecond);
 }
 
 std::int32_t DSP_request(std::int32_t, DspRequest request, std::int32_t* word) {
     if (request == DspRequest::blockSize) {
-        *word = headless.blockBytes;
+        constexpr std::int32_t usualRate = 30;
+        *word = headless.blockBytes > 0 ? headless.blockBytes : DSP_blockBytes(usualRate);
     }
     return 0;
 }

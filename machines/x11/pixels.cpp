@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "platform/x11_pixels.h"
+#include "x11/pixels.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/memory.h"
-#include "platform/x11_display.h"
 #include "platform/xptr.h"
+#include "x11/display.h"
 
 #include <iterator>
 

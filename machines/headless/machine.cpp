@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/memory.h"
-#include "headless.h"
+#include "headless/headless.h"
 #include "platform/clock.h"
 #include "platform/xdpy.h"
 #include "platform/xkbd.h"
@@ -26,14 +26,6 @@ const Entry* takeDue(const std::vector<Entry>& entries, std::size_t& next) {
         return &entries[next++];
     }
     return nullptr;
-}
-
-/// Every frame presents before it polls, so two idle polls without a presentation between them are a pause.
-void noticeEndlessPause() {
-    if (headless.frames != 0 && headless.frames == headless.framesAtIdlePoll && headless.onEndlessPause) {
-        headless.onEndlessPause();
-    }
-    headless.framesAtIdlePoll = headless.frames;
 }
 
 } // namespace
@@ -117,12 +109,21 @@ void XKBD_poll(XKBD* keyboard) {
     }
     const HeadlessKey* const key = takeDue(headless.keys, headless.nextKey);
     if (key == nullptr) {
-        noticeEndlessPause();
         return;
     }
     keyboard->keycode = key->keycode;
     if (key->text != '\0') {
         keyboard->text[0] = key->text;
+    }
+}
+
+void XKBD_rest(XKBD*) {
+    // Time stands still in a pause, and so does the count of frames: only a key that is due already can end
+    // it.
+    const bool hasKey =
+        headless.nextKey < headless.keys.size() && headless.keys[headless.nextKey].frame <= headless.frames;
+    if (!hasKey && headless.onEndlessPause) {
+        headless.onEndlessPause();
     }
 }
 

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/memory.h"
-#include "platform/x11_display.h"
-#include "platform/x11_pixels.h"
+#include "platform/xkbd.h"
+#include "x11/display.h"
+#include "x11/pixels.h"
 
 #include <algorithm>
+#include <poll.h>
 
 namespace velm {
 
@@ -85,15 +87,17 @@ void XDPY_selectInput() {
 
 void x11ToPicture(std::int32_t&, std::int32_t&) {}
 
-void x11AfterPoll(bool tookKey) {
-    // A paused demo polls and does nothing else, so nobody else would notice that the window is gone.
-    constexpr std::int32_t pollsBetweenLooks = 4096;
-    static std::int32_t idlePolls = 0;
-    idlePolls = tookKey ? 0 : idlePolls + 1;
-    if (idlePolls >= pollsBetweenLooks) {
-        idlePolls = 0;
-        XWindowAttributes attributes{};
-        x11IsViewable(attributes);
+void XKBD_rest(XKBD*) {
+    if (!XDPY_isOpen()) {
+        return;
+    }
+    // Nobody else would notice now that the window is gone.
+    XWindowAttributes attributes{};
+    x11IsViewable(attributes);
+    if (XPending(x11Display.connection) == 0) {
+        constexpr int microsPerMilli = 1000;
+        pollfd input{ConnectionNumber(x11Display.connection), POLLIN, 0};
+        poll(&input, 1, XKBD_longestRest / microsPerMilli);
     }
 }
 

@@ -1,11 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "platform/oss.h"
+#include "x11/oss.h"
 
 namespace velm {
 
 std::int32_t DSP_open(const char* path) {
     return OSS_open(path);
+}
+
+std::int32_t DSP_frameRate(std::int32_t, std::int32_t) {
+    return 0; // the driver alone knows its blocks
 }
 
 std::int32_t DSP_request(std::int32_t device, DspRequest request, std::int32_t* word) {

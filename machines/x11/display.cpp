@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "platform/x11_display.h"
+#include "x11/display.h"
 
 #include <X11/Xutil.h>
 #include <cstdio>

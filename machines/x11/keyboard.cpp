@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "platform/x11_display.h"
 #include "platform/xkbd.h"
+#include "x11/display.h"
 
 #include <X11/Xutil.h>
 #include <cstdlib>
@@ -37,12 +37,10 @@ void XKBD_poll(XKBD* keyboard) {
         return;
     }
     XEvent event;
-    const bool taken = XCheckWindowEvent(x11Display.connection, x11Display.window, KeyPressMask, &event) != 0;
-    if (taken) {
+    if (XCheckWindowEvent(x11Display.connection, x11Display.window, KeyPressMask, &event) != 0) {
         XLookupString(&event.xkey, keyboard->text, lookedUpBytes, nullptr, nullptr);
         keyboard->keycode = static_cast<std::int32_t>(event.xkey.keycode);
     }
-    x11AfterPoll(taken);
 }
 
 } // namespace velm

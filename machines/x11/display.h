@@ -69,7 +69,4 @@ public:
 /// The window's own part: turns a place in the window into one of the picture.
 void x11ToPicture(std::int32_t& x, std::int32_t& y);
 
-/// The window's own part: called after every look for a key, so that a paused demo stays a good neighbour.
-void x11AfterPoll(bool tookKey);
-
 } // namespace velm

@@ -3,7 +3,7 @@
 //
 // A machine without a machine: the platform headers implemented with no X server, no sound device and virtual
 // time. A sleep moves the clock by what was asked and drawing takes none, so every run gives the same bytes.
-// Link velm_headless in place of velm_platform.
+// Link velm_headless in place of velm_x11.
 //
 //     headless.onFrame = [](const IMG& frame) { ... };
 //     headless.keys = {{100, ' ', 0}};
@@ -39,8 +39,9 @@ struct HeadlessPointer {
 struct Headless {
     std::vector<HeadlessKey> keys;         ///< in the order of their frames
     std::vector<HeadlessPointer> pointers; ///< in the order of their frames
+    bool hasSound = true;                  ///< there is a sound device
     std::int32_t blockBytes =
-        DSP_blockBytes(30); ///< what the sound driver says its block size is; 0 for no device
+        0; ///< the block that the sound driver insists on; 0: the one that suits the frame rate
     std::uint32_t frameLimit =
         0; ///< presentations before onLimit is called instead of another; 0 for no limit
 
@@ -50,11 +51,10 @@ struct Headless {
     std::function<void()> onLimit;        ///< must not return
     std::function<void()> onEndlessPause; ///< no key will ever end the pause; must not return
 
-    std::uint32_t frames = 0;           ///< presentations so far
-    std::int64_t micros = 0;            ///< virtual time
-    std::int64_t alarmAt = 0;           ///< virtual time of the next alarm, which a sleep raises; 0 for none
-    std::uint32_t alarmInterval = 0;    ///< microseconds from one alarm to the next; 0 for one alarm
-    std::uint32_t framesAtIdlePoll = 0; ///< presentations when the keyboard was last asked in vain
+    std::uint32_t frames = 0;        ///< presentations so far
+    std::int64_t micros = 0;         ///< virtual time
+    std::int64_t alarmAt = 0;        ///< virtual time of the next alarm, which a sleep raises; 0 for none
+    std::uint32_t alarmInterval = 0; ///< microseconds from one alarm to the next; 0 for one alarm
     std::size_t nextKey = 0;
     std::size_t nextPointer = 0;
 };

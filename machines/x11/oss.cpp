@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "platform/oss.h"
+#include "x11/oss.h"
 
 #include <csignal>
 #include <fcntl.h>
