@@ -8,10 +8,10 @@
 #include "effects/raster.h"
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
+#include "foundation/chance.h"
 #include "image/imgfx.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdlib>
 
 namespace velm {
 namespace {
@@ -26,7 +26,7 @@ void filterWindow(benchmark::State& state, Filter filter) {
     IMG* src = IMG_newSized(windowSize, windowSize);
     IMG* dst = IMG_newSized(windowSize, windowSize);
     for (std::int32_t i = 0; i < windowSize * windowSize; ++i) {
-        src->pixels[i] = static_cast<std::uint32_t>(rand()) & 0xFFFFFF;
+        src->pixels[i] = static_cast<std::uint32_t>(chance()) & 0xFFFFFF;
     }
     for (auto _ : state) {
         filter(src, dst);

@@ -4,12 +4,12 @@
 // The generators. Phases and periods are in values with a fraction of 15 bits.
 #include "audio/sound.h"
 
+#include "foundation/chance.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 namespace velm {
 
@@ -76,7 +76,7 @@ void squareCycle(SAMPLE* sample, std::int32_t phase, std::int32_t period, std::i
 }
 
 std::int32_t drawNoise() {
-    return (rand() & 0xFFFF) + lowest;
+    return (chance() & 0xFFFF) + lowest;
 }
 
 /// Multiplies by the line from `start` by 32767 in direction `sign`, and scales back.

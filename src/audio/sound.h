@@ -28,7 +28,7 @@ void SOUND_sine(SAMPLE* sample, std::int32_t frequency);
 /// left alone, a longer one mostly: see docs/quirks.md.
 void SOUND_square(SAMPLE* sample, std::int32_t frequency);
 
-/// White noise that takes a new value of rand() `rate` times a second, filled in from the end. The first
+/// White noise that takes a new value of chance() `rate` times a second, filled in from the end. The first
 /// value lasts half a second's worth of steps.
 void SOUND_noise(SAMPLE* sample, std::int32_t rate);
 

@@ -5,7 +5,7 @@
 // scratch sample, normalises and fades. Peaks fall as notes rise, so that the arrangement does not get
 // shrill.
 //
-// The order is part of the sound: noise draws from rand(), and the scratch carries over what a square wave
+// The order is part of the sound: noise draws from chance(), and the scratch carries over what a square wave
 // leaves untouched, from call to call and from group to group.
 #include "demo/instruments.h"
 

@@ -6,8 +6,7 @@
 #include "demo/assets.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
-
-#include <cstdlib>
+#include "foundation/chance.h"
 
 namespace velm {
 
@@ -21,7 +20,7 @@ constexpr std::int32_t waveStep = 3;    ///< 1/1024 turns per row or column
 
 /// A new wave amplitude: 32..63 pixels from crest to trough.
 std::int32_t drawAmplitude() {
-    return rand() % 32 + 32;
+    return chance() % 32 + 32;
 }
 
 template <typename Distorter>

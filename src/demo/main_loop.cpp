@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes.h"
 #include "demo/velm4030.h"
-
-#include <cstdlib>
+#include "foundation/chance.h"
 
 namespace velm {
 
@@ -15,13 +14,13 @@ void VELM4030_main() {
 }
 
 void VELM4030_runSchedule() {
-    constexpr long oneIn64 = 63;
-    constexpr long oneIn128 = 127;
+    constexpr std::int32_t oneIn64 = 63;
+    constexpr std::int32_t oneIn128 = 127;
     VELM4030_sceneDefault();
-    if ((random() & oneIn64) == 0) {
+    if ((chance() & oneIn64) == 0) {
         VELM4030_sceneInterludeA();
     }
-    if ((random() & oneIn128) == 0) {
+    if ((chance() & oneIn128) == 0) {
         VELM4030_sceneInterludeB();
     }
 }

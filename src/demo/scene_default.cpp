@@ -6,9 +6,8 @@
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "foundation/chance.h"
 #include "image/rgb888.h"
-
-#include <cstdlib>
 
 namespace velm {
 
@@ -19,15 +18,15 @@ constexpr std::int32_t dotCount = 16384;
 
 /// One of -4..-1 and 1..4; draws the size first, then the sign.
 std::int32_t drawStep() {
-    const std::int32_t size = rand() % 4 + 1;
-    const std::int32_t sign = 2 * (rand() % 2) - 1;
+    const std::int32_t size = chance() % 4 + 1;
+    const std::int32_t sign = 2 * (chance() % 2) - 1;
     return sign * size;
 }
 
 void makeDots() {
     demo.dots = SINEDOTS_new();
     SINEDOTS_setCount(demo.dots, dotCount);
-    const auto hue = static_cast<std::int32_t>(random() % hueCount);
+    const auto hue = chance() % hueCount;
     const auto colour = static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
     if (demo.dots != nullptr) {
         demo.dots->colour = RGB888_sub(colour, 0xF8F8F8);
@@ -63,13 +62,13 @@ void drawFigure(std::int32_t angle) {
 } // namespace
 
 void VELM4030_sceneDefaultSetup() {
-    setLook({.fadeStep = (static_cast<std::uint32_t>(rand()) & 63) * 0x010101 + 0x404040});
+    setLook({.fadeStep = (static_cast<std::uint32_t>(chance()) & 63) * 0x010101 + 0x404040});
     makeDots();
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
     const std::int32_t drawings = demo.fontLarge != nullptr ? demo.fontLarge->count : 0;
     if (drawings > 0) {
-        settings.largeTextIndex = static_cast<std::int32_t>(random() % drawings);
+        settings.largeTextIndex = chance() % drawings;
     }
 }
 

@@ -6,9 +6,8 @@
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "foundation/chance.h"
 #include "foundation/sine.h"
-
-#include <cstdlib>
 
 namespace velm {
 
@@ -29,10 +28,10 @@ void throwBall() {
     if (demo.ball == nullptr) {
         return;
     }
-    demo.ball->colour = static_cast<std::uint32_t>(random()) & 0x7F7F7F;
-    demo.ball->x = static_cast<std::int32_t>(random() % settings.windowWidth);
-    demo.ball->y = static_cast<std::int32_t>(random() % settings.windowHeight);
-    demo.ball->radius = static_cast<std::int32_t>(random() % settings.windowWidth) / 2;
+    demo.ball->colour = static_cast<std::uint32_t>(chance()) & 0x7F7F7F;
+    demo.ball->x = chance() % settings.windowWidth;
+    demo.ball->y = chance() % settings.windowHeight;
+    demo.ball->radius = chance() % settings.windowWidth / 2;
     BALL3D_draw(demo.ball);
 }
 
@@ -55,8 +54,8 @@ void drawLogo() {
 } // namespace
 
 void VELM4030_sceneInterludeASetup() {
-    IMG_fill(demo.screen, static_cast<std::uint32_t>(random()) & 0x1F1F1F);
-    setLook({.fadeStep = (static_cast<std::uint32_t>(rand()) & 15) * 0x010101 + 0x080808,
+    IMG_fill(demo.screen, static_cast<std::uint32_t>(chance()) & 0x1F1F1F);
+    setLook({.fadeStep = (static_cast<std::uint32_t>(chance()) & 15) * 0x010101 + 0x080808,
              .fadeOn = 1,
              .clearMode = ClearMode::fade});
     if (demo.ball == nullptr) {

@@ -6,6 +6,7 @@
 #include "demo/scene_frames.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "foundation/chance.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 
@@ -44,12 +45,12 @@ void makeMesh() {
     demo.meshView = OBJ2D_clone(demo.mesh);
 }
 
-/// Draws a wave anew: each field takes rand() AND its mask, plus its least value.
+/// Draws a wave anew: each field takes chance() AND its mask, plus its least value.
 void drawWave(MeshWave& wave, const MeshWave& masks, const MeshWave& least) {
-    wave.phase = (rand() & masks.phase) + least.phase;
-    wave.speed = (rand() & masks.speed) + least.speed;
-    wave.amplitude = (rand() & masks.amplitude) + least.amplitude;
-    wave.frequency = (rand() & masks.frequency) + least.frequency;
+    wave.phase = (chance() & masks.phase) + least.phase;
+    wave.speed = (chance() & masks.speed) + least.speed;
+    wave.amplitude = (chance() & masks.amplitude) + least.amplitude;
+    wave.frequency = (chance() & masks.frequency) + least.frequency;
 }
 
 /// Colours the view in diagonal bands that move 10 hues a frame.

@@ -8,16 +8,15 @@
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "effects/partixel.h"
+#include "foundation/chance.h"
 #include "image/imgfx.h"
-
-#include <cstdlib>
 
 namespace velm {
 
 namespace {
 
-constexpr unsigned int randomSeed = 8810;
-constexpr unsigned int randSeed = 273880913;
+constexpr std::uint32_t firstSeed = 8810;
+constexpr std::uint32_t secondSeed = 273880913;
 constexpr std::uint32_t ownGeneratorSeed = 0x6789ABCD;
 constexpr std::int32_t startRate = 30;
 
@@ -110,12 +109,12 @@ void VELM4030_init() {
     openDevices();
     makeScreen();
     demo.keyTable = KBD_new();
-    srandom(randomSeed);
+    chanceSeed(firstSeed);
     showLogo();
     demo.glareImage = IMG_newSized(settings.windowWidth, settings.windowHeight);
     demo.blurImage = IMG_newSized(settings.windowWidth, settings.windowHeight);
-    // In this C library rand() and random() draw from one generator, so this seeds both anew.
-    srand(randSeed);
+    // One generator decides all, so the draws from here on do not depend on those before.
+    chanceSeed(secondSeed);
     decodePictures();
     VELM4030_hueRampSetup();
     VELM4030_rasterSetup();

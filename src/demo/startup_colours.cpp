@@ -5,6 +5,7 @@
 // bars.
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "foundation/chance.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -88,7 +89,7 @@ void VELM4030_rasterSetup() {
     if (demo.rastersSecond != nullptr) {
         demo.rastersSecond->speed = secondRasterSpeed;
     }
-    settings.barCount = rand() % 20 + 8;
+    settings.barCount = chance() % 20 + 8;
     settings.barSpacing = 48 - settings.barHeight;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/archpath.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
@@ -74,7 +75,7 @@ void ARCHPATH_randomize(ARCHPATH* path) {
         ARCHPATH_error();
         return;
     }
-    path->random->counter = static_cast<std::uint32_t>(std::rand());
+    path->random->counter = static_cast<std::uint32_t>(chance());
     path->to = path->left + RANDOM_below(path->random, wrapAdd(wrapSub(path->right, path->left), 1));
     beginArch(*path);
     std::fill(std::begin(path->trail), std::end(path->trail),

@@ -46,10 +46,10 @@ struct ARCHPATH {
 extern const IDENTITY ARCHPATH_identity;
 extern std::uint8_t ARCHPATH_verbose;
 
-/// A path with the defaults above (one draw of rand()), or nullptr (reported).
+/// A path with the defaults above (one draw of chance()), or nullptr (reported).
 ARCHPATH* ARCHPATH_new();
 
-/// Seeds the path's own generator with one draw of rand() and stands at the beginning of a new arch.
+/// Seeds the path's own generator with one draw of chance() and stands at the beginning of a new arch.
 void ARCHPATH_randomize(ARCHPATH* path);
 
 /// One frame along the arch; the next one begins where the last one ended. True in the frame of a landing.

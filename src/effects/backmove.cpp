@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/backmove.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -33,7 +33,7 @@ bool isPicture(const IMG* img) {
 
 /// The lowest bit of one number decides which way, the others how fast.
 std::int32_t randomSpeed() {
-    const std::int32_t number = std::rand();
+    const std::int32_t number = chance();
     const std::int32_t size = leastSpeed + (number >> 1) % speedRange;
     return (number & 1) != 0 ? size : -size;
 }
@@ -123,12 +123,12 @@ void BACKMOVE_randomize(BACKMOVE* back) {
     }
     back->speedX = randomSpeed();
     back->speedY = randomSpeed();
-    SINE_setPhase(&back->pathX, std::rand() & SINE_tableMask);
-    SINE_setPhase(&back->pathY, std::rand() & SINE_tableMask);
-    back->pathX.speed = std::rand() % pathSpeeds + 1;
-    back->pathY.speed = std::rand() % pathSpeeds + 1;
-    back->reachX = std::rand() % reachRange + leastReach;
-    back->reachY = std::rand() % reachRange + leastReach;
+    SINE_setPhase(&back->pathX, chance() & SINE_tableMask);
+    SINE_setPhase(&back->pathY, chance() & SINE_tableMask);
+    back->pathX.speed = chance() % pathSpeeds + 1;
+    back->pathY.speed = chance() % pathSpeeds + 1;
+    back->reachX = chance() % reachRange + leastReach;
+    back->reachY = chance() % reachRange + leastReach;
 }
 
 void BACKMOVE_advance(BACKMOVE* back) {

@@ -35,7 +35,7 @@ struct BACKMOVE {
 extern const IDENTITY BACKMOVE_identity;
 extern std::uint8_t BACKMOVE_verbose;
 
-/// A still picture-less background with random motion (8 draws of rand()), or nullptr (reported).
+/// A still picture-less background with random motion (8 draws of chance()), or nullptr (reported).
 BACKMOVE* BACKMOVE_new();
 
 /// Shows another picture of at least one pixel; the motion goes on.
@@ -44,7 +44,7 @@ void BACKMOVE_setPicture(BACKMOVE* back, const IMG* picture);
 /// Cuts the picture into 1..BACKMOVE_mostDepths bands and begins at the place (0, 0).
 void BACKMOVE_setDepths(BACKMOVE* back, std::int32_t depths);
 
-/// Draws new motion, 8 numbers from rand(), for x before y each time: the speeds, then the swing's phases,
+/// Draws new motion, 8 numbers from chance(), for x before y each time: the speeds, then the swing's phases,
 /// speeds and reaches. Ripple, depths and place stay.
 void BACKMOVE_randomize(BACKMOVE* back);
 

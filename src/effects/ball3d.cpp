@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/ball3d.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 
 namespace velm {
 
@@ -112,13 +112,13 @@ BALL3D* BALL3D_new() {
         BALL3D_error();
         return nullptr;
     }
-    ball->x = static_cast<std::int32_t>(::random() % randomRange);
-    ball->y = static_cast<std::int32_t>(::random() % randomRange);
-    ball->z = static_cast<std::int32_t>(::random() % randomRange);
+    ball->x = chance() % randomRange;
+    ball->y = chance() % randomRange;
+    ball->z = chance() % randomRange;
     ball->width = ball->height = ball->depth = newSize;
-    ball->radius = static_cast<std::int32_t>(::random() % randomRange);
-    ball->colour = static_cast<std::uint32_t>(::random());
-    ball->colour2 = static_cast<std::uint32_t>(::random());
+    ball->radius = chance() % randomRange;
+    ball->colour = static_cast<std::uint32_t>(chance());
+    ball->colour2 = static_cast<std::uint32_t>(chance());
     return ball;
 }
 

@@ -36,7 +36,7 @@ struct BALL3D {
 extern const IDENTITY BALL3D_identity;
 extern std::uint8_t BALL3D_verbose;
 
-/// A ball of random place, size and colours (six draws of random(): x, y, z, radius, colour, colour2), or
+/// A ball of random place, size and colours (six draws of chance(): x, y, z, radius, colour, colour2), or
 /// nullptr (reported).
 BALL3D* BALL3D_new();
 

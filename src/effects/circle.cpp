@@ -4,13 +4,13 @@
 // The fleet; its shapes are drawn in circle_shape.cpp.
 #include "effects/circle.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -35,13 +35,13 @@ CIRCLE_BODY randomBody(const CIRCLE& circle) {
     constexpr std::int32_t speeds = 4 * one;
     constexpr std::int32_t growths = 2 * one;
     CIRCLE_BODY body{};
-    body.x = std::rand() % lengthOf(circle.width);
-    body.y = std::rand() % lengthOf(circle.height);
-    body.speedX = std::rand() % speeds - speeds / 2;
-    body.speedY = std::rand() % speeds - speeds / 2;
-    body.radius = std::rand() % lengthOf(circle.largest);
-    body.growth = std::rand() % growths + one / 2;
-    body.colour = (static_cast<std::uint32_t>(std::rand()) & 0x7F7F7F) + 0x808080;
+    body.x = chance() % lengthOf(circle.width);
+    body.y = chance() % lengthOf(circle.height);
+    body.speedX = chance() % speeds - speeds / 2;
+    body.speedY = chance() % speeds - speeds / 2;
+    body.radius = chance() % lengthOf(circle.largest);
+    body.growth = chance() % growths + one / 2;
+    body.colour = (static_cast<std::uint32_t>(chance()) & 0x7F7F7F) + 0x808080;
     return body;
 }
 

@@ -39,7 +39,7 @@ struct CIRCLE {
 extern const IDENTITY CIRCLE_identity;
 extern std::uint8_t CIRCLE_verbose;
 
-/// 16 random circles (7 draws of rand() each), or nullptr (reported).
+/// 16 random circles (7 draws of chance() each), or nullptr (reported).
 CIRCLE* CIRCLE_new();
 
 /// Replaces the fleet by `count` (>= 1) random circles. On failure it reports and the old fleet stays.

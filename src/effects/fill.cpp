@@ -3,6 +3,7 @@
 #include "effects/fill.h"
 
 #include "effects/line_text.h"
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
@@ -10,7 +11,6 @@
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -240,9 +240,9 @@ void FILL_randomize(FILL* fill) {
     const IMG& drawing = *fill->drawing;
     const std::int64_t pixels = std::int64_t{drawing.width} * drawing.height;
     for (std::int32_t i = 0; i < fill->seeds && pixels > 0; ++i) {
-        const std::int64_t x = std::rand() % drawing.width;
-        const std::int64_t y = std::rand() % drawing.height;
-        const std::int32_t hue = std::rand() & mostHue;
+        const std::int64_t x = chance() % drawing.width;
+        const std::int64_t y = chance() % drawing.height;
+        const std::int32_t hue = chance() & mostHue;
         for (std::int64_t k = 0; k < pixels; ++k) {
             const std::int64_t at = (x + y * drawing.width + k) % pixels;
             if (FILL_pour(fill, static_cast<std::int32_t>(at % drawing.width),

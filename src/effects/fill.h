@@ -62,7 +62,7 @@ void FILL_begin(FILL* fill, const IMG* drawing);
 /// wall, and where it is filled.
 std::int32_t FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue);
 
-/// Pours `seeds` seeds: x, y and hue from three draws of rand() each, the next free pixel taken.
+/// Pours `seeds` seeds: x, y and hue from three draws of chance() each, the next free pixel taken.
 void FILL_randomize(FILL* fill);
 
 /// One frame: `flow` spans spread, and the colours move on.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/flashpix.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
@@ -9,7 +10,6 @@
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -181,7 +181,7 @@ void FLASHPIX_randomize(FLASHPIX* flash) {
         FLASHPIX_error();
         return;
     }
-    flash->random->counter = static_cast<std::uint32_t>(std::rand());
+    flash->random->counter = static_cast<std::uint32_t>(chance());
     for (std::int32_t i = 0; i < flash->count; ++i) {
         begin(*flash, flash->sparks[i]);
         flash->sparks[i].age = randomBelow(*flash, 2 * flash->sparks[i].life) - flash->sparks[i].life;

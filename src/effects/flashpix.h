@@ -51,7 +51,7 @@ struct FLASHPIX {
 extern const IDENTITY FLASHPIX_identity;
 extern std::uint8_t FLASHPIX_verbose;
 
-/// Sparks with the defaults above, at all their ages (one draw of rand()), or nullptr (reported).
+/// Sparks with the defaults above, at all their ages (one draw of chance()), or nullptr (reported).
 FLASHPIX* FLASHPIX_new();
 
 /// Makes it `count` (>= 0) sparks and randomizes. On failure it reports and leaves the record as it was.
@@ -61,7 +61,7 @@ void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count);
 /// already go on where they are. nullptr removes the shape. On failure it reports and changes nothing.
 void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape);
 
-/// Seeds the sparks' own generator with one draw of rand() and begins all sparks anew, at random ages.
+/// Seeds the sparks' own generator with one draw of chance() and begins all sparks anew, at random ages.
 void FLASHPIX_randomize(FLASHPIX* flash);
 
 /// One frame: sparks grow older; those that have faded begin again elsewhere, or wait their life long.

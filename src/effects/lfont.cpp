@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lfont.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "vector/digits.h"
 #include "vector/obj2d.h"
-
-#include <cstdlib>
 
 namespace velm {
 
@@ -22,7 +21,7 @@ constexpr char lineFeed = '\n';
 
 /// Each channel 128..255.
 std::uint32_t randomLightColour() {
-    return (static_cast<std::uint32_t>(std::rand()) & 0x7F7F7FU) + 0x808080U;
+    return (static_cast<std::uint32_t>(chance()) & 0x7F7F7FU) + 0x808080U;
 }
 
 bool isPen(const LFONT* pen) {

@@ -41,7 +41,7 @@ void LFONT_place(LFONT* pen, std::int32_t x, std::int32_t y, std::int32_t scale)
 /// Gives every glyph the colour 0x00RRGGBB.
 void LFONT_setColour(LFONT* pen, std::uint32_t colour);
 
-/// Gives every glyph a light colour of its own, each channel 128..255: one draw of rand() a glyph, the last
+/// Gives every glyph a light colour of its own, each channel 128..255: one draw of chance() a glyph, the last
 /// one first.
 void LFONT_randomColours(LFONT* pen);
 
@@ -49,7 +49,7 @@ void LFONT_randomColours(LFONT* pen);
 /// OBJ2D reports and only the pen moves.
 void LFONT_drawChar(LFONT* pen);
 
-/// The same, after giving this glyph a random light colour, which it keeps. Draws from rand() once, and only
+/// The same, after giving this glyph a random light colour, which it keeps. Draws from chance() once, and only
 /// when there is a glyph.
 void LFONT_drawCharRandomColour(LFONT* pen);
 

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "effects/logofly.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
-
-#include <cstdlib>
 
 namespace velm {
 
@@ -23,7 +22,7 @@ constexpr std::int32_t mostLetters = 40;
 constexpr std::int32_t bounceMask = SINE_tableMask >> 1; ///< the upper half of the sine
 
 std::int32_t randomBelow(std::int32_t limit) {
-    return static_cast<std::int32_t>(::random() % limit);
+    return chance() % limit;
 }
 
 /// What a copy and a clone have in common.

@@ -37,10 +37,10 @@ struct LOGOFLY {
 extern const IDENTITY LOGOFLY_identity;
 extern std::uint8_t LOGOFLY_verbose;
 
-/// A logo at (0, 0) with random motion (three draws of random()), or nullptr (reported).
+/// A logo at (0, 0) with random motion (three draws of chance()), or nullptr (reported).
 LOGOFLY* LOGOFLY_new();
 
-/// Back to phase 0, white and "VELM", with new motion: three draws of random() for speed, letterStep and
+/// Back to phase 0, white and "VELM", with new motion: three draws of chance() for speed, letterStep and
 /// amplitude.
 void LOGOFLY_randomize(LOGOFLY* logo);
 
@@ -60,7 +60,7 @@ std::int32_t LOGOFLY_equals(const LOGOFLY* a, const LOGOFLY* b);
 /// Copies the motion, spare, pen, target, colour and place; the text stays.
 void LOGOFLY_copy(const LOGOFLY* src, LOGOFLY* dst);
 
-/// A new logo (three draws of random()) with the motion, spare, pen, target and colour of `src`, at (0, 0)
+/// A new logo (three draws of chance()) with the motion, spare, pen, target and colour of `src`, at (0, 0)
 /// and with the text "VELM"; nullptr (reported) on failure.
 LOGOFLY* LOGOFLY_clone(const LOGOFLY* src);
 

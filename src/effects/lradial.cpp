@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lradial.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/random.h"
 #include "foundation/report.h"
@@ -9,7 +10,6 @@
 #include "image/imgfx.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -70,11 +70,11 @@ void LRADIAL_randomize(LRADIAL* rays) {
         LRADIAL_error();
         return;
     }
-    rays->turn = std::rand() & SINE_tableMask;
-    rays->spin = RANDOM_eitherWay(std::rand());
-    const std::int32_t phase = std::rand() & SINE_tableMask;
-    const std::int32_t speed = std::rand() % 16 + 4;
-    const std::int32_t waves = std::rand() % mostWaves + 1;
+    rays->turn = chance() & SINE_tableMask;
+    rays->spin = RANDOM_eitherWay(chance());
+    const std::int32_t phase = chance() & SINE_tableMask;
+    const std::int32_t speed = chance() % 16 + 4;
+    const std::int32_t waves = chance() % mostWaves + 1;
     SINE_setup(&rays->wave, SINE_tableLength, phase, speed, 0, waves);
     LRADIAL_setWaveLengths(rays);
 }

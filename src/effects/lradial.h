@@ -35,14 +35,14 @@ struct LRADIAL {
 extern const IDENTITY LRADIAL_identity;
 extern std::uint8_t LRADIAL_verbose;
 
-/// 96 rays on a random wave (5 draws of rand()), or nullptr (reported).
+/// 96 rays on a random wave (5 draws of chance()), or nullptr (reported).
 LRADIAL* LRADIAL_new();
 
 /// Makes it `count` (>= 0) rays, and sets their lengths by the wave. On failure it reports and leaves the
 /// rays as they were.
 void LRADIAL_setCount(LRADIAL* rays, std::int32_t count);
 
-/// Draws turn, spin, and the wave's phase, speed and step, in this order, from rand(); the wave closes around
+/// Draws turn, spin, and the wave's phase, speed and step, in this order, from chance(); the wave closes around
 /// the circle. Then sets the lengths by it.
 void LRADIAL_randomize(LRADIAL* rays);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lrain.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
@@ -9,7 +10,6 @@
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -129,7 +129,7 @@ void LRAIN_randomize(LRAIN* rain) {
         LRAIN_error();
         return;
     }
-    rain->random->counter = static_cast<std::uint32_t>(std::rand());
+    rain->random->counter = static_cast<std::uint32_t>(chance());
     for (std::int32_t i = 0; i < rain->count; ++i) {
         startDrop(*rain, rain->drops[i], 0);
         rain->drops[i].y =

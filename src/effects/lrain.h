@@ -50,13 +50,13 @@ struct LRAIN {
 extern const IDENTITY LRAIN_identity;
 extern std::uint8_t LRAIN_verbose;
 
-/// Rain that falls already, with the defaults above (one draw of rand()), or nullptr (reported).
+/// Rain that falls already, with the defaults above (one draw of chance()), or nullptr (reported).
 LRAIN* LRAIN_new();
 
 /// Makes it `count` (>= 0) drops and randomizes. On failure it reports and leaves the rain as it was.
 void LRAIN_setCount(LRAIN* rain, std::int32_t count);
 
-/// Seeds the rain's own generator with one draw of rand(), spreads the drops over the field and removes the
+/// Seeds the rain's own generator with one draw of chance(), spreads the drops over the field and removes the
 /// rings.
 void LRAIN_randomize(LRAIN* rain);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lscrlxyz.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
@@ -212,10 +213,10 @@ void LSCRLXYZ_randomize(LSCRLXYZ* scroll) {
         LSCRLXYZ_error();
         return;
     }
-    scroll->angle.x = std::rand() & SINE_tableMask;
-    scroll->angle.y = std::rand() & SINE_tableMask;
-    scroll->angle.z = std::rand() & SINE_tableMask;
-    scroll->hue = std::rand() & 0xFFFF;
+    scroll->angle.x = chance() & SINE_tableMask;
+    scroll->angle.y = chance() & SINE_tableMask;
+    scroll->angle.z = chance() & SINE_tableMask;
+    scroll->hue = chance() & 0xFFFF;
 }
 
 void LSCRLXYZ_advance(LSCRLXYZ* scroll) {

@@ -62,7 +62,7 @@ struct LSCRLXYZ {
 extern const IDENTITY LSCRLXYZ_identity;
 extern std::uint8_t LSCRLXYZ_verbose;
 
-/// A scroller with the defaults above (four draws of rand()), or nullptr (reported).
+/// A scroller with the defaults above (four draws of chance()), or nullptr (reported).
 LSCRLXYZ* LSCRLXYZ_new();
 
 /// Binds a text, which must stay, and goes to its beginning.
@@ -75,7 +75,7 @@ std::int32_t LSCRLXYZ_length(const LSCRLXYZ* scroll);
 /// character then meets the first.
 void LSCRLXYZ_fit(LSCRLXYZ* scroll);
 
-/// Draws the three angles and the hue: four numbers from rand().
+/// Draws the three angles and the hue: four numbers from chance().
 void LSCRLXYZ_randomize(LSCRLXYZ* scroll);
 
 /// One frame: the text moves on, the surface turns and waves, the hues turn.

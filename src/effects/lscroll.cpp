@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lscroll.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -228,9 +228,9 @@ void LSCROLL_randomize(LSCROLL* scroll) {
         LSCROLL_error();
         return;
     }
-    scroll->lift.phase = std::rand() & SINE_tableMask;
-    scroll->swing.phase = std::rand() & SINE_tableMask;
-    scroll->hue = std::rand() & 0xFFFF;
+    scroll->lift.phase = chance() & SINE_tableMask;
+    scroll->swing.phase = chance() & SINE_tableMask;
+    scroll->hue = chance() & 0xFFFF;
 }
 
 void LSCROLL_advance(LSCROLL* scroll) {

@@ -58,7 +58,7 @@ struct LSCROLL {
 extern const IDENTITY LSCROLL_identity;
 extern std::uint8_t LSCROLL_verbose;
 
-/// A scroller with the defaults above (three draws of rand()), or nullptr (reported).
+/// A scroller with the defaults above (three draws of chance()), or nullptr (reported).
 LSCROLL* LSCROLL_new();
 
 /// Binds a text, which must stay, and goes to its beginning.
@@ -75,7 +75,7 @@ void LSCROLL_setCurve(LSCROLL* scroll, const LSCROLL_CURVE& curve);
 /// then meets the first. The ends no longer fade.
 void LSCROLL_fit(LSCROLL* scroll);
 
-/// Draws the phases of lift and swing and the hue: three numbers from rand().
+/// Draws the phases of lift and swing and the hue: three numbers from chance().
 void LSCROLL_randomize(LSCROLL* scroll);
 
 /// One frame: the text moves on, the waves run, the hues turn.

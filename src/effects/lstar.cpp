@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lstar.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
@@ -144,9 +145,9 @@ void LSTAR_randomize(LSTAR* sky) {
     }
     for (std::int32_t i = 0; i < sky->count; ++i) {
         LSTAR_STAR& star = sky->stars[i];
-        star.x = (std::rand() & worldMask) - (worldMask + 1) / 2;
-        star.y = (std::rand() & worldMask) - (worldMask + 1) / 2;
-        star.z = std::rand() % depthRange + LSTAR_near;
+        star.x = (chance() & worldMask) - (worldMask + 1) / 2;
+        star.y = (chance() & worldMask) - (worldMask + 1) / 2;
+        star.z = chance() % depthRange + LSTAR_near;
     }
 }
 

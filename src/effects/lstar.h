@@ -46,7 +46,7 @@ struct LSTAR {
 extern const IDENTITY LSTAR_identity;
 extern std::uint8_t LSTAR_verbose;
 
-/// 256 random stars (3 draws of rand() each), or nullptr (reported).
+/// 256 random stars (3 draws of chance() each), or nullptr (reported).
 LSTAR* LSTAR_new();
 
 /// Replaces the stars by `count` (>= 1) random ones. On failure it reports and the old ones stay.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/raster.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
@@ -82,7 +83,7 @@ RASTER* RASTER_new() {
         delete raster;
         return nullptr;
     }
-    raster->speed = std::rand() % speedRange + one;
+    raster->speed = chance() % speedRange + one;
     raster->count = newCount;
     raster->colours = colours;
     return raster;

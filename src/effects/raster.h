@@ -27,7 +27,7 @@ struct RASTER {
 extern const IDENTITY RASTER_identity;
 extern std::uint8_t RASTER_verbose;
 
-/// 256 black colours and a random speed (one draw of rand()), or nullptr (reported).
+/// 256 black colours and a random speed (one draw of chance()), or nullptr (reported).
 RASTER* RASTER_new();
 
 /// Not written yet: opens and closes the file (a failure is reported) and gives nullptr.
@@ -64,7 +64,7 @@ std::int32_t RASTER_equals(const RASTER* a, const RASTER* b);
 /// have, and the counts stay.
 void RASTER_copy(const RASTER* src, RASTER* dst);
 
-/// A new raster (one draw of rand()) with the list, position and speed of `src`, or nullptr (reported).
+/// A new raster (one draw of chance()) with the list, position and speed of `src`, or nullptr (reported).
 RASTER* RASTER_clone(const RASTER* src);
 
 /// Not written yet: makes the file empty and closes it (a failure is reported).

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/rect.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
@@ -31,24 +32,24 @@ constexpr std::int32_t nearestStep = 128; // nearer frames surround the viewer a
 constexpr std::uint32_t backBits = 0x7F7F7F;
 
 std::int32_t randomWithin(std::int32_t reach) {
-    return std::rand() % (2 * reach + 1) - reach;
+    return chance() % (2 * reach + 1) - reach;
 }
 
 void randomizePane(const RECT& rect, RECT_PANE& pane) {
     constexpr std::int32_t fastest = 0x18000; // 1.5 pixels a frame
     constexpr std::int32_t smallest = 16;
     constexpr std::int32_t sizes = 64;
-    pane.x = wrapShl(std::rand() % std::max(rect.width, 1), 16);
-    pane.y = wrapShl(std::rand() % std::max(rect.height, 1), 16);
+    pane.x = wrapShl(chance() % std::max(rect.width, 1), 16);
+    pane.y = wrapShl(chance() % std::max(rect.height, 1), 16);
     pane.speedX = randomWithin(fastest);
     pane.speedY = randomWithin(fastest);
-    pane.width = smallest + std::rand() % sizes;
-    pane.height = smallest + std::rand() % sizes;
-    pane.flip = std::rand() & SINE_tableMask;
+    pane.width = smallest + chance() % sizes;
+    pane.height = smallest + chance() % sizes;
+    pane.flip = chance() & SINE_tableMask;
     pane.flipSpeed = randomWithin(12);
-    pane.turn = std::rand() & SINE_tableMask;
+    pane.turn = chance() & SINE_tableMask;
     pane.turnSpeed = randomWithin(4);
-    pane.colour = 0x404040 | (static_cast<std::uint32_t>(std::rand()) & 0xFFFFFF);
+    pane.colour = 0x404040 | (static_cast<std::uint32_t>(chance()) & 0xFFFFFF);
 }
 
 /// A colour at a share of the record's brightness, both 0..256.

@@ -58,13 +58,13 @@ struct RECT {
 extern const IDENTITY RECT_identity;
 extern std::uint8_t RECT_verbose;
 
-/// A fleet with the defaults above (11 draws of rand() a pane), or nullptr (reported).
+/// A fleet with the defaults above (11 draws of chance() a pane), or nullptr (reported).
 RECT* RECT_new();
 
 /// Makes it `count` (>= 0) panes and randomizes. On failure it reports and leaves the record as it was.
 void RECT_setCount(RECT* rect, std::int32_t count);
 
-/// Draws every pane anew, 11 numbers of rand() each: x, y, both speeds, both sizes, flip, its speed, turn,
+/// Draws every pane anew, 11 numbers of chance() each: x, y, both speeds, both sizes, flip, its speed, turn,
 /// its speed, colour.
 void RECT_randomize(RECT* rect);
 

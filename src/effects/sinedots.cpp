@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/sinedots.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -33,7 +33,7 @@ constexpr WaveRange waveRanges[SINEDOTS_waveCount] = {{12, 5, 6, 128}, {10, 6, 7
 constexpr std::int32_t stepSpread = 16;
 
 std::int32_t randomBelow(std::int32_t limit) {
-    return std::rand() % limit;
+    return chance() % limit;
 }
 
 /// One coordinate of the curve, dot after dot: centre + ((sum of entry * amplitude) >> 16).

@@ -40,13 +40,13 @@ struct SINEDOTS {
 extern const IDENTITY SINEDOTS_identity;
 extern std::uint8_t SINEDOTS_verbose;
 
-/// 16 red dots on random waves (18 draws of rand()), or nullptr.
+/// 16 red dots on random waves (18 draws of chance()), or nullptr.
 SINEDOTS* SINEDOTS_new();
 
 /// Sets the number of dots (>= 1) and clears their storage. On failure the record stays as it was.
 void SINEDOTS_setCount(SINEDOTS* dots, std::int32_t count);
 
-/// Draws new phases, speeds and steps, 18 numbers from rand(): wave by wave x before y, phases, speeds,
+/// Draws new phases, speeds and steps, 18 numbers from chance(): wave by wave x before y, phases, speeds,
 /// steps.
 void SINEDOTS_randomize(SINEDOTS* dots);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/sineline.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/random.h"
 #include "foundation/report.h"
@@ -34,7 +35,7 @@ struct Corner {
 };
 
 std::int32_t drawTurns() {
-    return std::rand() % 3 + 1;
+    return chance() % 3 + 1;
 }
 
 /// `reach` as the breath of `ago` frames before leaves it.
@@ -101,10 +102,10 @@ void SINELINE_randomize(SINELINE* line) {
         return;
     }
     for (SINELINE_WAVE& wave : line->wave) {
-        wave.phaseX = std::rand() & SINE_tableMask;
-        wave.phaseY = std::rand() & SINE_tableMask;
-        wave.speedX = RANDOM_eitherWay(std::rand());
-        wave.speedY = RANDOM_eitherWay(std::rand());
+        wave.phaseX = chance() & SINE_tableMask;
+        wave.phaseY = chance() & SINE_tableMask;
+        wave.speedX = RANDOM_eitherWay(chance());
+        wave.speedY = RANDOM_eitherWay(chance());
         wave.turnsX = drawTurns();
         wave.turnsY = drawTurns();
     }

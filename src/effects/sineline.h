@@ -42,11 +42,11 @@ struct SINELINE {
 extern const IDENTITY SINELINE_identity;
 extern std::uint8_t SINELINE_verbose;
 
-/// A random curve (12 draws of rand()) with the defaults above, reaching 64 and 32 pixels, or nullptr
+/// A random curve (12 draws of chance()) with the defaults above, reaching 64 and 32 pixels, or nullptr
 /// (reported).
 SINELINE* SINELINE_new();
 
-/// Draws new phases, speeds and turns, 12 numbers from rand(): wave by wave x before y, phases, speeds,
+/// Draws new phases, speeds and turns, 12 numbers from chance(): wave by wave x before y, phases, speeds,
 /// turns.
 void SINELINE_randomize(SINELINE* line);
 

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/sinescan.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace velm {
 
@@ -127,9 +127,9 @@ void twistLine(const SINESCAN& scan, const Layout& layout, IMG* target, std::int
 }
 
 void randomizeWave(SINE& wave, std::int32_t speeds, std::int32_t steps) {
-    const std::int32_t phase = std::rand() & SINE_tableMask;
-    const std::int32_t speed = std::rand() % speeds + 1;
-    const std::int32_t lineStep = std::rand() % steps + 1;
+    const std::int32_t phase = chance() & SINE_tableMask;
+    const std::int32_t speed = chance() % speeds + 1;
+    const std::int32_t lineStep = chance() % steps + 1;
     SINE_setup(&wave, SINE_tableLength, phase, speed, 0, lineStep);
 }
 

@@ -46,10 +46,10 @@ struct SINESCAN {
 extern const IDENTITY SINESCAN_identity;
 extern std::uint8_t SINESCAN_verbose;
 
-/// A scan with the defaults above and random waves (12 draws of rand()), or nullptr (reported).
+/// A scan with the defaults above and random waves (12 draws of chance()), or nullptr (reported).
 SINESCAN* SINESCAN_new();
 
-/// Draws phase, speed and step from line to line of shift, stretch, scan and twist: 12 numbers from rand().
+/// Draws phase, speed and step from line to line of shift, stretch, scan and twist: 12 numbers from chance().
 void SINESCAN_randomize(SINESCAN* scan);
 
 /// Moves the four waves and the turn by their speeds.

@@ -3,6 +3,7 @@
 #include "effects/wordzoom.h"
 
 #include "effects/line_text.h"
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
@@ -191,8 +192,8 @@ void WORDZOOM_randomize(WORDZOOM* zoom) {
         WORDZOOM_error();
         return;
     }
-    zoom->hue = std::rand() & 0xFFFF;
-    zoom->random->counter = static_cast<std::uint32_t>(std::rand());
+    zoom->hue = chance() & 0xFFFF;
+    zoom->random->counter = static_cast<std::uint32_t>(chance());
 }
 
 void WORDZOOM_advance(WORDZOOM* zoom) {

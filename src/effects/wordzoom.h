@@ -55,14 +55,14 @@ struct WORDZOOM {
 extern const IDENTITY WORDZOOM_identity;
 extern std::uint8_t WORDZOOM_verbose;
 
-/// An empty sky with the defaults above (two draws of rand()), or nullptr (reported).
+/// An empty sky with the defaults above (two draws of chance()), or nullptr (reported).
 WORDZOOM* WORDZOOM_new();
 
 /// Binds a text, which must stay. Words that fly are gone; the first one of the new text starts at once.
 void WORDZOOM_setText(WORDZOOM* zoom, const char* text);
 
 /// Draws the first word's hue and a new counter for the generator of drifts and twists: two numbers from
-/// rand().
+/// chance().
 void WORDZOOM_randomize(WORDZOOM* zoom);
 
 /// One frame: words grow, those that have passed are gone, and the next one starts in its time if there is

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "audio/samples.h"
 #include "audio/sound.h"
+#include "foundation/chance.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -77,13 +78,13 @@ TEST(Sound, SOUND_squareLeavesTailAndSOUND_squareLengthLimit) {
 }
 
 TEST(Sound, NoiseDrawsFromTheEnd) {
-    const auto draw = [] { return (rand() & 0xFFFF) - 32768; };
-    srand(1);
+    const auto draw = [] { return (chance() & 0xFFFF) - 32768; };
+    chanceSeed(1);
     const Sample every{List(4)};
     SOUND_noise(every, SAMPLE_rate);
     const Sample seldom{List(22050)};
     SOUND_noise(seldom, 2);
-    srand(1);
+    chanceSeed(1);
     draw(); // the value before the first index, which is never heard at the full rate
     for (std::int32_t i = 3; i >= 0; --i) {
         EXPECT_EQ(every->data[i], draw());

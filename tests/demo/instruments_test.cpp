@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "demo/instruments.h"
+#include "foundation/chance.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -22,9 +22,9 @@ std::uint32_t checksum(const MUSIC* music) {
 }
 
 TEST(Instruments, TheBankIsTheSameToTheBit) {
-    srand(273880913);
+    chanceSeed(273880913);
     MUSIC* music = VELM4030_buildMusic();
-    EXPECT_EQ(rand(), 86123232) << "the next draw of whoever comes after the bank";
+    EXPECT_EQ(chance(), 86123232) << "the next draw of whoever comes after the bank";
     EXPECT_EQ(music->period, 360);
     ASSERT_EQ(music->instruments->count, 120);
     const std::int32_t lengths[] = {22050, 22050, 22050, 22050, 22050, 22050, 11025, 44100, 88200, 44100};

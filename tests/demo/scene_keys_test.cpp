@@ -3,9 +3,9 @@
 //
 // What the keys s and q change in the scenes that read their settings.
 #include "demo_run.h"
+#include "foundation/chance.h"
 #include "support/owned.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <tuple>
 
@@ -27,7 +27,7 @@ protected:
             }
         };
         pressAt(wanted, ' ');
-        std::srand(1); // the scenes draw the ways of their pictures
+        chanceSeed(1); // the scenes draw the ways of their pictures
         scene();
         headless.onFrame = nullptr;
         return shown;

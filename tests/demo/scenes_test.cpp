@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes.h"
 #include "demo_run.h"
+#include "foundation/chance.h"
 #include "foundation/sine.h"
 #include "image/rgb888.h"
 #include "support/allocation.h"
@@ -124,22 +125,22 @@ TEST_F(ScenesTest, ASceneResetsTheFiltersAndKeepsTheLayers) {
 
 TEST_F(ScenesTest, TheDefaultSceneDrawsItsRandomNumbersInOrder) {
     runFor(35, VELM4030_sceneDefault); // makes the records of the scroll layer
-    srand(77);
+    chanceSeed(77);
     std::int32_t expectedSteps[6];
-    const std::int32_t fade = (rand() & 63) * 0x010101 + 0x404040;
+    const std::int32_t fade = (chance() & 63) * 0x010101 + 0x404040;
     for (int i = 0; i < 18; ++i) {
-        rand(); // the dots' own waves
+        chance(); // the dots' own waves
     }
-    const long hue = random() % 1536;
+    const long hue = chance() % 1536;
     for (std::int32_t& step : expectedSteps) {
-        const std::int32_t size = rand() % 4 + 1;
-        step = (2 * (rand() % 2) - 1) * size;
+        const std::int32_t size = chance() % 4 + 1;
+        step = (2 * (chance() % 2) - 1) * size;
     }
-    const std::int32_t bars = rand() % 20 + 8;
-    const long figure = random() % demo.fontLarge->count;
-    const int next = rand();
+    const std::int32_t bars = chance() % 20 + 8;
+    const long figure = chance() % demo.fontLarge->count;
+    const int next = chance();
 
-    srand(77);
+    chanceSeed(77);
     VELM4030_sceneDefaultSetup();
     EXPECT_EQ(settings.fadeStep, static_cast<std::uint32_t>(fade));
     EXPECT_EQ(demo.dots->colour & ~0x070707U, 0U) << "the dots are very dark";
@@ -153,20 +154,20 @@ TEST_F(ScenesTest, TheDefaultSceneDrawsItsRandomNumbersInOrder) {
     EXPECT_EQ(settings.barCount, bars);
     EXPECT_EQ(settings.barSpacing, -11);
     EXPECT_EQ(settings.largeTextIndex, figure);
-    EXPECT_EQ(rand(), next) << "nothing more was drawn";
+    EXPECT_EQ(chance(), next) << "nothing more was drawn";
     VELM4030_sceneDefaultCleanup();
 }
 
 TEST_F(ScenesTest, InterludeADrawsItsRandomNumbersInOrder) {
     runFor(1, VELM4030_sceneInterludeA); // makes the ball
-    srandom(9);
-    const auto ground = static_cast<std::uint32_t>(random()) & 0x1F1F1F;
-    const std::uint32_t fade = (static_cast<std::uint32_t>(rand()) & 15) * 0x010101 + 0x080808;
-    const auto colour = static_cast<std::uint32_t>(random()) & 0x7F7F7F;
-    const long x = random() % 256;
-    const long y = random() % 256;
-    const long radius = random() % 256 / 2;
-    srandom(9);
+    chanceSeed(9);
+    const auto ground = static_cast<std::uint32_t>(chance()) & 0x1F1F1F;
+    const std::uint32_t fade = (static_cast<std::uint32_t>(chance()) & 15) * 0x010101 + 0x080808;
+    const auto colour = static_cast<std::uint32_t>(chance()) & 0x7F7F7F;
+    const long x = chance() % 256;
+    const long y = chance() % 256;
+    const long radius = chance() % 256 / 2;
+    chanceSeed(9);
     std::uint32_t corner = 0;
     headless.onFrame = [&corner](const IMG& frame) { corner = frame.pixels[0]; };
     demo.pointer->x = 100;

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/backmove.h"
+#include "foundation/chance.h"
 #include "foundation/wrap.h"
 #include "image/rgb888.h"
 #include "support/owned.h"
-
-#include <cstdlib>
 
 namespace velm::test {
 namespace {
@@ -30,7 +29,7 @@ std::uint32_t plain(const BACKMOVE& back, std::int32_t frames, std::int32_t x, s
 }
 
 TEST(Backmove, WrapsInBothDirectionsAsThePlainRule) {
-    std::srand(3);
+    chanceSeed(3);
     for (const auto& [width, height] : {std::pair{64, 32}, {30, 90}, {7, 5}, {1, 1}}) {
         const Picture picture(noise(width, height, 4));
         for (const std::int32_t depths : {1, 3}) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/ball3d.h"
+#include "foundation/chance.h"
 #include "foundation/sine.h"
 #include "image/rgb888.h"
 #include "support/owned.h"
@@ -37,16 +38,16 @@ std::string plainBall(const BALL3D& ball, IMG* target) {
 }
 
 TEST(Ball3d, DrawsItsNumbersInOrder) {
-    srandom(8810);
+    chanceSeed(8810);
     const Ball ball(BALL3D_new());
-    const long after = random();
-    srandom(8810);
+    const long after = chance();
+    chanceSeed(8810);
     for (const std::int32_t number : {ball->x, ball->y, ball->z, ball->radius}) {
-        EXPECT_EQ(number, random() % 256);
+        EXPECT_EQ(number, chance() % 256);
     }
-    EXPECT_EQ(ball->colour, random());
-    EXPECT_EQ(ball->colour2, random());
-    EXPECT_EQ(after, random());
+    EXPECT_EQ(ball->colour, chance());
+    EXPECT_EQ(ball->colour2, chance());
+    EXPECT_EQ(after, chance());
 }
 
 TEST(Ball3d, BALL3D_lastShadeDecidesAndBALL3D_greySpills) {

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 //
 // What every effect owes: it reports what it cannot do, draws nothing outside its target, allocates nothing
-// while it runs, takes all its chance from rand(), and shares nothing with its like.
+// while it runs, takes all its chance from chance(), and shares nothing with its like.
 //
 //     expectContract<LRAIN>({LRAIN_new, LRAIN_delete, LRAIN_randomize, LRAIN_advance, LRAIN_draw},
 //                           LRAIN_verbose, "LRAIN error", 3);
 #pragma once
 
+#include "foundation/chance.h"
 #include "support/owned.h"
 
-#include <cstdlib>
 #include <functional>
 
 namespace velm::test {
@@ -30,7 +30,7 @@ template <typename Record>
 void expectContract(const EffectVerbs<Record>& verbs, std::uint8_t& verbose, const char* line,
                     std::int32_t allocations) {
     const auto make = [&verbs](unsigned seed) {
-        std::srand(seed);
+        chanceSeed(seed);
         Record* effect = verbs.make();
         verbs.prepare(effect);
         return effect;

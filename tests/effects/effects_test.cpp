@@ -11,16 +11,15 @@
 #include "effects/raster.h"
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
+#include "foundation/chance.h"
 #include "support/owned.h"
-
-#include <cstdlib>
 
 namespace velm::test {
 namespace {
 
 /// One of each effect over its own picture. Everything random in it comes from the seed.
 struct Show {
-    explicit Show(unsigned seed) : strip(noise(96, 16, seed)), dots((std::srand(seed), SINEDOTS_new())) {
+    explicit Show(unsigned seed) : strip(noise(96, 16, seed)), dots((chanceSeed(seed), SINEDOTS_new())) {
         std::copy_n(strip->pixels, bars->count, bars->colours);
         font->image = IMG_clone(strip);
         SCROLL_setup(scroll, "0123 ABC", font, screen);

@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/line_font.h"
-
-#include <cstdlib>
+#include "foundation/chance.h"
 
 namespace velm::test {
 namespace {
 
 std::uint32_t nextLightColour() {
-    return (static_cast<std::uint32_t>(std::rand()) & 0x7F7F7FU) + 0x808080U;
+    return (static_cast<std::uint32_t>(chance()) & 0x7F7F7FU) + 0x808080U;
 }
 
 TEST(Lfont, WritesTextAndNumbers) {
@@ -44,21 +43,21 @@ TEST(Lfont, PosesTheGlyph) {
 
 TEST(Lfont, ColoursComeFromTheLastGlyphToTheFirst) {
     const PixelPen pen(4, 1);
-    std::srand(5);
+    chanceSeed(5);
     LFONT_randomColours(pen);
     for (const std::int32_t code : {63, 5, 4000, -1, 65}) { // '?', ..., 'A', the only glyph among them
         pen->character = code;
         LFONT_drawCharRandomColour(pen);
     }
-    const int after = std::rand();
-    std::srand(5);
+    const int after = chance();
+    chanceSeed(5);
     for (std::int32_t code = '`'; code >= ' '; --code) {
         const bool none = code == '?';
         const std::uint32_t drawn = none ? 0 : nextLightColour();
         EXPECT_TRUE(none || code == 'A' || pen.font[code]->colour == drawn) << code;
     }
     EXPECT_EQ(pen.target->pixels[0], nextLightColour());
-    EXPECT_EQ(after, std::rand());
+    EXPECT_EQ(after, chance());
     LFONT_setColour(pen, 0x123456);
     EXPECT_EQ(pen.font[' ']->colour, 0x123456U);
 }

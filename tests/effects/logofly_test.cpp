@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "effects/line_font.h"
 #include "effects/logofly.h"
+#include "foundation/chance.h"
 #include "foundation/sine.h"
-
-#include <cstdlib>
 
 namespace velm::test {
 namespace {
@@ -72,23 +71,23 @@ TEST_F(Logofly, LOGOFLY_cloneLeavesPlace) {
     logo->x = 96;
     logo->colour = 0x00FF00;
     logo->text = "OTHER";
-    srandom(4);
+    chanceSeed(4);
     const Owned<LOGOFLY, LOGOFLY_delete> clone(LOGOFLY_clone(logo));
-    const long after = random();
+    const long after = chance();
     EXPECT_EQ(LOGOFLY_equals(logo, clone), 1);
     EXPECT_EQ(clone->x, 0);
     EXPECT_EQ(clone->colour, 0x00FF00U);
     LOGOFLY_copy(logo, clone);
     EXPECT_EQ(clone->x, 96);
     EXPECT_STREQ(clone->text, "VELM");
-    srandom(4);
+    chanceSeed(4);
     LOGOFLY_randomize(clone);
     EXPECT_EQ(LOGOFLY_equals(logo, clone), 0);
-    srandom(4);
-    EXPECT_EQ(clone->speed, random() % 24 + 8);
-    EXPECT_EQ(clone->letterStep, random() % 8 + 1);
-    EXPECT_EQ(clone->amplitude, random() % 100 + 16);
-    EXPECT_EQ(random(), after);
+    chanceSeed(4);
+    EXPECT_EQ(clone->speed, chance() % 24 + 8);
+    EXPECT_EQ(clone->letterStep, chance() % 8 + 1);
+    EXPECT_EQ(clone->amplitude, chance() % 100 + 16);
+    EXPECT_EQ(chance(), after);
 }
 
 } // namespace

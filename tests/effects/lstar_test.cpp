@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/lstar.h"
+#include "foundation/chance.h"
 #include "support/owned.h"
-
-#include <cstdlib>
 
 namespace velm::test {
 namespace {
@@ -52,7 +51,7 @@ TEST(Lstar, DepthDecidesHueAndBrightness) {
 }
 
 TEST(Lstar, ClipsAndStaysInItsWorld) {
-    std::srand(5);
+    chanceSeed(5);
     const Owned<LSTAR, LSTAR_delete> sky(LSTAR_new());
     const Picture screen(IMG_newSized(64, 48));
     std::int32_t most = 0;

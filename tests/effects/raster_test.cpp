@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/raster.h"
+#include "foundation/chance.h"
 #include "image/rgb888.h"
 #include "support/owned.h"
 
@@ -97,16 +98,16 @@ TEST(Raster, RASTER_smoothStartsPastEndAndRASTER_smoothMirrorsStartAndRASTER_cle
 
 TEST(Raster, RASTER_cloneDrawsSpeedAndRASTER_equalsReportsEqual) {
     const Bars bars(newBars(5));
-    std::srand(9);
-    const int first = std::rand();
-    const int second = std::rand();
-    std::srand(9);
+    chanceSeed(9);
+    const int first = chance();
+    const int second = chance();
+    chanceSeed(9);
     const Bars clone(RASTER_clone(bars));
-    EXPECT_EQ(std::rand(), second);
+    EXPECT_EQ(chance(), second);
     expectReports(RASTER_verbose, 1, "RASTER error", [&] { EXPECT_EQ(RASTER_equals(bars, clone), 1); });
     clone->colours[4] ^= 1;
     expectReports(RASTER_verbose, 0, "", [&] { EXPECT_EQ(RASTER_equals(bars, clone), 0); });
-    std::srand(9);
+    chanceSeed(9);
     EXPECT_EQ(Bars(RASTER_new())->speed, first % 1048575 + 65536);
 }
 

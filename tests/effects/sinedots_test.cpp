@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/sinedots.h"
+#include "foundation/chance.h"
 #include "foundation/sine.h"
 #include "image/imgfx.h"
 #include "support/owned.h"
-
-#include <cstdlib>
 
 namespace velm::test {
 namespace {
@@ -30,19 +29,19 @@ void plainDots(const SINEDOTS& dots, IMG* target, Plot plot) {
 }
 
 TEST(Sinedots, DrawsItsNumbersInOrder) {
-    std::srand(7);
+    chanceSeed(7);
     const Dots dots(SINEDOTS_new());
-    const int after = std::rand();
-    std::srand(7);
+    const int after = chance();
+    chanceSeed(7);
     for (std::int32_t k = 0; k < 3; ++k) {
-        EXPECT_EQ(dots->phase[k].x, std::rand() % 1024);
-        EXPECT_EQ(dots->phase[k].y, std::rand() % 1024);
-        EXPECT_EQ(dots->speed[k].x, std::rand() % (12 - 2 * k) + 1);
-        EXPECT_EQ(dots->speed[k].y, std::rand() % (12 - 2 * k) + 1);
-        EXPECT_EQ(dots->step[k].x, std::rand() % 16 + 5 + k);
-        EXPECT_EQ(dots->step[k].y, std::rand() % 16 + 6 + k);
+        EXPECT_EQ(dots->phase[k].x, chance() % 1024);
+        EXPECT_EQ(dots->phase[k].y, chance() % 1024);
+        EXPECT_EQ(dots->speed[k].x, chance() % (12 - 2 * k) + 1);
+        EXPECT_EQ(dots->speed[k].y, chance() % (12 - 2 * k) + 1);
+        EXPECT_EQ(dots->step[k].x, chance() % 16 + 5 + k);
+        EXPECT_EQ(dots->step[k].y, chance() % 16 + 6 + k);
     }
-    EXPECT_EQ(after, std::rand());
+    EXPECT_EQ(after, chance());
     dots->phase[0].x = 1020, dots->speed[0].x = 12;
     dots->phase[2].y = 3, dots->speed[2].y = -5;
     SINEDOTS_advance(dots);
@@ -56,8 +55,8 @@ TEST(Sinedots, SINEDOTS_depthTakesNextFieldAndDrawsAsThePlainRule) {
         for (const auto& [width, height] : {std::pair{256, 256}, {64, 37}, {1, 1}, {3, 200}}) {
             SINEDOTS_setCount(dots, count);
             SINEDOTS_randomize(dots);
-            dots->step[1].x = -(std::rand() % 5);
-            dots->colour = static_cast<std::uint32_t>(std::rand()) & 0x071F80U;
+            dots->step[1].x = -(chance() % 5);
+            dots->colour = static_cast<std::uint32_t>(chance()) & 0x071F80U;
             const Picture fast(noise(width, height, 3));
             const Picture plain(noise(width, height, 3));
             for (std::int32_t frame = 0; frame < 3; ++frame) {

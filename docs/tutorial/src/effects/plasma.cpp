@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "effects/plasma.h"
 
+#include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
-
-#include <cstdlib>
 
 namespace velm {
 
@@ -18,8 +17,8 @@ namespace {
 
 /// One of -4..-1 and 1..4; draws the size first, then the sign.
 std::int32_t drawStep() {
-    const std::int32_t size = rand() % 4 + 1;
-    const std::int32_t sign = 2 * (rand() % 2) - 1;
+    const std::int32_t size = chance() % 4 + 1;
+    const std::int32_t sign = 2 * (chance() % 2) - 1;
     return sign * size;
 }
 
@@ -53,16 +52,16 @@ void PLASMA_randomize(PLASMA* plasma) {
         return;
     }
     for (PLASMA_WAVE& wave : plasma->waves) {
-        wave.phase = rand() & SINE_tableMask;
+        wave.phase = chance() & SINE_tableMask;
         wave.speed = drawStep();
         wave.across = drawStep();
         wave.down = drawStep();
     }
     // Less than a third of a turn apart, the channels share a dark stretch of the ring.
     constexpr std::int32_t thirdTurn = SINE_tableLength / 3;
-    const std::int32_t red = rand() % thirdTurn;
-    const std::int32_t green = rand() % thirdTurn;
-    const std::int32_t blue = rand() % thirdTurn;
+    const std::int32_t red = chance() % thirdTurn;
+    const std::int32_t green = chance() % thirdTurn;
+    const std::int32_t blue = chance() % thirdTurn;
     for (std::int32_t i = 0; i < PLASMA_colourCount; ++i) {
         plasma->colours[i] = channelAt(i, red) << 16 | channelAt(i, green) << 8 | channelAt(i, blue);
     }

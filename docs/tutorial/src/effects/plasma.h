@@ -38,7 +38,7 @@ extern std::uint8_t PLASMA_verbose;
 /// A random sea (see PLASMA_randomize), or nullptr (reported).
 PLASMA* PLASMA_new();
 
-/// Draws new waves and a new ring of colours, 24 numbers from rand(): wave by wave the phase, then size and
+/// Draws new waves and a new ring of colours, 24 numbers from chance(): wave by wave the phase, then size and
 /// sign of speed, across and down; then the phases of red, green and blue.
 void PLASMA_randomize(PLASMA* plasma);
 

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/plasma.h"
+#include "foundation/chance.h"
 #include "foundation/sine.h"
 #include "support/owned.h"
-
-#include <cstdlib>
 
 namespace velm::test {
 namespace {
@@ -12,7 +11,7 @@ namespace {
 using Sea = Owned<PLASMA, PLASMA_delete>;
 
 Sea seaOf(unsigned seed) {
-    std::srand(seed);
+    chanceSeed(seed);
     return Sea(PLASMA_new());
 }
 
