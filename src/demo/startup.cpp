@@ -98,9 +98,7 @@ void makeGenerator() {
 
 void makeClock() {
     demo.fps = FPS_new();
-    if (demo.fps != nullptr) {
-        demo.fps->targetRate = startRate;
-    }
+    VELM4030_setFrameRate(startRate);
 }
 
 } // namespace
