@@ -82,7 +82,7 @@ TEST(Circle, ExtremesLeaveThePictureAlone) {
 }
 
 TEST(Circle, FleetStaysInItsFieldAndBeginsAgain) {
-    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     fleet->width = 30, fleet->height = 20, fleet->largest = 10;
     CIRCLE_setCount(fleet, 40);
     fleet->bodies[0] = {.x = 0x10000,
@@ -108,7 +108,7 @@ TEST(Circle, FleetStaysInItsFieldAndBeginsAgain) {
 }
 
 TEST(Circle, NestsFadeAndInterfere) {
-    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     CIRCLE_setCount(fleet, 1);
     fleet->bodies[0] = {10 << 16, 10 << 16, 0, 0, 8 << 16, 0, 0x808080};
     fleet->rings = 9, fleet->spacing = 4, fleet->largest = 16;
@@ -126,7 +126,7 @@ TEST(Circle, NestsFadeAndInterfere) {
 }
 
 TEST(Circle, FailuresAreReportedAndChangeNothing) {
-    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     const CIRCLE_BODY* const bodies = fleet->bodies;
     expectReports(CIRCLE_verbose, 8, "CIRCLE error", [&] {
         CIRCLE_setCount(fleet, 0), CIRCLE_advance(nullptr), CIRCLE_drawXor(nullptr, nullptr);

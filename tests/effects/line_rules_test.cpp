@@ -14,7 +14,7 @@ namespace velm::test {
 namespace {
 
 TEST(Lrain, EndsOnTheGroundInARing) {
-    const Owned<LRAIN, LRAIN_delete> rain(LRAIN_new());
+    const Owned<LRAIN_delete> rain(LRAIN_new());
     rain->gust = 0;
     std::int32_t landed = 0;
     for (std::int32_t frame = 0; frame < 300; ++frame) {
@@ -32,7 +32,7 @@ TEST(Lrain, EndsOnTheGroundInARing) {
 }
 
 TEST(Archpath, LeapsFromWhereItLanded) {
-    const Owned<ARCHPATH, ARCHPATH_delete> path(ARCHPATH_new());
+    const Owned<ARCHPATH_delete> path(ARCHPATH_new());
     std::int32_t landings = 0;
     std::int32_t highest = path->ground;
     ARCHPATH_POSE last = path->trail[0];
@@ -52,8 +52,8 @@ TEST(Archpath, LeapsFromWhereItLanded) {
 }
 
 TEST(Lradial, DrawsTheLengthsItIsGiven) {
-    const Owned<LRADIAL, LRADIAL_delete> rays(LRADIAL_new());
-    const Owned<SAMPLE, SAMPLE_delete> sound(SAMPLE_new());
+    const Owned<LRADIAL_delete> rays(LRADIAL_new());
+    const Owned<SAMPLE_delete> sound(SAMPLE_new());
     SAMPLE_append(sound, -800), SAMPLE_append(sound, 0x7FFFFFFF);
     LRADIAL_setCount(rays, 4);
     rays->turn = 0, rays->inner = 10, rays->reach = 60;

@@ -21,7 +21,7 @@ struct Numbers {
             SAMPLE_append(sample, i + 1);
         }
     }
-    Owned<SAMPLE, SAMPLE_delete> sample{SAMPLE_new()};
+    Owned<SAMPLE_delete> sample{SAMPLE_new()};
 };
 
 /// Gives an effect the glyphs of one pixel, and a colour for each character.
@@ -36,7 +36,7 @@ void makePlain(Effect* effect, const PixelPen& pen, const Numbers& numbers) {
 TEST(Lscroll, WrapsBothWays) {
     const PixelPen pen(64, 9);
     const Numbers numbers;
-    const Owned<LSCROLL, LSCROLL_delete> scroll(LSCROLL_new());
+    const Owned<LSCROLL_delete> scroll(LSCROLL_new());
     makePlain<LSCROLL>(scroll, pen, numbers);
     scroll->cell = 2;
     scroll->hueSpeed = 0;
@@ -64,7 +64,7 @@ TEST(Lscroll, WrapsBothWays) {
 }
 
 TEST(Lscroll, LeadsAroundARing) {
-    const Owned<LSCROLL, LSCROLL_delete> scroll(LSCROLL_new());
+    const Owned<LSCROLL_delete> scroll(LSCROLL_new());
     LSCROLL_setCurve(scroll, {100, 60, 50, 50, 1, 1, 0});
     EXPECT_NEAR(scroll->length, 314, 1);
     for (std::int32_t i = 0; i < scroll->length; ++i) {
@@ -88,7 +88,7 @@ TEST(Lscroll, LeadsAroundARing) {
 TEST(Lscrlxyz, ShowsTheFarSideDimAndFromBehind) {
     const PixelPen pen(200, 200);
     const Numbers numbers;
-    const Owned<LSCRLXYZ, LSCRLXYZ_delete> scroll(LSCRLXYZ_new());
+    const Owned<LSCRLXYZ_delete> scroll(LSCRLXYZ_new());
     makePlain<LSCRLXYZ>(scroll, pen, numbers);
     SAMPLE_set(numbers.sample, 0, 0xFFFFFF);
     scroll->angle = {0, 0, 0};
@@ -116,7 +116,7 @@ TEST(Lscrlxyz, ShowsTheFarSideDimAndFromBehind) {
 
 TEST(Wordzoom, SendsWordByWordAndEnds) {
     const PixelPen pen(64, 64);
-    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
     zoom->glyphs = pen->glyphs;
     zoom->loop = 0;
     zoom->interval = 3;
@@ -150,7 +150,7 @@ TEST(Wordzoom, SendsWordByWordAndEnds) {
 TEST(Wordzoom, WritesUprightAtFullSize) {
     const PixelPen pen(9, 3);
     const Numbers numbers;
-    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
     makePlain<WORDZOOM>(zoom, pen, numbers);
     WORDZOOM_setText(zoom, "ABC");
     WORDZOOM_advance(zoom);
