@@ -15,6 +15,7 @@ namespace velm {
 
 struct SCENE {
     std::string_view name;
+    std::string_view subject;     ///< in the name of its file, scenes/scene_SUBJECT.cpp
     std::string_view description; ///< one line, for people
     void (*run)();                ///< one run, from its set-up to its clean-up
 };

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // RANDOM, a family of cheap deterministic generators over one state of four words, independent of
-// chance(). Every draw first adds one to the counter, then mixes it into the state. Unsigned 32-bit, wrapping.
+// chance(). Every draw first adds one to the counter, then mixes it into the state. Unsigned 32-bit,
+// wrapping.
 //
 //     RANDOM* random = RANDOM_new();
 //     std::int32_t choice = RANDOM_next(random) & 7;

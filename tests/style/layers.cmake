@@ -3,7 +3,8 @@
 #
 # cmake -DROOT=<the checkout> -P layers.cmake: fails when an #include points up or from one machine into another, when
 # Xlib, OSS or SDL headers are included outside the machine that they belong to, when a source declares an extern of
-# its own, draws from the C library's chance, or when a file lacks its licence line.
+# its own, draws from the C library's chance, when a file lacks its licence line, or when the table of scenes
+# does not know a scene's file.
 cmake_minimum_required(VERSION 3.22)
 
 # What a folder may include, and so what its CMake library may link.
@@ -59,6 +60,15 @@ foreach(place src/foundation src/image src/vector src/audio src/platform src/eff
     check("${file}" "${folder}")
     math(EXPR checked "${checked} + 1")
   endforeach()
+endforeach()
+file(GLOB scenes "${ROOT}/src/demo/scenes/scene_*.cpp")
+foreach(scene IN LISTS scenes)
+  file(READ "${ROOT}/src/demo/scenes/table.h" table)
+  string(REGEX REPLACE ".*/scene_(.*)\\.cpp" "\\1" subject "${scene}")
+  string(FIND "${table}" "\", \"${subject}\"," place)
+  if(place EQUAL -1)
+    list(APPEND findings "${scene}: no row of scenes/table.h has the subject ${subject}")
+  endif()
 endforeach()
 if(checked LESS 10)
   list(APPEND findings "only ${checked} files found below ${ROOT}")
