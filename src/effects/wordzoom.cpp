@@ -105,8 +105,9 @@ struct Pose {
     [[nodiscard]] VEC2D place(const VEC2D& point) const {
         const std::int64_t u = (left + point.x) * scale;
         const std::int64_t v = (std::int64_t{point.y} - middle) * scale;
-        return {wrapAdd(x, static_cast<std::int32_t>((u * cosine - v * sine + half) >> 31)),
-                wrapAdd(y, static_cast<std::int32_t>((u * sine + v * cosine + half) >> 31)), 0};
+        const std::int64_t right = wrapAdd(wrapSub(wrapMul(u, cosine), wrapMul(v, sine)), half) >> 31;
+        const std::int64_t down = wrapAdd(wrapAdd(wrapMul(u, sine), wrapMul(v, cosine)), half) >> 31;
+        return {wrapAdd(x, static_cast<std::int32_t>(right)), wrapAdd(y, static_cast<std::int32_t>(down)), 0};
     }
 };
 

@@ -85,6 +85,30 @@ TEST(Lscroll, LeadsAroundARing) {
     EXPECT_NEAR(scroll->length, 314, 1) << "the path stays";
 }
 
+TEST(LineTexts, KeepGlyphsFromTheEndsOfTheirRangeOutOfSight) {
+    constexpr std::int32_t most = 0x7FFFFFFF;
+    const PixelPen pen(64, 64);
+    auto* const glyph = static_cast<OBJ2D*>(LIST_get(pen->glyphs, 'A'));
+    const auto* const stroke = static_cast<SEG2D*>(LIST_get(glyph->segments, 0));
+    const Owned<LSCROLL, LSCROLL_delete> scroll(LSCROLL_new());
+    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    scroll->glyphs = zoom->glyphs = pen->glyphs;
+    LSCROLL_setText(scroll, "A"), WORDZOOM_setText(zoom, "A");
+    WORDZOOM_advance(zoom);
+    for (const auto& [x, y] : {std::pair{most, -most}, {-most, most}, {-most - 1, -most - 1}}) {
+        *stroke->a = *stroke->b = {x, y, 1};
+        for (const std::int32_t end : {most, -most - 1}) {
+            scroll->middle = zoom->middle = end;
+            for (const std::int32_t scale : {one * 9, most}) {
+                scroll->scale = scale;
+                zoom->flights[0].scale = std::min(scale, one * 9);
+                LSCROLL_draw(scroll, pen.target), WORDZOOM_draw(zoom, pen.target);
+            }
+        }
+    }
+    EXPECT_EQ(lit(pen.target), 0);
+}
+
 TEST(Lscrlxyz, ShowsTheFarSideDimAndFromBehind) {
     const PixelPen pen(200, 200);
     const Numbers numbers;
