@@ -171,6 +171,29 @@ TEST(Wordzoom, SendsWordByWordAndEnds) {
     }
 }
 
+TEST(Wordzoom, DragsEightCopiesAtMost) {
+    const PixelPen pen(64, 64);
+    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    zoom->glyphs = pen->glyphs;
+    zoom->x = zoom->y = 32;
+    zoom->cell = 60;
+    zoom->middle = 0;
+    WORDZOOM_setText(zoom, "AB");
+    WORDZOOM_advance(zoom);
+    zoom->flights[0].scale = one;
+    zoom->flights[0].driftX = zoom->flights[0].driftY = 0;
+    const auto litBy = [&](std::int32_t echoes) {
+        zoom->echoes = echoes;
+        IMG_fill(pen.target, 0);
+        WORDZOOM_draw(zoom, pen.target);
+        return lit(pen.target);
+    };
+    EXPECT_EQ(litBy(-5), 2);
+    EXPECT_EQ(litBy(7), 16);
+    EXPECT_EQ(litBy(8), 18);
+    EXPECT_EQ(litBy(40), 18) << "more would come out on the other side";
+}
+
 TEST(Wordzoom, WritesUprightAtFullSize) {
     const PixelPen pen(9, 3);
     const Numbers numbers;
