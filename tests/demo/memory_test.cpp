@@ -44,7 +44,7 @@ bool isChosen() {
 
 void becomeChild(std::FILE* said) {
     search.isChild = true;
-    constexpr unsigned mostSeconds = 60;
+    constexpr unsigned mostSeconds = 30;
     alarm(mostSeconds);
     dup2(fileno(said), STDERR_FILENO);
 }
