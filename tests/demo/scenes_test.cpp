@@ -300,6 +300,7 @@ std::uint32_t presentationsOf(const SCENE& scene, std::uint32_t untilSpace) {
 
 TEST_F(ScenesTest, EndAtOnceWhereverTheirSetUpRunsOutOfMemory) {
     demo.muted = 1; // composing allocates, too
+    VEC2D_verbose = 0;
     settings.meshColumns = settings.meshRows = 3;
     for (const SCENE& scene : SCENE_all()) {
         const std::uint32_t begin = fadeOf(scene);
