@@ -252,6 +252,15 @@ TEST_F(CaptureTest, AnOutputThatFailsLeavesTheOthersWhole) {
     EXPECT_EQ(contents(path("wav")).size(), 44U + 17 * 2942);
 }
 
+TEST_F(CaptureTest, AFilmThatFailsLeavesNothingBehind) {
+    EXPECT_EQ(shell("ulimit -f 16; exec $capture --frames 90 --crc crc --mp4 mp4 2> errors"), 1);
+    EXPECT_EQ(names(), "crc errors ");
+    EXPECT_EQ(contents(path("errors")), "velm4030-capture: cannot write mp4: File too large\n");
+    EXPECT_EQ(shell("PATH=/nowhere; exec $capture --frames 90 --crc crc --mp4 mp4 2> errors"), 1);
+    EXPECT_EQ(contents(path("errors")),
+              "velm4030-capture: cannot write mp4: ffmpeg is not installed, which makes the film\n");
+}
+
 TEST_F(CaptureTest, NothingElseInTheFolderIsTouched) {
     ASSERT_EQ(shell("mkdir ppm; echo mine | tee target crc.part ppm/frame-00001.ppm.part mp4.part.mp4;"
                     "ln -s target wav.part; ln -s target raw.part; chmod 640 target; ln -s target raw"),

@@ -114,6 +114,7 @@ bool Film::join() {
 void Film::fail(const char* what) {
     say("cannot write " + path + ": " + what);
     status = OutputState::failed;
+    film.becomeNameless();
 }
 
 } // namespace velm
