@@ -32,7 +32,7 @@ void finishRecording() {
 void record(const velm::IMG& frame) {
     recorder->frame(frame);
     if (recorder->isIdle()) {
-        std::exit(0);
+        std::_Exit(recorder->finish() ? 0 : statusNotWritten);
     }
 }
 
