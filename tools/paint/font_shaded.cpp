@@ -230,7 +230,7 @@ Picture paintFontShaded() {
         if (code < 32 || code == 127) {
             cutGlyph(*sheet, code, parseStrokes(drawings()[drawingOf(code)].shorthand), drawingCut);
         } else {
-            cutGlyph(*sheet, code, parseStrokes(mediumGlyph(character)),
+            cutGlyph(*sheet, code, parseStrokes(skeletonGlyph(character)),
                      isCrowded(character) ? crowdedCut : letterCut);
         }
     }

@@ -58,7 +58,7 @@ void fillArt(const Cell& at, std::int32_t art) {
 }
 
 void writeAscii(const Cell& at, char character) {
-    write(at, parseStrokes(mediumGlyph(character)), isCrowded(character) ? fine : broad);
+    write(at, parseStrokes(skeletonGlyph(character)), isCrowded(character) ? fine : broad);
 }
 
 /// Lines from the middle to the edges: bit 0 up, 1 right, 2 down, 3 left.
@@ -218,7 +218,7 @@ void writeLetter(const Cell& at, std::int32_t code) {
     const auto index = static_cast<std::size_t>(code - firstLetter);
     const char letter = letters[index];
     const char accent = accents[index];
-    const Strokes strokes = parseStrokes(letter == 'i' ? "54 74 7B, 5B 9B" : mediumGlyph(letter));
+    const Strokes strokes = parseStrokes(letter == 'i' ? "54 74 7B, 5B 9B" : skeletonGlyph(letter));
     const bool isCapital = letter < 'a';
     write(at, isCapital && accent != ',' ? lowered(strokes) : strokes, broad);
     writeAccent(at, accent);
