@@ -126,5 +126,22 @@ TEST(Faces, MediumStrokesAreTwoPixelsThick) {
     }
 }
 
+TEST(Faces, AccentsTakeLittleOfTheirCapitals) {
+    const Face face = sheetFace("sheet", assets::font_sheet, 16, 16);
+    constexpr std::string_view plain = "AEIOUNY";
+    constexpr std::string_view accented = "\xC0\xC9\xCC\xD2\xDA\xD1\xDD";
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const Extent letter = extentOf(face, plain[i]);
+        const Extent both = extentOf(face, accented[i]);
+        EXPECT_EQ(both.bottom, letter.bottom) << plain[i];
+        EXPECT_EQ(both.right - both.left, letter.right - letter.left) << plain[i];
+        const auto& cell = face.cells[static_cast<unsigned char>(accented[i])];
+        const auto gap = std::find(cell.begin() + 32, cell.begin() + 48, 0xFFFFFF);
+        EXPECT_EQ(gap, cell.begin() + 48) << plain[i] << " touches its accent";
+        EXPECT_TRUE(std::any_of(gap, gap + 16, [](auto pixel) { return pixel != 0; }))
+            << plain[i] << " is low";
+    }
+}
+
 } // namespace
 } // namespace velm::test
