@@ -12,6 +12,7 @@
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
+#include "platform/folder.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -32,8 +33,8 @@ constexpr std::int32_t hueStep = 48;     // of the ramp from name to name
 constexpr std::int32_t firstPlace = -12; // names before the first one, where the drum begins to turn
 constexpr std::int32_t one = 1 << 8;     // 1.0 of a place on the drum
 
-/// Lists the working folder anew, in the order of the bytes of the names. A folder that cannot be read leaves
-/// an empty list.
+/// Lists the folder anew, in the order of the bytes of the names. One that cannot be read leaves an empty
+/// list.
 void listFolder() {
     demo.dirSelection = 0;
     if (demo.dirListing == nullptr && (demo.dirListing = DIR_new()) == nullptr) {
@@ -43,7 +44,7 @@ void listFolder() {
     while (names->count > 0) {
         delete[] static_cast<char*>(LIST_pop(names));
     }
-    DIR_read(demo.dirListing, ".");
+    FOLDER_read(demo.dirListing);
     std::sort(names->items, names->items + names->count, [](const void* a, const void* b) {
         return std::strcmp(static_cast<const char*>(a), static_cast<const char*>(b)) < 0;
     });
