@@ -4,6 +4,7 @@
 // velm4030-capture: the demo on the machine without a machine, its frames and its sound written as they come.
 #include "capture/options.h"
 #include "capture/recorder.h"
+#include "demo/programme.h"
 #include "demo/velm4030.h"
 #include "headless/headless.h"
 
@@ -48,5 +49,9 @@ int main(int argc, char** argv) {
     std::atexit(finishRecording);
     VELM4030_init();
     VELM4030_setFrameRate(options.rate);
+    if (options.tour) {
+        PROGRAMME tour;
+        PROGRAMME_play(tour);
+    }
     SCENE_runForEver(options.scene);
 }

@@ -110,9 +110,11 @@ CaptureOptions parseOptions(int argc, char** argv) {
     takeFrames(
         *app.add_option("--frames", options.frames, "how many presentations, the start-up logo included")
              ->required());
-    takeScene(*app.add_option("--scene", scene,
-                              "this scene again and again instead of the schedule: " + sceneNames()),
-              options.scene);
+    CLI::Option* const one = app.add_option(
+        "--scene", scene, "this scene again and again instead of the schedule: " + sceneNames());
+    takeScene(*one, options.scene);
+    app.add_flag("--tour", options.tour, "all scenes one after the other instead of the schedule")
+        ->excludes(one);
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60"));
     app.add_option("--keys", keys,
                    "FRAME:KEY,... presses a key (a character, esc, space, up, down) after a frame")
@@ -124,14 +126,16 @@ CaptureOptions parseOptions(int argc, char** argv) {
     app.add_option("--crc", options.crc,
                    "a line a frame, number and CRC-32 of its words; - for standard output");
     app.add_option("--audio", options.audio, "what the sound device is handed, as a WAV file");
-    app.add_option("--block", options.block, "bytes of the sound driver's block (what a frame lasts at --rate)")
+    app.add_option("--block", options.block,
+                   "bytes of the sound driver's block (what a frame lasts at --rate)")
         ->check(CLI::Range(2, 1 << 20));
     app.add_option("--mp4", options.film, "a film with sound, made by ffmpeg");
     app.add_option("--scale", options.scale, "enlargement of the film, without smoothing")
         ->check(CLI::Range(1, 16));
     app.add_flag("--quiet", options.quiet, "no progress line");
     parseOrLeave(app, "velm4030-capture", argc, argv, [&options] { requireApart(options); });
-    // A driver names its block once, whatever the keys do to the rate; a film's sound has to stay with its picture.
+    // A driver names its block once, whatever the keys do to the rate; a film's sound has to stay with its
+    // picture.
     if (options.block == 0 && options.film.empty()) {
         options.block = DSP_blockBytes(options.rate);
     }

@@ -28,7 +28,7 @@ void haveStandardFiles() {
 int main(int argc, char** argv) {
     using namespace velm;
     haveStandardFiles();
-    static const PlayOptions options = parseOptions(argc, argv);
+    static PlayOptions options = parseOptions(argc, argv);
     std::signal(SIGPIPE, SIG_IGN); // nobody may be listening to what it says
     player.scale = options.scale;
     player.fullScreen = options.fullScreen;
@@ -38,5 +38,5 @@ int main(int argc, char** argv) {
     player.onLimit = [] { std::exit(0); };
     VELM4030_init();
     VELM4030_setFrameRate(options.rate);
-    SCENE_runForEver(options.scene);
+    PROGRAMME_play(options.programme);
 }

@@ -7,8 +7,10 @@
 #include "sound_driver.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 #include <vector>
 
 namespace velm {
@@ -17,10 +19,26 @@ namespace {
 
 void listScenes() {
     constexpr int nameWidth = 16;
-    for (const SCENE& scene : SCENE_all()) {
+    const auto list = [](const SCENE& scene) {
         std::printf("%-*s%s\n", nameWidth, std::string(scene.name).c_str(),
                     std::string(scene.description).c_str());
+    };
+    std::ranges::for_each(SCENE_all(), list);
+    list(SCENE_schedule);
+}
+
+PROGRAMME programmeOf(const std::vector<std::string>& names, bool isMixed) {
+    PROGRAMME programme;
+    for (const std::string& name : names) {
+        PROGRAMME_append(programme, SCENE_find(name));
     }
+    if (names.empty()) {
+        PROGRAMME_appendTour(programme);
+    }
+    if (isMixed) {
+        PROGRAMME_shuffle(programme, std::random_device{}() | 1U);
+    }
+    return programme;
 }
 
 std::vector<std::string> driverNames() {
@@ -36,16 +54,18 @@ std::vector<std::string> driverNames() {
 
 PlayOptions parseOptions(int argc, char** argv) {
     PlayOptions options;
-    std::string scene;
+    std::vector<std::string> scenes;
     bool list = false;
+    bool isMixed = false;
     std::string sound = "auto";
     constexpr int mostScale = 16;
     constexpr int mostVolume = 100;
     CLI::App app("The VELM4030 demo, enlarged or full screen, with sound through what the desktop has.");
     app.set_version_flag("--version", std::string(playerName) + " " VELM_VERSION);
-    takeScene(*app.add_option("SCENE", scene, "this scene again and again instead of the schedule"),
-              options.scene);
+    takeScenes(*app.add_option("SCENE", scenes, "these scenes, again and again; all of them unless given")
+                    ->expected(0, PROGRAMME::mostParts));
     app.add_flag("--list", list, "names the scenes and leaves");
+    app.add_flag("--shuffle", isMixed, "mixes their order");
     CLI::Option* const scale =
         app.add_option("--scale", options.scale, "enlargement, without smoothing (what suits the screen)")
             ->check(CLI::Range(1, mostScale));
@@ -61,6 +81,7 @@ PlayOptions parseOptions(int argc, char** argv) {
         listScenes();
         std::exit(0);
     }
+    options.programme = programmeOf(scenes, isMixed);
     options.sound = sound == "auto" ? "" : sound;
     return options;
 }
