@@ -62,9 +62,5 @@ TEST_F(KeysTest, ReachTheirTargets) {
     EXPECT_LT(demo.dirSelection, 5);
 }
 
-TEST(Keyboard, APollWithoutAKeyboardLeavesWithStatus0) {
-    EXPECT_EXIT(XKBD_poll(nullptr), testing::ExitedWithCode(0), "");
-}
-
 } // namespace
 } // namespace velm::test
