@@ -25,6 +25,12 @@ constexpr Stop tour[] = {
     {"extra-9"},       {"extra-8", 740}, {"extra-1", 750}, {"extra-6"},
 };
 
+const Stop* stopOf(const SCENE& scene) {
+    const auto* const found = std::find_if(std::begin(tour), std::end(tour),
+                                           [&scene](const Stop& stop) { return stop.scene == scene.name; });
+    return found != std::end(tour) ? found : nullptr;
+}
+
 using Order = std::array<const SCENE*, PROGRAMME::mostParts>;
 
 std::int32_t roundOf(const PROGRAMME& programme, std::int32_t place) {
@@ -90,9 +96,16 @@ bool PROGRAMME_append(PROGRAMME& programme, const SCENE* scene) {
 }
 
 void PROGRAMME_appendTour(PROGRAMME& programme) {
-    for (const Stop& stop : tour) {
+    const std::span stops(tour);
+    for (const Stop& stop : stops.first(stops.size() - 1)) {
         PROGRAMME_append(programme, SCENE_find(stop.scene));
     }
+    for (const SCENE& scene : SCENE_all()) { // what the table does not know yet comes before the curtain
+        if (stopOf(scene) == nullptr) {
+            PROGRAMME_append(programme, &scene);
+        }
+    }
+    PROGRAMME_append(programme, SCENE_find(stops.back().scene));
 }
 
 void PROGRAMME_shuffle(PROGRAMME& programme, std::uint32_t seed) {
@@ -129,9 +142,8 @@ const SCENE* PROGRAMME_at(const PROGRAMME& programme, std::int32_t place) {
 }
 
 std::int32_t PROGRAMME_length(const SCENE& scene) {
-    const auto* const stop = std::find_if(std::begin(tour), std::end(tour),
-                                          [&scene](const Stop& s) { return s.scene == scene.name; });
-    return stop == std::end(tour) ? 0 : stop->frames;
+    const Stop* const stop = stopOf(scene);
+    return stop != nullptr ? stop->frames : 0;
 }
 
 void PROGRAMME_next(PROGRAMME& programme) {
