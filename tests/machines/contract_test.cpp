@@ -97,7 +97,9 @@ TEST_F(MachineTest, GivesKeysOneAPollInTheirOrder) {
     }
     EXPECT_EQ(key(), "a");
     EXPECT_EQ(key(), "-");
+    EXPECT_EQ(keyboard->keycode, 98) << "the arrow up, whatever the keyboard has for it";
     EXPECT_EQ(key(), "b");
+    EXPECT_NE(keyboard->keycode, 98);
     EXPECT_EQ(key(), "a");
     keyboard->keycode = 5;
     XKBD_poll(keyboard);
@@ -146,6 +148,9 @@ TEST_F(MachineTest, TellsWhichOfThreeButtonsAreHeld) {
     for (const int button : {1, 2, 3}) {
         hands().hold(button);
         expectButtons(1 << (button - 1));
+        pointer->buttons = 8;
+        XPTR_query(pointer);
+        EXPECT_EQ(pointer->buttons, 8 | 1 << (button - 1)) << "a query tells what is, not what has come";
         hands().letGo(button);
         expectButtons(0);
     }

@@ -8,9 +8,13 @@
 #include "support/images.h"
 #include "x11_session.h"
 
+#include <X11/Xatom.h>
+#include <X11/Xutil.h>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <unistd.h>
+#include <vector>
 
 namespace velm::test {
 namespace {
@@ -67,6 +71,21 @@ protected:
             << difference;
     }
 
+    /// The 32-bit words of a property of the window.
+    [[nodiscard]] std::vector<unsigned long> words(const char* property) const {
+        ::Atom type = 0;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long left = 0;
+        unsigned char* bytes = nullptr;
+        XGetWindowProperty(session.connection, window, XInternAtom(session.connection, property, False), 0,
+                           1 << 16, False, XA_CARDINAL, &type, &format, &count, &left, &bytes);
+        const auto* const first = reinterpret_cast<const unsigned long*>(bytes);
+        std::vector<unsigned long> all(first, first + count);
+        XFree(bytes);
+        return all;
+    }
+
     Session session{server().display()};
     XDPY* display = nullptr;
     ::Window window = 0;
@@ -89,6 +108,28 @@ TEST_F(DisplayTest, TheWindowHasItsTitleSizeAndPlace) {
     EXPECT_EQ(height, 256U);
     EXPECT_EQ(borderWidth, 2U);
     EXPECT_EQ(std::to_string(display->depth), testDepth());
+}
+
+TEST_F(DisplayTest, TheWindowTellsADesktopWhatItIs) {
+    XClassHint names{};
+    ASSERT_NE(XGetClassHint(session.connection, window, &names), 0);
+    EXPECT_STREQ(names.res_name, "velm4030");
+    EXPECT_STREQ(names.res_class, "VELM4030");
+    XTextProperty machine{};
+    ASSERT_NE(XGetWMClientMachine(session.connection, window, &machine), 0);
+    char host[256] = "";
+    gethostname(host, sizeof host - 1);
+    EXPECT_STREQ(reinterpret_cast<const char*>(machine.value), host);
+    EXPECT_EQ(words("_NET_WM_PID"), std::vector<unsigned long>{static_cast<unsigned long>(getpid())});
+    const auto icon = words("_NET_WM_ICON");
+    ASSERT_EQ(icon.size(), 2U + 48 * 48);
+    EXPECT_EQ(icon[0], 48U);
+    EXPECT_EQ(icon[1], 48U);
+    EXPECT_EQ(icon[2] >> 24, 0U) << "the corner of the tile is round";
+    EXPECT_EQ(icon[2 + 24 * 48 + 24] >> 24 & 0xFF, 0xFFU) << "its middle is not";
+    XFree(names.res_name);
+    XFree(names.res_class);
+    XFree(machine.value);
 }
 
 TEST_F(DisplayTest, AFrameIsOnTheScreenBitForBit) {

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "x11/oss.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <sys/soundcard.h>
+#include <unistd.h>
+
+namespace velm {
+
+namespace {
+
+// XSND_flagWord: one expects O_WRONLY | O_APPEND | O_SYNC by name; O_SYNC has got another bit since, and the
+// device has always been opened with this word.
+constexpr int openFlags = 0x1401;
+
+constexpr bool isSystems(DspRequest request, unsigned long number) {
+    return static_cast<unsigned long>(request) == number;
+}
+
+static_assert(isSystems(DspRequest::reset, SNDCTL_DSP_RESET) &&
+              isSystems(DspRequest::speed, SNDCTL_DSP_SPEED) &&
+              isSystems(DspRequest::stereo, SNDCTL_DSP_STEREO) &&
+              isSystems(DspRequest::blockSize, SNDCTL_DSP_GETBLKSIZE) &&
+              isSystems(DspRequest::format, SNDCTL_DSP_SETFMT) &&
+              isSystems(DspRequest::toPlay, SNDCTL_DSP_GETODELAY));
+
+} // namespace
+
+std::int32_t OSS_open(const char* path) {
+    const int device = open(path, openFlags, 0);
+    if (device >= 0) {
+        // The device may be a sound server's socket. When the server goes, a write shall fail, not kill.
+        std::signal(SIGPIPE, SIG_IGN);
+    }
+    return device;
+}
+
+std::int32_t OSS_request(std::int32_t device, DspRequest request, std::int32_t* word) {
+    return ioctl(device, static_cast<unsigned long>(request), word);
+}
+
+std::int32_t OSS_write(std::int32_t device, const std::int16_t* block, std::int32_t samples) {
+    return static_cast<std::int32_t>(write(device, block, static_cast<std::size_t>(samples) * sizeof *block));
+}
+
+void OSS_close(std::int32_t device) {
+    close(device);
+}
+
+} // namespace velm

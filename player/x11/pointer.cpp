@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "foundation/memory.h"
+#include "platform/xptr.h"
+#include "x11/display.h"
+
+#include <iterator>
+
+namespace velm {
+
+namespace {
+
+constexpr unsigned int buttonMasks[] = {Button1Mask, Button2Mask, Button3Mask};
+
+/// The window whose system pointer is invisible already.
+Window hiddenWindow = 0;
+
+/// Gives the window a cursor that shows nothing, once.
+void hidePointer() {
+    if (!XDPY_isOpen() || hiddenWindow == x11Display.window) {
+        return;
+    }
+    hiddenWindow = x11Display.window;
+    // A pixmap's first content is undefined, so the one pixel is cleared: as its own mask it then shows
+    // nothing.
+    const char nothing = 0;
+    const Pixmap empty = XCreateBitmapFromData(x11Display.connection, hiddenWindow, &nothing, 1, 1);
+    XColor colour{};
+    const Cursor cursor = XCreatePixmapCursor(x11Display.connection, empty, empty, &colour, &colour, 0, 0);
+    XDefineCursor(x11Display.connection, hiddenWindow, cursor);
+}
+
+/// Reports a missing record or window.
+bool isUsable(const XPTR* pointer) {
+    if (pointer == nullptr || !XDPY_isOpen()) {
+        XPTR_error();
+        return false;
+    }
+    return true;
+}
+
+void place(XPTR* pointer, int windowX, int windowY) {
+    pointer->x = windowX;
+    pointer->y = windowY;
+    x11ToPicture(pointer->x, pointer->y);
+}
+
+/// Sets or clears a button's bit. The state is that before the event, so a button that was held is being let
+/// go.
+void applyButton(XPTR* pointer, const XButtonEvent& event) {
+    if (event.button < Button1 || event.button > Button3) {
+        return;
+    }
+    const unsigned int button = event.button - Button1;
+    if ((event.state & buttonMasks[button]) != 0) {
+        pointer->buttons &= ~(1 << button);
+    } else {
+        pointer->buttons |= 1 << button;
+    }
+}
+
+} // namespace
+
+XPTR* XPTR_new() {
+    if (!XDPY_isOpen()) {
+        XPTR_error();
+        return nullptr;
+    }
+    XPTR* pointer = allocateRecord<XPTR>();
+    if (pointer == nullptr) {
+        XPTR_error();
+        return nullptr;
+    }
+    XDPY_selectInput();
+    hidePointer();
+    return pointer;
+}
+
+void XPTR_poll(XPTR* pointer) {
+    if (!isUsable(pointer)) {
+        return;
+    }
+    XEvent event;
+    // XPTR_firstMotionWins: one expects the latest position; the frame's first motion is taken and XPTR_flush
+    // drops the rest, so a fast pointer trails behind.
+    if (XCheckWindowEvent(x11Display.connection, x11Display.window, PointerMotionMask, &event) != 0) {
+        place(pointer, event.xmotion.x, event.xmotion.y);
+    }
+    if (XCheckWindowEvent(x11Display.connection, x11Display.window, ButtonPressMask | ButtonReleaseMask,
+                          &event) != 0) {
+        applyButton(pointer, event.xbutton);
+    }
+    hidePointer();
+}
+
+void XPTR_query(XPTR* pointer) {
+    if (!isUsable(pointer)) {
+        return;
+    }
+    Window root = 0;
+    Window child = 0;
+    int rootX = 0;
+    int rootY = 0;
+    int x = 0;
+    int y = 0;
+    unsigned int state = 0;
+    if (XQueryPointer(x11Display.connection, x11Display.window, &root, &child, &rootX, &rootY, &x, &y,
+                      &state) != 0) {
+        place(pointer, x, y);
+        for (unsigned int button = 0; button < std::size(buttonMasks); ++button) {
+            const std::int32_t bit = 1 << button;
+            const bool held = (state & buttonMasks[button]) != 0;
+            pointer->buttons = held ? pointer->buttons | bit : pointer->buttons & ~bit;
+        }
+    }
+    hidePointer();
+}
+
+std::int32_t XPTR_flush(XPTR* pointer) {
+    // Without a record the events are discarded all the same.
+    isUsable(pointer);
+    if (XDPY_isOpen()) {
+        constexpr long pointerEvents = PointerMotionMask | ButtonPressMask | ButtonReleaseMask;
+        XEvent event;
+        while (XCheckWindowEvent(x11Display.connection, x11Display.window, pointerEvents, &event) != 0) {
+        }
+    }
+    return 0;
+}
+
+} // namespace velm
