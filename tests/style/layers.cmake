@@ -16,12 +16,14 @@ set(below_effects foundation image vector audio platform effects)
 set(below_demo ${below_effects} demo)
 set(below_x11 ${below_platform} x11)
 set(below_headless ${below_platform} headless)
+set(below_desktop ${below_platform} desktop)
 set(below_common ${below_demo} common)
 set(below_capture ${below_common} capture headless)
 set(below_paint foundation image vector paint)
 set(below_play ${below_common} play desktop)
 
 set(systems_x11 "X11|sys/soundcard")
+set(systems_desktop SDL)
 
 set(findings "")
 function(check file folder)
@@ -52,7 +54,7 @@ endfunction()
 
 set(checked 0)
 foreach(place src/foundation src/image src/vector src/audio src/platform src/effects src/demo
-    machines/x11 machines/headless tools/common tools/capture tools/paint tools/play)
+    machines/x11 machines/desktop machines/headless tools/common tools/capture tools/paint tools/play)
   get_filename_component(folder "${place}" NAME)
   file(GLOB_RECURSE files "${ROOT}/${place}/*.h" "${ROOT}/${place}/*.cpp")
   foreach(file IN LISTS files)
