@@ -7,7 +7,7 @@
 # ./run.sh ARGUMENT...: the same for the player, velm4030-play, which takes the arguments ("--help" names them) and finds
 # the sound by itself.
 set -euo pipefail
-cd "$(dirname "$0")"
+CDPATH="" cd -- "$(dirname -- "$0")"
 . packaging/packages.sh
 
 if [ $# -eq 0 ]; then

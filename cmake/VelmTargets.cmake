@@ -29,6 +29,22 @@ function(velm_library name)
   endforeach()
 endfunction()
 
+# velm_embed(TARGET HEADER FILE...): every file becomes one constant of the target, named after the file; the header
+# declares them.
+function(velm_embed target header)
+  foreach(input IN LISTS ARGN)
+    get_filename_component(file "${input}" NAME)
+    get_filename_component(name "${input}" NAME_WE)
+    set(generated "${CMAKE_CURRENT_BINARY_DIR}/assets/${file}.cpp")
+    add_custom_command(OUTPUT "${generated}"
+      COMMAND "${CMAKE_COMMAND}" "-DINPUT=${input}" "-DOUTPUT=${generated}" "-DNAME=${name}" "-DHEADER=${header}"
+        -P "${PROJECT_SOURCE_DIR}/cmake/EmbedAsset.cmake"
+      DEPENDS "${input}" "${PROJECT_SOURCE_DIR}/cmake/EmbedAsset.cmake"
+      COMMENT "Embedding ${file}" VERBATIM)
+    target_sources(${target} PRIVATE "${generated}")
+  endforeach()
+endfunction()
+
 # velm_machine(NAME SOURCES FILE... LINKS LIBRARY...): the folder machines/NAME as velm_NAME, everything that one machine
 # puts behind the seam. It sees the seam, what lies below it, and the libraries of its machine; never another machine,
 # never the demo. An executable links exactly one. Objects, not an archive: the seam's own part needs them as much as
