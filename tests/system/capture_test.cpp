@@ -130,6 +130,13 @@ TEST_F(CaptureTest, OneSceneRunsAgainAndAgain) {
     EXPECT_FALSE(twice[68] == black);
 }
 
+TEST_F(CaptureTest, TheFolderThatASceneListsIsTheSameEverywhere) {
+    const std::string twice = "cd '" + folder + "' && for sum in crc other-crc; do " + VELM_CAPTURE +
+                              " --scene extra-1 --frames 150 --crc $sum || exit; touch new; done";
+    ASSERT_EQ(std::system(twice.c_str()), 0);
+    EXPECT_TRUE(contents(path("crc")) == contents(path("other-crc")));
+}
+
 TEST_F(CaptureTest, EscapeEndsItWithItsFilesComplete) {
     EXPECT_EQ(frames(500, {"--keys", "40:esc"}).size(), 40U + 32U);
 }

@@ -29,7 +29,7 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     waitForRecorder();
     Child player({VELM_PLAYER, "schedule", "--scale", "1", "--frames", "220"}, withDisplay());
     ASSERT_EQ(player.waitForExit(60), 0) << player.errors();
-    EXPECT_EQ(player.output(), "sound: alsa\n");
+    EXPECT_EQ(player.output(), "sound: pulseaudio\n");
     EXPECT_EQ(player.errors(), "");
     const Sound heard = recorded();
     const Sound expected = captured(200); // the end of the sound goes down with the program
@@ -79,7 +79,7 @@ TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundRetur
     session.press("Escape");
     EXPECT_EQ(player.waitForExit(), 0);
     EXPECT_EQ(player.errors(), "");
-    EXPECT_EQ(player.output(), "sound: alsa\n");
+    EXPECT_EQ(player.output(), "sound: pulseaudio\n");
 }
 
 } // namespace

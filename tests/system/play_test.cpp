@@ -147,7 +147,8 @@ TEST_P(PlayFrames, AreTheDemosBitForBitOnEveryWayToTheServer) {
                   way.announced);
         stage.play({"--scale", "2"}, way.host);
         const std::string maps = contents("/proc/" + std::to_string(stage.player->id()) + "/maps");
-        EXPECT_EQ(maps.find("/SYSV") != std::string::npos, way.shared);
+        // For 30 bits SDL has no memory of a window's, so none is shared.
+        EXPECT_EQ(maps.find("/SYSV") != std::string::npos, way.shared && stage.depth != "30");
         stage.pause();
         stage.expectShown(2, 0, 0);
         EXPECT_EQ(stage.shown(2, 0, 0), static_cast<std::size_t>(stage.puts())) << "that of the same number";

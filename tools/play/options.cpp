@@ -3,8 +3,7 @@
 #include "play/options.h"
 
 #include "common/arguments.h"
-#include "player.h"
-#include "sound_driver.h"
+#include "desktop/desktop.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -41,12 +40,10 @@ PROGRAMME programmeOf(const std::vector<std::string>& names, bool isMixed) {
     return programme;
 }
 
-std::vector<std::string> driverNames() {
-    std::vector<std::string> names = {"auto"};
-    for (const SoundDriver& driver : soundDrivers()) {
-        names.emplace_back(driver.name);
-    }
-    names.emplace_back(silentDriver);
+std::vector<std::string> soundNames() {
+    std::vector<std::string> names = desktopSounds();
+    names.insert(names.begin(), "auto");
+    names.emplace_back("none");
     return names;
 }
 
@@ -61,7 +58,7 @@ PlayOptions parseOptions(int argc, char** argv) {
     constexpr int mostScale = 16;
     constexpr int mostVolume = 100;
     CLI::App app("The VELM4030 demo, enlarged or full screen, with sound through what the desktop has.");
-    app.set_version_flag("--version", std::string(playerName) + " " VELM_VERSION);
+    app.set_version_flag("--version", std::string(desktopProgram) + " " VELM_VERSION);
     takeScenes(*app.add_option("SCENE", scenes, "these scenes, again and again; all of them unless given")
                     ->expected(0, PROGRAMME::mostParts));
     app.add_flag("--list", list, "names the scenes and leaves");
@@ -71,12 +68,12 @@ PlayOptions parseOptions(int argc, char** argv) {
             ->check(CLI::Range(1, mostScale));
     app.add_flag("--fullscreen", options.fullScreen, "fills the screen, in whole multiples")->excludes(scale);
     app.add_option("--sound", sound, "where the sound goes (auto, the first that answers)")
-        ->check(CLI::IsMember(driverNames()));
+        ->check(CLI::IsMember(soundNames()));
     app.add_option("--volume", options.volume, "of the sound, per cent (100)")
         ->check(CLI::Range(0, mostVolume));
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
     takeFrames(*app.add_option("--frames", options.frames, "leaves after so many presentations"));
-    parseOrLeave(app, playerName, argc, argv);
+    parseOrLeave(app, desktopProgram, argc, argv);
     if (list) {
         listScenes();
         std::exit(0);

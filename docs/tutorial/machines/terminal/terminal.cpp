@@ -6,6 +6,7 @@
 #include "foundation/memory.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
+#include "platform/folder.h"
 #include "platform/xdpy.h"
 #include "platform/xkbd.h"
 #include "platform/xptr.h"
@@ -135,5 +136,9 @@ std::int32_t DSP_write(std::int32_t, const std::int16_t*, std::int32_t) {
 }
 
 void DSP_close(std::int32_t) {}
+
+std::int32_t FOLDER_read(DIR* dir) {
+    return DIR_read(dir, ".");
+}
 
 } // namespace velm

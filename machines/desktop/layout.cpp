@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "layout.h"
+#include "desktop/layout.h"
 
 #include <algorithm>
 

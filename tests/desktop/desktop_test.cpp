@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 //
 // What the player computes: where the picture stands, how it is enlarged, and how long a frame lasts.
-#include "enlarge.h"
-#include "layout.h"
-#include "pace.h"
+#include "desktop/enlarge.h"
+#include "desktop/layout.h"
+#include "desktop/pace.h"
 #include "support/images.h"
+#include "support/owned.h"
 
 #include <algorithm>
 #include <cstring>
@@ -40,32 +41,35 @@ TEST(Layout, APlaceInTheWindowIsOneInThePictureAlsoOutside) {
     }
 }
 
-TEST(Enlarge, EveryPixelBecomesASquareAndNothingElseChanges) {
+TEST(Enlarge, EveryPixelBecomesASquareInTheScreensLayoutAndNothingElseChanges) {
     test::Images random(4030);
-    for (std::int32_t pixelBytes = 1; pixelBytes <= 4; ++pixelBytes) {
+    const test::Owned<IMG, IMG_delete> frame(random.image(9, 8));
+    const PixelLayout layouts[] = {{1, 0xE0, 0x1C, 0x03},
+                                   {2, 0xF800, 0x07E0, 0x001F},
+                                   {3, 0x0000FF, 0x00FF00, 0xFF0000},
+                                   {4, 0xFF0000, 0x00FF00, 0x0000FF},
+                                   {4, 0x3FF00000, 0x000FFC00, 0x000003FF}};
+    const Part part{1, 2, 7, 5};
+    for (const PixelLayout& layout : layouts) {
         for (std::int32_t scale = 1; scale <= 5; ++scale) {
-            const std::int32_t width = 7;
-            const std::int32_t height = 5;
-            const std::ptrdiff_t fromStride = width * pixelBytes + 3;
-            const std::ptrdiff_t toStride = width * scale * pixelBytes + 5;
-            std::vector<char> from(static_cast<std::size_t>(fromStride * height));
-            std::generate(from.begin(), from.end(), [&] { return static_cast<char>(random.number(0, 127)); });
+            const std::ptrdiff_t stride = part.width * scale * layout.bytes + 5;
             constexpr char untouched = -1;
-            std::vector<char> to(static_cast<std::size_t>(toStride * height * scale), untouched);
-            enlarge({from.data(), fromStride, pixelBytes}, width, height, scale,
-                    {to.data(), toStride, pixelBytes});
-            for (std::ptrdiff_t y = 0; y < height * scale; ++y) {
-                for (std::ptrdiff_t x = 0; x < width * scale; ++x) {
-                    const char* const seen = &to[static_cast<std::size_t>(y * toStride + x * pixelBytes)];
-                    const char* const expected =
-                        &from[static_cast<std::size_t>(y / scale * fromStride + x / scale * pixelBytes)];
-                    ASSERT_EQ(std::memcmp(seen, expected, static_cast<std::size_t>(pixelBytes)), 0)
-                        << pixelBytes << " bytes, " << scale << " times, at " << x << ", " << y;
+            std::vector<char> to(static_cast<std::size_t>(stride * part.height * scale), untouched);
+            enlarge(*frame, part, scale, layout, to.data(), stride);
+            for (std::int32_t y = 0; y < part.height * scale; ++y) {
+                for (std::int32_t x = 0; x < part.width * scale; ++x) {
+                    const char* const seen = &to[static_cast<std::size_t>(y * stride + x * layout.bytes)];
+                    const std::uint32_t expected =
+                        layout.of(IMG_getPixel(frame, part.x + x / scale, part.y + y / scale));
+                    ASSERT_EQ(std::memcmp(seen, &expected, static_cast<std::size_t>(layout.bytes)), 0)
+                        << layout.bytes << " bytes, " << scale << " times, at " << x << ", " << y;
                 }
-                ASSERT_EQ(to[static_cast<std::size_t>((y + 1) * toStride - 1)], untouched);
+                ASSERT_EQ(to[static_cast<std::size_t>((y + 1) * stride - 1)], untouched);
             }
         }
     }
+    EXPECT_EQ(layouts[1].of(0xFF8040), 0xFC08U) << "fewer bits drop the low ones";
+    EXPECT_EQ(layouts[4].of(0xFF8001), 0x3FF80804U) << "more bits repeat the high ones";
 }
 
 /// A device that plays 44100 samples in a second of virtual time, by a clock that differs from the machine's,

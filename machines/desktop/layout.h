@@ -4,7 +4,6 @@
 // Where the picture stands in the window: enlarged by a whole number, centred.
 //
 //     const Layout layout = layoutFor(256, 256, 1920, 1080); // 4 times, from (448, 28) on
-//     XPutImage(..., layout.left, layout.top, ...);
 #pragma once
 
 #include <cstdint>
@@ -13,9 +12,9 @@ namespace velm {
 
 /// A picture's place in a window.
 struct Layout {
-    std::int32_t scale; ///< >= 1
-    std::int32_t left;  ///< of the picture in the window, in its pixels; negative where it is cut off
-    std::int32_t top;   ///< likewise
+    std::int32_t scale = 1; ///< >= 1
+    std::int32_t left = 0;  ///< of the picture in the window, in its pixels; negative where it is cut off
+    std::int32_t top = 0;   ///< likewise
 
     /// True for the same picture in the same place.
     bool operator==(const Layout&) const = default;
