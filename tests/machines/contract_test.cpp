@@ -246,7 +246,6 @@ TEST_F(MachineTest, ClosesAndOpensAgain) {
     XKBD_rest(keyboard);
     XKBD_poll(keyboard);
     expectReports(XDPY_verbose, 2, "XDPY error", [this] { XDPY_close(&display), XDPY_close(nullptr); });
-    hands().tidy();
     display = XDPY_open();
     const Picture frame(noise(windowSize, windowSize, 4));
     EXPECT_TRUE(eventually([&] {

@@ -81,7 +81,7 @@ TEST_F(CaptureTest, EveryFormTellsTheSame) {
 }
 
 TEST_F(CaptureTest, TheTourFadesFromTheLogoThroughItsScenes) {
-    const auto tour = frames(50, {"--tour", "--keys", "20:space"});
+    const auto tour = frames(16, {"--tour"});
     const auto brightest = [](const std::string& frame) {
         return static_cast<unsigned char>(*std::max_element(
             frame.begin(), frame.end(), [](unsigned char a, unsigned char b) { return a < b; }));
@@ -89,10 +89,8 @@ TEST_F(CaptureTest, TheTourFadesFromTheLogoThroughItsScenes) {
     for (std::size_t i = 0; i <= 15; ++i) {
         EXPECT_EQ(brightest(tour[i]), 255 - 17 * i) << i;
     }
-    const auto opening = frames(1 + 5, {"--scene", "extra-4"});
-    EXPECT_TRUE(std::equal(tour.begin() + 16, tour.begin() + 20, opening.begin() + 1))
-        << "it opens with doors";
-    EXPECT_NE(tour.back(), frames(50, {"--scene", "extra-4"}).back()) << "Space goes on to the next";
+    const auto onwards = frames(50, {"--tour", "--keys", "20:space"}).back();
+    EXPECT_NE(onwards, frames(50, {"--tour"}).back()) << "Space goes on to the next";
 }
 
 TEST_F(CaptureTest, TwoRunsGiveTheSameBytesAlsoOnStandardOutput) {
