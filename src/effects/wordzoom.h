@@ -47,7 +47,7 @@ struct WORDZOOM {
     std::int32_t spread;   ///< drifts are drawn from -spread..spread, pixels up to 4096; 12
     std::int32_t hueStep;  ///< palette entries from word to word; 200
     std::int32_t hue;      ///< palette entry of the next word; random
-    std::int32_t echoes;   ///< copies behind each word; 3
+    std::int32_t echoes;   ///< copies behind each word, 0..8; 3
     RANDOM* random;        ///< owned; from which drifts and twists are drawn
     WORDZOOM_FLIGHT flights[WORDZOOM_flights];
 };

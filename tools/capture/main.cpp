@@ -45,8 +45,8 @@ int main(int argc, char** argv) {
     headless.onSound = [](std::span<const std::int16_t> samples) { recorder->sound(samples); };
     headless.onLimit = [] { std::exit(0); };
     headless.onEndlessPause = reportEndlessPause;
+    VELM4030_start(); // a run that does not begin leaves no files
     std::atexit(finishRecording);
-    VELM4030_init();
     VELM4030_setFrameRate(options.rate);
     SCENE_runForEver(options.scene);
 }
