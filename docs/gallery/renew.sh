@@ -17,20 +17,10 @@ take() {
     pnmtopng -compression 9 "$work/frames/$(printf 'frame-%05d.ppm' "$2")" >"$1.png" 2>/dev/null
 }
 
-# A folder for the directory browser to list.
-mkdir "$work/listing"
-touch "$work/listing"/{README,LICENSE,demo.cpp,music.cpp,scenes.cpp,sine.cpp,drum.txt,glow.txt,rays.txt,stars.txt}
-
 take default 1420
 take interlude-a 500
 take interlude-b 300
-(
-    # The pictures go here, the names come from there.
-    here=$PWD
-    cd "$work/listing"
-    "$capture" --quiet --scene extra-1 --frames 260 --ppm "$work/browser" --keys 60:d,80:d,100:d,120:d,140:d,160:d
-    pnmtopng -compression 9 "$work/browser/frame-00260.ppm" >"$here/extra-1.png" 2>/dev/null
-)
+take extra-1 260 --keys 60:d,80:d,100:d,120:d
 take extra-2 560
 take extra-3 410
 take extra-4 410

@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <functional>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace velm {
@@ -39,7 +40,11 @@ struct HeadlessPointer {
 struct Headless {
     std::vector<HeadlessKey> keys;         ///< in the order of their frames
     std::vector<HeadlessPointer> pointers; ///< in the order of their frames
-    bool hasSound = true;                  ///< there is a sound device
+    /// The names in the folder, the same wherever it runs: short ones, a long one, and one that no font has.
+    std::vector<std::string> listing = {
+        ".",     "..",   "Makefile", "README",
+        "a.txt", "grün", "src",      "A longer name, with spaces, that does not fit into the window.txt"};
+    bool hasSound = true; ///< there is a sound device
     std::int32_t blockBytes =
         0; ///< the block that the sound driver insists on; 0: the one that suits the frame rate
     std::uint32_t frameLimit =

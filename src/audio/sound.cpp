@@ -91,6 +91,10 @@ void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
         return;
     }
     if (sample->length == 0) {
+        // Nothing to fade; the line from index 0 to index -1 and what follows it report as they do.
+        SAMPLE_ramp(sample, 0, start, -1, 0);
+        SAMPLE_multiply(sample, sample);
+        SAMPLE_shiftRight(sample, fractionBits);
         return;
     }
     std::int32_t* const data = sample->data;

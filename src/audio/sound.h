@@ -32,7 +32,8 @@ void SOUND_square(SAMPLE* sample, std::int32_t frequency);
 /// value lasts half a second's worth of steps.
 void SOUND_noise(SAMPLE* sample, std::int32_t rate);
 
-/// Multiplies by the line from 32767 at the first value to 0 at the last, then shifts right by 15.
+/// Multiplies by the line from 32767 at the first value to 0 at the last, then shifts right by 15. On a
+/// sample without values SAMPLE reports the line.
 void SOUND_fadeOut(SAMPLE* sample);
 /// The same with the line from 0 to 32767.
 void SOUND_fadeIn(SAMPLE* sample);

@@ -9,7 +9,7 @@ namespace velm {
 const IDENTITY VELM4030_identity = makeIdentity("VELM4030", "20150614", "ZENDORAK", "LINUX", "CODE");
 
 void VELM4030_main() {
-    VELM4030_init();
+    VELM4030_start();
     SCENE_runForEver(nullptr);
 }
 

@@ -14,6 +14,7 @@
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
+#include "platform/folder.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -44,8 +45,8 @@ struct Browser {
     std::int32_t shown; ///< the selection of the frame before
 };
 
-/// Lists the working folder anew, in the order of the bytes of the names. A folder that cannot be read leaves
-/// an empty list.
+/// Lists the folder anew, in the order of the bytes of the names. One that cannot be read leaves an empty
+/// list.
 void listFolder() {
     demo.dirSelection = 0;
     if (demo.dirListing == nullptr && (demo.dirListing = DIR_new()) == nullptr) {
@@ -55,7 +56,7 @@ void listFolder() {
     while (names->count > 0) {
         delete[] static_cast<char*>(LIST_pop(names));
     }
-    DIR_read(demo.dirListing, ".");
+    FOLDER_read(demo.dirListing);
     std::sort(names->items, names->items + names->count, [](const void* a, const void* b) {
         return std::strcmp(static_cast<const char*>(a), static_cast<const char*>(b)) < 0;
     });

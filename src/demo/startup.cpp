@@ -11,6 +11,10 @@
 #include "foundation/chance.h"
 #include "image/imgfx.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
 namespace velm {
 
 namespace {
@@ -124,6 +128,21 @@ void VELM4030_init() {
     demo.music = VELM4030_buildMusic();
     makeGenerator();
     makeClock();
+}
+
+bool VELM4030_isComplete() {
+    const IMG* const images[] = {demo.screen, demo.glareImage, demo.blurImage};
+    return demo.keyboard != nullptr && demo.fps != nullptr &&
+           std::all_of(std::begin(images), std::end(images),
+                       [](const IMG* img) { return XDPY_accepts(demo.display, img); });
+}
+
+void VELM4030_start() {
+    VELM4030_init();
+    if (!VELM4030_isComplete()) {
+        std::fputs("velm4030: out of memory\n", stderr);
+        std::exit(EXIT_FAILURE);
+    }
 }
 
 } // namespace velm

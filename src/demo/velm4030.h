@@ -4,7 +4,7 @@
 // The demo program: start-up, the schedule, the scenes, the layers that they share, and the keys. All of it
 // works on the state and the settings of demo/state.h.
 //
-//     VELM4030_init();
+//     VELM4030_start();
 //     VELM4030_sceneDefault();
 //
 // A scene is a loop of frames, and every frame takes the same road: FPS_start, the scene's own drawing and
@@ -23,8 +23,17 @@ extern const IDENTITY VELM4030_identity;
 /// The process's entry: start-up, then the schedule for ever. Only Escape ends it.
 [[noreturn]] void VELM4030_main();
 
-/// Start-up: opens the devices, shows the logo, decodes and builds everything that the scenes share.
+/// Start-up: opens the devices, shows the logo, decodes and builds everything that the scenes share. What
+/// cannot be made is missing from the state afterwards.
 void VELM4030_init();
+
+/// True when start-up has made what no frame can do without: the window, the keyboard, the frame clock, and
+/// the three images that a frame passes through.
+bool VELM4030_isComplete();
+
+/// Start-up for programs: without what no frame can do without, it ends the process with one line on standard
+/// error and status 1.
+void VELM4030_start();
 
 /// One pass of the schedule: the default scene, then perhaps interlude A, then perhaps interlude B.
 void VELM4030_runSchedule();

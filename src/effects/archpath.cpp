@@ -27,11 +27,16 @@ constexpr std::int32_t echoFrames = 2; // between one echo and the next
 constexpr std::int32_t mostEchoes = (ARCHPATH_trailLength - 1) / echoFrames;
 constexpr std::int32_t halfTurn = SINE_tableLength / 2;
 
+/// A column of the ground.
+std::int32_t randomPlace(const ARCHPATH& path) {
+    return wrapAdd(path.left, RANDOM_below(path.random, wrapAdd(wrapSub(path.right, path.left), 1)));
+}
+
 /// Begins an arch where the last one ended.
 void beginArch(ARCHPATH& path) {
     path.step = 0;
     path.from = path.to;
-    path.to = path.left + RANDOM_below(path.random, wrapAdd(wrapSub(path.right, path.left), 1));
+    path.to = randomPlace(path);
     path.height = path.rise / 2 + RANDOM_below(path.random, path.rise / 2 + 1);
     const std::int32_t spin = 4 + RANDOM_below(path.random, 16);
     // It rolls the way it leaps.
@@ -69,7 +74,7 @@ void ARCHPATH_randomize(ARCHPATH* path) {
         return;
     }
     path->random->counter = static_cast<std::uint32_t>(chance());
-    path->to = path->left + RANDOM_below(path->random, wrapAdd(wrapSub(path->right, path->left), 1));
+    path->to = randomPlace(*path);
     beginArch(*path);
     std::fill(std::begin(path->trail), std::end(path->trail),
               ARCHPATH_POSE{.x = path->from, .y = path->ground, .angle = 0});

@@ -154,7 +154,7 @@ FILL* FILL_new() {
 }
 
 void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height) {
-    constexpr std::int32_t widest = 0x4000;
+    constexpr std::int32_t widest = 0x4000; // so that spans are counted in 32 bits
     if (fill == nullptr || width < 1 || height < 1 || width > widest || height > widest) {
         FILL_error();
         return;

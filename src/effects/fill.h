@@ -47,8 +47,8 @@ extern std::uint8_t FILL_verbose;
 /// A dry record, or nullptr (reported).
 FILL* FILL_new();
 
-/// Makes room for pictures of up to `width` by `height` pixels (each >= 1) and forgets what was filled. On
-/// failure it reports and leaves the record as it was.
+/// Makes room for pictures of up to `width` by `height` pixels (each 1..16384) and forgets what was
+/// filled. On failure it reports and leaves the record as it was.
 void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height);
 
 /// Fills at once: the connected area of pixels that have the colour of (x, y), up, down, left and right of

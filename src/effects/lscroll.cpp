@@ -93,10 +93,12 @@ struct Pose {
     std::int32_t middle;
 
     [[nodiscard]] VEC2D place(const VEC2D& point) const {
-        const std::int64_t u = (std::int64_t{point.x} - middle) * scale;
-        const std::int64_t v = (std::int64_t{point.y} - middle) * scale;
-        return {static_cast<std::int32_t>((at.x + ((u * cosine - v * sine) >> 15) + fixedOne / 2) >> 16),
-                static_cast<std::int32_t>((at.y + ((u * sine + v * cosine) >> 15) + fixedOne / 2) >> 16), 0};
+        const std::int64_t u = wrapMul(std::int64_t{point.x} - middle, scale);
+        const std::int64_t v = wrapMul(std::int64_t{point.y} - middle, scale);
+        const std::int64_t right = wrapSub(wrapMul(u, cosine), wrapMul(v, sine)) >> 15;
+        const std::int64_t down = wrapAdd(wrapMul(u, sine), wrapMul(v, cosine)) >> 15;
+        return {static_cast<std::int32_t>(wholeOf(at.x + right + fixedOne / 2)),
+                static_cast<std::int32_t>(wholeOf(at.y + down + fixedOne / 2)), 0};
     }
 };
 

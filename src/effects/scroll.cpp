@@ -53,12 +53,13 @@ void drawWith(SCROLL* scroll, void (*drawChar)(FONT*)) {
     font->y = scroll->y;
     font->target = scroll->target;
     CURSOR_save(cursor);
-    for (std::int32_t i = scroll->viewWidth / font->width + edgeCharacters; i > 0; --i) {
+    cursor->step = 1; // also when the view is too narrow for anything to be walked
+    for (std::int32_t i = wrapAdd(scroll->viewWidth / font->width, edgeCharacters); i > 0; --i) {
         // SCROLL_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which a
         // sheet has no cell, and leave a gap.
         font->character = signedByte(scroll->text[cursor->index]);
         drawChar(font);
-        moveBy(*scroll, 1);
+        CURSOR_advance(cursor);
     }
     CURSOR_restore(cursor);
 }
@@ -110,7 +111,7 @@ void SCROLL_step(SCROLL* scroll) {
         // SCROLL_wholeCellBackwards: one expects an offset of 0..width-1; after whole cells backwards it is
         // the width itself, one character further back. It shows the same picture and is reduced by the next
         // step.
-        moveBy(*scroll, scroll->offset / width - 1);
+        moveBy(*scroll, wrapSub(scroll->offset / width, 1));
         scroll->offset = scroll->offset % width + width;
     }
 }

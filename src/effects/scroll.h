@@ -48,7 +48,8 @@ void SCROLL_setup(SCROLL* scroll, const char* text, FONT* font, IMG* target);
 /// Moves the text by `speed` pixels.
 void SCROLL_step(SCROLL* scroll);
 
-/// Draws the visible characters with the font, whose pen moves; 0 pixels are transparent.
+/// Draws the visible characters with the font, whose pen moves; 0 pixels are transparent. The cursor's step
+/// is 1 afterwards, its index as before.
 void SCROLL_draw(SCROLL* scroll);
 
 /// The same, copying whole cells, black included.

@@ -44,7 +44,7 @@ std::int32_t breathed(const SINELINE& line, std::int32_t reach, std::int32_t ago
 
 /// A corner of the curve as it was `ago` frames before.
 Corner cornerOf(const SINELINE& line, const std::int32_t (&reach)[2], std::int32_t index, std::int32_t ago) {
-    const std::int32_t around = index * SINE_tableLength / line.corners;
+    const auto around = static_cast<std::int32_t>(std::int64_t{index} * SINE_tableLength / line.corners);
     Corner corner = {.x = line.x, .y = line.y};
     for (std::size_t i = 0; i < 2; ++i) {
         const SINELINE_WAVE& wave = line.wave[i];

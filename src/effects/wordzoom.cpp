@@ -24,6 +24,7 @@ std::uint8_t WORDZOOM_verbose = 0;
 
 namespace {
 
+constexpr std::int32_t mostEchoes = 8;
 constexpr std::int32_t mostTwist = 160; // 1/1024 turns
 constexpr std::int32_t mostDrift = 4096;
 constexpr std::int32_t largestCell = 4096;
@@ -101,8 +102,9 @@ struct Pose {
     [[nodiscard]] VEC2D place(const VEC2D& point) const {
         const std::int64_t u = (left + point.x) * scale;
         const std::int64_t v = (std::int64_t{point.y} - middle) * scale;
-        return {wrapAdd(x, static_cast<std::int32_t>((u * cosine - v * sine + half) >> 31)),
-                wrapAdd(y, static_cast<std::int32_t>((u * sine + v * cosine + half) >> 31)), 0};
+        const std::int64_t right = wrapAdd(wrapSub(wrapMul(u, cosine), wrapMul(v, sine)), half) >> 31;
+        const std::int64_t down = wrapAdd(wrapAdd(wrapMul(u, sine), wrapMul(v, cosine)), half) >> 31;
+        return {wrapAdd(x, static_cast<std::int32_t>(right)), wrapAdd(y, static_cast<std::int32_t>(down)), 0};
     }
 };
 
@@ -134,7 +136,7 @@ void drawWord(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, std::int32_t 
 void drawFlight(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, IMG* target) {
     const std::uint32_t colour = paletteColour(zoom.palette, flight.hue);
     const std::int32_t light = brightnessAt(flight.scale);
-    for (std::int32_t echo = std::clamp(zoom.echoes, 0, 8); echo >= 0; --echo) {
+    for (std::int32_t echo = std::clamp(zoom.echoes, 0, mostEchoes); echo >= 0; --echo) {
         const std::int32_t scale = flight.scale - flight.scale / 20 * echo;
         const std::int32_t share = echo == 0 ? light : light / (2 + 2 * echo);
         drawWord(zoom, flight, scale, RGB888_dim(colour, share), target);

@@ -49,7 +49,7 @@ struct WORDZOOM {
     std::int32_t spread = 12;            ///< drifts are drawn from -spread..spread, pixels up to 4096
     std::int32_t hueStep = 200;          ///< palette entries from word to word
     std::int32_t hue;                    ///< palette entry of the next word; random
-    std::int32_t echoes = 3;             ///< copies behind each word
+    std::int32_t echoes = 3;             ///< copies behind each word, 0..8
     RANDOM* random;                      ///< owned; decides drifts and twists
     WORDZOOM_FLIGHT flights[WORDZOOM_flights];
 };

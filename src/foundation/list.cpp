@@ -73,22 +73,19 @@ void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_
         LIST_error();
         return;
     }
-    if (src == dst) {
-        // The move that opens the gap would move the source along, so the source is taken aside first.
-        LIST* aside = LIST_slice(src, from, to);
-        if (aside != nullptr) {
-            LIST_insertRange(aside, dst, 0, aside->count, at);
-            LIST_delete(&aside);
-        }
-        return;
-    }
     const std::int32_t length = to - from;
     if (!reserve(dst, std::int64_t{dst->count} + length)) {
         return;
     }
-    void** const end = dst->items + dst->count;
-    std::copy_backward(dst->items + at, end, end + length);
-    std::copy(src->items + from, src->items + to, dst->items + at);
+    // LIST_insertRangeTakesSpare: one expects the elements to move up; the slot behind them moves along, as
+    // far as there is a slot for it, and shows when the count is raised.
+    const std::int32_t moved = std::min(dst->count + 1, dst->capacity - length);
+    std::copy_backward(dst->items + at, dst->items + moved, dst->items + moved + length);
+    // LIST_insertRangeMeetsItself: one expects a list to take in its own elements as they were; the range is
+    // copied from where the move has left it, the last element first.
+    for (std::int32_t i = length - 1; i >= 0; --i) {
+        dst->items[at + i] = src->items[from + i];
+    }
     dst->count += length;
 }
 

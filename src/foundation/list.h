@@ -33,8 +33,9 @@ void LIST_append(LIST* list, void* value);
 /// Inserts before `index` (0..count), moving later elements up.
 void LIST_insert(LIST* list, void* value, std::int32_t index);
 
-/// Inserts elements from..to-1 of `src` into `dst` before `at` (0..dst count). `src` and `dst` may be the
-/// same list.
+/// Inserts elements from..to-1 of `src` into `dst` before `at` (0..dst count): elements from `at` on, and the
+/// slot behind the last one, move up, then the range is copied. A list that is inserted into itself copies
+/// what stands in the range after the move (see docs/quirks.md).
 void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_t to, std::int32_t at);
 
 /// Replaces the element at `index` (0..count-1).

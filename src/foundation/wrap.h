@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// 32-bit arithmetic that wraps modulo 2^32, computed in unsigned so that it is defined for every operand.
+// Arithmetic that wraps modulo 2^32, or 2^64 for two 64-bit operands, computed in unsigned so that it is
+// defined for every operand.
 // Right shifts need no helper: C++20 makes `>>` of a negative number arithmetic.
 //
 //     x = wrapMul(amplitude, SINE_table[phase]) >> 15;
@@ -24,6 +25,21 @@ constexpr std::int32_t wrapSub(std::int32_t a, std::int32_t b) {
 /// a * b modulo 2^32.
 constexpr std::int32_t wrapMul(std::int32_t a, std::int32_t b) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
+}
+
+/// a + b modulo 2^64.
+constexpr std::int64_t wrapAdd(std::int64_t a, std::int64_t b) {
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
+}
+
+/// a - b modulo 2^64.
+constexpr std::int64_t wrapSub(std::int64_t a, std::int64_t b) {
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) - static_cast<std::uint64_t>(b));
+}
+
+/// a * b modulo 2^64.
+constexpr std::int64_t wrapMul(std::int64_t a, std::int64_t b) {
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
 }
 
 /// value shifted left by count (0..31), the bits that leave on the left being lost.

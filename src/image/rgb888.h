@@ -68,8 +68,11 @@ constexpr std::uint32_t RGB888_swapBR(std::uint32_t c) {
     return RGB888_swapRB(c);
 }
 
-/// Stores red, green and blue, in this order, in three bytes.
+/// Stores red, green and blue, in this order, in three bytes; nothing, without a report, for nullptr.
 constexpr void RGB888_toBytes(std::uint32_t c, std::uint8_t* bytes) {
+    if (bytes == nullptr) {
+        return;
+    }
     bytes[0] = static_cast<std::uint8_t>(c >> 16);
     bytes[1] = static_cast<std::uint8_t>(c >> 8);
     bytes[2] = static_cast<std::uint8_t>(c);

@@ -120,6 +120,16 @@ TEST(Sound, FadesEqualTheRamps) {
     EXPECT_EQ(one->data[0], 0);
 }
 
+TEST(Sound, FadesOfNothingReportAsTheirRampDoes) {
+    const Sample none;
+    const Sample bare;
+    SAMPLE_setCapacity(bare, 0);
+    for (const auto fade : {SOUND_fadeOut, SOUND_fadeIn}) {
+        expectReports(SAMPLE_verbose, 1, "SAMPLE error", [&] { fade(none); });
+        expectReports(SAMPLE_verbose, 3, "SAMPLE error", [&] { fade(bare); });
+    }
+}
+
 TEST(Sound, GainsRunDownAndUp) {
     const Sample s({32767, 32767, 32767, -32768});
     SOUND_decay(s);

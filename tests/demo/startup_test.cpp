@@ -31,6 +31,23 @@ TEST_F(StartupTest, TheInvertedLogoIsShownCentredBeforeAnythingSlow) {
     IMG_delete(&expected);
 }
 
+TEST_F(StartupTest, IsCompleteOnlyWithWhatEveryFrameNeeds) {
+    const DemoState whole = demo;
+    EXPECT_TRUE(VELM4030_isComplete());
+    demo.sound = nullptr, demo.music = nullptr, demo.fontSmall = nullptr;
+    EXPECT_TRUE(VELM4030_isComplete()) << "poorer, but frames come";
+    IMG empty{};
+    for (void (*lose)(IMG*) :
+         {+[](IMG*) { demo.display = nullptr; }, +[](IMG*) { demo.keyboard = nullptr; },
+          +[](IMG*) { demo.fps = nullptr; }, +[](IMG* img) { demo.screen = img; },
+          +[](IMG*) { demo.glareImage = nullptr; }, +[](IMG* img) { demo.blurImage = img; }}) {
+        demo = whole;
+        lose(&empty);
+        EXPECT_FALSE(VELM4030_isComplete());
+    }
+    demo = whole;
+}
+
 TEST_F(StartupTest, AssetsHaveTheirSizes) {
     const struct {
         const IMG* img;

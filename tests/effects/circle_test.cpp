@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <set>
+#include <span>
 
 namespace velm::test {
 namespace {
@@ -104,6 +105,27 @@ TEST(Circle, FleetStaysInItsFieldAndBeginsAgain) {
             ASSERT_TRUE(body.x >= 0 && body.x <= 30 << 16 && body.y >= 0 && body.y <= 20 << 16);
             ASSERT_TRUE(body.radius >= 0 && body.radius < 10 << 16);
         }
+    }
+}
+
+TEST(Circle, SizesOutOfRangeCountAsTheNearestInIt) {
+    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Picture target(IMG_newSized(1, 1));
+    for (const auto& [size, nearest] :
+         {std::pair{0, 1}, {100000, CIRCLE_largestRadius}, {0x7FFFFFFF, CIRCLE_largestRadius}}) {
+        fleet->width = fleet->height = fleet->largest = size;
+        CIRCLE_setCount(fleet, 100);
+        CIRCLE_advance(fleet);
+        for (const CIRCLE_BODY& body : std::span(fleet->bodies, 100)) {
+            for (const std::int32_t length : {body.x, body.y, body.radius}) {
+                ASSERT_TRUE(length >= 0 && length <= nearest << 16) << size << ": " << length;
+            }
+        }
+        CIRCLE_setCount(fleet, 1);
+        fleet->bodies[0] = {0, 0, 0, 0, 0, 0, 0x808080};
+        IMG_fill(target, 0);
+        CIRCLE_drawAdd(fleet, target);
+        EXPECT_EQ(target->pixels[0], 0x808080U) << "a ring that has just begun is bright";
     }
 }
 

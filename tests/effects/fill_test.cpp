@@ -127,15 +127,16 @@ TEST(Fill, RunsDryFromTheSeedOn) {
 TEST(Fill, KeepsItsRoomWhenItGetsNoOther) {
     const Fill fill(FILL_new());
     const Picture large(IMG_newSized(257, 1));
-    expectReports(FILL_verbose, 6, "FILL error", [&] {
+    expectReports(FILL_verbose, 8, "FILL error", [&] {
         for (const std::int64_t nth : {1, 2}) {
             expectFailure(nth, [&] { return FILL_setSize(fill, 300, 300), nullptr; });
         }
+        FILL_setSize(fill, 0x4001, 1), FILL_setSize(fill, 1, 0x4001);
         FILL_setSize(fill, 0, 5), FILL_begin(fill, large), FILL_randomize(fill);
         EXPECT_EQ(FILL_flood(fill, large, 0, 0, 1), 0);
     });
     EXPECT_EQ(fill->width, 256);
-    FILL_setSize(fill, 257, 1);
+    FILL_setSize(fill, 0x4000, 1);
     EXPECT_EQ(FILL_flood(fill, large, 0, 0, 1), 257);
 }
 

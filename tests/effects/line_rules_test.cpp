@@ -1,15 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What rain, leaping figures and rays keep to, whatever chance they had.
+// What rain, leaping figures, breathing lines and rays keep to, whatever chance they had.
 #include "audio/sample.h"
 #include "effects/archpath.h"
 #include "effects/lradial.h"
 #include "effects/lrain.h"
+#include "effects/sineline.h"
 #include "support/owned.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 
 namespace velm::test {
 namespace {
@@ -50,6 +52,36 @@ TEST(Archpath, LeapsFromWhereItLanded) {
     }
     EXPECT_EQ(landings, 40);
     EXPECT_TRUE(highest >= path->ground - path->rise && highest < path->ground - path->rise * 3 / 4);
+}
+
+TEST(Archpath, LeapsWhereCoordinatesEnd) {
+    const Owned<ARCHPATH, ARCHPATH_delete> path(ARCHPATH_new());
+    constexpr std::int32_t most = 0x7FFFFFFF;
+    path->left = most - 1, path->right = -most, path->ground = -most; // four columns about the end
+    path->frames = 1;
+    const std::int32_t columns[] = {most - 1, most, -most - 1, -most};
+    std::int32_t met[4] = {};
+    ARCHPATH_randomize(path);
+    for (std::int32_t leap = 0; leap < 100; ++leap) {
+        const auto* const column = std::find(std::begin(columns), std::end(columns), path->to);
+        ASSERT_NE(column, std::end(columns)) << path->to;
+        ++met[column - std::begin(columns)];
+        ARCHPATH_advance(path);
+    }
+    EXPECT_EQ(std::count(std::begin(met), std::end(met), 0), 0);
+}
+
+TEST(Sineline, ClosesWithMoreCornersThanFitIntoANumberOfAngles) {
+    const Owned<SINELINE, SINELINE_delete> line(SINELINE_new());
+    line->echoes = 1;
+    const auto drawn = [&line](std::int32_t corners) {
+        auto screen = std::make_unique<Picture>(IMG_newSized(256, 256));
+        line->corners = corners;
+        SINELINE_draw(line, *screen);
+        return screen;
+    };
+    // So many corners at each angle that light saturates.
+    EXPECT_EQ(difference(*drawn(3000000), *drawn(300000)), "");
 }
 
 TEST(Lradial, DrawsTheLengthsItIsGiven) {

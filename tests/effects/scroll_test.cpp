@@ -64,6 +64,29 @@ TEST(Scroll, SCROLL_wholeCellBackwards) {
     EXPECT_EQ(scroller.step(0), (std::pair{4, 0}));
 }
 
+TEST(Scroll, DrawingSetsTheStepBackEvenWhenNothingFits) {
+    const Scroller scroller("ABCDE");
+    constexpr std::int32_t most = 0x7FFFFFFF;
+    for (const auto draw : {SCROLL_draw, SCROLL_drawOpaque}) {
+        for (const auto& [view, width] : {std::pair{100, cell}, {-100, cell}, {most, 1}}) {
+            EXPECT_EQ(scroller.step(4 * cell).second, 0);
+            EXPECT_EQ(scroller.scroll->cursor->step, 4);
+            scroller.scroll->viewWidth = view;
+            scroller.font->width = width;
+            draw(scroller.scroll); // one more than the highest number of columns wraps to none
+            EXPECT_EQ(scroller.scroll->cursor->step, 1) << view << " pixels by " << width;
+            scroller.font->width = cell;
+        }
+    }
+}
+
+TEST(Scroll, StepsAsFarAsANumberReaches) {
+    const Scroller scroller("ABCDE");
+    scroller.font->width = 1;
+    constexpr std::int32_t least = -0x7FFFFFFF - 1;
+    EXPECT_EQ(scroller.step(least), (std::pair{2, 1})) << "one character more wraps to the other end";
+}
+
 TEST(Scroll, SCROLL_bytesAreSigned) {
     const std::string text = "WAVE \xC4\n~";
     const Scroller scroller(text.c_str());

@@ -86,6 +86,30 @@ TEST(Lscroll, LeadsAroundARing) {
     EXPECT_NEAR(scroll->length, 314, 1) << "the path stays";
 }
 
+TEST(LineTexts, KeepGlyphsFromTheEndsOfTheirRangeOutOfSight) {
+    constexpr std::int32_t most = 0x7FFFFFFF;
+    const PixelPen pen(64, 64);
+    auto* const glyph = static_cast<OBJ2D*>(LIST_get(pen->glyphs, 'A'));
+    const auto* const stroke = static_cast<SEG2D*>(LIST_get(glyph->segments, 0));
+    const Owned<LSCROLL, LSCROLL_delete> scroll(LSCROLL_new());
+    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    scroll->glyphs = zoom->glyphs = pen->glyphs;
+    LSCROLL_setText(scroll, "A"), WORDZOOM_setText(zoom, "A");
+    WORDZOOM_advance(zoom);
+    for (const auto& [x, y] : {std::pair{most, -most}, {-most, most}, {-most - 1, -most - 1}}) {
+        *stroke->a = *stroke->b = {x, y, 1};
+        for (const std::int32_t end : {most, -most - 1}) {
+            scroll->middle = zoom->middle = end;
+            for (const std::int32_t scale : {one * 9, most}) {
+                scroll->scale = scale;
+                zoom->flights[0].scale = std::min(scale, one * 9);
+                LSCROLL_draw(scroll, pen.target), WORDZOOM_draw(zoom, pen.target);
+            }
+        }
+    }
+    EXPECT_EQ(lit(pen.target), 0);
+}
+
 TEST(Lscrlxyz, ShowsTheFarSideDimAndFromBehind) {
     const PixelPen pen(200, 200);
     const Numbers numbers;
@@ -146,6 +170,29 @@ TEST(Wordzoom, SendsWordByWordAndEnds) {
             EXPECT_EQ(flight.word != nullptr, text[0] == 'X');
         }
     }
+}
+
+TEST(Wordzoom, DragsEightCopiesAtMost) {
+    const PixelPen pen(64, 64);
+    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    zoom->glyphs = pen->glyphs;
+    zoom->x = zoom->y = 32;
+    zoom->cell = 60;
+    zoom->middle = 0;
+    WORDZOOM_setText(zoom, "AB");
+    WORDZOOM_advance(zoom);
+    zoom->flights[0].scale = one;
+    zoom->flights[0].driftX = zoom->flights[0].driftY = 0;
+    const auto litBy = [&](std::int32_t echoes) {
+        zoom->echoes = echoes;
+        IMG_fill(pen.target, 0);
+        WORDZOOM_draw(zoom, pen.target);
+        return lit(pen.target);
+    };
+    EXPECT_EQ(litBy(-5), 2);
+    EXPECT_EQ(litBy(7), 16);
+    EXPECT_EQ(litBy(8), 18);
+    EXPECT_EQ(litBy(40), 18) << "more would come out on the other side";
 }
 
 TEST(Wordzoom, WritesUprightAtFullSize) {

@@ -72,26 +72,51 @@ TEST_F(ListTest, InsertsAndRemovesAtBothEndsAndBetween) {
     EXPECT_EQ(list->capacity, 9) << "a list never shrinks by itself";
 }
 
-TEST_F(ListTest, RangesMoveBetweenListsAndIntoThemselves) {
+TEST_F(ListTest, RangesMoveBetweenLists) {
     LIST* other = listOf("defg");
     LIST_insertRange(other, list, 1, 3, 2);
     EXPECT_EQ(textOf(list), "abefc");
-    LIST_insertRange(list, list, 0, 3, 1);
-    EXPECT_EQ(textOf(list), "aabebefc");
-    LIST_insertRange(other, other, 2, 4, 0);
-    EXPECT_EQ(textOf(other), "fgdefg") << "the source lies behind the gap";
-    LIST* slice = LIST_slice(list, 2, 5);
-    EXPECT_EQ(textOf(slice), "beb");
+    LIST* slice = LIST_slice(list, 1, 4);
+    EXPECT_EQ(textOf(slice), "bef");
     LIST* clone = LIST_clone(list);
     EXPECT_EQ(LIST_equal(list, clone), 1);
-    LIST_set(clone, 7, letters);
+    LIST_set(clone, 4, letters);
     EXPECT_EQ(LIST_equal(list, clone), 0);
-    EXPECT_EQ(LIST_indexOf(clone, &letters[4]), 3);
+    EXPECT_EQ(LIST_indexOf(clone, &letters[4]), 2);
     EXPECT_EQ(LIST_indexOf(clone, &letters[7]), -1);
-    LIST_setCount(clone, 7);
+    LIST_setCount(clone, 4);
     EXPECT_EQ(LIST_equal(list, clone) + LIST_equal(clone, list), 0) << "only the counts differ";
     for (LIST* doomed : {other, slice, clone}) {
         LIST_delete(&doomed);
+    }
+}
+
+TEST_F(ListTest, LIST_insertRangeTakesSpare) {
+    LIST* other = listOf("abcdefgh");
+    LIST_setCount(other, 4);
+    LIST_insertRange(list, other, 1, 3, 1);
+    LIST_insertRange(list, other, 0, 1, 6); // at the end nothing else moves
+    LIST_setCount(other, 8);
+    EXPECT_EQ(textOf(other), "abcbcdae") << "the fifth slot has moved twice";
+    LIST_setCount(other, 5);
+    LIST_insertRange(list, other, 0, 3, 0); // full to the brim: no slot is left for the spare one
+    EXPECT_EQ(textOf(other), "abcabcbc");
+    LIST_delete(&other);
+}
+
+TEST_F(ListTest, LIST_insertRangeMeetsItself) {
+    const struct {
+        const char* before;
+        std::int32_t from, to, at;
+        const char* after;
+    } cases[] = {{"abcde", 0, 2, 3, "abcabde"},   {"abcde", 0, 3, 1, "aabcbcde"},
+                 {"defg", 2, 4, 0, "dedefg"},     {"abcde", 1, 4, 0, "aaaabcde"},
+                 {"abcdef", 4, 6, 1, "acdbcdef"}, {"abcd", 1, 3, 4, "abcdbc"}};
+    for (const auto& [before, from, to, at, after] : cases) {
+        LIST* self = listOf(before);
+        LIST_insertRange(self, self, from, to, at);
+        EXPECT_EQ(textOf(self), after) << before << " " << from << " to " << to << " at " << at;
+        LIST_delete(&self);
     }
 }
 

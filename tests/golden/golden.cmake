@@ -4,25 +4,28 @@
 # cmake -DCAPTURE=<velm4030-capture> -DNAME=<golden> -DARGUMENTS="--frames 400" -DEVERY=<n> -DFOLDER=<work folder>
 #       [-DRENEW=ON] -P golden.cmake
 #
-# Captures frames and sound and compares their checksums with NAME.crc beside this file: a line for every nth frame,
+# Captures frames and sound and compares their checksums with NAME.crc beside this file: a line for every nth frame and,
+# where that leaves frames out, a line "first-last" before it, the checksum of the lines of all frames since the last one;
 # then the sound's. On a difference the first differing line is named. RENEW writes NAME.crc instead.
 cmake_minimum_required(VERSION 3.24)
 set(golden "${CMAKE_CURRENT_LIST_DIR}/${NAME}.crc")
 separate_arguments(arguments UNIX_COMMAND "${ARGUMENTS}")
-file(MAKE_DIRECTORY "${FOLDER}/listing")
-# The folder that one of the scenes lists.
-foreach(name a.txt "A longer name, with spaces, that does not fit into the window.txt" Makefile README src grün)
-  file(TOUCH "${FOLDER}/listing/${name}")
-endforeach()
-execute_process(WORKING_DIRECTORY "${FOLDER}/listing" COMMAND "${CAPTURE}" ${arguments} --quiet --crc "${FOLDER}/${NAME}.crc" --audio "${FOLDER}/${NAME}.wav"
+execute_process(COMMAND "${CAPTURE}" ${arguments} --quiet --crc "${FOLDER}/${NAME}.crc" --audio "${FOLDER}/${NAME}.wav"
   COMMAND_ERROR_IS_FATAL ANY)
 file(STRINGS "${FOLDER}/${NAME}.crc" frames)
+list(LENGTH frames count)
 set(actual)
-set(frame 0)
-foreach(line IN LISTS frames)
-  math(EXPR frame "${frame} + 1")
-  math(EXPR skipped "${frame} % ${EVERY}")
-  if(skipped EQUAL 0)
+foreach(first RANGE 1 ${count} ${EVERY})
+  math(EXPR before "${first} - 1")
+  list(SUBLIST frames ${before} ${EVERY} span)
+  list(LENGTH span length)
+  math(EXPR last "${before} + ${length}")
+  if(EVERY GREATER 1)
+    string(MD5 sum "${span}")
+    list(APPEND actual "${first}-${last} ${sum}")
+  endif()
+  if(length EQUAL EVERY)
+    list(POP_BACK span line)
     list(APPEND actual "${line}")
   endif()
 endforeach()

@@ -181,6 +181,7 @@ TEST(Rgb888, MixesAndAdjusts) {
     RGB888_toBytes(0x123456, bytes);
     EXPECT_EQ(RGB888_fromBytes(bytes[0], bytes[1], bytes[2]), 0x123456U);
     RGB888_verbose = 1;
+    EXPECT_EQ(printedBy([] { RGB888_toBytes(0x123456, nullptr); }), "");
     EXPECT_EQ(printedBy(RGB888_error), "RGB888 error\n");
     RGB888_verbose = 0;
 }

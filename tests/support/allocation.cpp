@@ -11,6 +11,7 @@ namespace {
 
 std::int64_t allocations = 0;
 std::int64_t failingAllocation = 0;
+bool (*isRefusedNow)() = nullptr;
 bool isKeeping = false;
 std::array<void*, 16> kept{}; // those still alive; nullptr elsewhere
 
@@ -23,7 +24,8 @@ void replaceKept(const void* memory, void* with) {
 
 void* allocateCounted(std::size_t size) {
     ++allocations;
-    void* const memory = allocations == failingAllocation ? nullptr : std::malloc(size == 0 ? 1 : size);
+    const bool isRefused = allocations == failingAllocation || (isRefusedNow != nullptr && isRefusedNow());
+    void* const memory = isRefused ? nullptr : std::malloc(size == 0 ? 1 : size);
     replaceKept(nullptr, memory);
     return memory;
 }
@@ -79,6 +81,13 @@ FailingAllocation::FailingAllocation(std::int64_t nth) {
 }
 FailingAllocation::~FailingAllocation() {
     failingAllocation = 0;
+}
+
+AskedAllocations::AskedAllocations(bool (*isRefused)()) {
+    isRefusedNow = isRefused;
+}
+AskedAllocations::~AskedAllocations() {
+    isRefusedNow = nullptr;
 }
 
 std::int64_t keptBy(void (*call)()) {

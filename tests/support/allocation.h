@@ -23,6 +23,15 @@ public:
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 };
 
+/// While it lives, every allocation asks `isRefused`, and gives nullptr where that says true.
+class AskedAllocations {
+public:
+    explicit AskedAllocations(bool (*isRefused)());
+    ~AskedAllocations();
+    AskedAllocations(const AskedAllocations&) = delete;
+    AskedAllocations& operator=(const AskedAllocations&) = delete;
+};
+
 /// Frees what the project allocates during the call and keeps, and gives how many those were: for leaks that
 /// are kept on purpose.
 std::int64_t keptBy(void (*call)());

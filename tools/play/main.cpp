@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
     player.volume = options.volume;
     player.frameLimit = options.frames;
     player.onLimit = [] { std::exit(0); };
-    VELM4030_init();
+    VELM4030_start();
     VELM4030_setFrameRate(options.rate);
     SCENE_runForEver(options.scene);
 }
