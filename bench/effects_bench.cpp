@@ -9,7 +9,9 @@
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
 #include "foundation/chance.h"
+#include "image/img.h"
 #include "image/imgfx.h"
+#include "vector/font.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/fps.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/wrap.h"
 #include "platform/clock.h"
 
@@ -24,11 +24,7 @@ std::int32_t lowWord(std::int64_t value) {
 } // namespace
 
 FPS* FPS_new() {
-    FPS* fps = allocateRecord<FPS>();
-    if (fps == nullptr) {
-        FPS_error();
-    }
-    return fps;
+    return newRecord<FPS>(FPS_error);
 }
 
 std::int64_t FPS_now() {
@@ -69,12 +65,7 @@ void FPS_wait(FPS* fps) {
 }
 
 void FPS_delete(FPS** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        FPS_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, FPS_error);
 }
 
 void FPS_error() {}

@@ -91,7 +91,7 @@ void drawLand(const Journey& journey, std::int32_t frame) {
     }
     ground->speedX = 0x8000 + 0x200 * frame;
     ground->rippleReach = std::clamp((frame - wordBegins) / 40, 0, 5);
-    ground->brightness = curveShow(frame, dawns, frames - 8, slope);
+    ground->brightness = curveStay(frame, dawns, frames - 8, slope);
     BACKMOVE_draw(ground, journey.land);
     BACKMOVE_advance(ground);
     if (settings.flagS == 0) {

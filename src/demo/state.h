@@ -31,6 +31,8 @@
 #include "platform/xsnd.h"
 #include "vector/font.h"
 #include "vector/obj2d.h"
+#include "vector/seg2d.h"
+#include "vector/vec2d.h"
 
 #include <array>
 #include <cstdint>

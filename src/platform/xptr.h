@@ -46,7 +46,7 @@ std::int32_t XPTR_equals(const XPTR* a, const XPTR* b);
 /// Copies all seven fields.
 void XPTR_copy(const XPTR* src, XPTR* dst);
 
-/// Gives nullptr whatever happens (see docs/quirks.md).
+/// Always returns nullptr (see docs/quirks.md).
 XPTR* XPTR_clone(const XPTR* src);
 
 /// The empty text.

@@ -4,6 +4,7 @@
 // The device of these tests is a real stream socket behind "/dev/dsp": only open and ioctl are taken over, so
 // that they can be watched; writes, short ones and failing ones included, are the system's own.
 #include "audio/sample.h"
+#include "foundation/list.h"
 #include "platform/xsnd.h"
 #include "support/owned.h"
 
