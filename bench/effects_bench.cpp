@@ -10,7 +10,9 @@
 #include "effects/sinedots.h"
 #include "foundation/chance.h"
 #include "foundation/owned.h"
+#include "image/img.h"
 #include "image/imgfx.h"
+#include "vector/font.h"
 
 #include <benchmark/benchmark.h>
 

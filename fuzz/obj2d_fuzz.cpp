@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Feeds the parser of the drawings' text format.
+#include "foundation/list.h"
 #include "vector/obj2d.h"
 
 #include <string>

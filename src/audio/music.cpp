@@ -3,7 +3,9 @@
 #include "audio/music.h"
 
 #include "audio/sound.h"
-#include "foundation/memory.h"
+#include "foundation/list.h"
+#include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 
@@ -15,13 +17,12 @@ RANDOM* MUSIC_random = nullptr;
 
 namespace {
 
-constexpr std::int32_t defaultPeriod = 300;
 constexpr std::uint32_t seed = 0x12345678;
 
 enum class Fade : bool { no, yes };
 enum class Hits : bool { one, several };
 
-/// What the common draws of a pattern gave.
+/// What all patterns draw.
 struct Draws {
     const SAMPLE* instrument; ///< nullptr: the pattern stays silent
     std::int32_t offset;      ///< where the pattern starts, a sixteenth of the bar
@@ -32,7 +33,7 @@ bool hasPattern(const MUSIC* music) {
     return music != nullptr && music->bar != nullptr && music->pattern != nullptr;
 }
 
-/// Gives the tune a silent pattern of the bar's length; false when memory runs out.
+/// Makes the pattern silent and as long as the bar; false when memory runs out.
 bool clearPattern(MUSIC* music) {
     const std::int32_t length = music->bar->length;
     if (music->pattern != nullptr && music->pattern->length != length) {
@@ -44,6 +45,13 @@ bool clearPattern(MUSIC* music) {
     }
     SAMPLE_clear(music->pattern);
     return music->pattern != nullptr && music->pattern->length == length;
+}
+
+void deleteInstruments(MUSIC& music) {
+    while (music.instruments != nullptr && music.instruments->count > 0) {
+        auto* instrument = static_cast<SAMPLE*>(LIST_pop(music.instruments));
+        SAMPLE_delete(&instrument);
+    }
 }
 
 void requireGenerator() {
@@ -128,12 +136,10 @@ void genRepeat(MUSIC* music, Fade fade) {
 } // namespace
 
 MUSIC* MUSIC_new() {
-    MUSIC* music = allocateRecord<MUSIC>();
+    MUSIC* music = newRecord<MUSIC>(MUSIC_error);
     if (music == nullptr) {
-        MUSIC_error();
         return nullptr;
     }
-    music->period = defaultPeriod;
     music->bar = SAMPLE_new();
     SAMPLE_setLength(music->bar, MUSIC_barLength);
     music->instruments = LIST_new();
@@ -177,7 +183,7 @@ void MUSIC_genRepeatFaded(MUSIC* music) {
 void MUSIC_genRoll(MUSIC* music) {
     const Draws draws = begin(music, Hits::several);
     if (draws.instrument != nullptr) {
-        // The density that would leave no hit gives five.
+        // The density that would leave no hit means five.
         const std::int32_t count = draws.density == 0 ? 5 : (1 << draws.density) - 1;
         layHits(music, draws, count, count + 1, Fade::no);
     }
@@ -192,24 +198,9 @@ void MUSIC_blend(MUSIC* music, std::int32_t n) {
 }
 
 void MUSIC_delete(MUSIC** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        MUSIC_error();
-        return;
-    }
-    MUSIC* const music = *handle;
-    if (music->bar != nullptr) {
-        SAMPLE_delete(&music->bar);
-    }
-    while (music->instruments != nullptr && music->instruments->count > 0) {
-        auto* instrument = static_cast<SAMPLE*>(LIST_pop(music->instruments));
-        SAMPLE_delete(&instrument);
-    }
-    if (music->instruments != nullptr) {
-        LIST_delete(&music->instruments);
-    }
     // MUSIC_deleteLeavesPattern: one expects the scratch to go as well; it stays with whoever still has it.
-    delete music;
-    *handle = nullptr;
+    deleteRecord(handle, MUSIC_error, deletedBy(SAMPLE_delete, &MUSIC::bar), deleteInstruments,
+                 deletedBy(LIST_delete, &MUSIC::instruments));
 }
 
 void MUSIC_error() {

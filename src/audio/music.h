@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // MUSIC, a tune without a score: one bar of three seconds that is played over and over. Now and then a
-// pattern of one random instrument is composed and blended in with a small weight, so that the old dies away
-// as the new arrives and the loop never quite repeats.
+// pattern of one random instrument is composed and blended in with a small weight, so that the old fades as
+// the new arrives and the loop never quite repeats.
 //
 //     MUSIC_addInstrument(music, instrument);
 //     MUSIC_genRepeat(music);
@@ -12,21 +12,22 @@
 
 #include "audio/sample.h"
 #include "foundation/identity.h"
-#include "foundation/list.h"
-#include "foundation/random.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct LIST;
+struct RANDOM;
+
 inline constexpr std::int32_t MUSIC_barLength = 3 * SAMPLE_rate;
 
 struct MUSIC {
-    std::int32_t tick;   ///< frames counted so far; 0
-    std::int32_t period; ///< ticks between two patterns; 300
-    SAMPLE* bar;         ///< owned: what is played, MUSIC_barLength values, silent at first
-    LIST* instruments;   ///< owned with its samples, in the order added
-    SAMPLE* pattern;     ///< scratch of the bar's length, made by the first pattern; MUSIC_delete leaves it
+    std::int32_t tick = 0;     ///< frames counted so far
+    std::int32_t period = 300; ///< ticks between two patterns
+    SAMPLE* bar;               ///< owned: what is played, MUSIC_barLength values, silent at first
+    LIST* instruments;         ///< owned with its samples, in the order added
+    SAMPLE* pattern; ///< scratch of the bar's length, made by the first pattern; MUSIC_delete leaves it
 };
 
 extern const IDENTITY MUSIC_identity;
@@ -44,13 +45,14 @@ void MUSIC_addInstrument(MUSIC* music, SAMPLE* instrument);
 /// Counts a frame, once there is a pattern.
 void MUSIC_tick(MUSIC* music);
 
-/// Each composes the pattern: draws an instrument and one of the 16 sixteenths of the bar to start on, and
-/// lays hits from there, going round. A tune without instruments is reported.
+// Each composes the pattern: draws an instrument and one of the 16 sixteenths of the bar to start on, and
+// lays hits from there, going round. A tune without instruments is reported.
+
 /// One hit.
 void MUSIC_genSingle(MUSIC* music);
 /// One hit, fading out over the bar.
 void MUSIC_genSingleFaded(MUSIC* music);
-/// 1, 2, 4 or 8 evenly spaced hits, the more the quieter.
+/// 1, 2, 4 or 8 evenly spaced hits; the more there are, the quieter they are.
 void MUSIC_genRepeat(MUSIC* music);
 /// The same, everything before a hit fading once more with it.
 void MUSIC_genRepeatFaded(MUSIC* music);

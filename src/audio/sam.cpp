@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "audio/sam.h"
 
+#include "audio/sample.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 
@@ -37,11 +39,10 @@ bool hasPlace(const SAM& sam) {
 } // namespace
 
 SAM* SAM_new() {
-    SAM* const sam = allocateRecord<SAM>();
+    SAM* const sam = newRecord<SAM>(SAM_error);
     if (sam == nullptr) {
         // SAM_newEndsTheProcess: one expects nullptr, as from other constructors; it leaves with status -1,
         // so no caller checks.
-        SAM_error();
         std::exit(-1);
     }
     return sam;
@@ -126,8 +127,8 @@ std::int32_t SAM_signExtend(std::int32_t value, std::int32_t width) {
     if (((value >> (width - 1)) & 1) == 0) {
         return value;
     }
-    // SAM_signExtendFullWidth: one expects 32 bits to stay as they are; the count wraps to 0 and any negative
-    // value becomes -1, as shifts by 32 do on the machines that this came from.
+    // SAM_signExtendFullWidth: one expects 32 bits to stay as they are; the count of the shift wraps to 0, so
+    // any negative value becomes -1. Only narrower values are extended.
     return value | wrapShl(-1, width % widestValue);
 }
 
@@ -153,20 +154,12 @@ std::int32_t SAM_endsWith(const char* text, const char* pattern) {
 }
 
 void SAM_delete(SAM** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SAM_error();
-        return;
-    }
-    SAM* const sam = *handle;
-    if (sam->file != nullptr) {
-        std::fclose(sam->file);
-    }
-    if (sam->sample != nullptr) {
-        SAMPLE_delete(&sam->sample);
-    }
-    delete[] sam->path;
-    delete sam;
-    *handle = nullptr;
+    const auto close = [](SAM& sam) {
+        if (sam.file != nullptr) {
+            std::fclose(sam.file);
+        }
+    };
+    deleteRecord(handle, SAM_error, close, deletedBy(SAMPLE_delete, &SAM::sample), &SAM::path);
 }
 
 void SAM_error() {

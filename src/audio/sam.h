@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 //
 // SAM, a sample and its file: the SAM format (a text header, then binary or decimal values), RIFF/WAVE, which
-// is only read, and two headerless forms. The end of the file's name chooses the form. Readers and writers do
-// not mirror each other, and are kept that way: see docs/quirks.md.
+// is only read, and two headerless forms. The end of the file's name chooses the form. What is written is not
+// always what is read: see docs/quirks.md.
 //
 //     SAM* sam = SAM_new();
 //     SAM_setPath(sam, "voice.wav");
 //     if (SAM_load(sam) != 0) { SOUND_fadeOut(sam->sample); }
 #pragma once
 
-#include "audio/sample.h"
 #include "foundation/identity.h"
 
 #include <cstdint>
@@ -18,9 +17,11 @@
 
 namespace velm {
 
+struct SAMPLE;
+
 struct SAM {
-    SAMPLE* sample;         ///< owned; what was loaded or is to be saved; nullptr
-    char* path;             ///< owned (delete[]); the file's name; nullptr
+    SAMPLE* sample;         ///< owned; what was loaded or is to be saved; nullptr at first
+    char* path;             ///< owned (delete[]); the file's name; nullptr at first
     std::FILE* file;        ///< the open file, nullptr when closed
     std::int32_t channels;  ///< from the header; the values of several stay interleaved
     std::int32_t depth;     ///< bits of a value, 8, 16, 24 or 32; from the header, set by hand for raw files
@@ -30,7 +31,7 @@ struct SAM {
     std::int32_t position;  ///< index of the next value of SAM_readLooped
     char state;             ///< 'l' while looping, 'p' reserved for playing
     std::int32_t loopStart; ///< first index of the loop
-    std::int32_t loopEnd;   ///< first index behind the loop
+    std::int32_t loopEnd;   ///< first index after the loop
 };
 
 extern const IDENTITY SAM_identity;
@@ -50,14 +51,14 @@ void SAM_setSample(SAM* sam, SAMPLE* sample);
 /// Reads the file: 1, or 0 (reported). The reader that the name's end suggests comes first ("sam"; "wav" and
 /// "raw" both mean WAVE), then WAVE, SAM and raw.
 std::int32_t SAM_load(SAM* sam);
-/// Reads the file `path`, PCM behind a WAVE header of 44 bytes: 1, or 0 (reported). Values of 8 and 16 bits
+/// Reads the file `path`, PCM after a WAVE header of 44 bytes: 1, or 0 (reported). Values of 8 and 16 bits
 /// are read, all others are 0.
 std::int32_t SAM_readWave(SAM* sam);
 /// Reads the open file, or else `path`, as SAM: 1, or 0 (reported) when its header is cut short or its binary
-/// values are wider than 32 bits. Text that is cut short is reported and gives 1.
+/// values are wider than 32 bits. Text that is cut short is reported, and the answer is 1.
 std::int32_t SAM_readSam(SAM* sam);
 /// Reads the file `path` to its end as values of `depth` bits in `endian` order, the sign not extended: 1, or
-/// 0 (reported) when `depth` or `endian` have no meaning.
+/// 0 (reported) when `depth` or `endian` has no meaning.
 std::int32_t SAM_readRaw(SAM* sam);
 
 // Every writer writes to the open file and closes it: 1, or 0 (reported) when it does not take everything.
@@ -75,8 +76,8 @@ std::int32_t SAM_writeWav(SAM* sam);
 std::int32_t SAM_writeRaw(SAM* sam);
 
 /// Fills `dst` from `position` on and moves the position: while looping, from the end of the loop back to its
-/// start, otherwise to the end of the sample, with 0 behind it. Gives the number of values copied. A position
-/// or loop outside the sample is reported, and nothing is copied.
+/// start, otherwise to the end of the sample, with 0 after it. Returns the number of values copied. A
+/// position or loop outside the sample is reported, and nothing is copied.
 std::int32_t SAM_readLooped(SAM* sam, SAMPLE* dst);
 /// 1 when nothing loops or plays and the position has reached the sample's end, else 0.
 std::int32_t SAM_isFinished(const SAM* sam);

@@ -4,6 +4,8 @@
 // What SAM reads: its own format, RIFF/WAVE, and raw values. A reader fills a new sample and changes the
 // record only when it succeeds, so that the next one finds it as the caller left it.
 #include "audio/sam.h"
+#include "audio/sample.h"
+#include "foundation/text.h"
 
 #include <algorithm>
 #include <cstring>
@@ -17,10 +19,6 @@ namespace {
 constexpr std::int32_t bitsPerByte = 8;
 constexpr std::int32_t widestValue = 32; // bits
 constexpr std::int32_t mostValues = std::numeric_limits<std::int32_t>::max();
-
-bool isDigit(int character) {
-    return character >= '0' && character <= '9';
-}
 
 bool isOneOf(int character, std::string_view letters) {
     return letters.find(static_cast<char>(character)) != std::string_view::npos;
@@ -67,8 +65,8 @@ bool isRead(std::FILE* file, const SAMPLE* sample, std::int32_t count) {
     return sample->length >= count || std::feof(file) != 0;
 }
 
-/// Reads a decimal number modulo 2^32 from its first character on, and takes the one behind it. What is no
-/// digit is 0.
+/// Reads a decimal number modulo 2^32 from its first character on, and takes the character after it. What is
+/// no digit is 0.
 std::int32_t readNumber(std::FILE* file, int character) {
     std::uint32_t number = 0;
     for (; isDigit(character); character = std::fgetc(file)) {
@@ -209,13 +207,14 @@ std::int32_t SAM_readSam(SAM* sam) {
     if (!readSamHeader(sam->file, header)) {
         return refuse(sam);
     }
-    const bool isText = isOneOf(header.storage, "aA"); // and its width of no account
+    const bool isText = isOneOf(header.storage, "aA"); // whose width does not matter
     if ((!isText && header.number[SamHeader::depth] > widestValue) || (sample = SAMPLE_new()) == nullptr) {
         return refuse(sam);
     }
     const std::int32_t count = header.number[SamHeader::count];
     if (isText) {
-        // SAM_cutTextIsSuccess: one expects 0 when values are missing; it is reported, and 1.
+        // SAM_cutTextIsSuccess: one expects 0 when values are missing; they are reported, and the answer
+        // is 1.
         if (!readText(sam->file, sample, count)) {
             SAM_error();
         }

@@ -3,6 +3,7 @@
 //
 // What SAM writes: its own format and two headerless ones, byte for byte.
 #include "audio/sam.h"
+#include "audio/sample.h"
 
 #include <algorithm>
 
@@ -74,9 +75,9 @@ std::int32_t SAM_writeSam(SAM* sam) {
     const bool isBinary = sam->storage == 'b' || sam->storage == 'B';
     const bool isText = sam->storage == 'a' || sam->storage == 'A';
     const char* const storage = isBinary ? "binary\n" : isText ? "ASCII\n" : "";
-    // SAM_chanels: one expects two n; files have always been written with one.
+    // SAM_chanels: one expects two n; it is written with one, and the bytes of a file are what they are.
     // SAM_writesSixteenBits: one expects the record's own form, and clipped values; whatever the record says
-    // it is this one, and binary values keep their low 16 bits, as in all files there are.
+    // it is this one, and binary values keep their low 16 bits.
     std::fprintf(sam->file, "SAM\n%ssigned\nbits 16\nlittle endian\nchanels 1\n%d\n", storage,
                  sam->sample->length);
     return finish(sam, isBinary ? SAMPLE_writeRaw(sam->sample, sam->file, 2, 'l') != 0

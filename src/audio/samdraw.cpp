@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "audio/samdraw.h"
 
-#include "foundation/memory.h"
+#include "audio/sam.h"
+#include "audio/sample.h"
+#include "foundation/fixed.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -16,10 +20,6 @@ const IDENTITY SAMDRAW_identity = makeIdentity("SAMDRAW", "CODE", "ZENDORAK", "2
 std::uint8_t SAMDRAW_verbose = 0;
 
 namespace {
-
-constexpr std::uint32_t newBackground = 0x808080;
-constexpr std::uint32_t newLineColour = 0xFFFFFF;
-constexpr std::int32_t fractionBits = 16;
 
 bool canDraw(const SAMDRAW* draw) {
     return draw != nullptr && draw->source != nullptr && draw->target != nullptr &&
@@ -51,7 +51,7 @@ void drawBar(const SAMDRAW& draw, std::int32_t x, std::int32_t value, std::uint3
 /// Values a column, 16.16. SAMDRAW_stepIgnoresView: one expects the view to fill the width, to its end; the
 /// step is that of the whole sample and, where that is longer than the width, a whole number.
 std::int64_t stepOf(std::int64_t length, std::int64_t width) {
-    return length <= width ? (length << fractionBits) / width : (length / width) << fractionBits;
+    return length <= width ? toFixed(length) / width : toFixed(length / width);
 }
 
 /// Fills the target and draws value(sample, index) a column.
@@ -70,9 +70,9 @@ void drawView(SAMDRAW* draw, Value value) {
     clampView(*draw);
     const SAMPLE* const sample = draw->source->sample;
     const std::int64_t step = width > 0 ? stepOf(sample->length, width) : 0;
-    std::int64_t place = std::int64_t{draw->first} << fractionBits; // 16.16
-    for (std::int32_t x = 0; x < width && place >> fractionBits <= draw->last; ++x, place += step) {
-        drawBar(*draw, x, value(sample, static_cast<std::int32_t>(place >> fractionBits)), draw->lineColour);
+    std::int64_t place = toFixed(draw->first); // 16.16
+    for (std::int32_t x = 0; x < width && wholeOf(place) <= draw->last; ++x, place += step) {
+        drawBar(*draw, x, value(sample, static_cast<std::int32_t>(wholeOf(place))), draw->lineColour);
     }
 }
 
@@ -88,15 +88,12 @@ void markFirst(const SAMDRAW& draw, std::int32_t value) {
 } // namespace
 
 SAMDRAW* SAMDRAW_new() {
-    SAMDRAW* const draw = allocateRecord<SAMDRAW>();
+    SAMDRAW* const draw = newRecord<SAMDRAW>(SAMDRAW_error);
     if (draw == nullptr) {
         // SAMDRAW_newEndsTheProcess: one expects nullptr, as from other constructors; it leaves with status
         // -1, so no caller checks.
-        SAMDRAW_error();
         std::exit(-1);
     }
-    draw->background = newBackground;
-    draw->lineColour = newLineColour;
     return draw;
 }
 
@@ -123,12 +120,7 @@ void SAMDRAW_drawExtremes(SAMDRAW* draw) {
 }
 
 void SAMDRAW_delete(SAMDRAW** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SAMDRAW_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SAMDRAW_error);
 }
 
 void SAMDRAW_error() {

@@ -9,28 +9,29 @@
 //     SAMDRAW_draw(scope);
 #pragma once
 
-#include "audio/sam.h"
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct SAM;
+
 struct SAMDRAW {
-    SAM* source;              ///< borrowed; its sample is drawn; nullptr
-    IMG* target;              ///< borrowed; nullptr
-    std::uint32_t background; ///< 0x00RRGGBB; 0x808080
-    std::uint32_t lineColour; ///< 0x00RRGGBB, of the bars; 0xFFFFFF
-    std::uint32_t markColour; ///< 0x00RRGGBB, of the extremes; 0
-    std::int32_t first;       ///< index of the first value of the view; 0
-    std::int32_t last;        ///< index of the last value of the view; 0
+    SAM* source = nullptr;               ///< borrowed; its sample is drawn
+    IMG* target = nullptr;               ///< borrowed
+    std::uint32_t background = 0x808080; ///< 0x00RRGGBB
+    std::uint32_t lineColour = 0xFFFFFF; ///< 0x00RRGGBB, of the bars
+    std::uint32_t markColour = 0x000000; ///< 0x00RRGGBB, of the extremes
+    std::int32_t first = 0;              ///< index of the first value of the view
+    std::int32_t last = 0;               ///< index of the last value of the view
 };
 
 extern const IDENTITY SAMDRAW_identity;
 extern std::uint8_t SAMDRAW_verbose;
 
-/// A record with the defaults above. Ends the process with status -1 (reported) when memory runs out: see
+/// A new record. Ends the process with status -1 (reported) when memory runs out: see
 /// docs/quirks.md.
 SAMDRAW* SAMDRAW_new();
 

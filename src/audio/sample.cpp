@@ -3,6 +3,7 @@
 #include "audio/sample.h"
 
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 
@@ -66,15 +67,12 @@ bool openGap(SAMPLE* sample, std::int32_t position, std::int32_t count) {
 } // namespace
 
 SAMPLE* SAMPLE_new() {
-    SAMPLE* sample = allocateRecord<SAMPLE>();
-    if (sample == nullptr) {
-        SAMPLE_error();
-        return nullptr;
-    }
-    SAMPLE_setCapacity(sample, firstCapacity);
-    if (sample->data == nullptr) {
-        delete sample;
-        return nullptr;
+    SAMPLE* sample = newRecord<SAMPLE>(SAMPLE_error);
+    if (sample != nullptr) {
+        SAMPLE_setCapacity(sample, firstCapacity);
+        if (sample->data == nullptr) {
+            SAMPLE_delete(&sample);
+        }
     }
     return sample;
 }
@@ -188,7 +186,7 @@ void SAMPLE_insert(SAMPLE* sample, const SAMPLE* other, std::int32_t position) {
         std::copy_n(other->data, count, sample->data + position);
         return;
     }
-    // The gap has cut the sample in two: its start is where it was, its end lies behind the gap.
+    // The gap has cut the sample in two: its start is where it was, its end comes after the gap.
     std::int32_t* const gap = sample->data + position;
     move(sample->data, position, gap);
     move(gap + count, count - position, gap + position);
@@ -253,13 +251,7 @@ std::int32_t SAMPLE_equals(const SAMPLE* a, const SAMPLE* b) {
 }
 
 void SAMPLE_delete(SAMPLE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SAMPLE_error();
-        return;
-    }
-    delete[](*handle)->data;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SAMPLE_error, &SAMPLE::data);
 }
 
 void SAMPLE_error() {

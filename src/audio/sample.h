@@ -21,7 +21,7 @@ inline constexpr std::int32_t SAMPLE_rate = 44100; ///< values per second
 
 struct SAMPLE {
     std::int32_t length;   ///< values in use, 0 <= length <= capacity
-    std::int32_t capacity; ///< values allocated; 32 in a new sample
+    std::int32_t capacity; ///< values allocated
     std::int32_t* data; ///< owned; nullptr when the capacity is 0. Values past `length` keep what they held
 };
 
@@ -70,7 +70,7 @@ void SAMPLE_add(SAMPLE* a, const SAMPLE* b);
 void SAMPLE_multiply(SAMPLE* a, const SAMPLE* b);
 /// a[i] += b[i] * n / d, the quotient truncated towards 0; d must not be 0.
 void SAMPLE_mixScaled(SAMPLE* a, const SAMPLE* b, std::int32_t n, std::int32_t d);
-/// a[i] += (b[i] * f) >> 16.
+/// a[i] += (b[i] * f) >> 16: `f` is 16.16.
 void SAMPLE_mixFixed(SAMPLE* a, const SAMPLE* b, std::int32_t f);
 /// Multiplies every value.
 void SAMPLE_scale(SAMPLE* sample, std::int32_t factor);
@@ -112,7 +112,7 @@ char* SAMPLE_toText(const SAMPLE* sample);
 /// Reads what SAMPLE_toText writes; nullptr (reported) when it is malformed or cut short.
 SAMPLE* SAMPLE_fromText(const char* text);
 
-/// Appends values of `bytes` (1..4) bytes each, until `count` are read or the file ends, and gives their
+/// Appends values of `bytes` (1..4) bytes each, until `count` are read or the file ends, and returns their
 /// number. `endian` is 'l', or 'm' for the most significant byte first. Nothing extends the sign.
 std::int32_t SAMPLE_readRaw(SAMPLE* sample, std::FILE* file, std::int32_t bytes, char endian,
                             std::int32_t count);

@@ -4,8 +4,8 @@
 // The text form of SAMPLE, "SAMPLE { 2\n-5\n7\n}\n": the length, then every value.
 #include "audio/sample.h"
 #include "foundation/memory.h"
+#include "foundation/text.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -15,10 +15,6 @@ namespace velm {
 namespace {
 
 constexpr std::int64_t charactersPerValue = 12; // "-2147483648\n"
-
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
 
 /// Skips to the next number and reads it; false when there is none or it does not fit a value.
 bool readNumber(const char*& text, std::int32_t& value) {
@@ -30,17 +26,13 @@ bool readNumber(const char*& text, std::int32_t& value) {
     }
     const bool negative = *text == '-';
     text += negative ? 1 : 0;
-    constexpr std::int64_t tooLarge = std::int64_t{1} << 40;
-    std::int64_t number = 0;
-    for (; isDigit(*text); ++text) {
-        number = std::min(tooLarge, number * 10 + (*text - '0'));
-    }
-    number = negative ? -number : number;
+    const std::int64_t size = readSize(text);
+    const std::int64_t number = negative ? -size : size;
     value = static_cast<std::int32_t>(number);
     return value == number;
 }
 
-/// The sample behind the word, or nullptr. A value takes two characters at least, so a length that the text
+/// The sample after the word, or nullptr. A value takes two characters at least, so a length that the text
 /// cannot fill is refused before anything is allocated.
 SAMPLE* parse(const char* text) {
     text = std::strstr(text, "SAMPLE");

@@ -84,7 +84,7 @@ std::int32_t drawNoise() {
 /// What SAMPLE_ramp over the whole sample stores, SAMPLE_multiply multiplies by and SAMPLE_shiftRight scales
 /// back, in one pass and without the ramp: before index i the line has moved by (i * height + bias) / width,
 /// rounded down. Half a unit on top of the dividend keeps the quotient off the whole numbers by more than a
-/// double's rounding, so slope and offset give the same.
+/// double's rounding, so slope and offset have the same result.
 void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
     if (sample == nullptr) {
         SOUND_error();
@@ -162,7 +162,7 @@ void SOUND_square(SAMPLE* sample, std::int32_t frequency) {
     // 65536 values gets no cycle at all. The instruments are shorter.
     const std::int32_t cycles = wrapShl(sample->length, fractionBits) / period;
     // SOUND_squareLeavesTail: one expects the wave to fill the sample; what is left of a cycle keeps its old
-    // values, and some instruments sound of what was there before.
+    // values, and some instruments are heard with them.
     std::int32_t phase = 0;
     std::int32_t next = 0;
     for (std::int32_t cycle = 0; cycle < cycles; ++cycle) {

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "demo/fps.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/wrap.h"
 #include "platform/clock.h"
+
+#include <algorithm>
 
 namespace velm {
 
@@ -22,11 +24,7 @@ std::int32_t lowWord(std::int64_t value) {
 } // namespace
 
 FPS* FPS_new() {
-    FPS* fps = allocateRecord<FPS>();
-    if (fps == nullptr) {
-        FPS_error();
-    }
-    return fps;
+    return newRecord<FPS>(FPS_error);
 }
 
 std::int64_t FPS_now() {
@@ -57,20 +55,17 @@ void FPS_wait(FPS* fps) {
     if (fps == nullptr || fps->targetRate == 0) {
         return;
     }
-    fps->sleepMicros = wrapSub(microsPerSecond / fps->targetRate, lowWord(fps->elapsedMicros));
+    const std::int32_t budget = microsPerSecond / fps->targetRate;
+    fps->sleepMicros = wrapSub(budget, lowWord(fps->elapsedMicros));
     if (fps->sleepMicros > 0) {
-        CLOCK_sleep(fps->sleepMicros);
+        // A frame whose time came out negative has more left than it ever had; that much is not slept.
+        CLOCK_sleep(std::min(fps->sleepMicros, budget));
         fps->shownRate = fps->targetRate;
     }
 }
 
 void FPS_delete(FPS** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        FPS_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, FPS_error);
 }
 
 void FPS_error() {}

@@ -3,11 +3,15 @@
 #include "effects/archpath.h"
 
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
+#include "vector/obj2d.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -19,13 +23,6 @@ std::uint8_t ARCHPATH_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newLeft = 32;
-constexpr std::int32_t newRight = 224;
-constexpr std::int32_t newGround = 208;
-constexpr std::int32_t newRise = 160;
-constexpr std::int32_t newFrames = 45;
-constexpr std::int32_t newScale = 3;
-constexpr std::int32_t newEchoes = 4;
 constexpr std::int32_t echoFrames = 2; // between one echo and the next
 constexpr std::int32_t mostEchoes = (ARCHPATH_trailLength - 1) / echoFrames;
 constexpr std::int32_t halfTurn = SINE_tableLength / 2;
@@ -57,20 +54,16 @@ ARCHPATH_POSE poseOf(const ARCHPATH& path) {
 } // namespace
 
 ARCHPATH* ARCHPATH_new() {
-    ARCHPATH* path = allocateRecord<ARCHPATH>();
-    if (path == nullptr || (path->random = RANDOM_new()) == nullptr) {
-        ARCHPATH_error();
-        delete path;
+    ARCHPATH* path = newRecord<ARCHPATH>(ARCHPATH_error);
+    if (path == nullptr) {
         return nullptr;
     }
-    path->left = newLeft;
-    path->right = newRight;
-    path->ground = newGround;
-    path->rise = newRise;
-    path->frames = newFrames;
-    path->scale = newScale;
-    path->echoes = newEchoes;
-    path->colour = 0xFFFFFF;
+    path->random = RANDOM_new();
+    if (path->random == nullptr) {
+        ARCHPATH_error();
+        ARCHPATH_delete(&path);
+        return nullptr;
+    }
     ARCHPATH_randomize(path);
     return path;
 }
@@ -114,8 +107,8 @@ void ARCHPATH_draw(const ARCHPATH* path, IMG* target) {
     const std::int32_t echoes = std::clamp(path->echoes, 0, mostEchoes);
     for (std::int32_t echo = echoes; echo >= 0; --echo) {
         const ARCHPATH_POSE& pose = path->trail[static_cast<std::size_t>(echo) * echoFrames];
-        const auto bright = static_cast<std::uint32_t>(256 * (echoes + 1 - echo) / (echoes + 1));
-        OBJ2D_setColour(path->figure, RGB888_mix(0, path->colour, echo == 0 ? bright : bright / 2));
+        const std::int32_t bright = RGB888_fullWeight * (echoes + 1 - echo) / (echoes + 1);
+        OBJ2D_setColour(path->figure, RGB888_dim(path->colour, echo == 0 ? bright : bright / 2));
         path->figure->position->x = pose.x;
         path->figure->position->y = pose.y;
         path->figure->scale->x = path->figure->scale->y = path->scale;
@@ -125,13 +118,7 @@ void ARCHPATH_draw(const ARCHPATH* path, IMG* target) {
 }
 
 void ARCHPATH_delete(ARCHPATH** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        ARCHPATH_error();
-        return;
-    }
-    RANDOM_delete(&(*handle)->random);
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, ARCHPATH_error, deletedBy(RANDOM_delete, &ARCHPATH::random));
 }
 
 void ARCHPATH_error() {

@@ -10,13 +10,14 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "foundation/random.h"
-#include "image/img.h"
-#include "vector/obj2d.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
+struct OBJ2D;
+struct RANDOM;
 
 /// Where the figure is, or was.
 struct ARCHPATH_POSE {
@@ -27,32 +28,32 @@ struct ARCHPATH_POSE {
 inline constexpr std::int32_t ARCHPATH_trailLength = 16; ///< frames that are remembered
 
 struct ARCHPATH {
-    std::int32_t left, right; ///< the ends of the ground, pixels; 32, 224
-    std::int32_t ground;      ///< row of the ground; 208
-    std::int32_t from, to;    ///< columns where the arch begins and ends; random
-    std::int32_t height;      ///< pixels of the arch above the ground; random, half to the whole of `rise`
-    std::int32_t rise;        ///< pixels; the highest arch; 160
-    std::int32_t step;        ///< of the arch, 0 to `frames`
-    std::int32_t frames;      ///< that an arch takes, 1 or more; 45
-    std::int32_t spin;        ///< added to the angle once a frame; random, 4..19 either way
-    std::int32_t scale;       ///< whole magnification of the figure; 3
-    std::int32_t echoes;      ///< figures drawn behind the first one, 0..7, two frames apart; 4
-    std::uint32_t colour;     ///< 0x00RRGGBB of the figure; echoes are darker; white
-    OBJ2D* figure;            ///< borrowed; nullptr draws nothing. Drawing poses and colours it
+    std::int32_t left = 32, right = 224; ///< the ends of the ground, pixels
+    std::int32_t ground = 208;           ///< row of the ground
+    std::int32_t from, to;               ///< columns where the arch begins and ends; random
+    std::int32_t height;             ///< pixels of the arch above the ground; random, half to all of `rise`
+    std::int32_t rise = 160;         ///< pixels; the highest arch
+    std::int32_t step;               ///< of the arch, 0 to `frames`
+    std::int32_t frames = 45;        ///< that an arch takes, 1 or more
+    std::int32_t spin;               ///< added to the angle once a frame; random, 4..19 either way
+    std::int32_t scale = 3;          ///< whole magnification of the figure
+    std::int32_t echoes = 4;         ///< figures that follow the first one, 0..7, two frames apart
+    std::uint32_t colour = 0xFFFFFF; ///< 0x00RRGGBB of the figure; echoes are darker
+    OBJ2D* figure = nullptr;         ///< borrowed; nullptr draws nothing. Drawing poses and colours it
     ARCHPATH_POSE trail[ARCHPATH_trailLength]; ///< the last poses, the newest first
-    RANDOM* random;                            ///< owned; where arches lead
+    RANDOM* random;                            ///< owned; decides where arches lead
 };
 
 extern const IDENTITY ARCHPATH_identity;
 extern std::uint8_t ARCHPATH_verbose;
 
-/// A path with the defaults above (one draw of chance()), or nullptr (reported).
+/// A path at its first arch (one draw of chance()), or nullptr (reported).
 ARCHPATH* ARCHPATH_new();
 
 /// Seeds the path's own generator with one draw of chance() and stands at the beginning of a new arch.
 void ARCHPATH_randomize(ARCHPATH* path);
 
-/// One frame along the arch; the next one begins where the last one ended. True in the frame of a landing.
+/// One frame along the arch; the next one begins where this one ends. True in the frame of a landing.
 bool ARCHPATH_advance(ARCHPATH* path);
 
 /// Draws the echoes, the oldest first, then the figure.

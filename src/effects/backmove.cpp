@@ -3,9 +3,12 @@
 #include "effects/backmove.h"
 
 #include "foundation/chance.h"
+#include "foundation/fixed.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -17,15 +20,11 @@ std::uint8_t BACKMOVE_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t fractionBits = 16;
-constexpr std::int32_t leastSpeed = 0x8000;
-constexpr std::int32_t speedRange = 0x20000;
+constexpr std::int32_t leastSpeed = fixedOne / 2;
+constexpr std::int32_t speedRange = 2 * fixedOne;
 constexpr std::int32_t pathSpeeds = 4;
 constexpr std::int32_t leastReach = 16;
 constexpr std::int32_t reachRange = 32;
-constexpr std::int32_t rippleSpeed = 6;
-constexpr std::int32_t rippleStep = 8;
-constexpr std::uint32_t fullBrightness = 256;
 
 bool isPicture(const IMG* img) {
     return img != nullptr && img->pixels != nullptr && img->width > 0 && img->height > 0;
@@ -46,7 +45,7 @@ std::int64_t reduced(std::int64_t value, std::int64_t modulus) {
 /// The picture's column that stands at the left of target row `y`, which shows picture row `row`.
 std::int32_t firstColumn(const BACKMOVE& back, std::int32_t y, std::int32_t row) {
     const std::int64_t band = std::int64_t{row} * back.depths / back.picture->height;
-    const std::int64_t travelled = (back.x * (band + 1) / back.depths) >> fractionBits;
+    const std::int64_t travelled = wholeOf(back.x * (band + 1) / back.depths);
     const std::int32_t angle = wrapAdd(back.ripple.phase, wrapMul(back.ripple.offsetStep, y));
     const std::int32_t shift = SINE_scaled(back.rippleReach, angle);
     return static_cast<std::int32_t>(
@@ -63,8 +62,8 @@ void paint(const BACKMOVE* back, IMG* target, Touch touch) {
         return;
     }
     const IMG& picture = *back->picture;
-    const std::uint32_t brightness = std::min(back->brightness, fullBrightness);
-    const std::int64_t top = (back->y >> fractionBits) + SINE_scaled(back->reachY, back->pathY.phase);
+    const std::int32_t brightness = back->brightness;
+    const std::int64_t top = wholeOf(back->y) + SINE_scaled(back->reachY, back->pathY.phase);
     std::uint32_t* to = target->pixels;
     for (std::int32_t y = 0; y < target->height; ++y) {
         const auto row = static_cast<std::int32_t>(reduced(top + y, picture.height));
@@ -73,7 +72,7 @@ void paint(const BACKMOVE* back, IMG* target, Touch touch) {
         for (std::int32_t left = target->width; left > 0;) {
             const std::int32_t run = std::min(left, picture.width - column);
             for (std::int32_t i = 0; i < run; ++i) {
-                touch(to[i], RGB888_mix(0, from[column + i], brightness));
+                touch(to[i], RGB888_dim(from[column + i], brightness));
             }
             to += run;
             left -= run;
@@ -86,16 +85,7 @@ void paint(const BACKMOVE* back, IMG* target, Touch touch) {
 
 BACKMOVE* BACKMOVE_new() {
     BACKMOVE* back = allocateRecord<BACKMOVE>();
-    if (back == nullptr) {
-        BACKMOVE_error();
-        return nullptr;
-    }
-    SINE_setup(&back->pathX, SINE_tableLength, 0, 0, 0, 0);
-    SINE_setup(&back->pathY, SINE_tableLength, 0, 0, 0, 0);
-    SINE_setup(&back->ripple, SINE_tableLength, 0, rippleSpeed, 0, rippleStep);
-    back->depths = 1;
-    back->brightness = fullBrightness;
-    BACKMOVE_randomize(back);
+    BACKMOVE_randomize(back); // reports when memory ran out
     return back;
 }
 
@@ -137,7 +127,7 @@ void BACKMOVE_advance(BACKMOVE* back) {
         return;
     }
     // After as many pictures as there are depths every band has moved by whole pictures, so nothing jumps.
-    const std::int64_t turns = std::int64_t{back->depths} << fractionBits;
+    const std::int64_t turns = toFixed(back->depths);
     back->x = reduced(back->x + back->speedX, turns * back->picture->width);
     back->y = reduced(back->y + back->speedY, turns * back->picture->height);
     SINE_advance(&back->pathX);
@@ -165,12 +155,7 @@ void BACKMOVE_drawAverage(const BACKMOVE* back, IMG* target) {
 }
 
 void BACKMOVE_delete(BACKMOVE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        BACKMOVE_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, BACKMOVE_error);
 }
 
 void BACKMOVE_error() {

@@ -3,10 +3,11 @@
 #include "effects/ball3d.h"
 
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -19,7 +20,6 @@ std::uint8_t BALL3D_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newSize = 256;
 constexpr std::int32_t randomRange = 256;
 constexpr std::int32_t rings = SINE_tableLength / 2;
 constexpr std::int32_t ringPoints = SINE_tableLength / 2;
@@ -107,15 +107,13 @@ void reportOverflow(const BALL3D& ball) {
 } // namespace
 
 BALL3D* BALL3D_new() {
-    BALL3D* ball = allocateRecord<BALL3D>();
+    BALL3D* ball = newRecord<BALL3D>(BALL3D_error);
     if (ball == nullptr) {
-        BALL3D_error();
         return nullptr;
     }
     ball->x = chance() % randomRange;
     ball->y = chance() % randomRange;
     ball->z = chance() % randomRange;
-    ball->width = ball->height = ball->depth = newSize;
     ball->radius = chance() % randomRange;
     ball->colour = static_cast<std::uint32_t>(chance());
     ball->colour2 = static_cast<std::uint32_t>(chance());
@@ -134,12 +132,7 @@ void BALL3D_draw(const BALL3D* ball) {
 }
 
 void BALL3D_delete(BALL3D** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        BALL3D_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, BALL3D_error);
 }
 
 void BALL3D_error() {

@@ -10,27 +10,28 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+
 /// Where the light comes from, and how strong it is. A length of about 10 lights a ball of radius 200 fully.
 struct BALL3D_LIGHT {
-    std::int32_t x, y, z; ///< right, down, towards the viewer; within about +-10
+    std::int32_t x = 0, y = 0, z = 0; ///< right, down, towards the viewer; within about +-10
 };
 
 struct BALL3D {
-    std::int32_t x, y;                 ///< centre in target pixels; random 0..255
-    std::int32_t z;                    ///< random 0..255; not used by the drawing
-    std::int32_t width, height, depth; ///< 256 each; not used by the drawing
-    std::int32_t radius;               ///< pixels; random 0..255
-    std::uint32_t colour;              ///< 0x00RRGGBB where the shade is 0, the top byte is ignored; random
-    std::uint32_t colour2;             ///< random; not used by the drawing
-    IMG* target;                       ///< borrowed; the image drawn into, set by the user; nullptr
-    std::int32_t reserved;             ///< 0
-    BALL3D_LIGHT light;                ///< (0, 0, 0): a flat disc
+    std::int32_t x, y;                                   ///< centre in target pixels; random, 0..255
+    std::int32_t z;                                      ///< random, 0..255; not used by the drawing
+    std::int32_t width = 256, height = 256, depth = 256; ///< not used by the drawing
+    std::int32_t radius;                                 ///< pixels; random, 0..255
+    std::uint32_t colour;  ///< 0x00RRGGBB where the shade is 0, the top byte is ignored; random
+    std::uint32_t colour2; ///< random; not used by the drawing
+    IMG* target = nullptr; ///< borrowed; the image drawn into, set by the user
+    std::int32_t reserved = 0;
+    BALL3D_LIGHT light{}; ///< without one the ball is a flat disc
 };
 
 extern const IDENTITY BALL3D_identity;

@@ -5,9 +5,11 @@
 #include "effects/circle.h"
 
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/fixed.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -19,28 +21,23 @@ std::uint8_t CIRCLE_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newSize = 256;
-constexpr std::int32_t newLargest = 128;
-constexpr std::int32_t newSpacing = 8;
-constexpr std::int32_t newCount = 16;
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
 constexpr std::int32_t mostPixels = CIRCLE_largestRadius;
 
 /// A length in pixels as 16.16, at least 1.0 and small enough for two of them to be added.
 std::int32_t lengthOf(std::int32_t pixels) {
-    return std::clamp(pixels, 1, mostPixels) * one;
+    return std::clamp(pixels, 1, mostPixels) * fixedOne;
 }
 
 CIRCLE_BODY randomBody(const CIRCLE& circle) {
-    constexpr std::int32_t speeds = 4 * one;
-    constexpr std::int32_t growths = 2 * one;
+    constexpr std::int32_t speeds = 4 * fixedOne;
+    constexpr std::int32_t growths = 2 * fixedOne;
     CIRCLE_BODY body{};
     body.x = chance() % lengthOf(circle.width);
     body.y = chance() % lengthOf(circle.height);
     body.speedX = chance() % speeds - speeds / 2;
     body.speedY = chance() % speeds - speeds / 2;
     body.radius = chance() % lengthOf(circle.largest);
-    body.growth = chance() % growths + one / 2;
+    body.growth = chance() % growths + fixedOne / 2;
     body.colour = (static_cast<std::uint32_t>(chance()) & 0x7F7F7F) + 0x808080;
     return body;
 }
@@ -65,7 +62,7 @@ void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ri
     const std::int32_t spacing = std::max(circle->spacing, 1);
     for (std::int32_t i = 0; i < circle->count; ++i) {
         const CIRCLE_BODY& body = circle->bodies[i];
-        std::int32_t radius = body.radius >> 16;
+        std::int32_t radius = wholeOf(body.radius);
         for (std::int32_t k = 0; k < rings && radius >= 0; ++k) {
             ring(body, radius);
             radius -= spacing;
@@ -76,32 +73,20 @@ void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ri
 } // namespace
 
 CIRCLE* CIRCLE_new() {
-    CIRCLE* circle = allocateRecord<CIRCLE>();
-    if (circle == nullptr) {
-        CIRCLE_error();
-        return nullptr;
-    }
-    circle->width = circle->height = newSize;
-    circle->largest = newLargest;
-    circle->rings = 1;
-    circle->spacing = newSpacing;
-    CIRCLE_setCount(circle, newCount);
-    if (circle->bodies == nullptr) {
-        CIRCLE_delete(&circle);
+    CIRCLE* circle = newRecord<CIRCLE>(CIRCLE_error);
+    if (circle != nullptr) {
+        CIRCLE_setCount(circle, circle->count);
+        if (circle->bodies == nullptr) {
+            CIRCLE_delete(&circle);
+        }
     }
     return circle;
 }
 
 void CIRCLE_setCount(CIRCLE* circle, std::int32_t count) {
-    CIRCLE_BODY* const bodies = circle != nullptr && count >= 1 ? allocateArray<CIRCLE_BODY>(count) : nullptr;
-    if (bodies == nullptr) {
-        CIRCLE_error();
-        return;
+    if (replaceArray(circle, CIRCLE_error, &CIRCLE::bodies, &CIRCLE::count, count)) {
+        CIRCLE_randomize(circle);
     }
-    delete[] circle->bodies;
-    circle->bodies = bodies;
-    circle->count = count;
-    CIRCLE_randomize(circle);
 }
 
 void CIRCLE_randomize(CIRCLE* circle) {
@@ -131,7 +116,7 @@ void CIRCLE_advance(CIRCLE* circle) {
 void CIRCLE_draw(const CIRCLE* circle, IMG* target) {
     forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
                 [target](const CIRCLE_BODY& body, std::int32_t radius) {
-                    CIRCLE_drawRing(target, body.x >> 16, body.y >> 16, radius, body.colour);
+                    CIRCLE_drawRing(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
                 });
 }
 
@@ -140,33 +125,27 @@ void CIRCLE_drawAdd(const CIRCLE* circle, IMG* target) {
     forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
                 [=](const CIRCLE_BODY& body, std::int32_t radius) {
                     const std::int32_t left = std::max(largest - radius, 0);
-                    const auto brightness = static_cast<std::uint32_t>(256 * left / largest);
-                    CIRCLE_addRing(target, body.x >> 16, body.y >> 16, radius,
-                                   RGB888_mix(0, body.colour, brightness));
+                    const std::int32_t brightness = RGB888_fullWeight * left / largest;
+                    CIRCLE_addRing(target, wholeOf(body.x), wholeOf(body.y), radius,
+                                   RGB888_dim(body.colour, brightness));
                 });
 }
 
 void CIRCLE_drawDiscs(const CIRCLE* circle, IMG* target) {
     forEachRing(circle, target, 1, [target](const CIRCLE_BODY& body, std::int32_t radius) {
-        CIRCLE_addDisc(target, body.x >> 16, body.y >> 16, radius, body.colour);
+        CIRCLE_addDisc(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
     });
 }
 
 void CIRCLE_drawXor(const CIRCLE* circle, IMG* target) {
     forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
                 [target](const CIRCLE_BODY& body, std::int32_t radius) {
-                    CIRCLE_xorDisc(target, body.x >> 16, body.y >> 16, radius, body.colour);
+                    CIRCLE_xorDisc(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
                 });
 }
 
 void CIRCLE_delete(CIRCLE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        CIRCLE_error();
-        return;
-    }
-    delete[](*handle)->bodies;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, CIRCLE_error, &CIRCLE::bodies);
 }
 
 void CIRCLE_error() {

@@ -10,11 +10,12 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
 
 inline constexpr std::int32_t CIRCLE_largestRadius = 16383;
 
@@ -28,21 +29,21 @@ struct CIRCLE_BODY {
 };
 
 struct CIRCLE {
-    std::int32_t width, height; ///< of the field, pixels, 1..16383; 256
-    std::int32_t largest;       ///< radius at which a circle begins again at 0, pixels, 1..16383; 128
-    std::int32_t rings;         ///< nested in each circle; 1
-    std::int32_t spacing;       ///< from ring to nested ring, pixels; 8
-    std::int32_t count;         ///< circles; 16
-    CIRCLE_BODY* bodies;        ///< owned, `count` of them
+    std::int32_t width = 256, height = 256; ///< of the field, pixels, 1..16383
+    std::int32_t largest = 128;             ///< radius at which a circle begins again at 0, pixels, 1..16383
+    std::int32_t rings = 1;                 ///< nested in each circle
+    std::int32_t spacing = 8;               ///< from ring to nested ring, pixels
+    std::int32_t count = 16;                ///< circles
+    CIRCLE_BODY* bodies = nullptr;          ///< owned, `count` of them
 };
 
 extern const IDENTITY CIRCLE_identity;
 extern std::uint8_t CIRCLE_verbose;
 
-/// 16 random circles (7 draws of chance() each), or nullptr (reported).
+/// Random circles (7 draws of chance() each), or nullptr (reported).
 CIRCLE* CIRCLE_new();
 
-/// Replaces the fleet by `count` (>= 1) random circles. On failure it reports and the old fleet stays.
+/// Replaces the fleet by `count` (>= 0) random circles. On failure it reports and the old fleet stays.
 void CIRCLE_setCount(CIRCLE* circle, std::int32_t count);
 
 /// Draws all circles anew: x, y, both speeds, radius, growth and colour of the first, then of the next.
@@ -55,7 +56,7 @@ void CIRCLE_advance(CIRCLE* circle);
 /// Draws the rings of every circle.
 void CIRCLE_draw(const CIRCLE* circle, IMG* target);
 
-/// Adds the rings, each the dimmer the nearer it is to `largest`, where it is gone.
+/// Adds the rings, which dim as they grow and are gone at `largest`.
 void CIRCLE_drawAdd(const CIRCLE* circle, IMG* target);
 
 /// Adds every circle as a disc of its full colour: light falls where they meet.

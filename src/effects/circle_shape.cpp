@@ -3,6 +3,7 @@
 //
 // Rings and discs by the midpoint algorithm, walked row by row, so that each row is clipped once.
 #include "effects/circle.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "effects/distx.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 
 namespace velm {
 
@@ -11,10 +12,6 @@ const IDENTITY DISTX_identity = makeIdentity("DISTX", "20150516", "ZENDORAK", "C
 std::uint8_t DISTX_verbose = 0;
 
 namespace {
-
-constexpr std::int32_t newAmplitude = 16;
-constexpr std::int32_t newSpeed = 1;
-constexpr std::int32_t newRowStep = 16;
 
 bool canDraw(const DISTX* dist, const IMG* target) {
     return dist != nullptr && dist->source != nullptr && dist->source->pixels != nullptr &&
@@ -24,14 +21,7 @@ bool canDraw(const DISTX* dist, const IMG* target) {
 } // namespace
 
 DISTX* DISTX_new() {
-    DISTX* dist = allocateRecord<DISTX>();
-    if (dist == nullptr) {
-        DISTX_error();
-        return nullptr;
-    }
-    SINE_setup(&dist->wave, SINE_tableLength, 0, newSpeed, 0, newRowStep);
-    dist->amplitude = newAmplitude;
-    return dist;
+    return newRecord<DISTX>(DISTX_error);
 }
 
 void DISTX_draw(DISTX* dist, IMG* target) {
@@ -59,15 +49,11 @@ void DISTX_advance(DISTX* dist) {
 }
 
 void DISTX_delete(DISTX** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        DISTX_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, DISTX_error);
 }
 
-// DISTX_errorIsSilent: one expects a line while DISTX_verbose is set; this module never printed one.
+// DISTX_errorIsSilent: one expects a line while DISTX_verbose is set; this module prints none, so its
+// failures stay quiet.
 void DISTX_error() {}
 
 } // namespace velm

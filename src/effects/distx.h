@@ -11,25 +11,26 @@
 
 #include "foundation/identity.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+
 struct DISTX {
-    std::int32_t x;         ///< column of the target where an unshifted row begins; 0
-    std::int32_t y;         ///< row of the target that takes row 0; 0
-    std::int32_t reserved;  ///< 0
-    SINE wave;              ///< `speed` 1 a frame, `offsetStep` 16 from row to row, in 1/1024 turns
-    std::int32_t amplitude; ///< twice the reach of the shift in pixels; 16
-    IMG* source;            ///< borrowed; the strip, set by the user; nullptr
+    std::int32_t x = 0; ///< column of the target where an unshifted row begins
+    std::int32_t y = 0; ///< row of the target that takes row 0
+    std::int32_t reserved = 0;
+    SINE wave{.offsetStep = 16}; ///< `speed` a frame, `offsetStep` from row to row, in 1/1024 turns
+    std::int32_t amplitude = 16; ///< twice the reach of the shift in pixels
+    IMG* source = nullptr;       ///< borrowed; the strip, set by the user
 };
 
 extern const IDENTITY DISTX_identity;
 extern std::uint8_t DISTX_verbose;
 
-/// A wave with the defaults above, or nullptr.
+/// A wave without a source, or nullptr.
 DISTX* DISTX_new();
 
 /// Copies the rows of `source`, wrapped around the target's width; 0 pixels are transparent. Rows that fall

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "effects/disty.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 
 namespace velm {
 
@@ -11,10 +12,6 @@ const IDENTITY DISTY_identity = makeIdentity("DISTY", "20150517", "CODE", "ZENDO
 std::uint8_t DISTY_verbose = 0;
 
 namespace {
-
-constexpr std::int32_t newAmplitude = 16;
-constexpr std::int32_t newSpeed = 1;
-constexpr std::int32_t newColumnStep = 16;
 
 bool canDraw(const DISTY* dist, const IMG* target) {
     return dist != nullptr && dist->source != nullptr && dist->source->pixels != nullptr &&
@@ -24,14 +21,7 @@ bool canDraw(const DISTY* dist, const IMG* target) {
 } // namespace
 
 DISTY* DISTY_new() {
-    DISTY* dist = allocateRecord<DISTY>();
-    if (dist == nullptr) {
-        DISTY_error();
-        return nullptr;
-    }
-    SINE_setup(&dist->wave, SINE_tableLength, 0, newSpeed, 0, newColumnStep);
-    dist->amplitude = newAmplitude;
-    return dist;
+    return newRecord<DISTY>(DISTY_error);
 }
 
 void DISTY_draw(DISTY* dist, IMG* target) {
@@ -59,15 +49,11 @@ void DISTY_advance(DISTY* dist) {
 }
 
 void DISTY_delete(DISTY** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        DISTY_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, DISTY_error);
 }
 
-// DISTY_errorIsSilent: one expects a line while DISTY_verbose is set; this module never printed one.
+// DISTY_errorIsSilent: one expects a line while DISTY_verbose is set; this module prints none, so its
+// failures stay quiet.
 void DISTY_error() {}
 
 } // namespace velm

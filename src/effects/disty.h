@@ -11,25 +11,26 @@
 
 #include "foundation/identity.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+
 struct DISTY {
-    std::int32_t x;         ///< column of the target that takes column 0; 0
-    std::int32_t y;         ///< row of the target where an unshifted column begins; 0
-    std::int32_t reserved;  ///< 0
-    SINE wave;              ///< `speed` 1 a frame, `offsetStep` 16 from column to column, in 1/1024 turns
-    std::int32_t amplitude; ///< twice the reach of the shift in pixels; 16
-    IMG* source;            ///< borrowed; the strip, set by the user; nullptr
+    std::int32_t x = 0; ///< column of the target that takes column 0
+    std::int32_t y = 0; ///< row of the target where an unshifted column begins
+    std::int32_t reserved = 0;
+    SINE wave{.offsetStep = 16}; ///< `speed` a frame, `offsetStep` from column to column, in 1/1024 turns
+    std::int32_t amplitude = 16; ///< twice the reach of the shift in pixels
+    IMG* source = nullptr;       ///< borrowed; the strip, set by the user
 };
 
 extern const IDENTITY DISTY_identity;
 extern std::uint8_t DISTY_verbose;
 
-/// A wave with the defaults above, or nullptr.
+/// A wave without a source, or nullptr.
 DISTY* DISTY_new();
 
 /// Copies the columns of `source`, wrapped around the target's height; 0 pixels are transparent. Columns that

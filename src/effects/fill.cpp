@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "effects/fill.h"
 
-#include "effects/line_text.h"
+#include "effects/palette.h"
 #include "foundation/chance.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -19,12 +21,6 @@ std::uint8_t FILL_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newSize = 256;
-constexpr std::int32_t newFlow = 96;
-constexpr std::int32_t newSeeds = 3;
-constexpr std::int32_t newSpeed = 12;
-constexpr std::int32_t newStretch = 6;
-constexpr std::int32_t newRipple = 144;
 constexpr std::int32_t endless = 0x7FFFFFFF; ///< a span that may become as long as its row
 
 // A word of the map: this bit, the seed's hue in 15 bits, the steps from the seed in 16.
@@ -51,15 +47,15 @@ void forget(FILL& fill, const IMG* drawing) {
 /// How spans take hold of an area of free and taken pixels. Every pixel is taken by one span only and every
 /// span takes one at least, so there are never more spans than pixels.
 ///
-/// Area tells isFree(x, row) and does take(span).
+/// Area has isFree(x, row) and take(span).
 template <typename Area>
 class Spreading {
 public:
     Spreading(FILL& record, std::int32_t areaWidth, std::int32_t areaHeight, Area& pixels)
         : fill(record), width(areaWidth), height(areaHeight), area(pixels) {}
 
-    /// Takes the free pixels about (x, row), at most `reach` beyond left..right, as one new span, and gives
-    /// the last one. (x, row) must be free.
+    /// Takes the free pixels about (x, row) from `least` to `most` as one new span, and returns the last one.
+    /// (x, row) must be free.
     std::int32_t take(std::int32_t x, std::int32_t row, std::int32_t least, std::int32_t most,
                       const FILL_SPAN& from) {
         FILL_SPAN span{x, x, row, std::min(from.age + 1, mostAge), from.hue};
@@ -74,7 +70,7 @@ public:
         return span.right;
     }
 
-    /// Takes what hangs together with a span: its row on both sides, and the rows above and below.
+    /// Takes what a span touches: its row on both sides, and the rows above and below.
     void spread(const FILL_SPAN& span, std::int32_t reach) {
         const std::int32_t least = reach == endless ? 0 : std::max(0, span.left - reach);
         const std::int32_t most = reach == endless ? width - 1 : std::min(width - 1, span.right + reach);
@@ -140,27 +136,19 @@ std::uint32_t colourAt(const FILL& fill, std::int32_t hue, std::int32_t age) {
     constexpr std::int32_t waveStep = 24; // 1/1024 turns a step
     const std::int32_t entry = wrapSub(wrapAdd(hue, wrapMul(age, fill.stretch)), fill.phase);
     const std::int32_t trough = (32768 - SINE_entry(wrapSub(age * waveStep, wrapMul(fill.phase, 2)))) >> 8;
-    const std::int32_t light = 256 - ((trough * std::clamp(fill.ripple, 0, 255)) >> 8);
-    return RGB888_mix(0, paletteColour(fill.palette, entry), static_cast<std::uint32_t>(light));
+    const std::int32_t light = RGB888_fullWeight - ((trough * std::clamp(fill.ripple, 0, 255)) >> 8);
+    return RGB888_dim(paletteColour(fill.palette, entry), light);
 }
 
 } // namespace
 
 FILL* FILL_new() {
-    FILL* fill = allocateRecord<FILL>();
-    if (fill == nullptr) {
-        FILL_error();
-        return nullptr;
-    }
-    fill->flow = newFlow;
-    fill->seeds = newSeeds;
-    fill->speed = newSpeed;
-    fill->stretch = newStretch;
-    fill->ripple = newRipple;
-    FILL_setSize(fill, newSize, newSize);
-    if (fill->spans == nullptr) {
-        delete fill;
-        return nullptr;
+    FILL* fill = newRecord<FILL>(FILL_error);
+    if (fill != nullptr) {
+        FILL_setSize(fill, fill->width, fill->height);
+        if (fill->spans == nullptr) {
+            FILL_delete(&fill);
+        }
     }
     return fill;
 }
@@ -218,18 +206,18 @@ void FILL_begin(FILL* fill, const IMG* drawing) {
     forget(*fill, drawing);
 }
 
-std::int32_t FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue) {
+bool FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue) {
     if (fill == nullptr || fill->drawing == nullptr) {
         FILL_error();
-        return 0;
+        return false;
     }
     DryArea area{*fill};
     if (!contains(*fill->drawing, x, y) || !area.isFree(x, y)) {
-        return 0;
+        return false;
     }
     const FILL_SPAN source{x, x, y, -1, hue & mostHue};
     Spreading<DryArea>(*fill, fill->drawing->width, fill->drawing->height, area).take(x, y, x, x, source);
-    return 1;
+    return true;
 }
 
 void FILL_randomize(FILL* fill) {
@@ -246,7 +234,7 @@ void FILL_randomize(FILL* fill) {
         for (std::int64_t k = 0; k < pixels; ++k) {
             const std::int64_t at = (x + y * drawing.width + k) % pixels;
             if (FILL_pour(fill, static_cast<std::int32_t>(at % drawing.width),
-                          static_cast<std::int32_t>(at / drawing.width), hue) != 0) {
+                          static_cast<std::int32_t>(at / drawing.width), hue)) {
                 break;
             }
         }
@@ -269,12 +257,12 @@ void FILL_advance(FILL* fill) {
     fill->phase = wrapAdd(fill->phase, fill->speed);
 }
 
-std::int32_t FILL_isDone(const FILL* fill) {
+bool FILL_isDone(const FILL* fill) {
     if (fill == nullptr) {
         FILL_error();
-        return 1;
+        return true;
     }
-    return fill->first == fill->count ? 1 : 0;
+    return fill->first == fill->count;
 }
 
 void FILL_draw(const FILL* fill, IMG* target) {
@@ -303,14 +291,7 @@ void FILL_draw(const FILL* fill, IMG* target) {
 }
 
 void FILL_delete(FILL** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        FILL_error();
-        return;
-    }
-    delete[](*handle)->map;
-    delete[](*handle)->spans;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, FILL_error, &FILL::map, &FILL::spans);
 }
 
 void FILL_error() {

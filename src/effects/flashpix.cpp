@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "effects/flashpix.h"
 
+#include "effects/palette.h"
 #include "foundation/chance.h"
 #include "foundation/memory.h"
+#include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -18,20 +22,12 @@ std::uint8_t FLASHPIX_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newField = 256;
-constexpr std::int32_t newHueSpeed = 4;
-constexpr std::int32_t newHueSlope = 2;
-constexpr std::int32_t newHueSpread = 96;
-constexpr std::int32_t newShortest = 12;
-constexpr std::int32_t newLongest = 40;
-constexpr std::int32_t newGlintShare = 16;
-constexpr std::int32_t newCount = 1024;
-constexpr std::int32_t full = 256; // of shares and brightness
+constexpr std::int32_t full = RGB888_fullWeight;
 constexpr std::uint32_t white = 0xFFFFFF;
 constexpr std::int32_t longestLife = 1 << 20; // frames
 
 /// A number 0..limit - 1; 0 when the limit is not positive. The generator's numbers run in step from draw to
-/// draw, which would stand on the screen as lines, so their bits are mixed first (multiplicative hashing).
+/// draw, which would show as lines, so their bits are mixed first (multiplicative hashing).
 std::int32_t randomBelow(const FLASHPIX& flash, std::int32_t limit) {
     constexpr std::uint32_t goldenRatio = 0x9E3779B1; // of 2 to the 32nd
     auto number = static_cast<std::uint32_t>(RANDOM_next(flash.random));
@@ -49,11 +45,8 @@ bool happens(const FLASHPIX& flash, std::int32_t share) {
 
 std::uint32_t hueAt(const FLASHPIX& flash, std::int32_t x, std::int32_t y) {
     const std::int32_t spread = randomBelow(flash, flash.hueSpread);
-    if (flash.hues == nullptr || flash.hues->length < 1) {
-        return white;
-    }
     const std::int32_t hue = wrapAdd(wrapAdd(flash.hue, spread), wrapMul(flash.hueSlope, wrapAdd(x, y)));
-    return static_cast<std::uint32_t>(SAMPLE_get(flash.hues, positiveModulo(hue, flash.hues->length)));
+    return paletteColour(flash.hues, hue);
 }
 
 /// Every spark takes its numbers in the same order, whatever becomes of it.
@@ -86,7 +79,7 @@ std::int32_t brightnessOf(const FLASHPIX_SPARK& spark) {
 
 void drawSpark(const FLASHPIX& flash, const FLASHPIX_SPARK& spark, IMG* target) {
     const std::int32_t shine = (std::clamp(flash.brightness, 0, full) * brightnessOf(spark)) >> 8;
-    const std::uint32_t colour = RGB888_mix(0, spark.colour, static_cast<std::uint32_t>(shine));
+    const std::uint32_t colour = RGB888_dim(spark.colour, shine);
     const std::int32_t x = wrapAdd(flash.x, spark.x);
     const std::int32_t y = wrapAdd(flash.y, spark.y);
     IMGFX_addPixel(target, x, y, colour);
@@ -96,9 +89,9 @@ void drawSpark(const FLASHPIX& flash, const FLASHPIX_SPARK& spark, IMG* target) 
     // The cross shrinks faster than the spark fades, and its middle turns white.
     constexpr std::int32_t longestArm = 3;
     const std::int32_t arm = (longestArm * shine) >> 8;
-    IMGFX_addPixel(target, x, y, RGB888_mix(0, white, static_cast<std::uint32_t>(shine / 2)));
+    IMGFX_addPixel(target, x, y, RGB888_dim(white, shine / 2));
     for (std::int32_t i = 1; i <= arm; ++i) {
-        const std::uint32_t ray = RGB888_mix(0, colour, static_cast<std::uint32_t>(full / (2 * i)));
+        const std::uint32_t ray = RGB888_dim(colour, full / (2 * i));
         IMGFX_addPixel(target, wrapAdd(x, i), y, ray);
         IMGFX_addPixel(target, wrapSub(x, i), y, ray);
         IMGFX_addPixel(target, x, wrapAdd(y, i), ray);
@@ -114,38 +107,25 @@ std::int32_t litPixels(const IMG& img) {
 } // namespace
 
 FLASHPIX* FLASHPIX_new() {
-    FLASHPIX* flash = allocateRecord<FLASHPIX>();
-    if (flash == nullptr || (flash->random = RANDOM_new()) == nullptr ||
-        (flash->sparks = allocateArray<FLASHPIX_SPARK>(newCount)) == nullptr) {
-        FLASHPIX_error();
-        if (flash != nullptr) {
-            FLASHPIX_delete(&flash);
-        }
+    FLASHPIX* flash = newRecord<FLASHPIX>(FLASHPIX_error);
+    if (flash == nullptr) {
         return nullptr;
     }
-    flash->width = flash->height = newField;
-    flash->hueSpeed = newHueSpeed;
-    flash->hueSlope = newHueSlope;
-    flash->hueSpread = newHueSpread;
-    flash->shortest = newShortest;
-    flash->longest = newLongest;
-    flash->inShape = flash->lit = flash->brightness = full;
-    flash->glintShare = newGlintShare;
-    flash->count = newCount;
+    flash->random = RANDOM_new();
+    flash->sparks = flash->random == nullptr ? nullptr : allocateArray<FLASHPIX_SPARK>(flash->count);
+    if (flash->sparks == nullptr) {
+        FLASHPIX_error();
+        FLASHPIX_delete(&flash);
+        return nullptr;
+    }
     FLASHPIX_randomize(flash);
     return flash;
 }
 
 void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count) {
-    FLASHPIX_SPARK* const sparks = flash == nullptr ? nullptr : allocateArray<FLASHPIX_SPARK>(count);
-    if (sparks == nullptr) {
-        FLASHPIX_error();
-        return;
+    if (replaceArray(flash, FLASHPIX_error, &FLASHPIX::sparks, &FLASHPIX::count, count)) {
+        FLASHPIX_randomize(flash);
     }
-    delete[] flash->sparks;
-    flash->sparks = sparks;
-    flash->count = count;
-    FLASHPIX_randomize(flash);
 }
 
 void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
@@ -217,17 +197,8 @@ void FLASHPIX_draw(const FLASHPIX* flash, IMG* target) {
 }
 
 void FLASHPIX_delete(FLASHPIX** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        FLASHPIX_error();
-        return;
-    }
-    if ((*handle)->random != nullptr) {
-        RANDOM_delete(&(*handle)->random);
-    }
-    delete[](*handle)->sparks;
-    delete[](*handle)->places;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, FLASHPIX_error, deletedBy(RANDOM_delete, &FLASHPIX::random), &FLASHPIX::sparks,
+                 &FLASHPIX::places);
 }
 
 void FLASHPIX_error() {

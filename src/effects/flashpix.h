@@ -10,14 +10,15 @@
 //     FLASHPIX_advance(dust), FLASHPIX_draw(dust, screen); // each frame
 #pragma once
 
-#include "audio/sample.h"
 #include "foundation/identity.h"
-#include "foundation/random.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
+struct RANDOM;
+struct SAMPLE;
 
 struct FLASHPIX_SPARK {
     std::int32_t x, y;    ///< pixels from the field's corner
@@ -28,33 +29,33 @@ struct FLASHPIX_SPARK {
 };
 
 struct FLASHPIX {
-    std::int32_t x, y;          ///< the top left corner of field and shape, target pixels; 0, 0
-    std::int32_t width, height; ///< the field of the sparks outside the shape, pixels; 256, 256
-    std::int32_t hue;           ///< index into `hues` where sparks at the corner begin; 0
-    std::int32_t hueSpeed;      ///< added to `hue` a frame; 4
-    std::int32_t hueSlope;      ///< hues farther on per pixel to the right and down; 2
-    std::int32_t hueSpread;     ///< up to that many hues farther on, by chance; 96
-    std::int32_t shortest;      ///< the least life of a spark, frames, above 0; 12
-    std::int32_t longest;       ///< the most, frames up to 2^20; 40
-    std::int32_t inShape;       ///< 0..256: the share of new sparks that keep to the shape; 256
-    std::int32_t lit;           ///< 0..256: the share of sparks that begin again when they have faded; 256
-    std::int32_t brightness;    ///< of all colours, 0..256; 256
-    std::int32_t glintShare;    ///< 0..256: the share of sparks that glint; 16
-    const SAMPLE* hues;         ///< borrowed; colours 0x00RRGGBB; nullptr: all sparks are white
-    std::int32_t count;         ///< sparks; 1024
-    FLASHPIX_SPARK* sparks;     ///< owned
-    std::int32_t placeCount;    ///< pixels of the shape; 0: none, every spark is anywhere in the field
-    std::int32_t* places;       ///< owned; x and y of each, pixels from the field's corner
-    RANDOM* random;             ///< owned; where, when and how sparks begin
+    std::int32_t x = 0, y = 0;              ///< the top left corner of field and shape, target pixels
+    std::int32_t width = 256, height = 256; ///< the field of the sparks outside the shape, pixels
+    std::int32_t hue = 0;                   ///< index into `hues` where sparks at the corner begin
+    std::int32_t hueSpeed = 4;              ///< added to `hue` a frame
+    std::int32_t hueSlope = 2;              ///< hues farther on per pixel to the right and down
+    std::int32_t hueSpread = 96;            ///< up to that many hues farther on, by chance
+    std::int32_t shortest = 12;             ///< the shortest life of a spark, frames, above 0
+    std::int32_t longest = 40;              ///< the longest, frames up to 2^20
+    std::int32_t inShape = 256;             ///< 0..256: the share of new sparks that keep to the shape
+    std::int32_t lit = 256;                 ///< 0..256: the share of faded sparks that begin again at once
+    std::int32_t brightness = 256;          ///< of all colours, 0..256
+    std::int32_t glintShare = 16;           ///< 0..256: the share of sparks that glint
+    const SAMPLE* hues = nullptr;           ///< borrowed; colours 0x00RRGGBB, a ring; nullptr is white
+    std::int32_t count = 1024;              ///< sparks
+    FLASHPIX_SPARK* sparks;                 ///< owned
+    std::int32_t placeCount = 0;    ///< pixels of the shape; 0: none, every spark is anywhere in the field
+    std::int32_t* places = nullptr; ///< owned; x and y of each, pixels from the field's corner
+    RANDOM* random;                 ///< owned; decides where, when and how sparks begin
 };
 
 extern const IDENTITY FLASHPIX_identity;
 extern std::uint8_t FLASHPIX_verbose;
 
-/// Sparks with the defaults above, at all their ages (one draw of chance()), or nullptr (reported).
+/// Sparks of all ages (one draw of chance()), or nullptr (reported).
 FLASHPIX* FLASHPIX_new();
 
-/// Makes it `count` (>= 0) sparks and randomizes. On failure it reports and leaves the record as it was.
+/// Replaces the sparks by `count` (>= 0) random ones. On failure it reports and the old ones stay.
 void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count);
 
 /// Takes the pixels of a picture that are not 0 as the shape, its corner at the field's; sparks that shine
@@ -64,7 +65,7 @@ void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape);
 /// Seeds the sparks' own generator with one draw of chance() and begins all sparks anew, at random ages.
 void FLASHPIX_randomize(FLASHPIX* flash);
 
-/// One frame: sparks grow older; those that have faded begin again elsewhere, or wait their life long.
+/// One frame: sparks age; those that have faded begin again elsewhere, or wait as long as they would live.
 void FLASHPIX_advance(FLASHPIX* flash);
 
 /// Adds the sparks to the target, clipped.

@@ -3,11 +3,13 @@
 #include "effects/lfont.h"
 
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/list.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "vector/digits.h"
 #include "vector/obj2d.h"
+#include "vector/vec2d.h"
 
 namespace velm {
 
@@ -16,7 +18,6 @@ std::uint8_t LFONT_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newSpacing = 16;
 constexpr char lineFeed = '\n';
 
 /// Each channel 128..255.
@@ -74,12 +75,22 @@ void colourGlyphs(LFONT* pen, Colour colour) {
     }
 }
 
+/// LFONT_deleteLeavesList: one expects the list to go with its glyphs, or to stay whole; it stays allocated
+/// with slots that point nowhere. Its owner may still delete it.
+void deleteGlyphs(LFONT& pen) {
+    const std::int32_t count = pen.glyphs == nullptr ? 0 : pen.glyphs->count;
+    for (std::int32_t i = 0; i < count; ++i) {
+        if (auto* glyph = static_cast<OBJ2D*>(LIST_get(pen.glyphs, i)); glyph != nullptr) {
+            OBJ2D_delete(&glyph);
+        }
+    }
+}
+
 } // namespace
 
 LFONT* LFONT_new() {
-    LFONT* pen = allocateRecord<LFONT>();
+    LFONT* pen = newRecord<LFONT>(LFONT_error);
     if (pen == nullptr) {
-        LFONT_error();
         return nullptr;
     }
     pen->position = VEC2D_new();
@@ -90,7 +101,7 @@ LFONT* LFONT_new() {
         LFONT_delete(&pen);
         return nullptr;
     }
-    pen->spacing->x = pen->spacing->y = newSpacing;
+    pen->spacing->x = pen->spacing->y = 16;
     pen->scale->x = pen->scale->y = 1;
     return pen;
 }
@@ -190,24 +201,9 @@ void LFONT_checkArgs(const void* a, const void* b) {
 }
 
 void LFONT_delete(LFONT** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LFONT_error();
-        return;
-    }
-    LFONT* pen = *handle;
-    delete pen->position;
-    delete pen->spacing;
-    delete pen->scale;
-    // LFONT_deleteLeavesList: one expects the list to go with its glyphs, or to stay whole; it stays
-    // allocated with slots that point nowhere. Its owner may still delete it.
-    const std::int32_t count = pen->glyphs == nullptr ? 0 : pen->glyphs->count;
-    for (std::int32_t i = 0; i < count; ++i) {
-        if (auto* glyph = static_cast<OBJ2D*>(LIST_get(pen->glyphs, i)); glyph != nullptr) {
-            OBJ2D_delete(&glyph);
-        }
-    }
-    delete pen;
-    *handle = nullptr;
+    deleteRecord(handle, LFONT_error, deletedBy(VEC2D_delete, &LFONT::position),
+                 deletedBy(VEC2D_delete, &LFONT::spacing), deletedBy(VEC2D_delete, &LFONT::scale),
+                 deleteGlyphs);
 }
 
 void LFONT_error() {

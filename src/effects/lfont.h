@@ -10,29 +10,30 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "foundation/list.h"
-#include "image/img.h"
-#include "vector/vec2d.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct LIST;
+struct VEC2D;
+
 struct LFONT {
-    VEC2D* position;        ///< owned; where a glyph's origin goes, target pixels; (0, 0)
-    VEC2D* spacing;         ///< owned; advance per character and line height before scaling, pixels; (16, 16)
-    std::int32_t character; ///< code to draw next, the index into `glyphs`; 0
-    VEC2D* scale;           ///< owned; whole factors for the glyph and the advance, may be negative; (1, 1)
-    std::int32_t angle;     ///< of each glyph, 1/1024 turns; 0
-    LIST* glyphs;           ///< OBJ2D, element n for code n, or nullptr; set by the user; see LFONT_delete
-    IMG* target;            ///< borrowed; the image drawn into, set by the user; nullptr
+    VEC2D* position; ///< owned; where a glyph's origin goes, target pixels; (0, 0) in a new pen
+    VEC2D* spacing;  ///< owned; advance and line height before scaling, pixels; (16, 16) in a new pen
+    std::int32_t character = 0; ///< code to draw next, the index into `glyphs`
+    VEC2D* scale;           ///< owned; whole factors of glyph and advance, of any sign; (1, 1) in a new pen
+    std::int32_t angle = 0; ///< of each glyph, 1/1024 turns
+    LIST* glyphs = nullptr; ///< OBJ2D, element n for code n, or nullptr; set by the user; see LFONT_delete
+    IMG* target = nullptr;  ///< borrowed; the image drawn into, set by the user
 };
 
 extern const IDENTITY LFONT_identity;
 extern std::uint8_t LFONT_verbose;
 
-/// A pen with the defaults above, or nullptr (reported). It needs glyphs to draw: a pen without them is
-/// reported and stays where it is, and so is a code without a glyph.
+/// A pen without glyphs, or nullptr (reported). To draw it needs them: a pen without glyphs, and a code
+/// without one, is reported and the pen stays where it is.
 LFONT* LFONT_new();
 
 /// Makes the pen write upright from (x, y) on, magnified `scale` times.
@@ -49,8 +50,8 @@ void LFONT_randomColours(LFONT* pen);
 /// OBJ2D reports and only the pen moves.
 void LFONT_drawChar(LFONT* pen);
 
-/// The same, after giving this glyph a random light colour, which it keeps. Draws from chance() once, and only
-/// when there is a glyph.
+/// The same, after giving this glyph a random light colour, which it keeps. Draws from chance() once, and
+/// only when there is a glyph.
 void LFONT_drawCharRandomColour(LFONT* pen);
 
 /// Draws a text (bytes 0..255) up to its first line feed or its end.
@@ -76,7 +77,7 @@ void LFONT_drawDecimal(LFONT* pen, std::uint32_t value);
 void LFONT_checkArgs(const void* a, const void* b);
 
 /// Deletes the pen and its glyphs and stores nullptr in the handle. The list of the glyphs stays allocated
-/// and must not be used any more, except to delete it.
+/// and must no longer be used, except to delete it.
 void LFONT_delete(LFONT** handle);
 
 /// Prints "LFONT Error." while LFONT_verbose is set.

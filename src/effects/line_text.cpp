@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/line_text.h"
 
+#include "foundation/fixed.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
 
@@ -12,10 +13,8 @@ namespace velm {
 
 void setText(LineText& ring, const char* text) {
     constexpr std::size_t longest = 1U << 24;
-    ring.text = text;
+    ring = {.text = text};
     ring.length = text == nullptr ? 0 : static_cast<std::int32_t>(std::min(std::strlen(text), longest));
-    ring.index = 0;
-    ring.offset = 0;
 }
 
 void moveText(LineText& ring, std::int32_t speed, std::int32_t pitch) {
@@ -39,19 +38,21 @@ std::uint8_t characterOf(const LineText& ring, std::int32_t n) {
     return static_cast<std::uint8_t>(ring.text[placeOf(ring, n)]);
 }
 
+std::int32_t pitchOf(std::int32_t cell, std::int32_t scale) {
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(std::int64_t{cell} * scale, fixedOne, 0x7FFFFFFF));
+}
+
+std::int32_t scaleToFit(std::int32_t pixels, std::int32_t length, std::int32_t cell) {
+    return static_cast<std::int32_t>(
+        std::min<std::int64_t>(toFixed(pixels) / (std::int64_t{length} * cell), 0x7FFFFFFF));
+}
+
 const OBJ2D* glyphOf(const LIST* glyphs, std::uint8_t character) {
     if (glyphs == nullptr || character >= glyphs->count) {
         return nullptr;
     }
     return static_cast<const OBJ2D*>(LIST_get(glyphs, character));
-}
-
-std::uint32_t paletteColour(const SAMPLE* palette, std::int32_t index) {
-    constexpr std::uint32_t white = 0xFFFFFF;
-    if (palette == nullptr || palette->data == nullptr || palette->length <= 0) {
-        return white;
-    }
-    return static_cast<std::uint32_t>(palette->data[positiveModulo(index, palette->length)]);
 }
 
 void addStroke(IMG* target, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,

@@ -1,28 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What the effects that write with line fonts share: a text that runs round and round, the strokes of its
-// characters, and the way a stroke reaches the picture.
+// What the effects that write with line fonts share: a text that begins again after its end, the strokes of
+// its characters, and the way a stroke reaches the picture.
 //
 //     moveText(ring, speed, pitch);
 //     forEachStroke(glyphOf(font, characterOf(ring, 0)), [&](const VEC2D& a, const VEC2D& b) { ... });
 #pragma once
 
-#include "audio/sample.h"
 #include "foundation/list.h"
-#include "image/img.h"
 #include "vector/obj2d.h"
+#include "vector/seg2d.h"
+#include "vector/vec2d.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+
 /// A text without an end: after its last character comes the first again.
 struct LineText {
-    const char* text;    ///< borrowed; nullptr shows nothing
-    std::int32_t length; ///< characters; 0 shows nothing
-    std::int32_t index;  ///< 0..length-1, the first character shown
-    std::int32_t offset; ///< 16.16 pixels into that character, 0 up to its pitch
+    const char* text = nullptr; ///< borrowed; nullptr shows nothing
+    std::int32_t length = 0;    ///< characters; 0 shows nothing
+    std::int32_t index = 0;     ///< 0..length-1, the first character shown
+    std::int32_t offset = 0;    ///< 16.16 pixels into that character, 0 up to its pitch
 };
 
 /// Binds a text, which must stay, and goes to its beginning.
@@ -37,13 +39,16 @@ std::int32_t placeOf(const LineText& ring, std::int32_t n);
 /// The character `n` (>= 0) places after the first one shown; 0 without a text.
 std::uint8_t characterOf(const LineText& ring, std::int32_t n);
 
+/// 16.16 pixels from character to character, 1.0 at least: glyphs of `cell` font units at a 16.16 scale.
+std::int32_t pitchOf(std::int32_t cell, std::int32_t scale);
+
+/// The 16.16 scale at which a text of `length` > 0 characters, `cell` > 0 font units each, is `pixels` long.
+std::int32_t scaleToFit(std::int32_t pixels, std::int32_t length, std::int32_t cell);
+
 /// The drawing of a character, or nullptr where the font has none.
 const OBJ2D* glyphOf(const LIST* glyphs, std::uint8_t character);
 
-/// Colour `index` of a palette that goes round, index and all; white without a palette.
-std::uint32_t paletteColour(const SAMPLE* palette, std::int32_t index);
-
-/// A stroke of light from (x1, y1) to (x2, y2); black costs nothing.
+/// Adds a stroke of light from (x1, y1) to (x2, y2); black costs nothing.
 void addStroke(IMG* target, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                std::uint32_t colour);
 

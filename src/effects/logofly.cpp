@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "effects/logofly.h"
 
+#include "effects/lfont.h"
 #include "foundation/chance.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "vector/vec2d.h"
 
 namespace velm {
 
@@ -15,15 +18,8 @@ std::uint8_t LOGOFLY_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newSize = 256;
-constexpr std::uint32_t white = 0xFFFFFF;
-constexpr char defaultText[] = "VELM";
 constexpr std::int32_t mostLetters = 40;
 constexpr std::int32_t bounceMask = SINE_tableMask >> 1; ///< the upper half of the sine
-
-std::int32_t randomBelow(std::int32_t limit) {
-    return chance() % limit;
-}
 
 /// What a copy and a clone have in common.
 void copyMotion(const LOGOFLY& src, LOGOFLY& dst) {
@@ -48,12 +44,7 @@ bool canDraw(const LOGOFLY* logo) {
 
 LOGOFLY* LOGOFLY_new() {
     LOGOFLY* logo = allocateRecord<LOGOFLY>();
-    if (logo == nullptr) {
-        LOGOFLY_error();
-        return nullptr;
-    }
-    logo->width = logo->height = logo->depth = newSize;
-    LOGOFLY_randomize(logo);
+    LOGOFLY_randomize(logo); // reports when memory ran out
     return logo;
 }
 
@@ -62,12 +53,13 @@ void LOGOFLY_randomize(LOGOFLY* logo) {
         LOGOFLY_error();
         return;
     }
-    logo->phase = 0;
-    logo->speed = randomBelow(24) + 8;
-    logo->letterStep = randomBelow(8) + 1;
-    logo->amplitude = randomBelow(100) + 16;
-    logo->colour = white;
-    logo->text = defaultText;
+    constexpr LOGOFLY defaults{};
+    logo->phase = defaults.phase;
+    logo->colour = defaults.colour;
+    logo->text = defaults.text;
+    logo->speed = chance() % 24 + 8;
+    logo->letterStep = chance() % 8 + 1;
+    logo->amplitude = chance() % 100 + 16;
 }
 
 void LOGOFLY_advance(LOGOFLY* logo) {
@@ -146,12 +138,7 @@ LOGOFLY* LOGOFLY_clone(const LOGOFLY* src) {
 }
 
 void LOGOFLY_delete(LOGOFLY** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LOGOFLY_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, LOGOFLY_error);
 }
 
 void LOGOFLY_error() {

@@ -9,29 +9,30 @@
 //     LOGOFLY_draw(logo), LOGOFLY_advance(logo); // each frame
 #pragma once
 
-#include "effects/lfont.h"
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct LFONT;
+
 struct LOGOFLY {
-    std::int32_t x;                    ///< left edge of the word, pixels; 0
-    std::int32_t y;                    ///< base line of the letters, pixels; 0
-    std::int32_t z;                    ///< 0; not used by the drawing
-    std::int32_t width, height, depth; ///< 256 each; not used by the drawing
-    std::int32_t phase;                ///< of the first letter, 0..511 in 1/1024 turns; 0
-    std::int32_t speed;                ///< added to `phase` a frame; random 8..31
-    std::int32_t letterStep;           ///< phase from letter to letter; random 1..8
-    std::int32_t amplitude;            ///< height of the hop, pixels; random 16..115
-    const char* text;                  ///< borrowed; "VELM"
-    std::uint32_t colour;              ///< 0x00RRGGBB of all the pen's glyphs; white
-    LFONT* pen;                        ///< borrowed; draws the letters into its own target; set by the user
-    std::int32_t spare;                ///< 0; copied, not used
-    std::int32_t reserved;             ///< 0
-    IMG* target;                       ///< borrowed; must be set, the pen's own target takes the pixels
+    std::int32_t x = 0;                                  ///< left edge of the word, pixels
+    std::int32_t y = 0;                                  ///< base line of the letters, pixels
+    std::int32_t z = 0;                                  ///< not used by the drawing
+    std::int32_t width = 256, height = 256, depth = 256; ///< not used by the drawing
+    std::int32_t phase = 0;                              ///< of the first letter, 0..511 in 1/1024 turns
+    std::int32_t speed;                                  ///< added to `phase` a frame; random, 8..31
+    std::int32_t letterStep;                             ///< phase from letter to letter; random, 1..8
+    std::int32_t amplitude;                              ///< height of the hop, pixels; random, 16..115
+    const char* text = "VELM";                           ///< borrowed
+    std::uint32_t colour = 0xFFFFFF;                     ///< 0x00RRGGBB of all the pen's glyphs
+    LFONT* pen = nullptr;   ///< borrowed; draws the letters into its own target; set by the user
+    std::int32_t spare = 0; ///< copied, not used
+    std::int32_t reserved = 0;
+    IMG* target = nullptr; ///< borrowed; must be set, the pen's own target takes the pixels
 };
 
 extern const IDENTITY LOGOFLY_identity;
@@ -40,8 +41,8 @@ extern std::uint8_t LOGOFLY_verbose;
 /// A logo at (0, 0) with random motion (three draws of chance()), or nullptr (reported).
 LOGOFLY* LOGOFLY_new();
 
-/// Back to phase 0, white and "VELM", with new motion: three draws of chance() for speed, letterStep and
-/// amplitude.
+/// Back to the defaults of phase, colour and text, with new motion: three draws of chance() for speed,
+/// letterStep and amplitude.
 void LOGOFLY_randomize(LOGOFLY* logo);
 
 /// Moves the wave by its speed within the upper half of the sine.
@@ -60,8 +61,8 @@ std::int32_t LOGOFLY_equals(const LOGOFLY* a, const LOGOFLY* b);
 /// Copies the motion, spare, pen, target, colour and place; the text stays.
 void LOGOFLY_copy(const LOGOFLY* src, LOGOFLY* dst);
 
-/// A new logo (three draws of chance()) with the motion, spare, pen, target and colour of `src`, at (0, 0)
-/// and with the text "VELM"; nullptr (reported) on failure.
+/// A new logo (three draws of chance()) with the motion, spare, pen, target and colour of `src`, but with the
+/// place and the text of a new one; nullptr (reported) on failure.
 LOGOFLY* LOGOFLY_clone(const LOGOFLY* src);
 
 /// Frees the record and stores nullptr in the handle; text, pen and target are untouched.

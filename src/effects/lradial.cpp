@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lradial.h"
 
+#include "effects/palette.h"
 #include "foundation/chance.h"
-#include "foundation/memory.h"
 #include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 
 #include <algorithm>
@@ -18,51 +20,34 @@ std::uint8_t LRADIAL_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newMiddle = 128;
-constexpr std::int32_t newInner = 32;
-constexpr std::int32_t newReach = 64;
-constexpr std::int32_t newHueSpeed = 8;
-constexpr std::int32_t newCount = 96;
 constexpr std::int32_t mostWaves = 7; // periods of the wave around the circle
-constexpr std::uint32_t white = 0xFFFFFF;
 
 std::uint32_t colourOf(const LRADIAL& rays, std::int32_t index) {
-    if (rays.colours == nullptr || rays.colours->length <= 0) {
-        return white;
-    }
-    const std::int64_t around = std::int64_t{index} * rays.colours->length / rays.count;
-    const auto at = wrapAdd(rays.hue, static_cast<std::int32_t>(around));
-    return static_cast<std::uint32_t>(SAMPLE_get(rays.colours, positiveModulo(at, rays.colours->length)));
+    const std::int64_t colours = rays.colours == nullptr ? 0 : rays.colours->length;
+    const auto around = static_cast<std::int32_t>(index * colours / rays.count);
+    return paletteColour(rays.colours, wrapAdd(rays.hue, around));
 }
 
 } // namespace
 
 LRADIAL* LRADIAL_new() {
-    LRADIAL* rays = allocateRecord<LRADIAL>();
-    if (rays == nullptr || (rays->lengths = allocateArray<std::int32_t>(newCount)) == nullptr) {
-        LRADIAL_error();
-        delete rays;
+    LRADIAL* rays = newRecord<LRADIAL>(LRADIAL_error);
+    if (rays == nullptr) {
         return nullptr;
     }
-    rays->x = rays->y = newMiddle;
-    rays->inner = newInner;
-    rays->reach = newReach;
-    rays->hueSpeed = newHueSpeed;
-    rays->count = newCount;
+    LRADIAL_setCount(rays, rays->count);
+    if (rays->lengths == nullptr) {
+        LRADIAL_delete(&rays);
+        return nullptr;
+    }
     LRADIAL_randomize(rays);
     return rays;
 }
 
 void LRADIAL_setCount(LRADIAL* rays, std::int32_t count) {
-    std::int32_t* const lengths = rays == nullptr ? nullptr : allocateArray<std::int32_t>(count);
-    if (lengths == nullptr) {
-        LRADIAL_error();
-        return;
+    if (replaceArray(rays, LRADIAL_error, &LRADIAL::lengths, &LRADIAL::count, count)) {
+        LRADIAL_setWaveLengths(rays);
     }
-    delete[] rays->lengths;
-    rays->lengths = lengths;
-    rays->count = count;
-    LRADIAL_setWaveLengths(rays);
 }
 
 void LRADIAL_randomize(LRADIAL* rays) {
@@ -137,20 +122,14 @@ void LRADIAL_draw(const LRADIAL* rays, IMG* target) {
                           wrapAdd(rays->x, SINE_cosineScaled(outer, angle)),
                           wrapAdd(rays->y, SINE_scaled(outer, angle)), half);
         };
-        // Two strokes on one another: the inner half of a ray is twice as bright as its tip.
+        // One stroke over another: the inner half of a ray is twice as bright as its tip.
         ray(rays->lengths[i]);
         ray(rays->lengths[i] / 2);
     }
 }
 
 void LRADIAL_delete(LRADIAL** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LRADIAL_error();
-        return;
-    }
-    delete[](*handle)->lengths;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, LRADIAL_error, &LRADIAL::lengths);
 }
 
 void LRADIAL_error() {

@@ -9,49 +9,49 @@
 //     LRADIAL_advance(rays), LRADIAL_draw(rays, screen); // each frame
 #pragma once
 
-#include "audio/sample.h"
 #include "foundation/identity.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct SAMPLE;
+
 struct LRADIAL {
-    std::int32_t x, y;     ///< the centre, target pixels; 128, 128
-    std::int32_t inner;    ///< pixels from the centre to where rays begin; 32
-    std::int32_t reach;    ///< pixels; the longest ray of the wave; 64
-    std::int32_t turn;     ///< 1/1024 turns of ray 0; random
-    std::int32_t spin;     ///< added to `turn` once a frame; random, 1..4 either way
-    SINE wave;             ///< of the lengths; `speed` a frame, `offsetStep` from ray to ray; random
-    std::int32_t hue;      ///< index of the colour of ray 0; 0
-    std::int32_t hueSpeed; ///< added to `hue` once a frame; 8
-    const SAMPLE* colours; ///< borrowed; 0x00RRGGBB words laid around the circle; nullptr for white
-    std::int32_t count;    ///< rays; 96
-    std::int32_t* lengths; ///< owned; pixels of each ray, 0 or more
+    std::int32_t x = 128, y = 128; ///< the centre, target pixels
+    std::int32_t inner = 32;       ///< pixels from the centre to where rays begin
+    std::int32_t reach = 64;       ///< pixels; the longest ray of the wave
+    std::int32_t turn;             ///< 1/1024 turns of ray 0; random
+    std::int32_t spin;             ///< added to `turn` once a frame; random, 1..4 either way
+    SINE wave;                     ///< of the lengths; `speed` a frame, `offsetStep` from ray to ray; random
+    std::int32_t hue = 0;          ///< index of the colour of ray 0
+    std::int32_t hueSpeed = 8;     ///< added to `hue` once a frame
+    const SAMPLE* colours = nullptr; ///< borrowed; 0x00RRGGBB, a ring around the circle; nullptr is white
+    std::int32_t count = 96;         ///< rays
+    std::int32_t* lengths;           ///< owned; pixels of each ray, 0 or more
 };
 
 extern const IDENTITY LRADIAL_identity;
 extern std::uint8_t LRADIAL_verbose;
 
-/// 96 rays on a random wave (5 draws of chance()), or nullptr (reported).
+/// Rays on a random wave (5 draws of chance()), or nullptr (reported).
 LRADIAL* LRADIAL_new();
 
-/// Makes it `count` (>= 0) rays, and sets their lengths by the wave. On failure it reports and leaves the
-/// rays as they were.
+/// Replaces the rays by `count` (>= 0) others, their lengths set by the wave. On failure it reports and the
+/// old ones stay.
 void LRADIAL_setCount(LRADIAL* rays, std::int32_t count);
 
-/// Draws turn, spin, and the wave's phase, speed and step, in this order, from chance(); the wave closes around
-/// the circle. Then sets the lengths by it.
+/// Draws turn, spin, and the wave's phase, speed and step, in this order, from chance(); the wave closes
+/// around the circle. Then sets the lengths by it.
 void LRADIAL_randomize(LRADIAL* rays);
 
-/// Makes the lengths those of the wave, 0 to `reach`.
+/// Sets the lengths by the wave, 0 to `reach`.
 void LRADIAL_setWaveLengths(LRADIAL* rays);
 
-/// Makes the lengths those of a stretch of sound from `begin` on, as many samples as there are rays `step`
-/// apart: the magnitude, shifted right by `shift` (0..31), `reach` at the most. What lies outside the sample
-/// is 0.
+/// Sets the lengths by a sound, one value a ray, from `begin` on and `step` apart: its magnitude, shifted
+/// right by `shift` (0..31), `reach` at most. What lies outside the sample is 0.
 void LRADIAL_setSoundLengths(LRADIAL* rays, const SAMPLE* sound, std::int32_t begin, std::int32_t step,
                              std::int32_t shift);
 

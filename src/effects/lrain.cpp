@@ -4,8 +4,11 @@
 
 #include "foundation/chance.h"
 #include "foundation/memory.h"
+#include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -18,18 +21,13 @@ std::uint8_t LRAIN_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newSize = 256;
-constexpr std::int32_t newHorizon = 192;
-constexpr std::int32_t newCount = 96;
-constexpr std::int32_t newWindSpeed = 3;
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
 constexpr std::int32_t nearest = 255;
-constexpr std::int32_t slowest = 3 * one; // pixels a frame of the farthest drop
-constexpr std::int32_t shortest = 4;      // pixels
+constexpr std::int32_t slowest = 3 * fixedOne; // pixels a frame of the farthest drop
+constexpr std::int32_t shortest = 4;           // pixels
 
 /// 16.16 pixels that a drop falls a frame: 3 to just under 13.
 std::int32_t speedOf(const LRAIN_DROP& drop) {
-    return slowest + drop.near * (10 * one / nearest);
+    return slowest + drop.near * (10 * fixedOne / nearest);
 }
 
 /// Pixels of the stroke: 4 to 35.
@@ -64,7 +62,7 @@ void startDrop(LRAIN& rain, LRAIN_DROP& drop, std::int32_t row) {
 
 void makeRing(LRAIN& rain, const LRAIN_DROP& drop) {
     rain.rings[rain.nextRing] = {
-        .x = drop.x >> 16, .y = groundOf(rain, drop.near), .near = drop.near, .age = 0};
+        .x = wholeOf(drop.x), .y = groundOf(rain, drop.near), .near = drop.near, .age = 0};
     rain.nextRing = (rain.nextRing + 1) % LRAIN_ringCount;
 }
 
@@ -72,9 +70,8 @@ void makeRing(LRAIN& rain, const LRAIN_DROP& drop) {
 void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
     constexpr std::int32_t corners = 12;
     const std::int32_t radius = (ring.age + 1) * (48 + ring.near) >> 8;
-    const auto left = static_cast<std::uint32_t>(LRAIN_ringFrames - ring.age);
-    const std::uint32_t colour =
-        RGB888_mix(0, colourOf(rain, ring.near), left * 128 / static_cast<std::uint32_t>(LRAIN_ringFrames));
+    const std::int32_t light = (LRAIN_ringFrames - ring.age) * (RGB888_fullWeight / 2) / LRAIN_ringFrames;
+    const std::uint32_t colour = RGB888_dim(colourOf(rain, ring.near), light);
     std::int32_t fromX = ring.x;
     std::int32_t fromY = ring.y;
     for (std::int32_t i = 0; i <= corners; ++i) {
@@ -92,36 +89,25 @@ void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
 } // namespace
 
 LRAIN* LRAIN_new() {
-    LRAIN* rain = allocateRecord<LRAIN>();
-    if (rain == nullptr || (rain->random = RANDOM_new()) == nullptr ||
-        (rain->drops = allocateArray<LRAIN_DROP>(newCount)) == nullptr) {
-        LRAIN_error();
-        if (rain != nullptr) {
-            LRAIN_delete(&rain);
-        }
+    LRAIN* rain = newRecord<LRAIN>(LRAIN_error);
+    if (rain == nullptr) {
         return nullptr;
     }
-    rain->width = rain->height = newSize;
-    rain->horizon = newHorizon;
-    rain->nearColour = 0xB0E0FF;
-    rain->farColour = 0x201040;
-    SINE_setup(&rain->wind, SINE_tableLength, 0, newWindSpeed, 0, 0);
-    rain->gust = 2 * one;
-    rain->count = newCount;
+    rain->random = RANDOM_new();
+    rain->drops = rain->random == nullptr ? nullptr : allocateArray<LRAIN_DROP>(rain->count);
+    if (rain->drops == nullptr) {
+        LRAIN_error();
+        LRAIN_delete(&rain);
+        return nullptr;
+    }
     LRAIN_randomize(rain);
     return rain;
 }
 
 void LRAIN_setCount(LRAIN* rain, std::int32_t count) {
-    LRAIN_DROP* const drops = rain == nullptr ? nullptr : allocateArray<LRAIN_DROP>(count);
-    if (drops == nullptr) {
-        LRAIN_error();
-        return;
+    if (replaceArray(rain, LRAIN_error, &LRAIN::drops, &LRAIN::count, count)) {
+        LRAIN_randomize(rain);
     }
-    delete[] rain->drops;
-    rain->drops = drops;
-    rain->count = count;
-    LRAIN_randomize(rain);
 }
 
 void LRAIN_randomize(LRAIN* rain) {
@@ -153,7 +139,7 @@ void LRAIN_advance(LRAIN* rain) {
         LRAIN_DROP& drop = rain->drops[i];
         drop.x = wrapAdd(drop.x, driftOf(*rain, drop.near));
         drop.y = wrapAdd(drop.y, speedOf(drop));
-        if (drop.y >> 16 >= groundOf(*rain, drop.near)) {
+        if (wholeOf(drop.y) >= groundOf(*rain, drop.near)) {
             makeRing(*rain, drop);
             startDrop(*rain, drop, -lengthOf(drop));
         }
@@ -173,28 +159,19 @@ void LRAIN_draw(const LRAIN* rain, IMG* target) {
     for (std::int32_t i = 0; i < rain->count; ++i) {
         const LRAIN_DROP& drop = rain->drops[i];
         const std::int32_t length = lengthOf(drop);
-        // The stroke lies along the drop's way, so it leans as far as the wind drives it.
+        // The stroke lies along the way of the drop, so it leans as far as the wind drives it.
         const auto lean = static_cast<std::int32_t>(
             std::int64_t{driftOf(*rain, drop.near)} * length / (speedOf(drop) >> 8) >> 8);
-        const std::int32_t x = drop.x >> 16;
-        const std::int32_t y = drop.y >> 16;
+        const std::int32_t x = wholeOf(drop.x);
+        const std::int32_t y = wholeOf(drop.y);
         const std::uint32_t colour = colourOf(*rain, drop.near);
-        IMGFX_addLine(target, x - lean, y - length, x, y, RGB888_mix(0, colour, 128));
-        IMGFX_addLine(target, x - lean / 3, y - length / 3, x, y, RGB888_mix(0, colour, 128));
+        IMGFX_addLine(target, x - lean, y - length, x, y, RGB888_dim(colour, RGB888_fullWeight / 2));
+        IMGFX_addLine(target, x - lean / 3, y - length / 3, x, y, RGB888_dim(colour, RGB888_fullWeight / 2));
     }
 }
 
 void LRAIN_delete(LRAIN** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LRAIN_error();
-        return;
-    }
-    if ((*handle)->random != nullptr) {
-        RANDOM_delete(&(*handle)->random);
-    }
-    delete[](*handle)->drops;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, LRAIN_error, deletedBy(RANDOM_delete, &LRAIN::random), &LRAIN::drops);
 }
 
 void LRAIN_error() {

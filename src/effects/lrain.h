@@ -10,18 +10,20 @@
 //     LRAIN_advance(rain), LRAIN_draw(rain, screen); // each frame
 #pragma once
 
+#include "foundation/fixed.h"
 #include "foundation/identity.h"
-#include "foundation/random.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct RANDOM;
+
 struct LRAIN_DROP {
     std::int32_t x, y; ///< 16.16; the lower end of the stroke
-    std::int32_t near; ///< 0 far away .. 255 right before the viewer; decides all the rest
+    std::int32_t near; ///< 0 far away .. 255 right in front of the viewer; decides all the rest
 };
 
 struct LRAIN_RING {
@@ -30,30 +32,30 @@ struct LRAIN_RING {
     std::int32_t age;  ///< frames; LRAIN_ringFrames and more: not there
 };
 
-inline constexpr std::int32_t LRAIN_ringFrames = 16; ///< a ring lives that long
+inline constexpr std::int32_t LRAIN_ringFrames = 16; ///< how long a ring lives
 inline constexpr std::int32_t LRAIN_ringCount = 48;  ///< the oldest ring makes room for a new one
 
 struct LRAIN {
-    std::int32_t width, height; ///< the field that it rains on, pixels; 256, 256
-    std::int32_t horizon;       ///< row where the farthest drops land; 192
-    std::uint32_t nearColour;   ///< 0x00RRGGBB of the nearest drops; a light blue
-    std::uint32_t farColour;    ///< 0x00RRGGBB of the farthest ones; a dark violet
-    SINE wind;                  ///< `speed` 3 a frame, in 1/1024 turns; the rain leans with it
-    std::int32_t gust;          ///< the most that the nearest drops drift, 16.16 pixels a frame; 2.0
-    std::int32_t count;         ///< drops; 96
-    LRAIN_DROP* drops;          ///< owned
+    std::int32_t width = 256, height = 256; ///< the field that it rains on, pixels
+    std::int32_t horizon = 192;             ///< row where the farthest drops land
+    std::uint32_t nearColour = 0xB0E0FF;    ///< 0x00RRGGBB of the nearest drops
+    std::uint32_t farColour = 0x201040;     ///< 0x00RRGGBB of the farthest ones
+    SINE wind{.speed = 3, .offsetStep = 0}; ///< `speed` a frame, in 1/1024 turns; the rain leans with it
+    std::int32_t gust = 2 * fixedOne;       ///< the most that the nearest drops drift, 16.16 pixels a frame
+    std::int32_t count = 96;                ///< drops
+    LRAIN_DROP* drops;                      ///< owned
     LRAIN_RING rings[LRAIN_ringCount];
-    std::int32_t nextRing; ///< the ring that is made next
-    RANDOM* random;        ///< owned; where drops begin
+    std::int32_t nextRing = 0; ///< the ring that is made next
+    RANDOM* random;            ///< owned; decides where drops begin
 };
 
 extern const IDENTITY LRAIN_identity;
 extern std::uint8_t LRAIN_verbose;
 
-/// Rain that falls already, with the defaults above (one draw of chance()), or nullptr (reported).
+/// Rain that is already falling (one draw of chance()), or nullptr (reported).
 LRAIN* LRAIN_new();
 
-/// Makes it `count` (>= 0) drops and randomizes. On failure it reports and leaves the rain as it was.
+/// Replaces the drops by `count` (>= 0) random ones. On failure it reports and the old ones stay.
 void LRAIN_setCount(LRAIN* rain, std::int32_t count);
 
 /// Seeds the rain's own generator with one draw of chance(), spreads the drops over the field and removes the

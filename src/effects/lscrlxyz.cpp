@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lscrlxyz.h"
 
+#include "effects/palette.h"
 #include "foundation/chance.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -19,22 +22,10 @@ std::uint8_t LSCRLXYZ_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
-constexpr std::int32_t newCell = 16;
-constexpr std::int32_t newMiddle = 128;
-constexpr std::int32_t newRadius = 88;
-constexpr std::int32_t newTurns = 3;
-constexpr std::int32_t newRise = 32;
-constexpr std::int32_t newWaves = 256;
-constexpr std::int32_t newWaveSpeed = 16;
-constexpr std::int32_t newDistance = 320;
-constexpr std::int32_t newHueSpeed = 5;
-constexpr std::int32_t newHueStep = 24;
-constexpr std::int32_t newDimmest = 40;
-constexpr std::int32_t full = 256;    // brightness
+constexpr std::int32_t full = RGB888_fullWeight;
 constexpr std::int32_t nearest = 24;  // pixels from the viewer; what comes closer is left out
 constexpr std::int32_t widest = 4096; // pixels of a radius
-constexpr std::int32_t largest = 256 * one;
+constexpr std::int32_t largest = 256 * fixedOne;
 
 /// A point in space, 16.16 pixels from the surface's middle.
 struct Point {
@@ -60,7 +51,8 @@ struct Surface {
     explicit Surface(const LSCRLXYZ& record)
         : scroll(record), radius(std::clamp(record.radius, 1, widest)),
           rise(std::clamp(record.rise, -widest, widest)),
-          distance(std::clamp(record.distance, 1, 2 * widest)), waves(std::clamp(record.waves, -one, one)) {
+          distance(std::clamp(record.distance, 1, 2 * widest)),
+          waves(std::clamp(record.waves, -fixedOne, fixedOne)) {
         constexpr std::int32_t mostTurns = 64;
         const bool isStraight = record.shape == LSCRLXYZ_SHAPE::ribbon;
         const bool isScrew = record.shape == LSCRLXYZ_SHAPE::screw;
@@ -78,12 +70,11 @@ struct Surface {
             const auto along = static_cast<std::int32_t>((u * waves) >> 22); // waves per 64 pixels
             return {u, v, std::int64_t{2} * rise * SINE_entry(wrapAdd(along, scroll.wave))};
         }
-        const auto angle =
-            static_cast<std::int32_t>(u * SINE_tableLength * turns / (std::int64_t{length} << 16));
+        const auto angle = static_cast<std::int32_t>(u * SINE_tableLength * turns / toFixed(length));
         const std::int64_t s = SINE_entry(angle);
         const std::int64_t c = cosine(angle);
         if (scroll.shape == LSCRLXYZ_SHAPE::disc) {
-            const std::int64_t rim = std::int64_t{radius} * one - v;
+            const std::int64_t rim = toFixed(radius) - v;
             return {(rim * s) >> 15, -((rim * c) >> 15), 0};
         }
         const std::int64_t height =
@@ -103,8 +94,8 @@ struct Surface {
     /// Where the viewer sees a point; false when it is too close. Nothing nearer than `nearest` keeps the
     /// products below 2^63.
     [[nodiscard]] bool project(const Point& point, VEC2D& seen) const {
-        const std::int64_t away = (std::int64_t{distance} << 16) + point.z;
-        if (away < std::int64_t{nearest} << 16) {
+        const std::int64_t away = toFixed(distance) + point.z;
+        if (away < toFixed(nearest)) {
             return false;
         }
         seen.x = wrapAdd(scroll.x, static_cast<std::int32_t>(point.x * distance / away));
@@ -112,12 +103,12 @@ struct Surface {
         return true;
     }
 
-    /// 0..256: full right before the surface, the dimmest behind it.
-    [[nodiscard]] std::uint32_t lightAt(std::int64_t z) const {
-        const std::int64_t depth = std::clamp<std::int64_t>((z >> 16) + reach, 0, 2 * std::int64_t{reach});
+    /// 0..256: full at the front of the surface, the dimmest at its back.
+    [[nodiscard]] std::int32_t lightAt(std::int64_t z) const {
+        const std::int64_t depth = std::clamp<std::int64_t>(wholeOf(z) + reach, 0, 2 * std::int64_t{reach});
         const std::int64_t dimmest = std::clamp(scroll.dimmest, 0, full);
         const std::int64_t light = full - (full - dimmest) * depth / (2 * std::int64_t{reach});
-        return static_cast<std::uint32_t>(light * std::clamp(scroll.light, 0, full) / full);
+        return static_cast<std::int32_t>(light * std::clamp(scroll.light, 0, full) / full);
     }
 
     const LSCRLXYZ& scroll;
@@ -127,16 +118,10 @@ struct Surface {
     std::int32_t reach{};  ///< pixels from the middle that no point is far beyond
 };
 
-/// 16.16 pixels from character to character, one pixel at least.
-std::int32_t pitchOf(const LSCRLXYZ& scroll) {
-    return static_cast<std::int32_t>(
-        std::clamp<std::int64_t>(std::int64_t{scroll.cell} * scroll.scale, one, 0x7FFFFFFF));
-}
-
 /// Draws a glyph whose middle is at (u, 0). Both ends of a stroke decide its brightness.
 void drawGlyph(const Surface& surface, const OBJ2D* glyph, std::int64_t u, std::uint32_t hue, IMG* target) {
     const LSCRLXYZ& scroll = surface.scroll;
-    const std::int64_t across = std::int64_t{std::clamp(scroll.across, -widest, widest)} * one;
+    const std::int64_t across = toFixed(std::clamp(scroll.across, -widest, widest));
     const std::int64_t middle = std::clamp(scroll.middle, -widest, widest);
     const std::int64_t scale = std::clamp(scroll.scale, -largest, largest);
     const auto turned = [&](const VEC2D& point) {
@@ -148,7 +133,7 @@ void drawGlyph(const Surface& surface, const OBJ2D* glyph, std::int64_t u, std::
         VEC2D seenFrom{};
         VEC2D seenTo{};
         if (surface.project(from, seenFrom) && surface.project(to, seenTo)) {
-            const std::uint32_t colour = RGB888_mix(0, hue, surface.lightAt((from.z + to.z) / 2));
+            const std::uint32_t colour = RGB888_dim(hue, surface.lightAt((from.z + to.z) / 2));
             addStroke(target, seenFrom.x, seenFrom.y, seenTo.x, seenTo.y, colour);
         }
     });
@@ -158,27 +143,7 @@ void drawGlyph(const Surface& surface, const OBJ2D* glyph, std::int64_t u, std::
 
 LSCRLXYZ* LSCRLXYZ_new() {
     LSCRLXYZ* scroll = allocateRecord<LSCRLXYZ>();
-    if (scroll == nullptr) {
-        LSCRLXYZ_error();
-        return nullptr;
-    }
-    scroll->cell = newCell;
-    scroll->middle = newCell / 2;
-    scroll->scale = scroll->speed = one;
-    scroll->shape = LSCRLXYZ_SHAPE::cylinder;
-    scroll->radius = newRadius;
-    scroll->turns = newTurns;
-    scroll->rise = newRise;
-    scroll->waves = newWaves;
-    scroll->waveSpeed = newWaveSpeed;
-    scroll->spin = {3, 5, 2};
-    scroll->x = scroll->y = newMiddle;
-    scroll->distance = newDistance;
-    scroll->hueSpeed = newHueSpeed;
-    scroll->hueStep = newHueStep;
-    scroll->dimmest = newDimmest;
-    scroll->light = full;
-    LSCRLXYZ_randomize(scroll);
+    LSCRLXYZ_randomize(scroll); // reports when memory ran out
     return scroll;
 }
 
@@ -203,9 +168,7 @@ void LSCRLXYZ_fit(LSCRLXYZ* scroll) {
         LSCRLXYZ_error();
         return;
     }
-    const std::int64_t units = std::int64_t{scroll->text.length} * scroll->cell;
-    scroll->scale = static_cast<std::int32_t>(
-        std::min<std::int64_t>((std::int64_t{LSCRLXYZ_length(scroll)} << 16) / units, 0x7FFFFFFF));
+    scroll->scale = scaleToFit(LSCRLXYZ_length(scroll), scroll->text.length, scroll->cell);
 }
 
 void LSCRLXYZ_randomize(LSCRLXYZ* scroll) {
@@ -224,7 +187,7 @@ void LSCRLXYZ_advance(LSCRLXYZ* scroll) {
         LSCRLXYZ_error();
         return;
     }
-    moveText(scroll->text, scroll->speed, pitchOf(*scroll));
+    moveText(scroll->text, scroll->speed, pitchOf(scroll->cell, scroll->scale));
     scroll->angle.x = wrapAdd(scroll->angle.x, scroll->spin.x) & SINE_tableMask;
     scroll->angle.y = wrapAdd(scroll->angle.y, scroll->spin.y) & SINE_tableMask;
     scroll->angle.z = wrapAdd(scroll->angle.z, scroll->spin.z) & SINE_tableMask;
@@ -238,8 +201,8 @@ void LSCRLXYZ_draw(const LSCRLXYZ* scroll, IMG* target) {
         return;
     }
     const Surface surface(*scroll);
-    const std::int64_t pitch = pitchOf(*scroll);
-    const std::int64_t length = std::int64_t{surface.length} << 16;
+    const std::int64_t pitch = pitchOf(scroll->cell, scroll->scale);
+    const std::int64_t length = toFixed(surface.length);
     std::int64_t along = pitch / 2 - scroll->text.offset;
     for (std::int32_t n = 0; along < length; ++n, along += pitch) {
         const OBJ2D* const glyph = glyphOf(scroll->glyphs, characterOf(scroll->text, n));
@@ -252,12 +215,7 @@ void LSCRLXYZ_draw(const LSCRLXYZ* scroll, IMG* target) {
 }
 
 void LSCRLXYZ_delete(LSCRLXYZ** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LSCRLXYZ_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, LSCRLXYZ_error);
 }
 
 void LSCRLXYZ_error() {

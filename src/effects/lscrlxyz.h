@@ -7,17 +7,21 @@
 //
 //     LSCRLXYZ* scroll = LSCRLXYZ_new();
 //     scroll->glyphs = demo.fontMedium, LSCRLXYZ_setText(scroll, "GOING ROUND IN CIRCLES ");
-//     scroll->shape = LSCRLXYZ_SHAPE::cylinder, scroll->radius = 90, LSCRLXYZ_fit(scroll);
+//     scroll->shape = LSCRLXYZ_SHAPE::disc, scroll->radius = 90, LSCRLXYZ_fit(scroll);
 //     LSCRLXYZ_advance(scroll), LSCRLXYZ_draw(scroll, screen); // each frame
 #pragma once
 
-#include "audio/sample.h"
 #include "effects/line_text.h"
+#include "foundation/fixed.h"
 #include "foundation/identity.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
+struct LIST;
+struct SAMPLE;
 
 /// What the text lies on. Its middle faces the viewer while all angles are 0.
 enum class LSCRLXYZ_SHAPE : std::uint8_t {
@@ -34,35 +38,35 @@ struct LSCRLXYZ_AXES {
 
 struct LSCRLXYZ {
     LineText text;
-    const LIST* glyphs;     ///< borrowed; a line font; nullptr
-    const SAMPLE* palette;  ///< borrowed; colours; nullptr is white
-    std::int32_t cell;      ///< width of a glyph, font units; 16
-    std::int32_t middle;    ///< where a glyph's middle is, font units within +-4096, both ways; 8
-    std::int32_t scale;     ///< 16.16, pixels per font unit at the middle's distance, to 256.0; 1.0
-    std::int32_t speed;     ///< 16.16 pixels a frame along the surface; 1.0
-    LSCRLXYZ_SHAPE shape;   ///< cylinder
-    std::int32_t radius;    ///< pixels, 1..4096; 88
-    std::int32_t turns;     ///< of the screw, 1..64; 3
-    std::int32_t across;    ///< pixels that the line lies beside the surface's middle; 0
-    std::int32_t rise;      ///< pixels from turn to turn, or of the ribbon's wave; 32
-    std::int32_t waves;     ///< 1/1024 turns of the ribbon's wave per 64 pixels, within +-65536; 256
-    LSCRLXYZ_AXES angle;    ///< 1/1024 turns, about x first, then y, then z; random
-    LSCRLXYZ_AXES spin;     ///< added to the angles a frame; 3, 5, 2
-    std::int32_t wave;      ///< phase of the ribbon's wave, 1/1024 turns; 0
-    std::int32_t waveSpeed; ///< added to it a frame; 16
-    std::int32_t x, y;      ///< where the surface's middle is, target pixels; 128, 128
-    std::int32_t distance;  ///< from the viewer to the middle, pixels, 1..8192; 320
-    std::int32_t hue;       ///< palette entry of the text's first character; random
-    std::int32_t hueSpeed;  ///< palette entries a frame; 5
-    std::int32_t hueStep;   ///< palette entries from character to character; 24
-    std::int32_t dimmest;   ///< brightness of the farthest strokes, 0..256; 40
-    std::int32_t light;     ///< brightness of it all, 0..256; 256
+    const LIST* glyphs = nullptr;    ///< borrowed; a line font
+    const SAMPLE* palette = nullptr; ///< borrowed; colours, a ring; nullptr is white
+    std::int32_t cell = 16;          ///< width of a glyph, font units
+    std::int32_t middle = 8;         ///< where a glyph's middle is, font units within +-4096, both ways
+    std::int32_t scale = fixedOne;   ///< 16.16, pixels per font unit at the middle's distance, up to 256.0
+    std::int32_t speed = fixedOne;   ///< 16.16 pixels a frame along the surface
+    LSCRLXYZ_SHAPE shape = LSCRLXYZ_SHAPE::cylinder;
+    std::int32_t radius = 88;      ///< pixels, 1..4096
+    std::int32_t turns = 3;        ///< of the screw, 1..64
+    std::int32_t across = 0;       ///< pixels from the surface's middle to the line
+    std::int32_t rise = 32;        ///< pixels from turn to turn, or of the ribbon's wave
+    std::int32_t waves = 256;      ///< 1/1024 turns of the ribbon's wave per 64 pixels, within +-65536
+    LSCRLXYZ_AXES angle;           ///< 1/1024 turns, about x first, then y, then z; random
+    LSCRLXYZ_AXES spin{3, 5, 2};   ///< added to the angles a frame
+    std::int32_t wave = 0;         ///< phase of the ribbon's wave, 1/1024 turns
+    std::int32_t waveSpeed = 16;   ///< added to it a frame
+    std::int32_t x = 128, y = 128; ///< where the surface's middle is, target pixels
+    std::int32_t distance = 320;   ///< from the viewer to the middle, pixels, 1..8192
+    std::int32_t hue;              ///< palette entry of the text's first character; random
+    std::int32_t hueSpeed = 5;     ///< palette entries a frame
+    std::int32_t hueStep = 24;     ///< palette entries from character to character
+    std::int32_t dimmest = 40;     ///< brightness of the farthest strokes, 0..256
+    std::int32_t light = 256;      ///< brightness of the whole text, 0..256
 };
 
 extern const IDENTITY LSCRLXYZ_identity;
 extern std::uint8_t LSCRLXYZ_verbose;
 
-/// A scroller with the defaults above (four draws of chance()), or nullptr (reported).
+/// A scroller without text and font (four draws of chance()), or nullptr (reported).
 LSCRLXYZ* LSCRLXYZ_new();
 
 /// Binds a text, which must stay, and goes to its beginning.

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lscroll.h"
 
+#include "effects/palette.h"
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
+#include "foundation/root.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -17,15 +20,7 @@ std::uint8_t LSCROLL_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
-constexpr std::int32_t newLength = 256;
-constexpr std::int32_t newCell = 16;
-constexpr std::int32_t newLiftHeight = 10;
-constexpr std::int32_t newSwingAngle = 40;
-constexpr std::int32_t newHueSpeed = 5;
-constexpr std::int32_t newHueStep = 24;
-constexpr std::int32_t newFade = 24;
-constexpr std::int32_t full = 256; // brightness
+constexpr std::int32_t full = RGB888_fullWeight;
 constexpr std::int32_t farthest = 8192;
 constexpr std::int32_t mostStations = 1 << 18;
 
@@ -33,15 +28,6 @@ constexpr std::int32_t mostStations = 1 << 18;
 struct Place {
     std::int64_t x, y;
 };
-
-/// The whole root of a number, bit by bit.
-std::int64_t rootOf(std::int64_t square) {
-    std::int64_t root = 0;
-    for (std::int64_t bit = std::int64_t{1} << 30; bit != 0; bit >>= 1) {
-        root += (root + bit) * (root + bit) <= square ? bit : 0;
-    }
-    return root;
-}
 
 /// 1/1024 turns of a direction: the quadrant first, then the side of ever closer rays that it is on.
 std::int32_t angleOf(std::int64_t dx, std::int64_t dy) {
@@ -63,7 +49,7 @@ std::int32_t angleOf(std::int64_t dx, std::int64_t dy) {
     return (angle + within) & SINE_tableMask;
 }
 
-/// Walks a path given by corners 0..corners, one pixel at a time: calls visit(station) and gives how many.
+/// Walks a path given by corners 0..corners, one pixel at a time: calls visit(station) and returns how often.
 template <typename Corner, typename Visit>
 std::int32_t walk(std::int32_t corners, Corner corner, Visit visit) {
     std::int64_t along = 0; // 16.16 pixels from the last corner to the next station
@@ -74,7 +60,7 @@ std::int32_t walk(std::int32_t corners, Corner corner, Visit visit) {
         const std::int64_t dx = to.x - from.x;
         const std::int64_t dy = to.y - from.y;
         const std::int64_t length = rootOf(dx * dx + dy * dy);
-        for (; along < length && count < mostStations; along += one) {
+        for (; along < length && count < mostStations; along += fixedOne) {
             visit(LSCROLL_STATION{static_cast<std::int32_t>(from.x + dx * along / length),
                                   static_cast<std::int32_t>(from.y + dy * along / length), angleOf(dx, dy)});
             ++count;
@@ -89,25 +75,15 @@ std::int32_t walk(std::int32_t corners, Corner corner, Visit visit) {
 template <typename Corner>
 void setPath(LSCROLL* scroll, std::int32_t corners, Corner corner) {
     const std::int32_t length = scroll == nullptr ? 0 : walk(corners, corner, [](const LSCROLL_STATION&) {});
-    auto* const stations = length == 0 ? nullptr : allocateArray<LSCROLL_STATION>(length);
-    if (stations == nullptr) {
-        LSCROLL_error();
-        return;
+    if (replaceArray(length == 0 ? nullptr : scroll, LSCROLL_error, &LSCROLL::stations, &LSCROLL::length,
+                     length)) {
+        walk(corners, corner,
+             [next = scroll->stations](const LSCROLL_STATION& station) mutable { *next++ = station; });
     }
-    walk(corners, corner, [next = stations](const LSCROLL_STATION& station) mutable { *next++ = station; });
-    delete[] scroll->stations;
-    scroll->stations = stations;
-    scroll->length = length;
 }
 
 bool isNear(std::int32_t coordinate, std::int32_t limit = farthest) {
     return coordinate >= -limit && coordinate <= limit;
-}
-
-/// 16.16 pixels from glyph to glyph, one pixel at least.
-std::int32_t pitchOf(const LSCROLL& scroll) {
-    return static_cast<std::int32_t>(
-        std::clamp<std::int64_t>(std::int64_t{scroll.cell} * scroll.scale, one, 0x7FFFFFFF));
 }
 
 /// A glyph's middle, its turn and its scale.
@@ -121,17 +97,17 @@ struct Pose {
         const std::int64_t v = wrapMul(std::int64_t{point.y} - middle, scale);
         const std::int64_t right = wrapSub(wrapMul(u, cosine), wrapMul(v, sine)) >> 15;
         const std::int64_t down = wrapAdd(wrapMul(u, sine), wrapMul(v, cosine)) >> 15;
-        return {static_cast<std::int32_t>((at.x + right + one / 2) >> 16),
-                static_cast<std::int32_t>((at.y + down + one / 2) >> 16), 0};
+        return {static_cast<std::int32_t>(wholeOf(at.x + right + fixedOne / 2)),
+                static_cast<std::int32_t>(wholeOf(at.y + down + fixedOne / 2)), 0};
     }
 };
 
 /// Glyph n stands `along` 16.16 pixels from the path's beginning.
 Pose poseOf(const LSCROLL& scroll, std::int32_t n, std::int64_t along) {
-    const std::int64_t index = along >> 16;
+    const std::int64_t index = wholeOf(along);
     const LSCROLL_STATION& here = scroll.stations[index];
     const LSCROLL_STATION& there = scroll.stations[std::min<std::int64_t>(index + 1, scroll.length - 1)];
-    const std::int64_t part = along & (one - 1);
+    const std::int64_t part = along & (fixedOne - 1);
     const std::int32_t place = placeOf(scroll.text, n); // the waves travel with the glyphs
     const std::int32_t lift =
         SINE_scaled(scroll.liftHeight, wrapAdd(scroll.lift.phase, wrapMul(place, scroll.lift.offsetStep)));
@@ -140,8 +116,8 @@ Pose poseOf(const LSCROLL& scroll, std::int32_t n, std::int64_t along) {
     const std::int64_t upX = SINE_entry(here.angle);
     const std::int64_t upY = -SINE_entry(here.angle + SINE_quarter);
     const std::int32_t angle = here.angle + swing;
-    return {{here.x + (((std::int64_t{there.x} - here.x) * part) >> 16) + upX * lift * 2,
-             here.y + (((std::int64_t{there.y} - here.y) * part) >> 16) + upY * lift * 2},
+    return {{here.x + wholeOf((std::int64_t{there.x} - here.x) * part) + upX * lift * 2,
+             here.y + wholeOf((std::int64_t{there.y} - here.y) * part) + upY * lift * 2},
             scroll.scale,
             SINE_entry(angle),
             SINE_entry(angle + SINE_quarter),
@@ -149,36 +125,23 @@ Pose poseOf(const LSCROLL& scroll, std::int32_t n, std::int64_t along) {
 }
 
 /// 0..256: what the fading ends leave of the scroller's light.
-std::uint32_t lightAt(const LSCROLL& scroll, std::int64_t along) {
-    const std::int64_t toEnd = std::min(along >> 16, scroll.length - 1 - (along >> 16));
+std::int32_t lightAt(const LSCROLL& scroll, std::int64_t along) {
+    const std::int64_t toEnd = std::min(wholeOf(along), scroll.length - 1 - (wholeOf(along)));
     const std::int64_t light = std::clamp(scroll.light, 0, full);
-    return static_cast<std::uint32_t>(
+    return static_cast<std::int32_t>(
         scroll.fade > 0 ? light * std::min<std::int64_t>(toEnd, scroll.fade) / scroll.fade : light);
 }
 
 } // namespace
 
 LSCROLL* LSCROLL_new() {
-    LSCROLL* scroll = allocateRecord<LSCROLL>();
+    LSCROLL* scroll = newRecord<LSCROLL>(LSCROLL_error);
     if (scroll == nullptr) {
-        LSCROLL_error();
         return nullptr;
     }
-    scroll->cell = newCell;
-    scroll->middle = newCell / 2;
-    scroll->scale = one;
-    scroll->speed = one * 3 / 2;
-    scroll->liftHeight = newLiftHeight;
-    scroll->swingAngle = newSwingAngle;
-    scroll->hueSpeed = newHueSpeed;
-    scroll->hueStep = newHueStep;
-    scroll->fade = newFade;
-    scroll->light = full;
-    SINE_setup(&scroll->lift, SINE_tableLength, 0, 12, 0, 60);
-    SINE_setup(&scroll->swing, SINE_tableLength, 0, 9, 0, 45);
-    LSCROLL_setLine(scroll, 0, newLength / 2, newLength, newLength / 2);
+    LSCROLL_setLine(scroll, 0, scroll->length / 2, scroll->length, scroll->length / 2);
     if (scroll->stations == nullptr) {
-        delete scroll;
+        LSCROLL_delete(&scroll);
         return nullptr;
     }
     LSCROLL_randomize(scroll);
@@ -196,8 +159,7 @@ void LSCROLL_setText(LSCROLL* scroll, const char* text) {
 void LSCROLL_setLine(LSCROLL* scroll, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) {
     const bool isFar = !isNear(x1) || !isNear(y1) || !isNear(x2) || !isNear(y2);
     setPath(isFar ? nullptr : scroll, 1, [=](std::int32_t i) {
-        return i == 0 ? Place{std::int64_t{x1} * one, std::int64_t{y1} * one}
-                      : Place{std::int64_t{x2} * one, std::int64_t{y2} * one};
+        return i == 0 ? Place{toFixed(x1), toFixed(y1)} : Place{toFixed(x2), toFixed(y2)};
     });
 }
 
@@ -205,12 +167,12 @@ void LSCROLL_setCurve(LSCROLL* scroll, const LSCROLL_CURVE& curve) {
     constexpr std::int32_t widest = farthest / 2;
     const bool isFar = !isNear(curve.centreX) || !isNear(curve.centreY) || !isNear(curve.radiusX, widest) ||
                        !isNear(curve.radiusY, widest);
-    // Radii in half pixels' 16.16 times an entry of 15 bits give 16.16 pixels without a shift.
+    // Radii in half pixels' 16.16 times an entry of 15 bits are 16.16 pixels without a shift.
     setPath(isFar ? nullptr : scroll, SINE_tableLength, [&curve](std::int32_t t) {
         const std::int32_t across = wrapAdd(wrapMul(curve.turnsX, t), curve.phase);
         const std::int32_t down = wrapAdd(wrapMul(curve.turnsY, t), SINE_quarter);
-        return Place{std::int64_t{curve.centreX} * one + std::int64_t{2} * curve.radiusX * SINE_entry(across),
-                     std::int64_t{curve.centreY} * one - std::int64_t{2} * curve.radiusY * SINE_entry(down)};
+        return Place{toFixed(curve.centreX) + std::int64_t{2} * curve.radiusX * SINE_entry(across),
+                     toFixed(curve.centreY) - std::int64_t{2} * curve.radiusY * SINE_entry(down)};
     });
 }
 
@@ -219,9 +181,7 @@ void LSCROLL_fit(LSCROLL* scroll) {
         LSCROLL_error();
         return;
     }
-    const std::int64_t units = std::int64_t{scroll->text.length} * scroll->cell;
-    scroll->scale = static_cast<std::int32_t>(
-        std::min<std::int64_t>((std::int64_t{scroll->length} << 16) / units, 0x7FFFFFFF));
+    scroll->scale = scaleToFit(scroll->length, scroll->text.length, scroll->cell);
     scroll->fade = 0;
 }
 
@@ -240,7 +200,7 @@ void LSCROLL_advance(LSCROLL* scroll) {
         LSCROLL_error();
         return;
     }
-    moveText(scroll->text, scroll->speed, pitchOf(*scroll));
+    moveText(scroll->text, scroll->speed, pitchOf(scroll->cell, scroll->scale));
     SINE_advance(&scroll->lift);
     SINE_advance(&scroll->swing);
     scroll->hue = wrapAdd(scroll->hue, scroll->hueSpeed);
@@ -251,17 +211,17 @@ void LSCROLL_draw(const LSCROLL* scroll, IMG* target) {
         LSCROLL_error();
         return;
     }
-    const std::int64_t pitch = pitchOf(*scroll);
+    const std::int64_t pitch = pitchOf(scroll->cell, scroll->scale);
     // A glyph is on the path when its middle is.
     std::int64_t along = pitch / 2 - scroll->text.offset;
-    for (std::int32_t n = 0; along >> 16 < scroll->length; ++n, along += pitch) {
+    for (std::int32_t n = 0; wholeOf(along) < scroll->length; ++n, along += pitch) {
         if (along < 0) {
             continue;
         }
         const Pose pose = poseOf(*scroll, n, along);
         const std::uint32_t hue = paletteColour(
             scroll->palette, wrapAdd(scroll->hue, wrapMul(placeOf(scroll->text, n), scroll->hueStep)));
-        const std::uint32_t colour = RGB888_mix(0, hue, lightAt(*scroll, along));
+        const std::uint32_t colour = RGB888_dim(hue, lightAt(*scroll, along));
         forEachStroke(glyphOf(scroll->glyphs, characterOf(scroll->text, n)),
                       [&](const VEC2D& a, const VEC2D& b) {
                           const VEC2D from = pose.place(a);
@@ -272,13 +232,7 @@ void LSCROLL_draw(const LSCROLL* scroll, IMG* target) {
 }
 
 void LSCROLL_delete(LSCROLL** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LSCROLL_error();
-        return;
-    }
-    delete[](*handle)->stations;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, LSCROLL_error, &LSCROLL::stations);
 }
 
 void LSCROLL_error() {

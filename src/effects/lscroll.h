@@ -10,14 +10,18 @@
 //     LSCROLL_advance(scroll), LSCROLL_draw(scroll, screen); // each frame
 #pragma once
 
-#include "audio/sample.h"
 #include "effects/line_text.h"
+#include "foundation/fixed.h"
 #include "foundation/identity.h"
 #include "foundation/sine.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
+struct LIST;
+struct SAMPLE;
 
 /// One pixel of the way along a path.
 struct LSCROLL_STATION {
@@ -36,39 +40,38 @@ struct LSCROLL_CURVE {
 
 struct LSCROLL {
     LineText text;
-    const LIST* glyphs;        ///< borrowed; a line font; nullptr
-    const SAMPLE* palette;     ///< borrowed; colours; nullptr is white
-    std::int32_t cell;         ///< width of a glyph, font units; 16
-    std::int32_t middle;       ///< where a glyph's middle is, font units, both ways; 8
-    std::int32_t scale;        ///< 16.16, target pixels per font unit; 1.0
-    std::int32_t speed;        ///< 16.16 pixels a frame, against the path's direction when positive; 1.5
-    LSCROLL_STATION* stations; ///< owned; the path, pixel by pixel
-    std::int32_t length;       ///< stations, 1 or more; a line from left to right, 256
-    SINE lift;                 ///< off the path: `speed` 12 a frame, `offsetStep` 60 a glyph, in 1/1024 turns
-    std::int32_t liftHeight;   ///< the most that a glyph is lifted, pixels; 10
-    SINE swing;                ///< of each glyph: `speed` 9 a frame, `offsetStep` 45 a glyph
-    std::int32_t swingAngle;   ///< the most that a glyph swings, 1/1024 turns; 40
-    std::int32_t hue;          ///< palette entry of the path's beginning; random
-    std::int32_t hueSpeed;     ///< palette entries a frame; 5
-    std::int32_t hueStep;      ///< palette entries from glyph to glyph; 24
-    std::int32_t fade;         ///< pixels over which glyphs come and go at the path's ends; 0 for none; 24
-    std::int32_t light;        ///< brightness of it all, 0..256; 256
+    const LIST* glyphs = nullptr;          ///< borrowed; a line font
+    const SAMPLE* palette = nullptr;       ///< borrowed; colours, a ring; nullptr is white
+    std::int32_t cell = 16;                ///< width of a glyph, font units
+    std::int32_t middle = 8;               ///< where a glyph's middle is, font units, both ways
+    std::int32_t scale = fixedOne;         ///< 16.16, target pixels per font unit
+    std::int32_t speed = fixedOne * 3 / 2; ///< 16.16 pixels a frame; positive: against the path's direction
+    LSCROLL_STATION* stations = nullptr;   ///< owned; the path, pixel by pixel
+    std::int32_t length = 256; ///< stations, 1 or more; the first path is a line from left to right
+    SINE lift{.speed = 12, .offsetStep = 60}; ///< off the path, a frame and from glyph to glyph, 1/1024 turns
+    std::int32_t liftHeight = 10;             ///< the most that a glyph is lifted, pixels
+    SINE swing{.speed = 9, .offsetStep = 45}; ///< of each glyph, in the same units
+    std::int32_t swingAngle = 40;             ///< the most that a glyph swings, 1/1024 turns
+    std::int32_t hue;                         ///< palette entry of the path's beginning; random
+    std::int32_t hueSpeed = 5;                ///< palette entries a frame
+    std::int32_t hueStep = 24;                ///< palette entries from glyph to glyph
+    std::int32_t fade = 24;   ///< pixels over which glyphs come and go at the path's ends; 0 for none
+    std::int32_t light = 256; ///< brightness of the whole text, 0..256
 };
 
 extern const IDENTITY LSCROLL_identity;
 extern std::uint8_t LSCROLL_verbose;
 
-/// A scroller with the defaults above (three draws of chance()), or nullptr (reported).
+/// A scroller without text and font (three draws of chance()), or nullptr (reported).
 LSCROLL* LSCROLL_new();
 
 /// Binds a text, which must stay, and goes to its beginning.
 void LSCROLL_setText(LSCROLL* scroll, const char* text);
 
-/// Leads the path from one point to another, in pixels -8192..8192. On failure it reports and the path
-/// stays; so do the others.
+/// Leads the path from one point to another, in pixels -8192..8192. On failure it reports and the path stays.
 void LSCROLL_setLine(LSCROLL* scroll, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2);
 
-/// Leads the path along a closed curve.
+/// Leads the path along a closed curve, with the same bounds and failures.
 void LSCROLL_setCurve(LSCROLL* scroll, const LSCROLL_CURVE& curve);
 
 /// Chooses the scale at which the whole text is as long as the path: on a closed path the last character

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lstar.h"
 
+#include "effects/palette.h"
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -21,19 +23,10 @@ std::uint8_t LSTAR_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newCentre = 128;
-constexpr std::int32_t newSpeed = 512;
-constexpr std::int32_t newTrail = 4;
-constexpr std::int32_t newCorners = 5;
-constexpr std::int32_t newSkip = 2;
-constexpr std::int32_t newSize = 2048;
-constexpr std::int32_t newHueSpan = 512;
-constexpr std::int32_t newCount = 256;
 constexpr std::int32_t mostCorners = 16;
 constexpr std::int32_t worldMask = 0xFFFF;
 constexpr std::int32_t depthRange = LSTAR_far - LSTAR_near;
 constexpr std::int64_t focus = 256; ///< pixels at a depth of 1 for a unit of width
-constexpr std::uint32_t white = 0xFFFFFF;
 
 struct Point {
     std::int32_t x, y;
@@ -54,19 +47,15 @@ void addLine(IMG* target, Point a, Point b, std::uint32_t colour) {
 
 /// The hue of a depth, full in front and black at the far end.
 std::uint32_t colourAt(const LSTAR& sky, std::int32_t z) {
-    std::uint32_t hue = white;
-    if (sky.colours != nullptr && sky.colours->length > 0) {
-        const std::int64_t span = std::int64_t{sky.hueSpan} * (z - LSTAR_near) / depthRange;
-        const std::int32_t index = wrapAdd(sky.hue, static_cast<std::int32_t>(span));
-        hue = static_cast<std::uint32_t>(SAMPLE_get(sky.colours, positiveModulo(index, sky.colours->length)));
-    }
+    const auto span = static_cast<std::int32_t>(std::int64_t{sky.hueSpan} * (z - LSTAR_near) / depthRange);
+    const std::uint32_t hue = paletteColour(sky.colours, wrapAdd(sky.hue, span));
     const std::int32_t nearness = LSTAR_far - std::clamp(z, LSTAR_near, LSTAR_far);
-    return RGB888_mix(0, hue, static_cast<std::uint32_t>(256 * nearness / depthRange));
+    return RGB888_dim(hue, RGB888_fullWeight * nearness / depthRange);
 }
 
 void drawStreak(const LSTAR& sky, const LSTAR_STAR& star, IMG* target) {
     constexpr std::int32_t wideDepth = LSTAR_far / 4;
-    constexpr std::uint32_t dim = 96; // of 256
+    constexpr std::int32_t dim = 96; // of 256
     const std::uint32_t colour = colourAt(sky, star.z);
     const auto before = [&](std::int32_t halves) {
         const std::int32_t z = wrapAdd(star.z, wrapMul(sky.speed, wrapMul(sky.trail, halves)) / 2);
@@ -75,7 +64,7 @@ void drawStreak(const LSTAR& sky, const LSTAR_STAR& star, IMG* target) {
     };
     const Point head = before(0);
     const Point middle = before(1);
-    addLine(target, before(2), middle, RGB888_mix(0, colour, dim));
+    addLine(target, before(2), middle, RGB888_dim(colour, dim));
     addLine(target, middle, head, colour);
     if (star.z < wideDepth) {
         addLine(target, {wrapAdd(middle.x, 1), middle.y}, {wrapAdd(head.x, 1), head.y}, colour);
@@ -106,36 +95,20 @@ bool canDraw(const LSTAR* sky, const IMG* target) {
 } // namespace
 
 LSTAR* LSTAR_new() {
-    LSTAR* sky = allocateRecord<LSTAR>();
-    if (sky == nullptr) {
-        LSTAR_error();
-        return nullptr;
-    }
-    sky->x = sky->y = newCentre;
-    sky->speed = newSpeed;
-    sky->trail = newTrail;
-    sky->turn = 1;
-    sky->corners = newCorners;
-    sky->skip = newSkip;
-    sky->size = newSize;
-    sky->hueSpan = newHueSpan;
-    LSTAR_setCount(sky, newCount);
-    if (sky->stars == nullptr) {
-        LSTAR_delete(&sky);
+    LSTAR* sky = newRecord<LSTAR>(LSTAR_error);
+    if (sky != nullptr) {
+        LSTAR_setCount(sky, sky->count);
+        if (sky->stars == nullptr) {
+            LSTAR_delete(&sky);
+        }
     }
     return sky;
 }
 
 void LSTAR_setCount(LSTAR* sky, std::int32_t count) {
-    LSTAR_STAR* const stars = sky != nullptr && count >= 1 ? allocateArray<LSTAR_STAR>(count) : nullptr;
-    if (stars == nullptr) {
-        LSTAR_error();
-        return;
+    if (replaceArray(sky, LSTAR_error, &LSTAR::stars, &LSTAR::count, count)) {
+        LSTAR_randomize(sky);
     }
-    delete[] sky->stars;
-    sky->stars = stars;
-    sky->count = count;
-    LSTAR_randomize(sky);
 }
 
 void LSTAR_randomize(LSTAR* sky) {
@@ -191,13 +164,7 @@ void LSTAR_drawPolygons(const LSTAR* sky, IMG* target) {
 }
 
 void LSTAR_delete(LSTAR** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LSTAR_error();
-        return;
-    }
-    delete[](*handle)->stars;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, LSTAR_error, &LSTAR::stars);
 }
 
 void LSTAR_error() {

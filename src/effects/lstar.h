@@ -10,13 +10,14 @@
 //     LSTAR_draw(sky, screen), LSTAR_advance(sky); // each frame
 #pragma once
 
-#include "audio/sample.h"
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
+struct SAMPLE;
 
 inline constexpr std::int32_t LSTAR_near = 2048; ///< where a star has passed the viewer
 inline constexpr std::int32_t LSTAR_far = 65536; ///< where it appears, still black
@@ -28,28 +29,28 @@ struct LSTAR_STAR {
 };
 
 struct LSTAR {
-    std::int32_t x, y;     ///< the vanishing point, target pixels; 128, 128
-    std::int32_t speed;    ///< depth a frame, towards the viewer when positive; 512
-    std::int32_t trail;    ///< frames of motion that a streak shows; 4
-    std::int32_t angle;    ///< of the sky, 1/1024 turns; 0
-    std::int32_t turn;     ///< added to `angle` a frame; 1
-    std::int32_t corners;  ///< of a polygon, 3..16; 5
-    std::int32_t skip;     ///< a polygon's lines lead from corner to corner k + skip; 2
-    std::int32_t size;     ///< radius of a polygon, units; 2048
-    std::int32_t hue;      ///< index of the colour of the nearest stars; 0
-    std::int32_t hueSpan;  ///< indices from the nearest to the farthest; 512
-    const SAMPLE* colours; ///< borrowed; 0x00RRGGBB words, used as a ring; nullptr for white
-    std::int32_t count;    ///< stars; 256
-    LSTAR_STAR* stars;     ///< owned, `count` of them
+    std::int32_t x = 128, y = 128;   ///< the vanishing point, target pixels
+    std::int32_t speed = 512;        ///< depth a frame, towards the viewer when positive
+    std::int32_t trail = 4;          ///< frames of motion that a streak shows
+    std::int32_t angle = 0;          ///< of the sky, 1/1024 turns
+    std::int32_t turn = 1;           ///< added to `angle` a frame
+    std::int32_t corners = 5;        ///< of a polygon, 3..16
+    std::int32_t skip = 2;           ///< a polygon's lines lead from corner k to corner k + skip
+    std::int32_t size = 2048;        ///< radius of a polygon, units
+    std::int32_t hue = 0;            ///< index of the colour of the nearest stars
+    std::int32_t hueSpan = 512;      ///< indices from the nearest to the farthest
+    const SAMPLE* colours = nullptr; ///< borrowed; 0x00RRGGBB, a ring; nullptr is white
+    std::int32_t count = 256;        ///< stars
+    LSTAR_STAR* stars = nullptr;     ///< owned, `count` of them
 };
 
 extern const IDENTITY LSTAR_identity;
 extern std::uint8_t LSTAR_verbose;
 
-/// 256 random stars (3 draws of chance() each), or nullptr (reported).
+/// Random stars (3 draws of chance() each), or nullptr (reported).
 LSTAR* LSTAR_new();
 
-/// Replaces the stars by `count` (>= 1) random ones. On failure it reports and the old ones stay.
+/// Replaces the stars by `count` (>= 0) random ones. On failure it reports and the old ones stay.
 void LSTAR_setCount(LSTAR* sky, std::int32_t count);
 
 /// Draws all stars anew: x, y and z of the first, then of the next.

@@ -3,8 +3,11 @@
 #include "effects/mouse.h"
 
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
+#include "image/img.h"
 #include "platform/xdpy.h"
+#include "platform/xptr.h"
 
 #include <algorithm>
 #include <iterator>
@@ -84,8 +87,8 @@ MOUSE* MOUSE_clone(const MOUSE* src) {
         MOUSE_error();
         return nullptr;
     }
-    // MOUSE_cloneGivesNothing: one expects the new record; it is made and filled like any other, and never
-    // handed back.
+    // MOUSE_cloneGivesNothing: one expects the new record; it is made and filled like any other, and deleted
+    // again.
     MOUSE* clone = MOUSE_new();
     if (clone != nullptr) {
         copyState(*src, *clone);
@@ -95,12 +98,7 @@ MOUSE* MOUSE_clone(const MOUSE* src) {
 }
 
 void MOUSE_delete(MOUSE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        MOUSE_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, MOUSE_error);
 }
 
 void MOUSE_error() {

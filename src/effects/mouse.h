@@ -10,21 +10,22 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
-#include "platform/xptr.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct XPTR;
+
 struct MOUSE {
-    std::int32_t x;           ///< window pixels; the seven fields of the pointer begin here
-    std::int32_t y;           ///< window pixels
-    std::int32_t reserved[4]; ///< as the pointer's
-    std::int32_t buttons;     ///< bits 0, 1, 2: button 1, 2, 3 is held
-    XPTR* pointer;            ///< borrowed; what MOUSE_update follows, set by the user; nullptr
-    IMG* image;               ///< borrowed; the picture, 0 pixels are transparent; nullptr
-    IMG* target;              ///< borrowed; the image drawn into, set by the user; nullptr
+    std::int32_t x = 0;            ///< window pixels; the seven fields of the pointer begin here
+    std::int32_t y = 0;            ///< window pixels
+    std::int32_t reserved[4] = {}; ///< as the pointer's
+    std::int32_t buttons = 0;      ///< bits 0, 1, 2: button 1, 2, 3 is held
+    XPTR* pointer = nullptr;       ///< borrowed; what MOUSE_update follows, set by the user
+    IMG* image = nullptr;          ///< borrowed; the picture, 0 pixels are transparent
+    IMG* target = nullptr;         ///< borrowed; the image drawn into, set by the user
 };
 
 extern const IDENTITY MOUSE_identity;
@@ -45,7 +46,7 @@ std::int32_t MOUSE_equals(const MOUSE* a, const MOUSE* b);
 /// Copies the seven fields, `image` and `target`.
 void MOUSE_copy(const MOUSE* src, MOUSE* dst);
 
-/// Gives nullptr whatever happens (see docs/quirks.md).
+/// Always returns nullptr (see docs/quirks.md).
 MOUSE* MOUSE_clone(const MOUSE* src);
 
 /// Frees the record and stores nullptr in the handle; pointer, picture and target are untouched.

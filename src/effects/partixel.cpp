@@ -3,7 +3,10 @@
 #include "effects/partixel.h"
 
 #include "foundation/memory.h"
+#include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -15,7 +18,6 @@ RANDOM* PARTIXEL_random = nullptr;
 
 namespace {
 
-constexpr std::uint32_t newColour = 0x0040E0;
 constexpr std::uint32_t red = 0xFF0000;
 constexpr std::uint32_t green = 0x00FF00;
 constexpr std::uint32_t blue = 0x0000FF;
@@ -81,8 +83,8 @@ void moveSpark(IMG* image, std::int32_t x, std::int32_t y, std::uint32_t spark) 
         // light and is wiped. One draw in fifteen ends a spark so, which keeps fountains short.
         IMGFX_addPixel(image, toX, toY, merging);
     } else if (isPureBlue(there)) {
-        // PARTIXEL_newWaterIsNotBlue: one expects any water to turn grey; only pure blue does, and the colour
-        // of new water, with its green, puts sparks out like a wall. Who wants grey sets another colour.
+        // PARTIXEL_newWaterIsNotBlue: one expects any water to turn grey; only pure blue does, and new water,
+        // with its green, puts sparks out like a wall. For grey, set another colour.
         IMG_putPixel(image, toX, toY, steam);
         return;
     }
@@ -98,11 +100,7 @@ PARTIXEL* PARTIXEL_new() {
     PARTIXEL* const particles = PARTIXEL_random == nullptr ? nullptr : allocateRecord<PARTIXEL>();
     if (particles == nullptr) {
         PARTIXEL_error();
-        return nullptr;
     }
-    particles->update = PARTIXEL_waterRight;
-    particles->colour = newColour;
-    particles->name = "WATER";
     return particles;
 }
 
@@ -131,12 +129,7 @@ std::int32_t PARTIXEL_sparks(PARTIXEL* sparks) {
 }
 
 void PARTIXEL_delete(PARTIXEL** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        PARTIXEL_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, PARTIXEL_error);
 }
 
 void PARTIXEL_error() {

@@ -11,38 +11,19 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "foundation/random.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
-struct PARTIXEL {
-    std::int32_t x, y, z;              ///< not used by the rules; 0
-    std::int32_t width, height, depth; ///< not used by the rules; 0
-    std::int32_t (*update)(PARTIXEL*); ///< the rule, called by the user once a frame; PARTIXEL_waterRight
-    std::uint32_t colour;              ///< the pixel value that is water, not used by sparks; 0x0040E0
-    IMG* image;                        ///< borrowed; what the particles live in; nullptr
-    const char* name;                  ///< of the kind, "WATER" or "SPARKS", not owned; "WATER"
-    std::int32_t particles;            ///< what the last update returned; 0
-};
+struct IMG;
+struct RANDOM;
 
-extern const IDENTITY PARTIXEL_identity;
-extern std::uint8_t PARTIXEL_verbose;
+struct PARTIXEL;
 
-/// The generator that all sparks draw from. A program that has one of its own shares it by storing it here,
-/// as the demo does at start-up, so that the sparks are part of its one sequence; an effect cannot ask for
-/// it, because it knows nothing of the program above it. Where nobody has, the first PARTIXEL_new makes one,
-/// which is never freed.
-extern RANDOM* PARTIXEL_random;
-
-/// Water with the defaults above, or nullptr (reported).
-PARTIXEL* PARTIXEL_new();
-
-/// The three rules. Each needs a record with an image, which it does not check, and returns how many
-/// particles it met; one that moves along with the scan is met again, and counted again (see docs/quirks.md).
-/// What leaves the image is lost.
+// The rules. Each needs a record with an image, which it does not check, and returns how many particles it
+// met; one that moves along with the scan is met again, and counted again (see docs/quirks.md). What leaves
+// the image is lost.
 
 /// Water, row by row from the bottom, left to right: it falls, else it goes right, else left, else it stays.
 std::int32_t PARTIXEL_waterRight(PARTIXEL* water);
@@ -52,6 +33,27 @@ std::int32_t PARTIXEL_waterLeft(PARTIXEL* water);
 /// rows and aside by at most one column, losing 7 of its red. Two draws of PARTIXEL_random a spark. Where it
 /// meets a spark, it adds its light; pure blue turns grey and leaves it where it is; on all else it dies.
 std::int32_t PARTIXEL_sparks(PARTIXEL* sparks);
+
+struct PARTIXEL {
+    std::int32_t x = 0, y = 0, z = 0;                        ///< not used by the rules
+    std::int32_t width = 0, height = 0, depth = 0;           ///< not used by the rules
+    std::int32_t (*update)(PARTIXEL*) = PARTIXEL_waterRight; ///< the rule, called by the user once a frame
+    std::uint32_t colour = 0x0040E0; ///< the pixel value that is water, not used by sparks
+    IMG* image = nullptr;            ///< borrowed; what the particles live in
+    const char* name = "WATER";      ///< of the kind, "WATER" or "SPARKS", not owned
+    std::int32_t particles = 0;      ///< what the last update returned
+};
+
+extern const IDENTITY PARTIXEL_identity;
+extern std::uint8_t PARTIXEL_verbose;
+
+/// The generator that all sparks draw from. A program that has one of its own stores it here, as the demo
+/// does at start-up, so that the sparks are part of its one sequence. If none is stored, the first
+/// PARTIXEL_new makes one, which is never freed.
+extern RANDOM* PARTIXEL_random;
+
+/// Water without an image, or nullptr (reported).
+PARTIXEL* PARTIXEL_new();
 
 /// Frees the record and stores nullptr in the handle; image and name are untouched.
 void PARTIXEL_delete(PARTIXEL** handle);

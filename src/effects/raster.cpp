@@ -3,9 +3,12 @@
 #include "effects/raster.h"
 
 #include "foundation/chance.h"
+#include "foundation/fixed.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -18,8 +21,6 @@ std::uint8_t RASTER_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newCount = 256;
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
 constexpr std::int32_t speedRange = 0xFFFFF;
 
 std::uint32_t* allocateColours(std::int32_t count) {
@@ -37,7 +38,7 @@ void paintLines(const RASTER* raster, const IMG* target, std::int32_t IMG::*line
         RASTER_error();
         return;
     }
-    std::int32_t index = positiveModulo(raster->position >> 16, raster->count);
+    std::int32_t index = positiveModulo(wholeOf(raster->position), raster->count);
     for (std::int32_t line = 0; line < target->*lines; ++line) {
         paint(line, raster->colours[index]);
         index = index + 1 == raster->count ? 0 : index + 1;
@@ -76,16 +77,17 @@ void touch(const char* path, const char* mode) {
 } // namespace
 
 RASTER* RASTER_new() {
-    RASTER* raster = allocateRecord<RASTER>();
-    std::uint32_t* colours = raster == nullptr ? nullptr : allocateColours(newCount);
-    if (colours == nullptr) {
-        RASTER_error();
-        delete raster;
+    RASTER* raster = newRecord<RASTER>(RASTER_error);
+    if (raster == nullptr) {
         return nullptr;
     }
-    raster->speed = chance() % speedRange + one;
-    raster->count = newCount;
-    raster->colours = colours;
+    raster->colours = allocateColours(raster->count);
+    if (raster->colours == nullptr) {
+        RASTER_error();
+        RASTER_delete(&raster);
+        return nullptr;
+    }
+    raster->speed = chance() % speedRange + fixedOne;
     return raster;
 }
 
@@ -227,13 +229,7 @@ void RASTER_save(const RASTER* raster, const char* path) {
 }
 
 void RASTER_delete(RASTER** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        RASTER_error();
-        return;
-    }
-    delete[](*handle)->colours;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, RASTER_error, &RASTER::colours);
 }
 
 void RASTER_error() {

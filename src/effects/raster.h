@@ -10,27 +10,28 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+
 struct RASTER {
-    std::int32_t position;  ///< 16.16; index of the colour on row 0; 0
-    std::int32_t speed;     ///< 16.16; added to `position` a frame; random, 1.0 to just under 17.0
-    std::int32_t count;     ///< colours; 256
-    std::uint32_t* colours; ///< owned; `count` words 0x00RRGGBB and a spare one; black
-    std::int32_t reserved;  ///< 0
+    std::int32_t position = 0; ///< 16.16; index of the colour on row 0
+    std::int32_t speed;        ///< 16.16; added to `position` a frame; random, 1.0 to just under 17.0
+    std::int32_t count = 256;  ///< colours
+    std::uint32_t* colours;    ///< owned; `count` words 0x00RRGGBB and a spare one; black at first
+    std::int32_t reserved = 0;
 };
 
 extern const IDENTITY RASTER_identity;
 extern std::uint8_t RASTER_verbose;
 
-/// 256 black colours and a random speed (one draw of chance()), or nullptr (reported).
+/// Black colours and a random speed (one draw of chance()), or nullptr (reported).
 RASTER* RASTER_new();
 
-/// Not written yet: opens and closes the file (a failure is reported) and gives nullptr.
+/// Only opens the file and closes it again (a failure is reported); always returns nullptr.
 RASTER* RASTER_load(const char* path);
 
 /// Replaces the list by `count` (>= 0) black colours and goes to position 0. On failure it reports and leaves
@@ -67,7 +68,7 @@ void RASTER_copy(const RASTER* src, RASTER* dst);
 /// A new raster (one draw of chance()) with the list, position and speed of `src`, or nullptr (reported).
 RASTER* RASTER_clone(const RASTER* src);
 
-/// Not written yet: makes the file empty and closes it (a failure is reported).
+/// Only makes the file, or makes it empty, and closes it (a failure is reported).
 void RASTER_save(const RASTER* raster, const char* path);
 
 /// Frees the list and the record and stores nullptr in the handle.

@@ -3,9 +3,11 @@
 #include "effects/rect.h"
 
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/fixed.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -18,15 +20,7 @@ std::uint8_t RECT_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newField = 256;
-constexpr std::int32_t newPane = 192;
-constexpr std::int32_t newSpeed = 24;
-constexpr std::int32_t newTurnSpeed = 2;
-constexpr std::int32_t newTwist = 16;
-constexpr std::int32_t newReach = 64;
-constexpr std::int32_t newCount = 24;
-constexpr std::int32_t step = 256; // `travel` from one rectangle to the next
-constexpr std::int32_t fullBrightness = 256;
+constexpr std::int32_t step = 256;        // `travel` from one rectangle to the next
 constexpr std::int32_t fullSizeSteps = 4; // a tunnel's frame has its full size that far away
 constexpr std::int32_t nearestStep = 128; // nearer frames surround the viewer and are left out
 constexpr std::uint32_t backBits = 0x7F7F7F;
@@ -36,7 +30,7 @@ std::int32_t randomWithin(std::int32_t reach) {
 }
 
 void randomizePane(const RECT& rect, RECT_PANE& pane) {
-    constexpr std::int32_t fastest = 0x18000; // 1.5 pixels a frame
+    constexpr std::int32_t fastest = fixedOne * 3 / 2;
     constexpr std::int32_t smallest = 16;
     constexpr std::int32_t sizes = 64;
     pane.x = wrapShl(chance() % std::max(rect.width, 1), 16);
@@ -54,15 +48,14 @@ void randomizePane(const RECT& rect, RECT_PANE& pane) {
 
 /// A colour at a share of the record's brightness, both 0..256.
 std::uint32_t dimmed(const RECT& rect, std::uint32_t colour, std::int32_t share) {
-    const std::int32_t bright = std::clamp(rect.brightness, 0, fullBrightness);
-    const auto part = static_cast<std::uint32_t>((bright * std::clamp(share, 0, fullBrightness)) >> 8);
-    return RGB888_mix(0, colour, part);
+    const std::int32_t bright = std::clamp(rect.brightness, 0, RGB888_fullWeight);
+    return RGB888_dim(colour, (bright * std::clamp(share, 0, RGB888_fullWeight)) >> 8);
 }
 
 /// Moves a coordinate and takes it around a field that a margin of the pane's size widens on both sides.
 std::int32_t drifted(std::int32_t at, std::int32_t speed, std::int32_t field, std::int32_t margin) {
-    const std::int64_t length = (std::int64_t{field} + 2 * std::int64_t{margin}) << 16;
-    const std::int64_t begin = -(std::int64_t{margin} << 16);
+    const std::int64_t length = toFixed(field + 2 * std::int64_t{margin});
+    const std::int64_t begin = -toFixed(margin);
     if (length <= 0) {
         return at;
     }
@@ -83,8 +76,8 @@ void drawFleet(const RECT& rect, IMG* target) {
     for (std::int32_t i = 0; i < rect.count; ++i) {
         const RECT_PANE& pane = rect.panes[i];
         const std::int32_t width = SINE_cosineScaled(pane.width, pane.flip);
-        const std::uint32_t colour = dimmed(rect, pane.colour, fullBrightness);
-        RECT_drawTurned(target, wrapAdd(rect.x, pane.x >> 16), wrapAdd(rect.y, pane.y >> 16), width,
+        const std::uint32_t colour = dimmed(rect, pane.colour, RGB888_fullWeight);
+        RECT_drawTurned(target, wrapAdd(rect.x, wholeOf(pane.x)), wrapAdd(rect.y, wholeOf(pane.y)), width,
                         pane.height, pane.turn, rect.face, width < 0 ? (colour >> 1) & backBits : colour,
                         rect.mix);
     }
@@ -119,7 +112,7 @@ void drawTunnel(const RECT& rect, IMG* target) {
         const std::int32_t y = wrapAdd(middleY, seen(windAt(rect.windY, rect.reach, away) - hereY));
         const std::int32_t angle = wrapAdd(rect.turn, wrapMul(rect.twist, away) >> 8);
         const std::uint32_t colour =
-            dimmed(rect, colourAhead(rect, ahead), fullBrightness - away / rect.count);
+            dimmed(rect, colourAhead(rect, ahead), RGB888_fullWeight - away / rect.count);
         const auto draw = [&](RECT_FACE face, std::uint32_t shade) {
             RECT_drawTurned(target, x, y, seen(rect.paneWidth), seen(rect.paneHeight), angle, face, shade,
                             rect.mix);
@@ -157,38 +150,20 @@ void drawNest(const RECT& rect, IMG* target) {
 } // namespace
 
 RECT* RECT_new() {
-    RECT* rect = allocateRecord<RECT>();
-    if (rect == nullptr || (rect->panes = allocateArray<RECT_PANE>(newCount)) == nullptr) {
-        RECT_error();
-        delete rect;
-        return nullptr;
+    RECT* rect = newRecord<RECT>(RECT_error);
+    if (rect != nullptr) {
+        RECT_setCount(rect, rect->count);
+        if (rect->panes == nullptr) {
+            RECT_delete(&rect);
+        }
     }
-    rect->width = rect->height = newField;
-    rect->face = RECT_FACE::both;
-    rect->mix = RECT_MIX::add;
-    rect->paneWidth = rect->paneHeight = newPane;
-    rect->speed = newSpeed;
-    rect->turnSpeed = newTurnSpeed;
-    rect->twist = newTwist;
-    SINE_setup(&rect->windX, SINE_tableLength, 0, 3, 0, 48);
-    SINE_setup(&rect->windY, SINE_tableLength, 0, 2, 0, 40);
-    rect->reach = newReach;
-    rect->brightness = fullBrightness;
-    rect->count = newCount;
-    RECT_randomize(rect);
     return rect;
 }
 
 void RECT_setCount(RECT* rect, std::int32_t count) {
-    RECT_PANE* const panes = rect == nullptr ? nullptr : allocateArray<RECT_PANE>(count);
-    if (panes == nullptr) {
-        RECT_error();
-        return;
+    if (replaceArray(rect, RECT_error, &RECT::panes, &RECT::count, count)) {
+        RECT_randomize(rect);
     }
-    delete[] rect->panes;
-    rect->panes = panes;
-    rect->count = count;
-    RECT_randomize(rect);
 }
 
 void RECT_randomize(RECT* rect) {
@@ -234,13 +209,7 @@ void RECT_draw(const RECT* rect, IMG* target) {
 }
 
 void RECT_delete(RECT** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        RECT_error();
-        return;
-    }
-    delete[](*handle)->panes;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, RECT_error, &RECT::panes);
 }
 
 void RECT_error() {

@@ -12,11 +12,12 @@
 
 #include "foundation/identity.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
 
 enum class RECT_PATH : std::uint8_t { drift, tunnel, nest };
 enum class RECT_FACE : std::uint8_t { frame, pane, both }; ///< both: see RECT_draw
@@ -35,33 +36,33 @@ struct RECT_PANE {
 };
 
 struct RECT {
-    std::int32_t x, y;          ///< the field's top left corner, target pixels; 0, 0
-    std::int32_t width, height; ///< the field, pixels; what drifts out on one side comes in on the other; 256
-    RECT_PATH path;             ///< drift
-    RECT_FACE face;             ///< both
-    RECT_MIX mix;               ///< add
-    std::int32_t paneWidth;     ///< of a tunnel's frame four steps away, of a nest's outermost, pixels; 192
-    std::int32_t paneHeight;    ///< the same; 192
-    std::int32_t travel;        ///< how far a tunnel or nest has come, 1/256 steps; 0
-    std::int32_t speed;         ///< added to `travel` a frame; negative: backwards; 24
-    std::int32_t turn;          ///< of the nearest rectangle, 1/1024 turns; 0
-    std::int32_t turnSpeed;     ///< added to `turn` a frame; 2
-    std::int32_t twist;         ///< further turn from one rectangle to the next; 16
-    SINE windX, windY;          ///< the way of the tunnel or nest across the field: `speed` 3 and 2 a frame,
-                                ///< `offsetStep` 48 and 40 a step, in 1/1024 turns
-    std::int32_t reach;         ///< how far it winds, pixels, a tunnel's seen four steps away; 64
-    std::int32_t brightness;    ///< of all colours, 0..256; 256
-    std::int32_t count;         ///< rectangles; 24
-    RECT_PANE* panes;           ///< owned
+    std::int32_t x = 0, y = 0;              ///< the field's top left corner, target pixels
+    std::int32_t width = 256, height = 256; ///< the field, pixels; what drifts out comes in on the other side
+    RECT_PATH path = RECT_PATH::drift;
+    RECT_FACE face = RECT_FACE::both;
+    RECT_MIX mix = RECT_MIX::add;
+    std::int32_t paneWidth = 192;  ///< of a tunnel's frame four steps away, of a nest's outermost, pixels
+    std::int32_t paneHeight = 192; ///< the same
+    std::int32_t travel = 0;       ///< how far a tunnel or nest has come, 1/256 steps
+    std::int32_t speed = 24;       ///< added to `travel` a frame; negative: backwards
+    std::int32_t turn = 0;         ///< of the nearest rectangle, 1/1024 turns
+    std::int32_t turnSpeed = 2;    ///< added to `turn` a frame
+    std::int32_t twist = 16;       ///< further turn from one rectangle to the next
+    SINE windX{.speed = 3, .offsetStep = 48}; ///< how a tunnel or nest winds: a frame, and from step to step
+    SINE windY{.speed = 2, .offsetStep = 40}; ///< the same up and down
+    std::int32_t reach = 64;                  ///< how far it winds, pixels, a tunnel's seen four steps away
+    std::int32_t brightness = 256;            ///< of all colours, 0..256
+    std::int32_t count = 24;                  ///< rectangles
+    RECT_PANE* panes = nullptr;               ///< owned
 };
 
 extern const IDENTITY RECT_identity;
 extern std::uint8_t RECT_verbose;
 
-/// A fleet with the defaults above (11 draws of chance() a pane), or nullptr (reported).
+/// A fleet (11 draws of chance() a pane), or nullptr (reported).
 RECT* RECT_new();
 
-/// Makes it `count` (>= 0) panes and randomizes. On failure it reports and leaves the record as it was.
+/// Replaces the panes by `count` (>= 0) random ones. On failure it reports and the old ones stay.
 void RECT_setCount(RECT* rect, std::int32_t count);
 
 /// Draws every pane anew, 11 numbers of chance() each: x, y, both speeds, both sizes, flip, its speed, turn,

@@ -4,6 +4,7 @@
 // What RECT draws one rectangle with: upright and turned, filled and framed, in three ways of mixing.
 #include "effects/rect.h"
 #include "foundation/sine.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 

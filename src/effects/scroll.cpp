@@ -3,8 +3,12 @@
 #include "effects/scroll.h"
 
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
+#include "vector/cursor.h"
+#include "vector/font.h"
 
 #include <cstring>
 
@@ -32,7 +36,7 @@ bool canMove(const SCROLL* scroll) {
            scroll->cursor->count > 0 && scroll->font != nullptr && scroll->font->width > 0;
 }
 
-/// Goes on by some characters, back when negative. The cursor's step stays behind.
+/// Goes on by some characters, back when negative. The cursor keeps that step.
 void moveBy(SCROLL& scroll, std::int32_t characters) {
     scroll.cursor->step = characters;
     CURSOR_advance(scroll.cursor);
@@ -66,14 +70,11 @@ SCROLL* SCROLL_new() {
     // SCROLL_newFailsSilently: one expects a report when memory runs out; this constructor makes none of its
     // own.
     SCROLL* scroll = allocateRecord<SCROLL>();
-    if (scroll == nullptr) {
-        return nullptr;
-    }
-    scroll->speed = 1;
-    scroll->cursor = newCursorOver(defaultText);
-    if (scroll->cursor == nullptr) {
-        delete scroll;
-        return nullptr;
+    if (scroll != nullptr) {
+        scroll->cursor = newCursorOver(defaultText);
+        if (scroll->cursor == nullptr) {
+            SCROLL_delete(&scroll);
+        }
     }
     return scroll;
 }
@@ -124,13 +125,7 @@ void SCROLL_drawOpaque(SCROLL* scroll) {
 }
 
 void SCROLL_delete(SCROLL** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SCROLL_error();
-        return;
-    }
-    CURSOR_delete(&(*handle)->cursor);
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SCROLL_error, deletedBy(CURSOR_delete, &SCROLL::cursor));
 }
 
 void SCROLL_error() {

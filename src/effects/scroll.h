@@ -10,27 +10,28 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
-#include "vector/cursor.h"
-#include "vector/font.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct CURSOR;
+struct FONT;
+struct IMG;
+
 struct SCROLL {
-    std::int32_t x;          ///< column of the target where the first character begins, before `offset`; 0
-    std::int32_t y;          ///< row of the target where the text begins; 0
-    std::int32_t z;          ///< 0; not used
-    std::int32_t viewWidth;  ///< width of the target, pixels; 0
-    std::int32_t charHeight; ///< glyph height, pixels; 0; not used by the drawing
-    std::int32_t fontField;  ///< the font's `character` at the set-up; 0; not used by the drawing
-    std::int32_t speed;      ///< pixels a step, to the left when positive; 1
-    std::int32_t offset;     ///< pixels into the first character; 0
-    const char* text;        ///< borrowed; nullptr
-    CURSOR* cursor;          ///< owned; the first visible character
-    FONT* font;              ///< borrowed; its cell width is the pitch of the characters; nullptr
-    IMG* target;             ///< borrowed; the image drawn into; nullptr
+    std::int32_t x = 0;          ///< column of the target where the first character begins, before `offset`
+    std::int32_t y = 0;          ///< row of the target where the text begins
+    std::int32_t z = 0;          ///< not used
+    std::int32_t viewWidth = 0;  ///< width of the target, pixels
+    std::int32_t charHeight = 0; ///< glyph height, pixels; not used by the drawing
+    std::int32_t fontField = 0;  ///< the font's `character` at the set-up; not used by the drawing
+    std::int32_t speed = 1;      ///< pixels a step, to the left when positive
+    std::int32_t offset = 0;     ///< pixels into the first character
+    const char* text = nullptr;  ///< borrowed
+    CURSOR* cursor;              ///< owned; the first visible character
+    FONT* font = nullptr;        ///< borrowed; its cell width is the pitch of the characters
+    IMG* target = nullptr;       ///< borrowed; the image drawn into
 };
 
 extern const IDENTITY SCROLL_identity;

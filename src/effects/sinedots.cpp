@@ -4,8 +4,10 @@
 
 #include "foundation/chance.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -17,9 +19,6 @@ std::uint8_t SINEDOTS_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newSize = 256;
-constexpr std::int32_t newCount = 16;
-constexpr std::uint32_t newColour = 0xFF0000;
 constexpr std::int32_t wordsPerDot = 4;
 
 /// What a wave draws its numbers from. The steps differ by one between x and y and from wave to wave, which
@@ -119,18 +118,15 @@ std::uint32_t colourTimes(std::uint32_t colour, std::int64_t times) {
 } // namespace
 
 SINEDOTS* SINEDOTS_new() {
-    SINEDOTS* dots = allocateRecord<SINEDOTS>();
+    SINEDOTS* dots = newRecord<SINEDOTS>(SINEDOTS_error);
     if (dots == nullptr) {
-        SINEDOTS_error();
         return nullptr;
     }
-    dots->width = dots->height = dots->depth = newSize;
-    SINEDOTS_setCount(dots, newCount);
+    SINEDOTS_setCount(dots, dots->count);
     if (dots->dots == nullptr) {
         SINEDOTS_delete(&dots);
         return nullptr;
     }
-    dots->colour = newColour;
     SINEDOTS_randomize(dots);
     return dots;
 }
@@ -208,16 +204,11 @@ void SINEDOTS_drawAdd(SINEDOTS* dots, IMG* target) {
 }
 
 void SINEDOTS_delete(SINEDOTS** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SINEDOTS_error();
-        return;
-    }
-    delete[](*handle)->dots;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SINEDOTS_error, &SINEDOTS::dots);
 }
 
-// SINEDOTS_errorIsSilent: one expects a line while SINEDOTS_verbose is set; this module never printed one.
+// SINEDOTS_errorIsSilent: one expects a line while SINEDOTS_verbose is set; this module prints none, so its
+// failures stay quiet.
 void SINEDOTS_error() {}
 
 } // namespace velm

@@ -10,11 +10,12 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
 
 inline constexpr std::int32_t SINEDOTS_waveCount = 3;
 
@@ -24,23 +25,23 @@ struct SINEDOTS_AXES {
 };
 
 struct SINEDOTS {
-    std::int32_t x, y, z;                    ///< 0; not used by the drawing
-    std::int32_t width, height, depth;       ///< 256 each; every draw refreshes them from the target
+    std::int32_t x = 0, y = 0, z = 0;                    ///< not used by the drawing
+    std::int32_t width = 256, height = 256, depth = 256; ///< every draw sets them to the target's
     SINEDOTS_AXES phase[SINEDOTS_waveCount]; ///< of the first dot, 0..1023 in 1/1024 turns; random
     SINEDOTS_AXES speed[SINEDOTS_waveCount]; ///< added to the phase once a frame; random
     SINEDOTS_AXES step[SINEDOTS_waveCount];  ///< added to the phase from dot to dot; random
-    SINEDOTS_AXES
-    amplitude[SINEDOTS_waveCount]; ///< twice the reach in pixels; 128, 64, 32; every draw makes
-                                   ///< them a half, a quarter and an eighth of the target's size
-    std::uint32_t colour;          ///< 0x00RRGGBB of every dot; red
-    std::int32_t count;            ///< dots, 1 or more; 16
-    std::int32_t* dots;            ///< owned, 4 words for each dot; sized but not read
+    /// Twice the reach in pixels, 128, 64 and 32 after SINEDOTS_randomize; every draw makes them a half, a
+    /// quarter and an eighth of the target's size.
+    SINEDOTS_AXES amplitude[SINEDOTS_waveCount];
+    std::uint32_t colour = 0xFF0000; ///< 0x00RRGGBB of every dot
+    std::int32_t count = 16;         ///< dots, 1 or more
+    std::int32_t* dots = nullptr;    ///< owned, 4 words for each dot; sized but not read
 };
 
 extern const IDENTITY SINEDOTS_identity;
 extern std::uint8_t SINEDOTS_verbose;
 
-/// 16 red dots on random waves (18 draws of chance()), or nullptr.
+/// Dots on random waves (18 draws of chance()), or nullptr.
 SINEDOTS* SINEDOTS_new();
 
 /// Sets the number of dots (>= 1) and clears their storage. On failure the record stays as it was.

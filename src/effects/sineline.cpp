@@ -5,8 +5,10 @@
 #include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
@@ -20,13 +22,6 @@ std::uint8_t SINELINE_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newMiddle = 128;
-constexpr std::int32_t newReach = 64;
-constexpr std::int32_t newBreathSpeed = 6;
-constexpr std::int32_t newDepth = 128;
-constexpr std::int32_t newCorners = 96;
-constexpr std::int32_t newEchoes = 6;
-constexpr std::int32_t newLag = 2;
 constexpr std::int32_t mostEchoes = 16;
 constexpr std::int32_t leastCorners = 3;
 
@@ -78,21 +73,7 @@ void drawCurve(const SINELINE& line, IMG* target, std::int32_t ago, std::uint32_
 
 SINELINE* SINELINE_new() {
     SINELINE* line = allocateRecord<SINELINE>();
-    if (line == nullptr) {
-        SINELINE_error();
-        return nullptr;
-    }
-    line->x = line->y = newMiddle;
-    line->wave[0].reach = newReach;
-    line->wave[1].reach = newReach / 2;
-    SINE_setup(&line->breath, SINE_tableLength, 0, newBreathSpeed, 0, 0);
-    line->depth = newDepth;
-    line->corners = newCorners;
-    line->echoes = newEchoes;
-    line->lag = newLag;
-    line->colour = 0x2060C0;
-    line->echoColour = 0x6020C0;
-    SINELINE_randomize(line);
+    SINELINE_randomize(line); // reports when memory ran out
     return line;
 }
 
@@ -131,19 +112,15 @@ void SINELINE_draw(const SINELINE* line, IMG* target) {
     const std::int32_t echoes = std::clamp(line->echoes, 1, mostEchoes);
     for (std::int32_t echo = echoes - 1; echo >= 0; --echo) {
         // 0 for the newest; the echoes turn into the other colour and fade to nothing.
-        const auto age = static_cast<std::uint32_t>(256 * echo / echoes);
-        const std::uint32_t colour = RGB888_mix(line->colour, line->echoColour, age);
-        drawCurve(*line, target, wrapMul(echo, line->lag), RGB888_mix(colour, 0, age));
+        const std::int32_t age = RGB888_fullWeight * echo / echoes;
+        const std::uint32_t colour =
+            RGB888_mix(line->colour, line->echoColour, static_cast<std::uint32_t>(age));
+        drawCurve(*line, target, wrapMul(echo, line->lag), RGB888_dim(colour, RGB888_fullWeight - age));
     }
 }
 
 void SINELINE_delete(SINELINE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SINELINE_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SINELINE_error);
 }
 
 void SINELINE_error() {

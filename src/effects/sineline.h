@@ -12,38 +12,37 @@
 
 #include "foundation/identity.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+
 /// One of the two harmonics of the curve.
 struct SINELINE_WAVE {
-    std::int32_t phaseX, phaseY; ///< 1/1024 turns; random
-    std::int32_t speedX, speedY; ///< added to the phase once a frame; random, 1..4 either way
-    std::int32_t turnsX, turnsY; ///< whole periods around the curve; random, 1..3
-    std::int32_t reach;          ///< pixels, at full breath
+    std::int32_t phaseX = 0, phaseY = 0; ///< 1/1024 turns; random
+    std::int32_t speedX = 0, speedY = 0; ///< added to the phase once a frame; random, 1..4 either way
+    std::int32_t turnsX = 0, turnsY = 0; ///< whole periods around the curve; random, 1..3
+    std::int32_t reach = 0;              ///< pixels, at full breath
 };
 
 struct SINELINE {
-    std::int32_t x, y; ///< the middle, target pixels; 128, 128
-    SINELINE_WAVE wave[2];
-    SINE breath;          ///< `speed` 6 a frame, in 1/1024 turns
-    std::int32_t depth;   ///< how far the size sinks when it breathes out, 0..256 for none..to nothing; 128
-    std::int32_t corners; ///< of the polyline, 3 or more; 96
-    std::int32_t echoes;  ///< curves drawn, the newest one included, 1..16; 6
-    std::int32_t lag;     ///< frames between one echo and the next; 2
-    std::uint32_t colour; ///< 0x00RRGGBB of the newest curve; a blue
-    std::uint32_t echoColour; ///< 0x00RRGGBB of the oldest one, before it fades; a violet. Echoes between
-                              ///< them are mixed
+    std::int32_t x = 128, y = 128; ///< the middle, target pixels
+    SINELINE_WAVE wave[2] = {{.reach = 64}, {.reach = 32}};
+    SINE breath{.speed = 6, .offsetStep = 0}; ///< `speed` a frame, in 1/1024 turns
+    std::int32_t depth = 128;  ///< how far the size sinks when it breathes out: 0 not at all, 256 to nothing
+    std::int32_t corners = 96; ///< of the polyline, 3 or more
+    std::int32_t echoes = 6;   ///< curves drawn, the newest one included, 1..16
+    std::int32_t lag = 2;      ///< frames between one echo and the next
+    std::uint32_t colour = 0x2060C0;     ///< 0x00RRGGBB of the newest curve
+    std::uint32_t echoColour = 0x6020C0; ///< 0x00RRGGBB of the oldest one before it fades; mixed between
 };
 
 extern const IDENTITY SINELINE_identity;
 extern std::uint8_t SINELINE_verbose;
 
-/// A random curve (12 draws of chance()) with the defaults above, reaching 64 and 32 pixels, or nullptr
-/// (reported).
+/// A random curve (12 draws of chance()), or nullptr (reported).
 SINELINE* SINELINE_new();
 
 /// Draws new phases, speeds and turns, 12 numbers from chance(): wave by wave x before y, phases, speeds,

@@ -3,9 +3,12 @@
 #include "effects/sinescan.h"
 
 #include "foundation/chance.h"
+#include "foundation/fixed.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -17,13 +20,8 @@ std::uint8_t SINESCAN_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newMiddle = 128;
-constexpr std::int32_t newWidth = 128;
-constexpr std::int32_t newHeight = 64;
-constexpr std::int32_t newTurnSpeed = 6;
-constexpr std::int32_t newShade = 128;
 constexpr std::int32_t mostSize = 4096;
-constexpr std::int32_t full = 256; // of brightness, and an unstretched length
+constexpr std::int32_t full = RGB888_fullWeight; // of brightness, and an unstretched length
 
 /// A run of pixels `stride` words apart: a row or a column of an image.
 template <typename Pixel>
@@ -47,17 +45,16 @@ void layLine(const Line<const std::uint32_t>& from, const Line<std::uint32_t>& t
     const std::int32_t first = mirrored ? end : begin;
     const std::int64_t length = std::int64_t{mirrored ? begin : end} - first;
     const std::int64_t stop = std::min<std::int64_t>(first + length, to.count);
-    const auto light = static_cast<std::uint32_t>(std::clamp(share, 0, full));
     if (length == 0) {
         return;
     }
     // 16.16, rounded down, so that the last pixel stays inside the line.
-    const std::int64_t stepSize = (std::int64_t{from.count} << 16) / length;
+    const std::int64_t stepSize = toFixed(from.count) / length;
     for (std::int64_t at = std::max(first, 0); at < stop; ++at) {
-        const std::int64_t index = ((at - first) * stepSize + stepSize / 2) >> 16;
+        const std::int64_t index = wholeOf((at - first) * stepSize + stepSize / 2);
         const std::uint32_t pixel = from.first[(mirrored ? from.count - 1 - index : index) * from.stride];
         if (pixel != 0) {
-            to.first[at * to.stride] = light == full ? pixel : RGB888_mix(0, pixel, light);
+            to.first[at * to.stride] = share >= full ? pixel : RGB888_dim(pixel, share);
         }
     }
 }
@@ -137,21 +134,7 @@ void randomizeWave(SINE& wave, std::int32_t speeds, std::int32_t steps) {
 
 SINESCAN* SINESCAN_new() {
     SINESCAN* scan = allocateRecord<SINESCAN>();
-    if (scan == nullptr) {
-        SINESCAN_error();
-        return nullptr;
-    }
-    scan->x = scan->y = newMiddle;
-    scan->width = newWidth;
-    scan->height = newHeight;
-    scan->shift.reach = 12;
-    scan->stretch.reach = 32;
-    scan->scan.reach = 4;
-    scan->twist.reach = SINE_quarter;
-    scan->turnSpeed = newTurnSpeed;
-    scan->shade = newShade;
-    scan->brightness = full;
-    SINESCAN_randomize(scan);
+    SINESCAN_randomize(scan); // reports when memory ran out
     return scan;
 }
 
@@ -207,12 +190,7 @@ void SINESCAN_draw(const SINESCAN* scan, IMG* target) {
 }
 
 void SINESCAN_delete(SINESCAN** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SINESCAN_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SINESCAN_error);
 }
 
 void SINESCAN_error() {

@@ -11,11 +11,12 @@
 
 #include "foundation/identity.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
 
 /// What a line is: a row, a column, or a row of a four-sided column that is seen from outside and shows the
 /// picture on each of its sides.
@@ -23,30 +24,30 @@ enum class SINESCAN_WAY : std::uint8_t { rows, columns, twister };
 
 /// A wave over the lines. All angles are in 1/1024 turns.
 struct SINESCAN_WAVE {
-    SINE wave;          ///< `speed` a frame, `offsetStep` from line to line
     std::int32_t reach; ///< how much it does at its peak
+    SINE wave{};        ///< `speed` a frame, `offsetStep` from line to line; random
 };
 
 struct SINESCAN {
-    std::int32_t x, y;          ///< the middle of the picture, target pixels; 128, 128
-    std::int32_t width, height; ///< its size unbent, pixels, 0..4096; a negative one draws nothing; 128, 64
-    SINESCAN_WAY way;           ///< rows
-    SINESCAN_WAVE shift;        ///< moves a line along itself, pixels; 12
-    SINESCAN_WAVE stretch;      ///< lengthens it, 1/256 of its length; from -256 on it turns over; 32
-    SINESCAN_WAVE scan;         ///< takes it from that many source lines farther on, wrapped; 4
-    SINESCAN_WAVE twist;        ///< turns a twister's line, 1/1024 turns; 256
-    std::int32_t turn;          ///< further turn of a whole twister; 0
-    std::int32_t turnSpeed;     ///< added to `turn` a frame; 6
-    std::int32_t pinned;        ///< 1: shift and stretch grow from nothing at the first line; 0
-    std::int32_t shade;         ///< 0..256: how dark the folds are, and a twister's sides that turn away; 128
-    std::int32_t brightness;    ///< of all colours, 0..256; 256
-    const IMG* source;          ///< borrowed; 0 pixels are transparent; set by the user; nullptr
+    std::int32_t x = 128, y = 128;         ///< the middle of the picture, target pixels
+    std::int32_t width = 128, height = 64; ///< its size unbent, pixels, 0..4096; a negative one draws nothing
+    SINESCAN_WAY way = SINESCAN_WAY::rows;
+    SINESCAN_WAVE shift{12};       ///< moves a line along itself, pixels
+    SINESCAN_WAVE stretch{32};     ///< lengthens it, 1/256 of its length; from -256 on it turns over
+    SINESCAN_WAVE scan{4};         ///< takes it from that many source lines farther on, wrapped
+    SINESCAN_WAVE twist{256};      ///< turns a twister's line, 1/1024 turns
+    std::int32_t turn = 0;         ///< further turn of a whole twister
+    std::int32_t turnSpeed = 6;    ///< added to `turn` a frame
+    std::int32_t pinned = 0;       ///< 1: shift and stretch grow from nothing at the first line
+    std::int32_t shade = 128;      ///< 0..256: how dark the folds are, and a twister's sides that turn away
+    std::int32_t brightness = 256; ///< of all colours, 0..256
+    const IMG* source = nullptr;   ///< borrowed; 0 pixels are transparent; set by the user
 };
 
 extern const IDENTITY SINESCAN_identity;
 extern std::uint8_t SINESCAN_verbose;
 
-/// A scan with the defaults above and random waves (12 draws of chance()), or nullptr (reported).
+/// A scan with random waves (12 draws of chance()), or nullptr (reported).
 SINESCAN* SINESCAN_new();
 
 /// Draws phase, speed and step from line to line of shift, stretch, scan and twist: 12 numbers from chance().

@@ -3,11 +3,15 @@
 #include "effects/wordzoom.h"
 
 #include "effects/line_text.h"
+#include "effects/palette.h"
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/fixed.h"
+#include "foundation/random.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -20,25 +24,17 @@ std::uint8_t WORDZOOM_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
-constexpr std::int32_t newCell = 16;
-constexpr std::int32_t newMiddle = 128;
-constexpr std::int32_t newGrowth = one / 20;
-constexpr std::int32_t newInterval = 30;
-constexpr std::int32_t newSpread = 12;
-constexpr std::int32_t newHueStep = 200;
-constexpr std::int32_t newEchoes = 3;
 constexpr std::int32_t mostEchoes = 8;
 constexpr std::int32_t mostTwist = 160; // 1/1024 turns
 constexpr std::int32_t mostDrift = 4096;
 constexpr std::int32_t largestCell = 4096;
 constexpr std::int64_t outOfSight = 1 << 20; // font units from a word's middle
 // A word's way, as scales: it starts as a spark, is bright from there to there, and is past.
-constexpr std::int32_t farthest = one / 12;
-constexpr std::int32_t brightFrom = one * 3 / 4;
-constexpr std::int32_t brightTo = one * 5 / 2;
-constexpr std::int32_t past = one * 10;
-constexpr std::int32_t full = 256; // brightness
+constexpr std::int32_t farthest = fixedOne / 12;
+constexpr std::int32_t brightFrom = fixedOne * 3 / 4;
+constexpr std::int32_t brightTo = fixedOne * 5 / 2;
+constexpr std::int32_t past = fixedOne * 10;
+constexpr std::int32_t full = RGB888_fullWeight;
 
 bool isGap(char character) {
     return character == ' ' || character == '\n';
@@ -50,7 +46,7 @@ std::int32_t drawNumber(WORDZOOM& zoom, std::int32_t most) {
     return RANDOM_below(zoom.random, 2 * reach + 1) - reach;
 }
 
-/// Goes to the next word and gives its length; 0 when there is none any more.
+/// Goes to the next word and returns its length; 0 when there is none left.
 std::int32_t findWord(WORDZOOM& zoom) {
     for (std::int32_t rounds = 0; rounds < 2; ++rounds) {
         while (isGap(zoom.text[zoom.next])) {
@@ -114,18 +110,14 @@ struct Pose {
 
 void drawWord(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, std::int32_t scale, std::uint32_t colour,
               IMG* target) {
-    const std::int32_t angle =
-        static_cast<std::int32_t>((std::int64_t{flight.twist} * (one - std::min(scale, one))) >> 16);
-    const auto drift = [scale](std::int32_t pixels) {
-        return static_cast<std::int32_t>((std::int64_t{pixels} * scale) >> 16);
-    };
+    const std::int32_t angle = fixedScaled(flight.twist, fixedOne - std::min(scale, fixedOne));
     Pose pose{scale,
               SINE_entry(angle),
               angle == 0 ? 32768 : SINE_entry(angle + SINE_quarter),
               0,
               std::clamp(zoom.middle, -largestCell, largestCell),
-              wrapAdd(zoom.x, drift(flight.driftX)),
-              wrapAdd(zoom.y, drift(flight.driftY))};
+              wrapAdd(zoom.x, fixedScaled(flight.driftX, scale)),
+              wrapAdd(zoom.y, fixedScaled(flight.driftY, scale))};
     const std::int64_t cell = std::clamp(zoom.cell, -largestCell, largestCell);
     for (std::int32_t i = 0; i < flight.length; ++i) {
         // Twice the way of this character's middle from the word's, halved.
@@ -147,33 +139,23 @@ void drawFlight(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, IMG* target
     for (std::int32_t echo = std::clamp(zoom.echoes, 0, mostEchoes); echo >= 0; --echo) {
         const std::int32_t scale = flight.scale - flight.scale / 20 * echo;
         const std::int32_t share = echo == 0 ? light : light / (2 + 2 * echo);
-        drawWord(zoom, flight, scale, RGB888_mix(0, colour, static_cast<std::uint32_t>(share)), target);
+        drawWord(zoom, flight, scale, RGB888_dim(colour, share), target);
     }
 }
 
 } // namespace
 
 WORDZOOM* WORDZOOM_new() {
-    WORDZOOM* zoom = allocateRecord<WORDZOOM>();
+    WORDZOOM* zoom = newRecord<WORDZOOM>(WORDZOOM_error);
     if (zoom == nullptr) {
-        WORDZOOM_error();
         return nullptr;
     }
     zoom->random = RANDOM_new();
     if (zoom->random == nullptr) {
         WORDZOOM_error();
-        delete zoom;
+        WORDZOOM_delete(&zoom);
         return nullptr;
     }
-    zoom->loop = 1;
-    zoom->cell = newCell;
-    zoom->middle = newCell / 2;
-    zoom->x = zoom->y = newMiddle;
-    zoom->growth = newGrowth;
-    zoom->interval = newInterval;
-    zoom->spread = newSpread;
-    zoom->hueStep = newHueStep;
-    zoom->echoes = newEchoes;
     WORDZOOM_randomize(zoom);
     return zoom;
 }
@@ -207,9 +189,9 @@ void WORDZOOM_advance(WORDZOOM* zoom) {
         if (flight.word == nullptr) {
             continue;
         }
-        // At least a little each frame, so that every word passes some time.
+        // At least a little each frame, so that every word passes in the end.
         const std::int64_t growth =
-            std::max<std::int64_t>(1, (std::int64_t{flight.scale} * zoom->growth) >> 16);
+            std::max<std::int64_t>(1, wholeOf(std::int64_t{flight.scale} * zoom->growth));
         flight.scale = static_cast<std::int32_t>(std::min<std::int64_t>(flight.scale + growth, past));
         if (flight.scale >= past) {
             flight = {};
@@ -223,15 +205,15 @@ void WORDZOOM_advance(WORDZOOM* zoom) {
     }
 }
 
-std::int32_t WORDZOOM_isDone(const WORDZOOM* zoom) {
+bool WORDZOOM_isDone(const WORDZOOM* zoom) {
     if (zoom == nullptr || zoom->text == nullptr) {
         WORDZOOM_error();
-        return 1;
+        return true;
     }
     const bool flies = std::any_of(std::begin(zoom->flights), std::end(zoom->flights),
                                    [](const WORDZOOM_FLIGHT& flight) { return flight.word != nullptr; });
     WORDZOOM rest = *zoom;
-    return flies || findWord(rest) > 0 ? 0 : 1;
+    return !flies && findWord(rest) == 0;
 }
 
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {
@@ -247,13 +229,7 @@ void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {
 }
 
 void WORDZOOM_delete(WORDZOOM** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        WORDZOOM_error();
-        return;
-    }
-    RANDOM_delete(&(*handle)->random);
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, WORDZOOM_error, deletedBy(RANDOM_delete, &WORDZOOM::random));
 }
 
 void WORDZOOM_error() {

@@ -10,17 +10,19 @@
 //     WORDZOOM_advance(zoom), WORDZOOM_draw(zoom, screen); // each frame
 #pragma once
 
-#include "audio/sample.h"
+#include "foundation/fixed.h"
 #include "foundation/identity.h"
-#include "foundation/list.h"
-#include "foundation/random.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
-inline constexpr std::int32_t WORDZOOM_flights = 8; ///< words in the air at the same time, at most
+struct IMG;
+struct LIST;
+struct RANDOM;
+struct SAMPLE;
+
+inline constexpr std::int32_t WORDZOOM_flights = 8; ///< at most so many words fly at the same time
 
 /// A word on its way.
 struct WORDZOOM_FLIGHT {
@@ -33,29 +35,29 @@ struct WORDZOOM_FLIGHT {
 };
 
 struct WORDZOOM {
-    const char* text;      ///< borrowed; words between spaces and line feeds; nullptr
-    std::int32_t next;     ///< byte of the text where the next word is looked for
-    std::int32_t loop;     ///< 1: after the last word comes the first again; 0: then none comes; 1
-    const LIST* glyphs;    ///< borrowed; a line font; nullptr
-    const SAMPLE* palette; ///< borrowed; the words' colours; nullptr is white
-    std::int32_t cell;     ///< width and height of a glyph, font units within +-4096; 16
-    std::int32_t middle;   ///< where a glyph's middle is, font units within +-4096, both ways; 8
-    std::int32_t x, y;     ///< vanishing point, target pixels; 128, 128
-    std::int32_t growth;   ///< 16.16, what a frame adds to a scale, as a share of it; 0.05
-    std::int32_t interval; ///< frames from word to word; 30
-    std::int32_t wait;     ///< frames until the next word starts; 0
-    std::int32_t spread;   ///< drifts are drawn from -spread..spread, pixels up to 4096; 12
-    std::int32_t hueStep;  ///< palette entries from word to word; 200
-    std::int32_t hue;      ///< palette entry of the next word; random
-    std::int32_t echoes;   ///< copies behind each word, 0..8; 3
-    RANDOM* random;        ///< owned; from which drifts and twists are drawn
+    const char* text = nullptr;          ///< borrowed; words between spaces and line feeds
+    std::int32_t next = 0;               ///< byte of the text where the search for the next word begins
+    std::int32_t loop = 1;               ///< 1: the first word follows the last one; 0: no word does
+    const LIST* glyphs = nullptr;        ///< borrowed; a line font
+    const SAMPLE* palette = nullptr;     ///< borrowed; the words' colours, a ring; nullptr is white
+    std::int32_t cell = 16;              ///< width and height of a glyph, font units within +-4096
+    std::int32_t middle = 8;             ///< where a glyph's middle is, font units within +-4096, both ways
+    std::int32_t x = 128, y = 128;       ///< vanishing point, target pixels
+    std::int32_t growth = fixedOne / 20; ///< 16.16, what a frame adds to a scale, as a share of it
+    std::int32_t interval = 30;          ///< frames from word to word
+    std::int32_t wait = 0;               ///< frames until the next word starts
+    std::int32_t spread = 12;            ///< drifts are drawn from -spread..spread, pixels up to 4096
+    std::int32_t hueStep = 200;          ///< palette entries from word to word
+    std::int32_t hue;                    ///< palette entry of the next word; random
+    std::int32_t echoes = 3;             ///< copies behind each word, 0..8
+    RANDOM* random;                      ///< owned; decides drifts and twists
     WORDZOOM_FLIGHT flights[WORDZOOM_flights];
 };
 
 extern const IDENTITY WORDZOOM_identity;
 extern std::uint8_t WORDZOOM_verbose;
 
-/// An empty sky with the defaults above (two draws of chance()), or nullptr (reported).
+/// An empty sky (two draws of chance()), or nullptr (reported).
 WORDZOOM* WORDZOOM_new();
 
 /// Binds a text, which must stay. Words that fly are gone; the first one of the new text starts at once.
@@ -65,12 +67,12 @@ void WORDZOOM_setText(WORDZOOM* zoom, const char* text);
 /// chance().
 void WORDZOOM_randomize(WORDZOOM* zoom);
 
-/// One frame: words grow, those that have passed are gone, and the next one starts in its time if there is
+/// One frame: words grow, those that have passed are gone, and the next one starts when it is due if there is
 /// a free place.
 void WORDZOOM_advance(WORDZOOM* zoom);
 
-/// 1 when no word flies and none will.
-std::int32_t WORDZOOM_isDone(const WORDZOOM* zoom);
+/// True when no word flies and none will.
+bool WORDZOOM_isDone(const WORDZOOM* zoom);
 
 /// Adds the words to the target; a missing font is reported.
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target);

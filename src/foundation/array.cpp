@@ -3,6 +3,7 @@
 #include "foundation/array.h"
 
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 
 #include <algorithm>
@@ -15,8 +16,6 @@ std::uint8_t ARRAY_verbose = 0;
 
 namespace {
 
-constexpr std::uint32_t newElementSize = 4;
-constexpr std::int32_t newCapacity = 2;
 constexpr std::int32_t largestToDouble = 0x3FFFFFFF;
 
 std::uint8_t* allocateElements(std::int32_t capacity, std::uint32_t elementSize) {
@@ -55,7 +54,7 @@ void adoptDoubled(ARRAY& array, std::uint8_t* data) {
     array.capacity *= 2;
 }
 
-/// Appends, or reports and gives false. The old buffer goes last, for the element may lie in it.
+/// Appends, or reports and returns false. The old buffer goes last, for the element may lie in it.
 bool append(ARRAY& array, const void* element) {
     const bool isFull = array.capacity <= array.count;
     std::uint8_t* const data = isFull ? doubled(array) : array.data;
@@ -74,14 +73,14 @@ bool append(ARRAY& array, const void* element) {
 } // namespace
 
 ARRAY* ARRAY_new() {
-    ARRAY* array = allocateRecord<ARRAY>();
-    std::uint8_t* data = array == nullptr ? nullptr : allocateElements(newCapacity, newElementSize);
-    if (data == nullptr) {
-        delete array;
-        ARRAY_error();
-        return nullptr;
+    ARRAY* array = newRecord<ARRAY>(ARRAY_error);
+    if (array != nullptr) {
+        array->data = allocateElements(array->capacity, array->elementSize);
+        if (array->data == nullptr) {
+            ARRAY_error();
+            ARRAY_delete(&array);
+        }
     }
-    *array = {.elementSize = newElementSize, .capacity = newCapacity, .count = 0, .data = data};
     return array;
 }
 
@@ -273,19 +272,13 @@ ARRAY* ARRAY_slice(const ARRAY* array, std::int32_t from, std::int32_t to) {
         ARRAY_error();
         return nullptr;
     }
-    // ARRAY_sliceIsEmpty: one expects elements from..to-1; a good range gives a new array as it is made, with
+    // ARRAY_sliceIsEmpty: one expects elements from..to-1; a good range returns a new array, with
     // nothing in it and its elements of four bytes.
     return ARRAY_new();
 }
 
 void ARRAY_delete(ARRAY** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        ARRAY_error();
-        return;
-    }
-    delete[](*handle)->data;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, ARRAY_error, &ARRAY::data);
 }
 
 void ARRAY_error() {

@@ -16,27 +16,27 @@
 namespace velm {
 
 struct ARRAY {
-    std::uint32_t elementSize; ///< bytes per element; 4
-    std::int32_t capacity;     ///< elements that `data` can hold; 2 in a new array, doubling as it grows
-    std::int32_t count;        ///< elements in use, 0 <= count <= capacity; 0
-    std::uint8_t* data;        ///< owned; element i begins at byte i * elementSize
+    std::uint32_t elementSize = 4; ///< bytes per element
+    std::int32_t capacity = 2;     ///< elements that `data` can hold, doubling as it grows
+    std::int32_t count = 0;        ///< elements in use, 0 <= count <= capacity
+    std::uint8_t* data = nullptr;  ///< owned; element i begins at byte i * elementSize
 };
 
 extern const IDENTITY ARRAY_identity;
 extern std::uint8_t ARRAY_verbose;
 
-/// An empty array of two elements of four bytes, or nullptr (reported).
+/// An empty array, or nullptr (reported).
 ARRAY* ARRAY_new();
 
-/// Empties the array and gives it zeroed elements of `size` bytes; the capacity stays. When memory runs out,
-/// it reports and leaves the array as it was.
+/// Empties the array and makes its elements zeroed ones of `size` bytes; the capacity stays. When memory runs
+/// out, it reports and leaves the array as it was.
 void ARRAY_setElementSize(ARRAY* array, std::uint32_t size);
 
 /// Doubles the capacity, keeping the elements: 1, or 0 (reported, unchanged) when memory runs out.
 std::int32_t ARRAY_grow(ARRAY* array);
 
-/// Appends a copy of the element, growing when the array is full. An element of the array itself may be
-/// given. When it cannot grow, it reports and appends nothing.
+/// Appends a copy of the element, which may lie in the array itself, growing when the array is full. When it
+/// cannot grow, it reports and appends nothing.
 void ARRAY_push(ARRAY* array, const void* element);
 
 /// Inserts a copy of the element before `index` (0..count), moving later elements up.
@@ -76,7 +76,7 @@ std::int32_t ARRAY_indexOf(const ARRAY* array, const void* element);
 std::int32_t ARRAY_equalAt(const ARRAY* array, const void* element, std::int32_t index);
 
 /// 1 when both are the same array or hold equal elements of the same size, else 0. Two missing arrays are
-/// equal, too: see docs/quirks.md.
+/// equal, too (see docs/quirks.md).
 std::int32_t ARRAY_equal(const ARRAY* a, const ARRAY* b);
 
 /// Copies as many bytes, not elements, from `src` to `dst` as the shorter one has elements: see
@@ -86,7 +86,7 @@ void ARRAY_copyInto(const ARRAY* src, ARRAY* dst);
 /// A new array with the same elements, or nullptr (reported).
 ARRAY* ARRAY_clone(const ARRAY* src);
 
-/// Checks the range (0 <= from < to <= count) and gives a new, empty array (see docs/quirks.md), or nullptr
+/// Checks the range (0 <= from < to <= count) and returns a new, empty array (see docs/quirks.md), or nullptr
 /// (reported).
 ARRAY* ARRAY_slice(const ARRAY* array, std::int32_t from, std::int32_t to);
 

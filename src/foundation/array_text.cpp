@@ -15,7 +15,7 @@ namespace {
 
 /// Prints an array's text.
 void show(const ARRAY* array) {
-    // ARRAY_selfTestKeepsTexts: one expects the text to be freed; it never was, and a demonstration that ends
+    // ARRAY_selfTestKeepsTexts: one expects the text to be freed; it is kept, and a demonstration that ends
     // with its program loses nothing by it.
     const char* const text = ARRAY_toText(array);
     if (text != nullptr) {

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/dir.h"
 
+#include "foundation/list.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 
 #include <cstring>
@@ -32,7 +34,7 @@ bool appendName(LIST* names, const char* name) {
     return true;
 }
 
-/// Drops the names behind the first `count`.
+/// Drops the names after the first `count`.
 void dropNames(LIST* names, std::int32_t count) {
     while (names->count > count) {
         delete[] static_cast<char*>(LIST_pop(names));
@@ -42,13 +44,15 @@ void dropNames(LIST* names, std::int32_t count) {
 } // namespace
 
 DIR* DIR_new() {
-    DIR* const dir = allocateRecord<DIR>();
-    if (dir != nullptr && (dir->names = LIST_new()) != nullptr) {
-        return dir;
+    DIR* dir = newRecord<DIR>(DIR_error);
+    if (dir != nullptr) {
+        dir->names = LIST_new();
+        if (dir->names == nullptr) {
+            DIR_error();
+            DIR_delete(&dir);
+        }
     }
-    delete dir;
-    DIR_error();
-    return nullptr;
+    return dir;
 }
 
 std::int32_t DIR_read(DIR* dir, const char* path) {
@@ -100,14 +104,9 @@ std::int32_t DIR_isValid(const DIR* dir) {
 }
 
 void DIR_delete(DIR** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        DIR_error();
-        return;
-    }
-    // DIR_deleteKeepsTheNames: one expects everything to go; the list, its names and the stream
-    // outlive the record, for callers that keep the list.
-    delete *handle;
-    *handle = nullptr;
+    // DIR_deleteKeepsTheNames: one expects everything to go; the list, its names and the stream outlive the
+    // record, for callers that keep the list.
+    deleteRecord(handle, DIR_error);
 }
 
 void DIR_error() {

@@ -10,14 +10,15 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "foundation/list.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct LIST;
+
 struct DIR {
-    void* handle; ///< the directory stream of the last DIR_read, kept open; nullptr before
+    void* handle; ///< the directory stream of the last DIR_read, kept open; nullptr before the first
     LIST* names;  ///< the entries' names in the order of the file system, "." and ".." included
 };
 
@@ -28,13 +29,13 @@ extern std::uint8_t DIR_verbose;
 DIR* DIR_new();
 
 /// Appends every name in a folder: 1, or 0 (reported, unchanged) when it cannot be opened or memory runs out.
-/// The names are copies, each of which delete[] frees; they stay good for as long as the list does.
+/// The names are copies, each of which delete[] frees. They outlive the record, as the list does.
 std::int32_t DIR_read(DIR* dir, const char* path);
 
 /// The empty text.
 const char* DIR_getName(const DIR* dir);
 
-/// 1 when both are there, whichever they are.
+/// 1 for any two records (see docs/quirks.md), 0 (reported) when one is missing.
 std::int32_t DIR_same(const DIR* a, const DIR* b);
 
 /// 1 for a record, 0 (reported) for nullptr.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/file.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 
 namespace velm {
@@ -11,11 +11,7 @@ const IDENTITY FILE_identity = makeIdentity("FILE", "20150111", "UNIX", "CODE", 
 std::uint8_t FILE_verbose = 0;
 
 FILE* FILE_new() {
-    FILE* const file = allocateRecord<FILE>();
-    if (file == nullptr) {
-        FILE_error();
-    }
-    return file;
+    return newRecord<FILE>(FILE_error);
 }
 
 const char* FILE_getName(const FILE* file) {
@@ -43,12 +39,7 @@ std::int32_t FILE_isValid(const FILE* file) {
 }
 
 void FILE_delete(FILE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        FILE_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, FILE_error);
 }
 
 void FILE_error() {

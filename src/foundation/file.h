@@ -24,7 +24,7 @@ FILE* FILE_new();
 /// The empty text.
 const char* FILE_getName(const FILE* file);
 
-/// 1 when both are there, whichever they are.
+/// 1 for any two records (see docs/quirks.md), 0 (reported) when one is missing.
 std::int32_t FILE_same(const FILE* a, const FILE* b);
 
 /// 1 for a record, 0 (reported) for nullptr.

@@ -48,8 +48,7 @@ std::int32_t INT_abs(std::int32_t value) {
     return value < 0 ? wrapSub(0, value) : value;
 }
 
-// INT_errorAlwaysPrints: one expects a flag that silences it; the module never had one, so its line comes
-// unasked.
+// INT_errorAlwaysPrints: one expects a flag that silences it; the module has none, so its line always comes.
 void INT_error() {
     constexpr std::uint8_t always = 1;
     reportLine(always, "INT: ERROR.");

@@ -3,6 +3,7 @@
 #include "foundation/list.h"
 
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 
 #include <algorithm>
@@ -34,14 +35,9 @@ bool reserve(LIST* list, std::int64_t count) {
 } // namespace
 
 LIST* LIST_new() {
-    LIST* list = allocateRecord<LIST>();
-    if (list == nullptr) {
-        LIST_error();
-        return nullptr;
-    }
-    if (LIST_setCapacity(list, firstCapacity) == 0) {
-        delete list;
-        return nullptr;
+    LIST* list = newRecord<LIST>(LIST_error);
+    if (list != nullptr && LIST_setCapacity(list, firstCapacity) == 0) {
+        LIST_delete(&list);
     }
     return list;
 }
@@ -226,13 +222,7 @@ std::int32_t LIST_equal(const LIST* a, const LIST* b) {
 }
 
 void LIST_delete(LIST** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        LIST_error();
-        return;
-    }
-    delete[](*handle)->items;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, LIST_error, &LIST::items);
 }
 
 void LIST_error() {

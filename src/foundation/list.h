@@ -16,7 +16,7 @@
 namespace velm {
 
 struct LIST {
-    std::int32_t capacity; ///< slots allocated in `items`; 2 in a new list, doubling as it grows
+    std::int32_t capacity; ///< slots allocated in `items`, doubling as it grows
     std::int32_t count;    ///< elements in use, 0 <= count <= capacity
     void** items;          ///< owned; elements 0..count-1 in order, freshly grown slots are nullptr
 };
@@ -44,7 +44,7 @@ void LIST_set(LIST* list, std::int32_t index, void* value);
 /// The element at `index`, or nullptr (reported) outside 0..count-1.
 void* LIST_get(const LIST* list, std::int32_t index);
 
-/// The first index that holds `value`, or -1. A nullptr value is reported and gives -1.
+/// The first index that holds `value`, or -1. A nullptr value is reported, and the answer is -1.
 std::int32_t LIST_indexOf(const LIST* list, const void* value);
 
 /// Removes the element at `index`, moving later elements down; the freed last slot becomes nullptr.
@@ -53,7 +53,7 @@ void LIST_remove(LIST* list, std::int32_t index);
 /// Removes elements from..to-1 (0 <= from < to <= count). The vacated slots keep their old values.
 void LIST_removeRange(LIST* list, std::int32_t from, std::int32_t to);
 
-/// Removes and returns the last element; an empty list is reported and gives nullptr.
+/// Removes and returns the last element; nullptr (reported) when the list is empty.
 void* LIST_pop(LIST* list);
 
 /// Grows the capacity to `count` if it is smaller, then sets the count.

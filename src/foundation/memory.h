@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The one way to memory: zero-filled, never throwing, sizes multiplied in one place that checks for overflow.
-// All of it goes through `operator new(std::nothrow)`, which a test replaces to make the nth allocation fail.
+// The one way to memory: zeroed, never throwing, sizes multiplied in one place that checks for overflow. All
+// of it goes through `operator new(std::nothrow)`, which a test replaces to make the nth allocation fail.
 //
 //     IMG* img = allocateRecord<IMG>();                        // free with delete
 //     std::uint32_t* pixels = allocateArray<std::uint32_t>(n); // free with delete[]
@@ -27,15 +27,16 @@ template <typename Memory>
     return memory;
 }
 
-/// A zero-filled record, or nullptr when memory runs out. The caller frees it with `delete`.
+/// A record whose fields hold their defaults, 0 where they name none, or nullptr when memory runs out. The
+/// caller frees it with `delete`.
 template <typename Record>
 [[nodiscard]] Record* allocateRecord() {
     static_assert(std::is_trivially_destructible_v<Record>, "records are plain");
     return allocated(new (std::nothrow) Record{});
 }
 
-/// `count` zero-filled elements, or nullptr when `count` is negative, too large to address, or memory runs
-/// out. A count of 0 gives a valid pointer to nothing. The caller frees it with `delete[]`.
+/// `count` zeroed elements, or nullptr when `count` is negative, too large to address, or memory runs
+/// out. For a count of 0 it is a valid pointer to nothing. The caller frees it with `delete[]`.
 template <typename Element>
 [[nodiscard]] Element* allocateArray(std::int64_t count) {
     static_assert(std::is_trivially_destructible_v<Element>, "elements are plain");

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/random.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 
 #include <algorithm>
@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::uint32_t low24 = 0xFFFFFF;
 
-/// One draw: counts, lets `mix` change the state, and gives the state as a signed word; 0 (reported) without
-/// a record.
+/// One draw: counts, lets `mix` change the state, and returns the state as a signed word; 0 (reported)
+/// without a record.
 template <typename Mix>
 std::int32_t draw(RANDOM* random, Mix mix) {
     if (random == nullptr) {
@@ -32,16 +32,7 @@ std::int32_t draw(RANDOM* random, Mix mix) {
 } // namespace
 
 RANDOM* RANDOM_new() {
-    RANDOM* random = allocateRecord<RANDOM>();
-    if (random == nullptr) {
-        RANDOM_error();
-        return nullptr;
-    }
-    random->counter = 0x12345678;
-    random->multiplier = 33141;
-    random->mask = 0xA5A5A5A5;
-    random->state = 1;
-    return random;
+    return newRecord<RANDOM>(RANDOM_error);
 }
 
 std::int32_t RANDOM_next(RANDOM* random) {
@@ -104,12 +95,7 @@ RANDOM* RANDOM_clone(const RANDOM* src) {
 }
 
 void RANDOM_delete(RANDOM** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        RANDOM_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, RANDOM_error);
 }
 
 void RANDOM_error() {

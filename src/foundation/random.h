@@ -16,10 +16,10 @@
 namespace velm {
 
 struct RANDOM {
-    std::uint32_t counter;    ///< 0x12345678; incremented at the start of every draw
-    std::uint32_t multiplier; ///< 33141; mixing word of RANDOM_next and RANDOM_nextSquare
-    std::uint32_t mask;       ///< 0xA5A5A5A5; mixing word of RANDOM_nextSquare
-    std::uint32_t state;      ///< 1; the value that a draw returns
+    std::uint32_t counter = 0x12345678; ///< incremented at the start of every draw
+    std::uint32_t multiplier = 33141;   ///< mixing word of RANDOM_next and RANDOM_nextSquare
+    std::uint32_t mask = 0xA5A5A5A5;    ///< mixing word of RANDOM_nextSquare
+    std::uint32_t state = 1;            ///< the value that a draw returns
 };
 
 extern const IDENTITY RANDOM_identity;
@@ -46,7 +46,7 @@ std::int32_t RANDOM_nextMix(RANDOM* random);
 /// 0..limit-1 of the main generator; always 0 for a limit of 1 or less.
 std::int32_t RANDOM_below(RANDOM* random, std::int32_t limit);
 
-/// -4..-1 or 1..4 by the low three bits of a number, whichever generator it is from.
+/// -4..-1 or 1..4, chosen by the low three bits of a number of any generator.
 constexpr std::int32_t RANDOM_eitherWay(std::int32_t number) {
     const std::int32_t choice = number & 7;
     return choice < 4 ? choice + 1 : 3 - choice;

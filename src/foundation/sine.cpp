@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/sine.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 
@@ -16,7 +16,7 @@ std::uint8_t SINE_verbose = 0;
 namespace {
 
 // round(32767 * sin(2 pi i / 1024)) for the first quarter. SINE_tableOddEntries: one expects 23311 and 29534
-// at 129 and 183; they hold one more, and every frame ever drawn was drawn with them.
+// at 129 and 183; they hold one more, and every frame depends on them.
 constexpr std::array<std::int16_t, SINE_quarter> quarterWave = {
     // clang-format off
     0, 201, 402, 603, 804, 1005, 1206, 1407, 1608, 1809, 2009, 2210, 2410, 2611, 2811, 3012,
@@ -65,13 +65,7 @@ bool updateIndex(SINE* cursor) {
 constinit const std::array<std::int16_t, SINE_tableLength> SINE_table = mirrorQuarter();
 
 SINE* SINE_new() {
-    SINE* cursor = allocateRecord<SINE>();
-    if (cursor == nullptr) {
-        SINE_error();
-        return nullptr;
-    }
-    *cursor = {.length = SINE_tableLength, .index = 0, .phase = 0, .speed = 1, .offset = 0, .offsetStep = 2};
-    return cursor;
+    return newRecord<SINE>(SINE_error);
 }
 
 void SINE_setup(SINE* cursor, std::int32_t length, std::int32_t phase, std::int32_t speed,
@@ -102,7 +96,7 @@ void SINE_setPhase(SINE* cursor, std::int32_t phase) {
         return;
     }
     // SINE_setPhaseReachesLength: one expects 0..length-1; a whole period below 0 becomes the length itself.
-    // The index, which is all that anybody looks at, is reduced anyway.
+    // Motion depends on the index alone, which is reduced anyway.
     cursor->phase = phase % cursor->length + (phase < 0 ? cursor->length : 0);
     updateIndex(cursor);
 }
@@ -167,55 +161,38 @@ SINE* SINE_clone(const SINE* src) {
 }
 
 void SINE_delete(SINE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SINE_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SINE_error);
 }
 
-// SINE_errorIsSilent: one expects a line while verbose; the cursor has never said a word.
+// SINE_errorIsSilent: one expects a line while verbose; the cursor prints none, so its failures stay quiet.
 void SINE_error() {}
 
 SINE_TABLE* SINE_tableNew() {
-    SINE_TABLE* table = allocateRecord<SINE_TABLE>();
-    if (table == nullptr) {
-        SINE_tableError();
-        return nullptr;
-    }
-    SINE_tableSetSize(table, SINE_tableLength);
-    if (table->values == nullptr) {
-        SINE_tableDelete(&table);
+    SINE_TABLE* table = newRecord<SINE_TABLE>(SINE_tableError);
+    if (table != nullptr) {
+        SINE_tableSetSize(table, table->size);
+        if (table->values == nullptr) {
+            SINE_tableDelete(&table);
+        }
     }
     return table;
 }
 
 void SINE_tableSetSize(SINE_TABLE* table, std::int32_t size) {
-    std::int32_t* const values = table != nullptr && size > 0 ? allocateArray<std::int32_t>(size) : nullptr;
-    if (values == nullptr) {
-        SINE_tableError();
+    if (!replaceArray(size > 0 ? table : nullptr, SINE_tableError, &SINE_TABLE::values, &SINE_TABLE::size,
+                      size)) {
         return;
     }
     // SINE_tableIsFlat: one expects a scaled wave; the angle stands still and the sine is cut to an integer
     // unscaled, so every entry is 0.
     constexpr float angle = 0.0F;
     for (std::int32_t i = 0; i < size; ++i) {
-        values[i] = static_cast<std::int32_t>(-std::sin(angle));
+        table->values[i] = static_cast<std::int32_t>(-std::sin(angle));
     }
-    delete[] table->values;
-    table->values = values;
-    table->size = size;
 }
 
 void SINE_tableDelete(SINE_TABLE** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SINE_tableError();
-        return;
-    }
-    delete[](*handle)->values;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SINE_tableError, &SINE_TABLE::values);
 }
 
 void SINE_tableError() {

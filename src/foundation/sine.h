@@ -29,7 +29,7 @@ inline std::int32_t SINE_entry(std::int32_t angle) {
     return SINE_table[static_cast<std::size_t>(angle & SINE_tableMask)];
 }
 
-/// `amplitude` times the sine of an angle, (amplitude * entry) >> 15: just under `amplitude` at the most.
+/// `amplitude` times the sine of an angle, (amplitude * entry) >> 15: just under `amplitude` at most.
 inline std::int32_t SINE_scaled(std::int32_t amplitude, std::int32_t angle) {
     return wrapMul(amplitude, SINE_entry(angle)) >> 15;
 }
@@ -41,12 +41,12 @@ inline std::int32_t SINE_cosineScaled(std::int32_t amplitude, std::int32_t angle
 
 /// A position on a period: `phase` moves once a frame by `speed`, `offset` once a use by `offsetStep`.
 struct SINE {
-    std::int32_t length;     ///< period of the table that is walked; 1024
-    std::int32_t index;      ///< result: (phase + offset) reduced into 0..length-1
-    std::int32_t phase;      ///< 0; moved by `speed`
-    std::int32_t speed;      ///< 1; added to `phase` by SINE_advance
-    std::int32_t offset;     ///< 0; moved by `offsetStep`
-    std::int32_t offsetStep; ///< 2; added to `offset` by SINE_next
+    std::int32_t length = SINE_tableLength; ///< period of the table that is walked
+    std::int32_t index = 0;                 ///< result: (phase + offset) reduced into 0..length-1
+    std::int32_t phase = 0;                 ///< moved by `speed`
+    std::int32_t speed = 1;                 ///< added to `phase` by SINE_advance
+    std::int32_t offset = 0;                ///< moved by `offsetStep`
+    std::int32_t offsetStep = 2;            ///< added to `offset` by SINE_next
 };
 
 extern const IDENTITY SINE_identity;
@@ -91,11 +91,11 @@ void SINE_error();
 
 /// A table of its own size whose entries all come out 0 (see docs/quirks.md). Nothing in the demo uses it.
 struct SINE_TABLE {
-    std::int32_t* values; ///< owned, `size` entries
-    std::int32_t size;
+    std::int32_t* values = nullptr; ///< owned, `size` entries
+    std::int32_t size = SINE_tableLength;
 };
 
-/// A computed table of 1024 entries, or nullptr (reported).
+/// A computed table, or nullptr (reported).
 SINE_TABLE* SINE_tableNew();
 
 /// Replaces the entries by `size` (> 0) new ones; on failure it reports and leaves the table as it was.

@@ -11,11 +11,6 @@ struct Span {
     std::int64_t src, dst, size;
 };
 
-/// True when the span cannot touch an image that is `srcSize` by `dstSize` along this axis.
-bool liesOutside(const Span& span, std::int64_t srcSize, std::int64_t dstSize) {
-    return span.dst >= dstSize || span.dst + span.size < 0 || span.src >= srcSize || span.src + span.size < 0;
-}
-
 void clipAxis(Span& span, std::int64_t srcSize, std::int64_t dstSize) {
     if (span.src < 0) {
         span.size += span.src;
@@ -41,13 +36,9 @@ bool canBlit(const IMG* src, const IMG* dst) {
     return src != nullptr && dst != nullptr && src->pixels != nullptr && dst->pixels != nullptr;
 }
 
-bool clipBlit(const IMG& src, const IMG& dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
-              std::int32_t dstY, std::int32_t w, std::int32_t h, BlitArea& area) {
-    Span across{srcX, dstX, w};
-    Span down{srcY, dstY, h};
-    if (liesOutside(across, src.width, dst.width) || liesOutside(down, src.height, dst.height)) {
-        return false;
-    }
+bool clipBlit(const IMG& src, const IMG& dst, BlitArea& area) {
+    Span across{area.srcX, area.dstX, area.w};
+    Span down{area.srcY, area.dstY, area.h};
     clipAxis(across, src.width, dst.width);
     clipAxis(down, src.height, dst.height);
     if (across.size <= 0 || down.size <= 0) {

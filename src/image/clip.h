@@ -4,7 +4,7 @@
 // How every rectangle copy between two images is clipped, in one place, so that its loop can run over whole
 // rows.
 //
-//     if (BlitArea area; clipBlit(src, dst, srcX, srcY, dstX, dstY, w, h, area)) {
+//     if (BlitArea area{srcX, srcY, dstX, dstY, w, h}; clipBlit(*src, *dst, area)) {
 //         forEachRow(*src, *dst, area, [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) { ...
 //         });
 //     }
@@ -16,7 +16,7 @@
 
 namespace velm {
 
-/// A rectangle that lies inside both images, at least one pixel wide and high.
+/// A rectangle of one image and the same rectangle of another.
 struct BlitArea {
     std::int32_t srcX, srcY; ///< its corner in the source
     std::int32_t dstX, dstY; ///< its corner in the destination
@@ -26,11 +26,10 @@ struct BlitArea {
 /// True when both images are there and have pixels.
 bool canBlit(const IMG* src, const IMG* dst);
 
-/// Clips the w by h copy from (srcX, srcY) to (dstX, dstY): first a negative source corner, which shifts the
-/// destination by the same amount, then the source's right and bottom edge, then the destination's corner and
-/// edges. False when nothing is left. Both images must be there.
-bool clipBlit(const IMG& src, const IMG& dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
-              std::int32_t dstY, std::int32_t w, std::int32_t h, BlitArea& area);
+/// Clips the area to both images: first a negative source corner, which shifts the destination by the same
+/// amount, then the source's right and bottom edge, then the destination's corner and edges. False when
+/// nothing is left.
+bool clipBlit(const IMG& src, const IMG& dst, BlitArea& area);
 
 /// Calls row(source pixels, destination pixels, count) for each row of a clipped area, from top to bottom.
 template <typename Row>

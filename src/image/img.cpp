@@ -3,6 +3,7 @@
 #include "image/img.h"
 
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "image/rgb888.h"
 
@@ -14,8 +15,6 @@ const IDENTITY IMG_identity = makeIdentity("IMG", "20150312", "ZENDORAK", "CODE"
 std::uint8_t IMG_verbose = 0;
 
 namespace {
-
-constexpr std::int32_t defaultSize = 16;
 
 std::int64_t pixelCount(const IMG* img) {
     return std::int64_t{img->width} * img->height;
@@ -32,19 +31,17 @@ bool sameSize(const IMG* a, const IMG* b) {
 } // namespace
 
 IMG* IMG_new() {
-    return IMG_newSized(defaultSize, defaultSize);
+    constexpr IMG defaults;
+    return IMG_newSized(defaults.width, defaults.height);
 }
 
 IMG* IMG_newSized(std::int32_t width, std::int32_t height) {
-    IMG* img = allocateRecord<IMG>();
-    if (img == nullptr) {
-        IMG_error();
-        return nullptr;
-    }
-    IMG_setSize(img, width, height);
-    if (img->pixels == nullptr) {
-        delete img;
-        return nullptr;
+    IMG* img = newRecord<IMG>(IMG_error);
+    if (img != nullptr) {
+        IMG_setSize(img, width, height);
+        if (img->pixels == nullptr) {
+            IMG_delete(&img);
+        }
     }
     return img;
 }
@@ -76,13 +73,7 @@ IMG* IMG_clone(const IMG* src) {
 }
 
 void IMG_delete(IMG** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        IMG_error();
-        return;
-    }
-    delete[](*handle)->pixels;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, IMG_error, &IMG::pixels);
 }
 
 void IMG_fill(IMG* img, std::uint32_t colour) {
@@ -161,8 +152,8 @@ std::int32_t IMG_equal(const IMG* a, const IMG* b) {
     if (!sameSize(a, b) || !std::equal(a->pixels, a->pixels + pixelCount(a), b->pixels)) {
         return 0;
     }
-    // IMG_equalReportsSuccess: one expects a report of a failure; equal images are
-    // what is reported, and callers have learned to ignore it.
+    // IMG_equalReportsSuccess: one expects a report of a failure; equal images are what is reported, and
+    // callers ignore it.
     IMG_error();
     return 1;
 }

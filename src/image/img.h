@@ -18,17 +18,17 @@
 namespace velm {
 
 struct IMG {
-    std::int32_t x;        ///< placement column used by IMG_draw; 0
-    std::int32_t y;        ///< placement row used by IMG_draw; 0
-    std::int32_t width;    ///< pixels per row; 16 in a new image
-    std::int32_t height;   ///< number of rows; 16 in a new image
-    std::uint32_t* pixels; ///< owned, width * height words; all 0 after creation and resizing
+    std::int32_t x = 0;              ///< placement column used by IMG_draw
+    std::int32_t y = 0;              ///< placement row used by IMG_draw
+    std::int32_t width = 16;         ///< pixels per row
+    std::int32_t height = 16;        ///< number of rows
+    std::uint32_t* pixels = nullptr; ///< owned, width * height words; all 0 after creation and resizing
 };
 
 extern const IDENTITY IMG_identity;
 extern std::uint8_t IMG_verbose;
 
-/// A black image of 16 by 16, or nullptr (reported).
+/// A black image of the default size, or nullptr (reported).
 IMG* IMG_new();
 
 /// A black image of `width` by `height`, or nullptr (reported).
@@ -104,7 +104,7 @@ void IMG_blendHLine(IMG* img, std::uint32_t colour, std::int32_t y, std::int32_t
 
 /// Decodes a netpbm picture, P1 to P6, of `count` bytes; nothing past them is read. Samples are taken as
 /// 8-bit values as they stand. Set bits of bitmaps are white, and a bitmap's width is rounded up to a
-/// multiple of 8 (see docs/quirks.md). Anything malformed or cut short is reported and gives nullptr.
+/// multiple of 8 (see docs/quirks.md). nullptr (reported) when it is malformed or cut short.
 IMG* IMG_fromPNM(const char* bytes, std::size_t count);
 
 /// The same without a size: a NUL ends the header and the text types; binary samples must be complete.

@@ -30,8 +30,7 @@ struct Line {
     std::int32_t length;
 };
 
-/// Copies a line onto another from `offset` modulo its length on, going on at its start; once around at the
-/// most.
+/// Copies a line onto another from `offset` modulo its length on, going on at its start; once around at most.
 void copyWrapped(Line<const std::uint32_t> from, Line<std::uint32_t> to, std::int32_t offset) {
     if (to.length == 0) {
         return;
@@ -51,7 +50,7 @@ void IMG_blit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, st
         IMG_error();
         return;
     }
-    if (BlitArea area; clipBlit(*src, *dst, srcX, srcY, dstX, dstY, w, h, area)) {
+    if (BlitArea area{srcX, srcY, dstX, dstY, w, h}; clipBlit(*src, *dst, area)) {
         forEachRow(*src, *dst, area, [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
             for (std::int32_t i = 0; i < n; ++i) {
                 to[i] = from[i] != 0 ? from[i] : to[i];

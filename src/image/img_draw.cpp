@@ -14,8 +14,8 @@ namespace velm {
 void IMG_fillRect(IMG* img, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
                   std::uint32_t colour) {
     if (img == nullptr || img->pixels == nullptr) {
-        // IMG_fillRectReportsAsImgfx: one expects this module's reporter; it has always been the compositing
-        // module's.
+        // IMG_fillRectReportsAsImgfx: one expects this module's reporter; it is the compositing module's,
+        // whose flag decides whether the line comes.
         IMGFX_error();
         return;
     }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 //
 // The netpbm formats of IMG: P1 to P6 decoded from memory, P6 written to a file.
+#include "foundation/text.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -42,10 +42,6 @@ struct Header {
     [[nodiscard]] bool isComplete() const { return type != 0 && hasWidth && hasHeight && hasMaximum; }
 };
 
-bool isDigit(std::uint8_t byte) {
-    return byte >= '0' && byte <= '9';
-}
-
 /// Skips to the next printable character that is no space; false at the end of the input.
 bool skipSpace(Input& input) {
     while (!input.atEnd() && (input.peek() <= ' ' || input.peek() > '~')) {
@@ -62,7 +58,7 @@ bool skipToDigit(Input& input) {
     return !input.atEnd();
 }
 
-/// A run of digits modulo 2^32; no digits read as 0.
+/// A run of digits modulo 2^32; 0 when there are none.
 std::uint32_t readNumber(Input& input) {
     std::uint32_t number = 0;
     while (!input.atEnd() && isDigit(input.peek())) {
@@ -71,12 +67,11 @@ std::uint32_t readNumber(Input& input) {
     return number;
 }
 
-/// A run of digits as a size; what is too long for one becomes a size that no image can have.
+/// A run of digits as a size.
 std::int64_t readSize(Input& input) {
-    constexpr std::int64_t tooLarge = std::int64_t{1} << 40;
     std::int64_t size = 0;
     while (!input.atEnd() && isDigit(input.peek())) {
-        size = std::min(tooLarge, size * 10 + (input.take() - '0'));
+        size = sizeWithDigit(size, input.take());
     }
     return size;
 }
@@ -174,7 +169,7 @@ bool decodeTextGrey(Input& input, std::uint32_t* pixels, std::int64_t count) {
 }
 
 /// IMG_samplesSpill: one expects samples above 255 to be clamped; here and in text grey they run into the
-/// neighbouring channel, because a picture's maximum is never looked at.
+/// neighbouring channel, because a picture's maximum is ignored.
 bool decodeTextColour(Input& input, std::uint32_t* pixels, std::int64_t count) {
     for (std::int64_t i = 0; i < count; ++i) {
         std::uint32_t pixel = 0;

@@ -3,10 +3,10 @@
 //
 // The bracketed text form of IMG: "IMG{\nP3\n...}\n", six pixels a line, written and read.
 #include "foundation/memory.h"
+#include "foundation/text.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -17,20 +17,6 @@ namespace {
 
 constexpr std::int64_t charactersPerPixel = 12;
 constexpr std::int64_t pixelsPerLine = 6;
-
-bool isDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
-/// Reads a run of digits as a size, moving past it; what is too long for one becomes a size that no image can
-/// have.
-std::int64_t readSize(const char*& text) {
-    std::int64_t value = 0;
-    for (; isDigit(*text); ++text) {
-        value = std::min<std::int64_t>(std::int64_t{1} << 40, value * 10 + (*text - '0'));
-    }
-    return value;
-}
 
 void skipOne(const char*& text) {
     if (*text != '\0') {
@@ -75,7 +61,7 @@ bool readPixels(const char*& text, IMG* img) {
     return true;
 }
 
-/// Reads "width height maximum" and the one separator behind each; the maximum does not matter.
+/// Reads "width height maximum" and the one separator after each; the maximum does not matter.
 void readSizes(const char*& text, std::int64_t& width, std::int64_t& height) {
     width = readSize(text);
     skipOne(text);
@@ -90,7 +76,7 @@ IMG* refuse() {
     return nullptr;
 }
 
-/// The image behind "P3\n", or nullptr (reported once). A pixel takes five characters at least, so sizes that
+/// The image after "P3\n", or nullptr (reported once). A pixel takes five characters at least, so sizes that
 /// the text cannot fill are refused before anything is allocated.
 IMG* parse(const char* text) {
     if (!moveAfter(text, "IMG") || !moveAfter(text, "{") || !moveAfter(text, "P3\n")) {
@@ -157,7 +143,8 @@ std::int32_t IMG_findAfter(const char* haystack, const char* needle) {
     std::size_t j = 0;
     while (haystack[i] != '\0' && needle[j] != '\0') {
         // IMG_findAfterMiscounts: one expects the search to start over; the byte that did not match counts as
-        // the needle's first, so "xMG" is taken for "IMG" and "{" for any byte, on which old dumps rely.
+        // the needle's first, so "xMG" is taken for "IMG" and any byte for "{". Texts that rely on it are
+        // read.
         if (haystack[i] != needle[j]) {
             j = 0;
         }

@@ -18,13 +18,12 @@ namespace {
 
 /// Applies row(from, to, n) to the clipped rectangle, or reports.
 template <typename Row>
-void combine(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
-             std::int32_t dstY, std::int32_t w, std::int32_t h, Row row) {
+void combine(const IMG* src, IMG* dst, BlitArea area, Row row) {
     if (!canBlit(src, dst)) {
         IMGFX_error();
         return;
     }
-    if (BlitArea area; clipBlit(*src, *dst, srcX, srcY, dstX, dstY, w, h, area)) {
+    if (clipBlit(*src, *dst, area)) {
         forEachRow(*src, *dst, area, row);
     }
 }
@@ -43,7 +42,7 @@ void combineLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, st
 
 void IMGFX_opaqueBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
                       std::int32_t dstY, std::int32_t w, std::int32_t h) {
-    combine(src, dst, srcX, srcY, dstX, dstY, w, h,
+    combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
             [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
                 for (std::int32_t i = 0; i < n; ++i) {
                     to[i] = from[i];
@@ -53,7 +52,7 @@ void IMGFX_opaqueBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t 
 
 void IMGFX_addBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
                    std::int32_t dstY, std::int32_t w, std::int32_t h) {
-    combine(src, dst, srcX, srcY, dstX, dstY, w, h,
+    combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
             [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
                 for (std::int32_t i = 0; i < n; ++i) {
                     to[i] = RGB888_add(from[i], to[i]);
@@ -63,10 +62,10 @@ void IMGFX_addBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t src
 
 void IMGFX_averageBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
                        std::int32_t dstY, std::int32_t w, std::int32_t h) {
-    // IMGFX_averageDropsLowBits: one expects (s + d) / 2; each half is rounded down first, so 1 and 1 give 0.
+    // IMGFX_averageDropsLowBits: one expects (s + d) / 2; each half is rounded down first, so 1 and 1 make 0.
     // The rolling digits are built with it.
     constexpr std::uint32_t halves = 0x7F7F7F;
-    combine(src, dst, srcX, srcY, dstX, dstY, w, h,
+    combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
             [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
                 for (std::int32_t i = 0; i < n; ++i) {
                     const std::uint32_t mixed = ((from[i] >> 1) & halves) + ((to[i] >> 1) & halves);
@@ -86,8 +85,8 @@ void IMGFX_invert(IMG* img) {
 
 void IMGFX_addPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour) {
     if (img == nullptr || img->pixels == nullptr) {
-        // IMGFX_addPixelReportsAsImg: one expects this module's reporter; a missing image is the image
-        // module's affair.
+        // IMGFX_addPixelReportsAsImg: one expects this module's reporter; a missing image is told by the
+        // image module, whose flag decides whether the line comes.
         IMG_error();
         return;
     }

@@ -8,11 +8,12 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
 
 extern const IDENTITY IMGFX_identity;
 extern std::uint8_t IMGFX_verbose;

@@ -9,6 +9,7 @@
 
 #include "foundation/identity.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace velm {
@@ -43,11 +44,18 @@ constexpr std::uint32_t RGB888_average(std::uint32_t a, std::uint32_t b) {
            ((((a & 0x00FF00U) + (b & 0x00FF00U)) >> 1) & 0x00FF00U);
 }
 
-/// (b * t + a * (256 - t)) >> 8, t in 0..256: 0 gives a, 256 gives b.
+/// (b * t + a * (256 - t)) >> 8, t in 0..256: a at 0, b at 256.
 constexpr std::uint32_t RGB888_mix(std::uint32_t a, std::uint32_t b, std::uint32_t t) {
     const std::uint32_t redBlue = ((b & 0xFF00FFU) * t + (a & 0xFF00FFU) * (256 - t)) >> 8;
     const std::uint32_t green = ((b & 0x00FF00U) * t + (a & 0x00FF00U) * (256 - t)) >> 8;
     return (redBlue & 0xFF00FFU) | (green & 0x00FF00U);
+}
+
+inline constexpr std::int32_t RGB888_fullWeight = 256; ///< the weight of all of it: no light is 0
+
+/// A colour at a weight, its share of light, 0..256; what lies beyond counts as the nearer of the two.
+constexpr std::uint32_t RGB888_dim(std::uint32_t c, std::int32_t weight) {
+    return RGB888_mix(0, c, static_cast<std::uint32_t>(std::clamp(weight, 0, RGB888_fullWeight)));
 }
 
 /// Red and blue exchanged, green kept.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/kbd.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 
 namespace velm {
@@ -11,11 +11,7 @@ const IDENTITY KBD_identity = makeIdentity("KBD", "20150222", "CODE", "LINUX", "
 std::uint8_t KBD_verbose = 0;
 
 KBD* KBD_new() {
-    KBD* table = allocateRecord<KBD>();
-    if (table == nullptr) {
-        KBD_error();
-    }
-    return table;
+    return newRecord<KBD>(KBD_error);
 }
 
 void KBD_dispatch(KBD* table) {
@@ -52,12 +48,7 @@ std::int32_t KBD_same(const KBD* a, const KBD* b) {
 }
 
 void KBD_delete(KBD** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        KBD_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, KBD_error);
 }
 
 void KBD_error() {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/timer.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "platform/clock.h"
 
@@ -14,13 +14,7 @@ const IDENTITY TIMER_identity = makeIdentity("TIMER", "UNIX", "ZENDORAK", "20150
 std::uint8_t TIMER_verbose = 0;
 
 TIMER* TIMER_new() {
-    TIMER* const timer = allocateRecord<TIMER>();
-    if (timer == nullptr) {
-        TIMER_error();
-        return nullptr;
-    }
-    timer->repeat = 'n';
-    return timer;
+    return newRecord<TIMER>(TIMER_error);
 }
 
 void TIMER_start(const TIMER* timer) {
@@ -58,12 +52,7 @@ std::int32_t TIMER_same(const TIMER* a, const TIMER* b) {
 }
 
 void TIMER_delete(TIMER** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        TIMER_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, TIMER_error);
 }
 
 void TIMER_error() {

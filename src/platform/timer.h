@@ -16,15 +16,15 @@
 namespace velm {
 
 struct TIMER {
-    std::uint32_t interval;        ///< delay in microseconds, below 1000000; 0 stops the alarm; 0
-    void (*handler)(std::int32_t); ///< takes the signal's number, runs as a signal handler; nullptr
-    char repeat;                   ///< 'n': once, 'y': every `interval`; 'n'
+    std::uint32_t interval = 0;              ///< delay in microseconds, below 1000000; 0 stops the alarm
+    void (*handler)(std::int32_t) = nullptr; ///< takes the signal's number, runs as a signal handler
+    char repeat = 'n';                       ///< 'n': once, 'y': every `interval`
 };
 
 extern const IDENTITY TIMER_identity;
 extern std::uint8_t TIMER_verbose;
 
-/// A timer with the defaults above, or nullptr (reported).
+/// A stopped timer, or nullptr (reported).
 TIMER* TIMER_new();
 
 /// Arms the alarm, which replaces the one before, then makes `handler` the one that it calls. The process has
@@ -35,7 +35,7 @@ void TIMER_start(const TIMER* timer);
 /// The empty text.
 const char* TIMER_getName(const TIMER* timer);
 
-/// 1 when both are one and the same timer, else 0 (reported).
+/// 1 when both are the same timer, else 0 (reported).
 std::int32_t TIMER_same(const TIMER* a, const TIMER* b);
 
 /// Frees the record and stores nullptr in the handle. What has been started goes on.

@@ -5,6 +5,7 @@
 #include "platform/xdpy.h"
 
 #include "foundation/report.h"
+#include "image/img.h"
 
 #include <cstdio>
 

@@ -9,11 +9,12 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
 
 struct XDPY {
     std::uint32_t width;  ///< of the window in pixels; 256

@@ -5,6 +5,7 @@
 #include "platform/xkbd.h"
 
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "platform/xdpy.h"
 
@@ -21,14 +22,13 @@ constexpr std::int32_t textBytes = 9;
 XKBD* keyboardOfProcess = nullptr;
 
 XKBD* makeKeyboard() {
-    XKBD* keyboard = allocateRecord<XKBD>();
-    if (keyboard == nullptr) {
-        return nullptr;
-    }
-    keyboard->text = allocateArray<char>(textBytes);
-    if (keyboard->text == nullptr) {
-        delete keyboard;
-        return nullptr;
+    XKBD* keyboard = newRecord<XKBD>(XKBD_error);
+    if (keyboard != nullptr) {
+        keyboard->text = allocateArray<char>(textBytes);
+        if (keyboard->text == nullptr) {
+            XKBD_error();
+            deleteRecord(&keyboard, XKBD_error);
+        }
     }
     return keyboard;
 }
@@ -38,9 +38,6 @@ XKBD* makeKeyboard() {
 XKBD* XKBD_new() {
     if (keyboardOfProcess == nullptr) {
         keyboardOfProcess = makeKeyboard();
-    }
-    if (keyboardOfProcess == nullptr) {
-        XKBD_error();
     }
     XDPY_selectInput();
     return keyboardOfProcess;
@@ -77,16 +74,13 @@ std::int32_t XKBD_flush(const XKBD* keyboard) {
 }
 
 void XKBD_delete(XKBD** handle) {
-    if (handle == nullptr || *handle == nullptr || (*handle)->text == nullptr) {
-        XKBD_error();
-        return;
-    }
-    if (*handle == keyboardOfProcess) {
-        keyboardOfProcess = nullptr;
-    }
-    delete[](*handle)->text;
-    delete *handle;
-    *handle = nullptr;
+    const bool lacksText = handle != nullptr && *handle != nullptr && (*handle)->text == nullptr;
+    const auto forget = [](const XKBD& keyboard) {
+        if (&keyboard == keyboardOfProcess) {
+            keyboardOfProcess = nullptr;
+        }
+    };
+    deleteRecord(lacksText ? nullptr : handle, XKBD_error, forget, &XKBD::text);
 }
 
 void XKBD_error() {

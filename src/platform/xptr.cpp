@@ -4,6 +4,7 @@
 // What every implementation of the pointer shares: the record. Reading it is the machine's.
 #include "platform/xptr.h"
 
+#include "foundation/record.h"
 #include "foundation/report.h"
 
 #include <algorithm>
@@ -53,12 +54,7 @@ const char* XPTR_name(const XPTR* pointer) {
 }
 
 void XPTR_delete(XPTR** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        XPTR_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, XPTR_error);
 }
 
 void XPTR_error() {

@@ -36,7 +36,8 @@ void XPTR_poll(XPTR* pointer);
 /// Asks the server for the position and the buttons.
 void XPTR_query(XPTR* pointer);
 
-/// Discards every pending motion and button event; returns 0.
+/// Discards every pending motion and button event; returns 0. A machine need not keep what would be
+/// discarded.
 std::int32_t XPTR_flush(XPTR* pointer);
 
 /// 1 when all seven fields are equal, else 0.
@@ -45,7 +46,7 @@ std::int32_t XPTR_equals(const XPTR* a, const XPTR* b);
 /// Copies all seven fields.
 void XPTR_copy(const XPTR* src, XPTR* dst);
 
-/// Gives nullptr whatever happens (see docs/quirks.md).
+/// Always returns nullptr (see docs/quirks.md).
 XPTR* XPTR_clone(const XPTR* src);
 
 /// The empty text.

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The record, the queue and the blocks. The device behind them is dsp.h's.
+// The record, the queue and the blocks. The device is that of dsp.h.
 #include "platform/xsnd.h"
 
+#include "foundation/list.h"
 #include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "platform/dsp.h"
@@ -18,11 +20,9 @@ std::uint8_t XSND_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t sixteenBits = 16;
-
-/// The requests in the order that drivers have always got them; stops at the first that is refused.
+/// The requests in the order that drivers expect; stops at the first that is refused.
 bool configure(XSND* sound) {
-    std::int32_t format = sixteenBits;
+    std::int32_t format = sound->format;
     const auto accepts = [sound](DspRequest request, std::int32_t* word) {
         return DSP_request(sound->fd, request, word) >= 0;
     };
@@ -55,7 +55,7 @@ bool openDevice(XSND* sound) {
     return takeBlock(sound, sound->blockSize);
 }
 
-/// Moves the next values of the head into the block and gives their number: a whole block, or what is left,
+/// Moves the next values of the head into the block and returns their number: a whole block, or what is left,
 /// which takes the sample off the queue.
 std::int32_t fillBlock(XSND* sound) {
     const std::int32_t left = std::max(sound->current->length - sound->position, 0);
@@ -94,17 +94,11 @@ void playBlock(XSND* sound) {
 } // namespace
 
 XSND* XSND_new() {
-    XSND* const sound = allocateRecord<XSND>();
+    XSND* const sound = newRecord<XSND>(XSND_error);
     if (sound == nullptr) {
-        XSND_error();
         return nullptr;
     }
-    sound->rate = SAMPLE_rate;
-    sound->format = sixteenBits;
-    sound->sign = 's';
-    sound->endian = 'l';
     sound->queue = LIST_new();
-    sound->device = "/dev/dsp";
     if (!openDevice(sound)) {
         XSND_error();
     }
@@ -164,20 +158,12 @@ std::int32_t XSND_isReady(const XSND* sound, std::int32_t word) {
 }
 
 void XSND_delete(XSND** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        XSND_error();
-        return;
-    }
-    XSND* const sound = *handle;
-    delete[] sound->block;
-    if (sound->fd >= 0) {
-        DSP_close(sound->fd);
-    }
-    if (sound->queue != nullptr) {
-        LIST_delete(&sound->queue);
-    }
-    delete sound;
-    *handle = nullptr;
+    const auto close = [](const XSND& sound) {
+        if (sound.fd >= 0) {
+            DSP_close(sound.fd);
+        }
+    };
+    deleteRecord(handle, XSND_error, &XSND::block, close, deletedBy(LIST_delete, &XSND::queue));
 }
 
 void XSND_error() {

@@ -3,7 +3,7 @@
 //
 // XSND, the only way sound leaves the program: a queue of borrowed samples, written to the device one block a
 // call as signed 16-bit mono, 44100 a second. The write waits while the device is full, so it helps to pace
-// the frames. Without a device everything works and nothing is heard.
+// the frames. Without a device, or with one that never answers, everything works and nothing is heard.
 //
 //     XSND* sound = XSND_new();
 //     LIST_append(sound->queue, bar);
@@ -12,35 +12,36 @@
 
 #include "audio/sample.h"
 #include "foundation/identity.h"
-#include "foundation/list.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct LIST;
+
 struct XSND {
-    std::int32_t rate;           ///< samples per second; 44100, or what the driver made of it
-    std::int32_t format;         ///< 16: signed 16-bit, low byte first
-    std::int32_t stereo;         ///< 0: mono
-    char sign;                   ///< 's': signed; describes only
-    char endian;                 ///< 'l': low byte first; describes only
-    const char* device;          ///< "/dev/dsp"
-    std::int32_t fd;             ///< descriptor of the device, negative when it could not be opened
-    std::int32_t blockSize;      ///< bytes of a block, as the driver says
-    LIST* queue;                 ///< owned, its SAMPLEs are not: what is still to be played, head first
-    const SAMPLE* current;       ///< borrowed: the head at the last play call
-    std::int32_t position;       ///< index of the next value of `current`
-    std::int16_t* block;         ///< owned: what is handed to the device; nullptr without one
-    std::int32_t blockSamples;   ///< blockSize / 2; 0 without a device
-    std::uint8_t flag;           ///< 0; not used
-    std::int32_t samplesWritten; ///< what the device has taken so far
+    std::int32_t rate = SAMPLE_rate; ///< samples per second; what the driver made of it
+    std::int32_t format = 16;        ///< 16: signed 16-bit, low byte first
+    std::int32_t stereo = 0;         ///< 0: mono
+    char sign = 's';                 ///< 's': signed; describes only
+    char endian = 'l';               ///< 'l': low byte first; describes only
+    const char* device = "/dev/dsp";
+    std::int32_t fd = 0;             ///< descriptor of the device, negative when it could not be opened
+    std::int32_t blockSize = 0;      ///< bytes of a block, as the driver says
+    LIST* queue = nullptr;           ///< owned, its SAMPLEs are not: what is still to be played, head first
+    const SAMPLE* current = nullptr; ///< borrowed: the head at the last play call
+    std::int32_t position = 0;       ///< index of the next value of `current`
+    std::int16_t* block = nullptr;   ///< owned: what is handed to the device; nullptr without one
+    std::int32_t blockSamples = 0;   ///< blockSize / 2; 0 without a device
+    std::uint8_t flag = 0;           ///< not used
+    std::int32_t samplesWritten = 0; ///< what the device has taken so far
 };
 
 extern const IDENTITY XSND_identity;
 extern std::uint8_t XSND_verbose;
 
-/// Opens and sets up the device. A device that is missing or refuses is reported and gives a record that
-/// plays nothing; only a record that cannot be allocated gives nullptr.
+/// Opens and sets up the device. When it is missing or refuses, that is reported and the record plays
+/// nothing; nullptr (reported) only when memory runs out.
 XSND* XSND_new();
 
 /// Writes the next block of the queue's head: 1 while the queue holds samples, else 0. The tail of a sample
@@ -48,7 +49,7 @@ XSND* XSND_new();
 /// clipping. A device that takes less, or nothing, does not stop the playing.
 std::int32_t XSND_play(XSND* sound);
 
-/// The same, but gives 1 when `current` is only partly played, else 0.
+/// The same, but returns 1 when `current` is only partly played, else 0.
 std::int32_t XSND_playPart(XSND* sound);
 
 /// Says how often a second XSND_play is called from now on. Where the device leaves the size of its blocks to

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "vector/cursor.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 
@@ -11,17 +11,8 @@ namespace velm {
 const IDENTITY CURSOR_identity = makeIdentity("CURSOR", "C", "20150629", "CODE", "ZENDORAK");
 std::uint8_t CURSOR_verbose = 0;
 
-namespace {
-
-constexpr char defaultText[] = "VELM";
-constexpr std::int32_t defaultCount = 4;
-
-} // namespace
-
 CURSOR* CURSOR_new() {
-    CURSOR* cursor = allocateRecord<CURSOR>();
-    CURSOR_set(cursor, defaultText, defaultCount, 1, 1); // reports when memory ran out
-    return cursor;
+    return newRecord<CURSOR>(CURSOR_error);
 }
 
 void CURSOR_set(CURSOR* cursor, const void* base, std::int32_t count, std::int32_t elementSize,
@@ -78,12 +69,7 @@ const void* CURSOR_current(const CURSOR* cursor) {
 }
 
 void CURSOR_delete(CURSOR** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        CURSOR_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, CURSOR_error);
 }
 
 void CURSOR_error() {

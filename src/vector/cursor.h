@@ -15,12 +15,12 @@
 namespace velm {
 
 struct CURSOR {
-    std::int32_t index;       ///< 0..count-1; 0
-    std::int32_t step;        ///< added by CURSOR_advance, may be negative; 1
-    std::int32_t elementSize; ///< bytes; 1
-    std::int32_t count;       ///< elements, the modulus; 4
-    const void* base;         ///< borrowed; element 0; the text "VELM"
-    std::int32_t savedIndex;  ///< what CURSOR_save stored; 0
+    std::int32_t index = 0;       ///< 0..count-1
+    std::int32_t step = 1;        ///< added by CURSOR_advance, may be negative
+    std::int32_t elementSize = 1; ///< bytes
+    std::int32_t count = 4;       ///< elements, the modulus
+    const void* base = "VELM";    ///< borrowed; element 0
+    std::int32_t savedIndex = 0;  ///< what CURSOR_save stored
 };
 
 extern const IDENTITY CURSOR_identity;

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "vector/font.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "vector/digits.h"
 
@@ -15,7 +16,6 @@ std::uint8_t FONT_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t newCellSize = 6;
 constexpr char lineFeed = '\n';
 
 struct Corner {
@@ -63,14 +63,7 @@ void drawHex(FONT* font, std::uint32_t value, std::int32_t digits) {
 } // namespace
 
 FONT* FONT_new() {
-    FONT* font = allocateRecord<FONT>();
-    if (font == nullptr) {
-        FONT_error();
-        return nullptr;
-    }
-    font->width = newCellSize;
-    font->height = newCellSize;
-    return font;
+    return newRecord<FONT>(FONT_error);
 }
 
 void FONT_drawChar(FONT* font) {
@@ -152,15 +145,7 @@ void FONT_drawBig(FONT* big, FONT* small) {
 }
 
 void FONT_delete(FONT** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        FONT_error();
-        return;
-    }
-    if ((*handle)->image != nullptr) {
-        IMG_delete(&(*handle)->image);
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, FONT_error, deletedBy(IMG_delete, &FONT::image));
 }
 
 void FONT_error() {

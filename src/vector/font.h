@@ -10,20 +10,21 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+
 struct FONT {
-    std::int32_t x;         ///< left edge of the next glyph in the target, pixels; 0
-    std::int32_t y;         ///< top edge of the next glyph in the target, pixels; 0
-    std::int32_t width;     ///< cell width, pixels; 6
-    std::int32_t height;    ///< cell height, pixels; 6
-    std::int32_t character; ///< code that FONT_drawChar draws; 0
-    IMG* image;             ///< owned; the sheet, set by the user; nullptr
-    IMG* target;            ///< borrowed; the image drawn into, set by the user; nullptr
+    std::int32_t x = 0;         ///< left edge of the next glyph in the target, pixels
+    std::int32_t y = 0;         ///< top edge of the next glyph in the target, pixels
+    std::int32_t width = 6;     ///< cell width, pixels
+    std::int32_t height = 6;    ///< cell height, pixels
+    std::int32_t character = 0; ///< code that FONT_drawChar draws
+    IMG* image = nullptr;       ///< owned; the sheet, set by the user
+    IMG* target = nullptr;      ///< borrowed; the image drawn into, set by the user
 };
 
 extern const IDENTITY FONT_identity;

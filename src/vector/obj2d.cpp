@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "vector/obj2d.h"
 
-#include "foundation/memory.h"
+#include "foundation/list.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
+#include "vector/seg2d.h"
+#include "vector/vec2d.h"
 
 namespace velm {
 
@@ -27,7 +30,7 @@ SEG2D* segmentAt(const OBJ2D& obj, std::int32_t index) {
     return static_cast<SEG2D*>(LIST_get(obj.segments, index));
 }
 
-/// Grows the list until `more` elements can be appended, and tells whether they can.
+/// Grows the list until `more` elements can be appended; false when memory runs out.
 bool makeRoom(LIST* list, std::int32_t more) {
     while (list->capacity - list->count < more) {
         if (LIST_grow(list) == 0) {
@@ -49,9 +52,8 @@ VEC2D posed(const OBJ2D& obj, const VEC2D& end) {
 } // namespace
 
 OBJ2D* OBJ2D_new() {
-    OBJ2D* obj = allocateRecord<OBJ2D>();
+    OBJ2D* obj = newRecord<OBJ2D>(OBJ2D_error);
     if (obj == nullptr) {
-        OBJ2D_error();
         return nullptr;
     }
     obj->position = VEC2D_new();
@@ -59,7 +61,6 @@ OBJ2D* OBJ2D_new() {
     obj->scale = VEC2D_new();
     obj->points = LIST_new();
     obj->segments = LIST_new();
-    obj->farthest = -1;
     if (!isWhole(obj)) {
         OBJ2D_error();
         OBJ2D_delete(&obj);
@@ -121,7 +122,7 @@ void OBJ2D_applyPosition(OBJ2D* obj) {
         return;
     }
     // OBJ2D_positionCountsTwice: one expects the position to be used up; it stays, and drawing adds it again.
-    // Fonts are placed this way and then posed anew for every character.
+    // Fonts are placed this way and then posed again for every character.
     for (std::int32_t i = obj->segments->count - 1; i >= 0; --i) {
         SEG2D_translate(segmentAt(*obj, i), obj->position);
     }
@@ -207,22 +208,9 @@ void OBJ2D_deleteSegments(OBJ2D* obj) {
 }
 
 void OBJ2D_delete(OBJ2D** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        OBJ2D_error();
-        return;
-    }
-    OBJ2D* obj = *handle;
-    delete obj->position;
-    delete obj->size;
-    delete obj->scale;
-    if (obj->points != nullptr) {
-        LIST_delete(&obj->points);
-    }
-    if (obj->segments != nullptr) {
-        LIST_delete(&obj->segments);
-    }
-    delete obj;
-    *handle = nullptr;
+    deleteRecord(handle, OBJ2D_error, deletedBy(VEC2D_delete, &OBJ2D::position),
+                 deletedBy(VEC2D_delete, &OBJ2D::size), deletedBy(VEC2D_delete, &OBJ2D::scale),
+                 deletedBy(LIST_delete, &OBJ2D::points), deletedBy(LIST_delete, &OBJ2D::segments));
 }
 
 void OBJ2D_error() {

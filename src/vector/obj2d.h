@@ -12,26 +12,27 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "foundation/list.h"
-#include "image/img.h"
-#include "vector/seg2d.h"
-#include "vector/vec2d.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct LIST;
+struct SEG2D;
+struct VEC2D;
+
 struct OBJ2D {
-    char* name;            ///< what it shows (in a font: the character); shared with its copies; nullptr
-    char* version;         ///< descriptive text, shared; nullptr
-    char* author;          ///< descriptive text, shared; nullptr
-    char* type;            ///< descriptive text, shared; nullptr
-    VEC2D* position;       ///< owned; pixels, added when drawing; (0, 0)
-    VEC2D* size;           ///< owned; nominal cell, not used by drawing; (16, 16)
-    VEC2D* scale;          ///< owned; factor per axis, applied first when drawing; (1, 1)
-    std::uint32_t angle;   ///< 1/1024 turns, applied between scale and position; 0
-    std::uint32_t colour;  ///< last colour given to OBJ2D_setColour; 0
-    std::int32_t farthest; ///< index into `points` of the second end found farthest from the origin; -1
+    char* name = nullptr;     ///< what it shows (in a font: the character); shared with its copies
+    char* version = nullptr;  ///< descriptive text, shared
+    char* author = nullptr;   ///< descriptive text, shared
+    char* type = nullptr;     ///< descriptive text, shared
+    VEC2D* position;          ///< owned; pixels, added when drawing; (0, 0) in a new object
+    VEC2D* size;              ///< owned; nominal cell, not used by drawing; (16, 16) in a new object
+    VEC2D* scale;             ///< owned; factor per axis, applied first when drawing; (1, 1) in a new object
+    std::uint32_t angle = 0;  ///< 1/1024 turns, applied between scale and position
+    std::uint32_t colour = 0; ///< last colour given to OBJ2D_setColour
+    std::int32_t farthest = -1; ///< index into `points` of the second end found farthest from the origin
     LIST* points;   ///< VEC2D, two per segment, the segments' own: changing a point changes its segment
     LIST* segments; ///< SEG2D, in the order they were added
 };
@@ -39,7 +40,7 @@ struct OBJ2D {
 extern const IDENTITY OBJ2D_identity;
 extern std::uint8_t OBJ2D_verbose;
 
-/// An empty object with the defaults above, or nullptr (reported).
+/// An empty object, or nullptr (reported).
 OBJ2D* OBJ2D_new();
 
 /// Reads a text of drawings: a new list of OBJ2D in text order (nullptr elements where a "}" closed nothing),
@@ -53,7 +54,7 @@ OBJ2D* OBJ2D_new();
 ///
 /// Commas and semicolons are as good as spaces, keywords may be shortened, and what has no meaning is
 /// skipped. The last token needs a byte after it, such as a line feed; a drawing that stays open is lost.
-/// docs/quirks.md tells the format's oddities.
+/// The format's oddities are in docs/quirks.md.
 LIST* OBJ2D_parse(const char* text);
 
 /// Appends the segment, which the object takes over, and its two points; updates `farthest`.

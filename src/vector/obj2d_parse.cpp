@@ -3,8 +3,12 @@
 //
 // The drawings' text format, read as a stream of tokens. Lines matter only to comments and to the four
 // keywords that take the rest of theirs. Nothing is an error: what has no meaning is skipped.
+#include "foundation/list.h"
 #include "foundation/memory.h"
+#include "foundation/text.h"
 #include "vector/obj2d.h"
+#include "vector/seg2d.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 #include <string_view>
@@ -32,10 +36,6 @@ bool isControl(char c) {
 
 bool isSeparator(char c) {
     return isControl(c) || static_cast<std::uint8_t>(c) >= 0x7F || c == ',' || c == ';';
-}
-
-bool isDigit(char c) {
-    return '0' <= c && c <= '9';
 }
 
 /// The digit's value, or -1 when it is none.
@@ -81,8 +81,7 @@ std::string_view restOfLine(Parser& parser) {
 }
 
 /// Reads the next token: one punctuation character, or a word. OBJ2D_lastTokenNeedsAByte: one expects the
-/// last token to count; with the end of the text right behind it, it does not, so every text closes with a
-/// line feed.
+/// last token to count; it does not when the text ends right after it, so every text closes with a line feed.
 bool nextToken(Parser& parser, std::string_view& token) {
     skipSeparators(parser);
     const char* const begin = parser.at;
@@ -165,13 +164,13 @@ void readHexadecimal(Parser& parser, std::string_view digits) {
 
 /// "$" takes the next word as its digits. Punctuation is left to be read as itself.
 void readDollar(Parser& parser) {
-    const char* const behind = parser.at;
+    const char* const afterDollar = parser.at;
     std::string_view token;
     if (!nextToken(parser, token)) {
         return;
     }
     if (isPunctuation(token.front())) {
-        parser.at = behind;
+        parser.at = afterDollar;
     } else {
         readHexadecimal(parser, token);
     }
@@ -217,7 +216,7 @@ void discard(OBJ2D* obj) {
 }
 
 /// Appends the open object. OBJ2D_strayBraceCounts: one expects a "}" that closes nothing to be skipped; it
-/// appends a nullptr, and in a font that shifts the codes of all characters behind it.
+/// appends a nullptr, and in a font that shifts the codes of all later characters.
 void closeObject(Parser& parser) {
     const std::int32_t before = parser.objects->count;
     LIST_append(parser.objects, parser.open);

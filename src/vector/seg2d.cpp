@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "vector/seg2d.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
+#include "image/img.h"
+#include "vector/vec2d.h"
 
 namespace velm {
 
@@ -19,9 +21,8 @@ bool isWhole(const SEG2D* segment) {
 } // namespace
 
 SEG2D* SEG2D_new() {
-    SEG2D* segment = allocateRecord<SEG2D>();
+    SEG2D* segment = newRecord<SEG2D>(SEG2D_error);
     if (segment == nullptr) {
-        SEG2D_error();
         return nullptr;
     }
     segment->a = VEC2D_new();
@@ -81,14 +82,7 @@ void SEG2D_copy(const SEG2D* src, SEG2D* dst) {
 }
 
 void SEG2D_delete(SEG2D** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        SEG2D_error();
-        return;
-    }
-    delete (*handle)->a;
-    delete (*handle)->b;
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, SEG2D_error, deletedBy(VEC2D_delete, &SEG2D::a), deletedBy(VEC2D_delete, &SEG2D::b));
 }
 
 void SEG2D_error() {

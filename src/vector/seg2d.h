@@ -10,22 +10,23 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
-#include "vector/vec2d.h"
 
 #include <cstdint>
 
 namespace velm {
 
+struct IMG;
+struct VEC2D;
+
 struct SEG2D {
-    VEC2D* a; ///< owned; first end, (0, 0) and white in a new segment
-    VEC2D* b; ///< owned; second end, (1, 1) and white in a new segment
+    VEC2D* a; ///< owned; first end, white and at (0, 0) in a new segment
+    VEC2D* b; ///< owned; second end, white and at (1, 1) in a new segment
 };
 
 extern const IDENTITY SEG2D_identity;
 extern std::uint8_t SEG2D_verbose;
 
-/// A white segment from (0, 0) to (1, 1), or nullptr (reported).
+/// A new segment, or nullptr (reported).
 SEG2D* SEG2D_new();
 
 /// Adds `offset` to both points.

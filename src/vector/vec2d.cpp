@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "vector/vec2d.h"
 
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
@@ -14,19 +14,12 @@ std::uint8_t VEC2D_verbose = 1;
 
 namespace {
 
-constexpr std::uint32_t white = 0xFFFFFF;
-constexpr std::int32_t sineFraction = 15; ///< bits behind the point of a sine table entry
+constexpr std::int32_t sineFraction = 15; ///< fraction bits of a sine table entry
 
 } // namespace
 
 VEC2D* VEC2D_new() {
-    VEC2D* point = allocateRecord<VEC2D>();
-    if (point == nullptr) {
-        VEC2D_error();
-        return nullptr;
-    }
-    point->colour = white;
-    return point;
+    return newRecord<VEC2D>(VEC2D_error);
 }
 
 void VEC2D_add(const VEC2D* offset, VEC2D* point) {
@@ -82,12 +75,7 @@ void VEC2D_copy(const VEC2D* src, VEC2D* dst) {
 }
 
 void VEC2D_delete(VEC2D** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        VEC2D_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, VEC2D_error);
 }
 
 void VEC2D_error() {

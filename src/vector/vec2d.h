@@ -16,13 +16,13 @@
 namespace velm {
 
 struct VEC2D {
-    std::int32_t x;       ///< pixels once transformed, to the right; 0
-    std::int32_t y;       ///< pixels once transformed, downwards; 0
-    std::uint32_t colour; ///< 0x00RRGGBB; white in a new point
+    std::int32_t x = 0;              ///< pixels once transformed, to the right
+    std::int32_t y = 0;              ///< pixels once transformed, downwards
+    std::uint32_t colour = 0xFFFFFF; ///< 0x00RRGGBB
 };
 
 extern const IDENTITY VEC2D_identity;
-extern std::uint8_t VEC2D_verbose; ///< starts set: a missing point is told by default
+extern std::uint8_t VEC2D_verbose; ///< set at first: missing points are reported by default
 
 /// A white point at (0, 0), or nullptr (reported).
 VEC2D* VEC2D_new();

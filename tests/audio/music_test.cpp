@@ -3,6 +3,8 @@
 #include "audio/music.h"
 #include "audio/samples.h"
 #include "audio/sound.h"
+#include "foundation/list.h"
+#include "foundation/random.h"
 
 namespace velm::test {
 namespace {

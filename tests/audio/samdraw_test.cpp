@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "audio/sam.h"
 #include "audio/samdraw.h"
 #include "audio/samples.h"
 

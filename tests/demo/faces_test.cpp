@@ -3,6 +3,7 @@
 //
 // The fonts among the assets: no glyph can be taken for another, and all stand on the same lines.
 #include "demo/assets.h"
+#include "foundation/list.h"
 #include "image/img.h"
 #include "support/owned.h"
 #include "vector/objects.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/instruments.h"
 #include "foundation/chance.h"
+#include "foundation/list.h"
 
 #include <gtest/gtest.h>
 #include <vector>

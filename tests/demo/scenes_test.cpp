@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "audio/sample.h"
 #include "demo/scenes.h"
 #include "demo/scenes/shared.h"
 #include "demo_run.h"
+#include "effects/lfont.h"
 #include "foundation/chance.h"
+#include "foundation/list.h"
 #include "foundation/sine.h"
 #include "image/rgb888.h"
 #include "support/allocation.h"
 #include "support/images.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -16,7 +16,7 @@ namespace test {
 namespace {
 
 constexpr SCENE scenes[] = {
-    {"plasma", "plasma", "a sea of colour", VELM4030_scenePlasma},
+    {"plasma", "a sea of colour", VELM4030_scenePlasma, "plasma"},
 };
 
 TEST(Tutorial, TheSceneShowsAMovingSeaUntilSpace) {

@@ -151,7 +151,7 @@ TEST(Circle, FailuresAreReportedAndChangeNothing) {
     const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     const CIRCLE_BODY* const bodies = fleet->bodies;
     expectReports(CIRCLE_verbose, 8, "CIRCLE error", [&] {
-        CIRCLE_setCount(fleet, 0), CIRCLE_advance(nullptr), CIRCLE_drawXor(nullptr, nullptr);
+        CIRCLE_setCount(fleet, -1), CIRCLE_advance(nullptr), CIRCLE_drawXor(nullptr, nullptr);
         CIRCLE_drawRing(nullptr, 0, 0, 1, 1), CIRCLE_delete(nullptr);
         expectFailure(1, CIRCLE_new), expectFailure(2, CIRCLE_new);
         expectFailure(1, [&] { return CIRCLE_setCount(fleet, 3), nullptr; });

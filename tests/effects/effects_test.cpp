@@ -13,6 +13,9 @@
 #include "effects/sinedots.h"
 #include "foundation/chance.h"
 #include "support/owned.h"
+#include "vector/cursor.h"
+#include "vector/font.h"
+#include "vector/vec2d.h"
 
 namespace velm::test {
 namespace {

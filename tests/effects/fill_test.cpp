@@ -89,11 +89,11 @@ TEST(Fill, PoursStepByStepIntoTheSameArea) {
         const Picture poured(IMG_clone(walls));
         FILL_begin(fill, walls);
         const bool isFree = walls->pixels[0] == 0;
-        EXPECT_EQ(FILL_pour(fill, 0, 0, 5), isFree ? 1 : 0);
-        EXPECT_EQ(FILL_pour(fill, 0, 0, 9), 0) << "a wall, or filled already";
-        EXPECT_EQ(FILL_pour(fill, walls->width, 0, 5) + FILL_pour(fill, 0, -1, 5), 0);
+        EXPECT_EQ(FILL_pour(fill, 0, 0, 5), isFree);
+        EXPECT_FALSE(FILL_pour(fill, 0, 0, 9)) << "a wall, or filled already";
+        EXPECT_FALSE(FILL_pour(fill, walls->width, 0, 5) || FILL_pour(fill, 0, -1, 5));
         fill->flow = 7;
-        while (FILL_isDone(fill) == 0) {
+        while (!FILL_isDone(fill)) {
             const std::int32_t before = fill->first;
             FILL_advance(fill);
             ASSERT_LE(fill->first - before, 7);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "audio/sample.h"
 #include "effects/flashpix.h"
 #include "support/owned.h"
 

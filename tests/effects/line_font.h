@@ -11,6 +11,7 @@
 #include "effects/lfont.h"
 #include "support/owned.h"
 #include "vector/objects.h"
+#include "vector/vec2d.h"
 
 namespace velm::test {
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // What rain, leaping figures, breathing lines and rays keep to, whatever chance they had.
+#include "audio/sample.h"
 #include "effects/archpath.h"
 #include "effects/lradial.h"
 #include "effects/lrain.h"

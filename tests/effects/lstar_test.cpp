@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "audio/sample.h"
 #include "effects/lstar.h"
 #include "foundation/chance.h"
 #include "support/owned.h"
@@ -72,7 +73,7 @@ TEST(Lstar, ClipsAndStaysInItsWorld) {
 TEST(Lstar, FailuresAreReportedAndChangeNothing) {
     const Owned<LSTAR_delete> sky(LSTAR_new());
     expectReports(LSTAR_verbose, 8, "LSTAR error", [&] {
-        LSTAR_setCount(sky, 0), LSTAR_advance(nullptr), LSTAR_draw(sky, nullptr);
+        LSTAR_setCount(sky, -1), LSTAR_advance(nullptr), LSTAR_draw(sky, nullptr);
         LSTAR_drawPolygons(nullptr, nullptr), LSTAR_delete(nullptr);
         expectFailure(1, LSTAR_new), expectFailure(2, LSTAR_new);
         expectFailure(1, [&] { return LSTAR_setCount(sky, 3), nullptr; });

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/mouse.h"
 #include "platform/xdpy.h"
+#include "platform/xptr.h"
 #include "support/owned.h"
 
 namespace velm::test {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/partixel.h"
+#include "foundation/random.h"
 #include "support/owned.h"
 
 #include <vector>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "effects/scroll.h"
 #include "support/owned.h"
+#include "vector/cursor.h"
+#include "vector/font.h"
 
 namespace velm::test {
 namespace {

@@ -3,6 +3,7 @@
 //
 // The effects that write with line fonts. Their glyphs are single pixels here, and the palette tells which
 // character of the text a pixel belongs to.
+#include "audio/sample.h"
 #include "effects/line_font.h"
 #include "effects/lscrlxyz.h"
 #include "effects/lscroll.h"
@@ -146,7 +147,7 @@ TEST(Wordzoom, SendsWordByWordAndEnds) {
     zoom->interval = 3;
     WORDZOOM_setText(zoom, " ONE\n\nTHREE  A ");
     std::string order;
-    for (std::int32_t frame = 0; WORDZOOM_isDone(zoom) == 0; ++frame) {
+    for (std::int32_t frame = 0; !WORDZOOM_isDone(zoom); ++frame) {
         ASSERT_LT(frame, 500);
         WORDZOOM_advance(zoom);
         WORDZOOM_draw(zoom, pen.target);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/dir.h"
 #include "foundation/file.h"
+#include "foundation/list.h"
 #include "support/owned.h"
 
 #include <algorithm>

@@ -6,7 +6,10 @@
 //     EXPECT_EQ(Objects("{ s 1 2 3 4 }\n").shown(), "{1,2,0 3,4,0 }");
 #pragma once
 
+#include "foundation/list.h"
 #include "vector/obj2d.h"
+#include "vector/seg2d.h"
+#include "vector/vec2d.h"
 
 #include <sstream>
 #include <string>

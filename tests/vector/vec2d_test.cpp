@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/owned.h"
 #include "vector/seg2d.h"
+#include "vector/vec2d.h"
 
 #include <limits>
 

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "foundation/list.h"
 #include "paint/contact_sheets.h"
 
 #include "foundation/sine.h"
 #include "paint/png.h"
 #include "paint/shading.h"
 #include "vector/obj2d.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 #include <functional>

@@ -82,7 +82,7 @@ void drawLand(Journey& journey, std::int32_t frame) {
     BACKMOVE* const ground = journey.ground;
     ground->speedX = 0x8000 + 0x200 * frame;
     ground->rippleReach = std::clamp((frame - wordBegins) / 40, 0, 5);
-    ground->brightness = static_cast<std::uint32_t>(curveStay(frame, dawns, frames - 8, slope));
+    ground->brightness = curveStay(frame, dawns, frames - 8, slope);
     BACKMOVE_draw(ground, journey.land);
     BACKMOVE_advance(ground);
     if (settings.flagS == 0) {

@@ -120,8 +120,7 @@ void moveHoles(Portholes& show, std::int32_t frame) {
 
 void drawCity(Portholes& show, std::int32_t frame) {
     constexpr std::int32_t dusk = 150; // brightness of the city, of 256
-    show.near->brightness = static_cast<std::uint32_t>(
-        dusk * (curveRise(frame, 60, 170) - curveRise(frame, swellBegin, irisBegin)) >> 8);
+    show.near->brightness = dusk * (curveRise(frame, 60, 170) - curveRise(frame, swellBegin, irisBegin)) >> 8;
     show.near->rippleReach = curveRise(frame, 260, 460) / 32;
     BACKMOVE_advance(show.near);
     BACKMOVE_draw(show.near, demo.screen);

@@ -3,10 +3,11 @@
 #include "effects/plasma.h"
 
 #include "foundation/chance.h"
-#include "foundation/memory.h"
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 
 namespace velm {
 
@@ -37,12 +38,10 @@ constexpr std::int32_t heightShift = 8;
 } // namespace
 
 PLASMA* PLASMA_new() {
-    PLASMA* plasma = allocateRecord<PLASMA>();
-    if (plasma == nullptr) {
-        PLASMA_error();
-        return nullptr;
+    PLASMA* plasma = newRecord<PLASMA>(PLASMA_error);
+    if (plasma != nullptr) {
+        PLASMA_randomize(plasma);
     }
-    PLASMA_randomize(plasma);
     return plasma;
 }
 
@@ -102,12 +101,7 @@ void PLASMA_draw(const PLASMA* plasma, IMG* target) {
 }
 
 void PLASMA_delete(PLASMA** handle) {
-    if (handle == nullptr || *handle == nullptr) {
-        PLASMA_error();
-        return;
-    }
-    delete *handle;
-    *handle = nullptr;
+    deleteRecord(handle, PLASMA_error);
 }
 
 void PLASMA_error() {

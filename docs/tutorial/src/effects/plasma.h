@@ -10,11 +10,12 @@
 #pragma once
 
 #include "foundation/identity.h"
-#include "image/img.h"
 
 #include <cstdint>
 
 namespace velm {
+
+struct IMG;
 
 inline constexpr std::int32_t PLASMA_waveCount = 3;
 inline constexpr std::int32_t PLASMA_colourCount = 256;
