@@ -4,7 +4,7 @@
 #
 # ./test.sh: installs what is missing, then builds and runs the whole suite, optimised and under the sanitizers.
 set -euo pipefail
-cd "$(dirname "$0")"
+CDPATH="" cd -- "$(dirname -- "$0")"
 . packaging/packages.sh
 
 packaging/need.sh "${test_packages[@]}"

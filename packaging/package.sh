@@ -5,7 +5,7 @@
 # packaging/package.sh: installs what is missing, builds from a clean folder and leaves the Debian package in
 # build/package. The same checkout gives the same package, to the byte.
 set -euo pipefail
-cd "$(dirname "$0")/.."
+CDPATH="" cd -- "$(dirname -- "$0")/.."
 . packaging/packages.sh
 
 packaging/need.sh "${package_packages[@]}"

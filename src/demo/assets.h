@@ -7,17 +7,9 @@
 //     IMG* logo = IMG_fromPNM(assets::logo.bytes, assets::logo.size);
 #pragma once
 
-#include <cstddef>
+#include "foundation/asset.h"
 
-namespace velm {
-
-/// The bytes of a file, never freed, followed by a NUL that does not count.
-struct ASSET {
-    const char* bytes;
-    std::size_t size;
-};
-
-namespace assets {
+namespace velm::assets {
 
 extern const ASSET logo;         ///< P4 128 x 64
 extern const ASSET picture_a;    ///< P6 128 x 64
@@ -36,5 +28,4 @@ extern const ASSET font_medium; ///< line font on a grid of 0 to 15
 extern const ASSET drawings;    ///< line drawings on a grid of 0 to 16
 extern const ASSET scroll_text; ///< what the scroller shows
 
-} // namespace assets
-} // namespace velm
+} // namespace velm::assets

@@ -6,6 +6,8 @@
 #include "foundation/wrap.h"
 #include "platform/clock.h"
 
+#include <algorithm>
+
 namespace velm {
 
 const IDENTITY FPS_identity = makeIdentity("FPS", "LINUX", "ZENDORAK", "20150503", "CODE");
@@ -53,9 +55,11 @@ void FPS_wait(FPS* fps) {
     if (fps == nullptr || fps->targetRate == 0) {
         return;
     }
-    fps->sleepMicros = wrapSub(microsPerSecond / fps->targetRate, lowWord(fps->elapsedMicros));
+    const std::int32_t budget = microsPerSecond / fps->targetRate;
+    fps->sleepMicros = wrapSub(budget, lowWord(fps->elapsedMicros));
     if (fps->sleepMicros > 0) {
-        CLOCK_sleep(fps->sleepMicros);
+        // A frame whose time came out negative has more left than it ever had; that much is not slept.
+        CLOCK_sleep(std::min(fps->sleepMicros, budget));
         fps->shownRate = fps->targetRate;
     }
 }

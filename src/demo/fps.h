@@ -21,9 +21,10 @@ struct FPS {
     std::int32_t measuredRate; ///< 1000000 / elapsedMicros of the last frame; shown nowhere
     std::int32_t
         shownRate; ///< what the overlay shows: targetRate since the last frame that had time to spare
-    std::int32_t sleepMicros;   ///< what was left of the last frame's budget; may be negative
-    std::int64_t startMicros;   ///< wall clock at FPS_start
-    std::int64_t endMicros;     ///< wall clock at FPS_tick
+    std::int32_t
+        sleepMicros; ///< what was left of the last frame's budget; may be negative, or more than all of it
+    std::int64_t startMicros;   ///< time at FPS_start
+    std::int64_t endMicros;     ///< time at FPS_tick
     std::int64_t elapsedMicros; ///< the time between them, modulo 2^32 (about 35 minutes either way)
     std::uint32_t frameCount;   ///< frames ticked since the record was made; never reset
 };
@@ -34,7 +35,7 @@ extern std::uint8_t FPS_verbose;
 /// A zeroed clock, or nullptr.
 FPS* FPS_new();
 
-/// The wall clock in microseconds.
+/// The time in microseconds: CLOCK_now.
 std::int64_t FPS_now();
 
 /// Notes the time at the top of a frame.
@@ -43,7 +44,8 @@ void FPS_start(FPS* fps);
 /// Ends the frame's measurement and counts it. Without elapsed time `measuredRate` stays as it was.
 void FPS_tick(FPS* fps);
 
-/// Sleeps the rest of the budget of 1000000 / targetRate microseconds, if there is one.
+/// Sleeps the rest of the budget of 1000000 / targetRate microseconds, if there is one; never longer than the
+/// whole.
 void FPS_wait(FPS* fps);
 
 /// Frees the clock and stores nullptr in the handle.

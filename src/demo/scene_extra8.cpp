@@ -65,14 +65,15 @@ void forEachStrokeOf(const Figure& figure, Draw draw) {
     });
 }
 
-/// Calls draw(a, b) with the ends of every stroke of a word in the medium font, about the middle of the row.
+/// Calls draw(a, b) with the ends of every stroke of a word, about the middle of the row. It is the small
+/// font, whose strokes are single lines: each becomes one side of a body.
 template <typename Draw>
 void forEachStrokeOf(std::string_view word, std::int32_t y, std::int32_t scale, Draw draw) {
-    constexpr std::int32_t cell = 16;
+    constexpr std::int32_t cell = 8;
     constexpr std::int32_t middle = 128;
-    std::int32_t left = middle - cell * scale * static_cast<std::int32_t>(word.size()) / 2;
+    std::int32_t left = middle - cell * scale * static_cast<std::int32_t>(word.size() - 1) / 2;
     for (const char letter : word) {
-        forEachStroke(glyphOf(demo.fontMedium, static_cast<std::uint8_t>(letter)), [&](VEC2D a, VEC2D b) {
+        forEachStroke(glyphOf(demo.fontSmall, static_cast<std::uint8_t>(letter)), [&](VEC2D a, VEC2D b) {
             draw(VEC2D{left + a.x * scale, y + a.y * scale, 0},
                  VEC2D{left + b.x * scale, y + b.y * scale, 0});
         });
@@ -98,9 +99,9 @@ void forEachEdge(const VEC2D& a, const VEC2D& b, Draw draw) {
 
 constexpr std::string_view upperWord = "VELM";
 constexpr std::string_view lowerWord = "4030";
-constexpr std::int32_t letterScale = 4;
-constexpr std::int32_t upperY = 24; // top of the letters' cells
-constexpr std::int32_t lowerY = 132;
+constexpr std::int32_t letterScale = 7;
+constexpr std::int32_t upperY = 56; // the middle of the letters' cells
+constexpr std::int32_t lowerY = 164;
 constexpr Figure window{"mystic rose", 128, 128, 15}; // twelve corners, each joined to each
 constexpr std::int32_t windowMiddle = 128;
 

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Time as the demo sees it, in microseconds: the wall clock here, virtual time without a screen.
+// Time as the demo sees it, in microseconds: it only runs forward, whatever becomes of the wall clock.
+// Without a screen it is virtual.
 //
 //     const std::int64_t begin = CLOCK_now();
 //     CLOCK_sleep(33333);
@@ -11,7 +12,7 @@
 
 namespace velm {
 
-/// Microseconds of the wall clock.
+/// Microseconds of the wall clock when the program first asked, plus what has passed since. Never runs back.
 std::int64_t CLOCK_now();
 
 /// Sleeps for `micros` (> 0) microseconds; a signal may end it early.

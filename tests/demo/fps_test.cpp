@@ -54,6 +54,14 @@ TEST_F(FpsTest, AFrameWithoutTimeKeepsTheMeasuredRate) {
     EXPECT_EQ(fps->measuredRate, 1000);
 }
 
+TEST_F(FpsTest, NoSleepIsLongerThanAFrame) {
+    for (const std::int64_t minutes : {36, 50, 71}) {
+        EXPECT_LE(frame(minutes * 60000000), 33333) << "after " << minutes << " minutes";
+        EXPECT_EQ(fps->sleepMicros, 33333 - fps->elapsedMicros);
+        EXPECT_EQ(fps->shownRate, 30);
+    }
+}
+
 TEST_F(FpsTest, FPS_lowWordsOnly) {
     headless.micros = 0x1FFFFFFFFLL - 100;
     frame(1000);

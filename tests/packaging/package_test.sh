@@ -31,6 +31,8 @@ run_dpkg --install "$package" || fail "$(cat "$work/dpkg.log")"
 installed=$(cd "$root/usr" && find . -type f | sort)
 for program in "$root"/usr/bin/*; do
     name=$(basename "$program")
+    readelf -dW "$program" | grep -q BIND_NOW || fail "$name binds its symbols late"
+    readelf -sW --dyn-syms "$program" | grep -q __stack_chk_fail || fail "$name has no guarded stack"
     [ -s "$root/usr/share/man/man6/$name.6.gz" ] || fail "$name has no man page"
 done
 for file in applications/velm4030.desktop metainfo/org.velm4030.velm4030.metainfo.xml doc/velm4030/copyright \

@@ -27,9 +27,9 @@ protected:
 
 TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     waitForRecorder();
-    Child player({VELM_PLAYER, "--scale", "1", "--frames", "220"}, withDisplay());
+    Child player({VELM_PLAYER, "schedule", "--scale", "1", "--frames", "220"}, withDisplay());
     ASSERT_EQ(player.waitForExit(60), 0) << player.errors();
-    EXPECT_EQ(player.output(), "sound: alsa\n");
+    EXPECT_EQ(player.output(), "sound: pulseaudio\n");
     EXPECT_EQ(player.errors(), "");
     const Sound heard = recorded();
     const Sound expected = captured(200); // the end of the sound goes down with the program
@@ -51,7 +51,7 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     EXPECT_GE(found, pieces - pieces / 10);
 
     // The same through the other driver, at half the volume.
-    Child half({VELM_PLAYER, "--scale", "1", "--volume", "50", "--sound", "oss"}, withDevice());
+    Child half({VELM_PLAYER, "schedule", "--scale", "1", "--volume", "50", "--sound", "oss"}, withDevice());
     Sound stretch = loudestWindow(captured(60));
     for (std::int16_t& value : stretch) {
         value /= 2;
@@ -63,7 +63,7 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
 TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundReturns) {
     waitForRecorder();
     constexpr int movesToSee = 30; // a second's
-    Child player({VELM_PLAYER, "--scale", "1"}, withDisplay());
+    Child player({VELM_PLAYER, "schedule", "--scale", "1"}, withDisplay());
     ASSERT_TRUE(eventually([this] { return !isSilent(recorded()); }, 40)) << player.errors();
     pulseaudio->signal(SIGSTOP);
     for (int i = 0; i < movesToSee; ++i) {
@@ -79,7 +79,7 @@ TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundRetur
     session.press("Escape");
     EXPECT_EQ(player.waitForExit(), 0);
     EXPECT_EQ(player.errors(), "");
-    EXPECT_EQ(player.output(), "sound: alsa\n");
+    EXPECT_EQ(player.output(), "sound: pulseaudio\n");
 }
 
 } // namespace

@@ -9,7 +9,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
+#include <string_view>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <thread>
@@ -39,11 +41,35 @@ int openDisplayPipe() {
     return ends[0];
 }
 
+/// A file with one entry, for any machine and any display: a cookie of this process.
+std::string writeAuthority() {
+    std::string path = temporaryFile();
+    std::ofstream file(path, std::ios::binary);
+    constexpr std::string_view kind{"\xFF\xFF\0\0\0\0\0\x12MIT-MAGIC-COOKIE-1\0\x10", 28};
+    file.write(kind.data(), kind.size());
+    std::random_device chance;
+    for (int byte = 0; byte < 16; ++byte) {
+        file.put(static_cast<char>(chance()));
+    }
+    return path;
+}
+
+/// What opens the servers of this process, to itself and its children; nobody else can look at them.
+const std::string& authority() {
+    static const struct Authority {
+        std::string path = writeAuthority();
+        ~Authority() { std::filesystem::remove(path); }
+    } one;
+    setenv("XAUTHORITY", one.path.c_str(), 1);
+    return one.path;
+}
+
 std::vector<std::string> serverCommand(const std::string& depth, const std::string& size,
                                        const std::vector<std::string>& more) {
     std::vector<std::string> command = {"Xvfb",      "-displayfd", std::to_string(displayPipe),
                                         "-screen",   "0",          size + "x" + depth,
-                                        "-nolisten", "tcp",        "-noreset"};
+                                        "-nolisten", "tcp",        "-noreset",
+                                        "-auth",     authority()};
     command.insert(command.end(), more.begin(), more.end());
     return command;
 }

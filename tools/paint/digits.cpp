@@ -27,7 +27,7 @@ Picture boldDigit(std::int32_t digit) {
     constexpr std::string_view names = "0123456789ABCDEF";
     constexpr std::int32_t middle = 6;
     Strokes strokes =
-        parseStrokes(digit == 0 ? openZero : mediumGlyph(names[static_cast<std::size_t>(digit)]));
+        parseStrokes(digit == 0 ? openZero : skeletonGlyph(names[static_cast<std::size_t>(digit)]));
     for (Segment& segment : strokes) {
         segment.from.y += segment.from.y > middle ? 1 : 0;
         segment.to.y += segment.to.y > middle ? 1 : 0;

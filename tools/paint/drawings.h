@@ -16,7 +16,10 @@ struct Drawing {
     std::string_view shorthand; ///< on a grid of 0 to 16, the middle at (8, 8)
 };
 
-/// All of them, solids and stars first.
+/// All that the demo turns: solids and patterns, then creatures, then things.
 std::span<const Drawing> drawings();
+
+/// Plain figures that stand in the shaded font alone.
+std::span<const Drawing> ornaments();
 
 } // namespace velm::paint

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 namespace velm::paint {
 
@@ -38,7 +39,7 @@ struct Cut {
 
 constexpr Cut letterCut = {16, 32, 20, 28, 30};
 constexpr Cut crowdedCut = {16, 32, 20, 28, 21};
-constexpr Cut drawingCut = {14, 14, 16, 144, 10};
+constexpr Cut figureCut = {14, 14, 16, 144, 10};
 
 constexpr std::int32_t longSlant = 128; ///< the least height of strokes like those of X, in eighths
 
@@ -216,9 +217,51 @@ void cutGlyph(IMG& sheet, std::int32_t code, const Strokes& strokes, const Cut& 
     }
 }
 
-/// The control codes and code 127 hold drawings.
-std::size_t drawingOf(std::int32_t code) {
-    return (static_cast<std::size_t>(code) * 2 + 1) % drawings().size();
+/// The figures of the control codes, by name, and last that of code 127.
+constexpr std::string_view figures[33] = {"cube",
+                                          "dodecahedron",
+                                          "two tetrahedra",
+                                          "tesseract",
+                                          "eight cubes",
+                                          "prism",
+                                          "impossible triangle",
+                                          "globe",
+                                          "double pyramid",
+                                          "pentagram",
+                                          "hexagram",
+                                          "sharp heptagram",
+                                          "enneagram",
+                                          "three squares",
+                                          "complete seven",
+                                          "north star",
+                                          "compass rose",
+                                          "sun",
+                                          "iris",
+                                          "snowflake",
+                                          "strung diamond",
+                                          "trefoil",
+                                          "woven square",
+                                          "three triangles",
+                                          "four leaves",
+                                          "six-sided spiral",
+                                          "two-armed spiral",
+                                          "turning squares",
+                                          "turning pentagons",
+                                          "triangles in triangles",
+                                          "branching tree",
+                                          "heart",
+                                          "cuboctahedron"};
+
+std::string_view figureOf(std::int32_t code) {
+    const std::string_view name = figures[std::min(static_cast<std::size_t>(code), std::size(figures) - 1)];
+    for (const auto list : {drawings(), ornaments()}) {
+        const auto found =
+            std::find_if(list.begin(), list.end(), [=](const Drawing& d) { return d.name == name; });
+        if (found != list.end()) {
+            return found->shorthand;
+        }
+    }
+    return "";
 }
 
 } // namespace
@@ -228,9 +271,9 @@ Picture paintFontShaded() {
     for (std::int32_t code = 0; code < codes; ++code) {
         const auto character = static_cast<char>(code);
         if (code < 32 || code == 127) {
-            cutGlyph(*sheet, code, parseStrokes(drawings()[drawingOf(code)].shorthand), drawingCut);
+            cutGlyph(*sheet, code, parseStrokes(figureOf(code)), figureCut);
         } else {
-            cutGlyph(*sheet, code, parseStrokes(mediumGlyph(character)),
+            cutGlyph(*sheet, code, parseStrokes(skeletonGlyph(character)),
                      isCrowded(character) ? crowdedCut : letterCut);
         }
     }

@@ -33,7 +33,8 @@ struct Pen {
 
 constexpr Pen broad = {3, 2}; ///< upright stems of 3 pixels, level ones of 2
 constexpr Pen fine = {2, 2};  ///< for what has many strokes
-constexpr Pen light = {2, 1}; ///< for letters within letters
+constexpr Pen flat = {3, 1};  ///< for slanted accents over capitals
+constexpr Pen light = {2, 1}; ///< for their bent accents, and for letters within letters
 constexpr Pen hair = {1, 1};
 
 void write(const Cell& at, const Strokes& strokes, Pen pen) {
@@ -58,7 +59,7 @@ void fillArt(const Cell& at, std::int32_t art) {
 }
 
 void writeAscii(const Cell& at, char character) {
-    write(at, parseStrokes(mediumGlyph(character)), isCrowded(character) ? fine : broad);
+    write(at, parseStrokes(skeletonGlyph(character)), isCrowded(character) ? fine : broad);
 }
 
 /// Lines from the middle to the edges: bit 0 up, 1 right, 2 down, 3 left.
@@ -145,30 +146,46 @@ constexpr std::array<Sign, 32> signs = {{
     {"B9 9B 5B 39 75, 72 71", broad},                                   // inverted ?
 }};
 
-/// Capitals step down to row 4 to make room for their accents.
-Strokes lowered(Strokes strokes) {
-    constexpr std::array<std::int32_t, 16> rows = {0, 4, 5, 6, 6, 7, 7, 8, 9, 9, 10, 11, 12, 13, 14, 15};
-    for (Segment& segment : strokes) {
-        segment.from.y = rows[static_cast<std::size_t>(segment.from.y)];
-        segment.to.y = rows[static_cast<std::size_t>(segment.to.y)];
+/// Capitals as wide as the others but from row 3, with room for an accent above; "" for what needs none.
+std::string_view lowCapital(char letter) {
+    switch (letter) {
+    case 'A':
+        return "2B 26 53 93 C6 CB, 28 C8";
+    case 'E':
+        return "B3 23 2B BB, 27 97";
+    case 'I':
+        return "43 A3, 73 7B, 4B AB";
+    case 'N':
+        return "2B 23 33 BB CB C3";
+    case 'O':
+        return "53 93 C6 C8 9B 5B 28 26 53";
+    case 'U':
+        return "23 28 5B 9B C8 C3";
+    case 'Y':
+        return "23 78 C3, 78 7B";
+    default:
+        return "";
     }
-    return strokes;
 }
 
-void writeAccent(const Cell& at, char accent) {
+/// An accent in rows 0 to 2 over a small letter, in rows 0 and 1 over a capital.
+void writeAccent(const Cell& at, char accent, bool overCapital) {
+    const Pen slanted = overCapital ? flat : broad;
+    const Pen bent = overCapital ? light : fine;
     switch (accent) {
     case '`':
-        return write(at, parseStrokes("50 71"), broad);
+        return write(at, parseStrokes("50 71"), slanted);
     case '\'':
-        return write(at, parseStrokes("71 90"), broad);
+        return write(at, parseStrokes("71 90"), slanted);
     case '^':
-        return write(at, parseStrokes("41 60 80 A1"), fine);
+        return write(at, parseStrokes("41 60 80 A1"), bent);
     case '~':
-        return write(at, parseStrokes("31 50 71 90"), fine);
+        return write(at, parseStrokes("31 50 71 90"), bent);
     case '"':
         return write(at, parseStrokes("40, 90"), broad);
     case 'o':
-        return write(at, parseStrokes("60 90, 51, A1, 62 92"), hair);
+        return write(at, parseStrokes(overCapital ? "50 80, 41 42, 91 92" : "60 90, 51, A1, 62 92"),
+                     overCapital ? light : hair);
     default:
         return write(at, parseStrokes("7C 8D 7E 5E"), fine);
     }
@@ -218,10 +235,12 @@ void writeLetter(const Cell& at, std::int32_t code) {
     const auto index = static_cast<std::size_t>(code - firstLetter);
     const char letter = letters[index];
     const char accent = accents[index];
-    const Strokes strokes = parseStrokes(letter == 'i' ? "54 74 7B, 5B 9B" : mediumGlyph(letter));
-    const bool isCapital = letter < 'a';
-    write(at, isCapital && accent != ',' ? lowered(strokes) : strokes, broad);
-    writeAccent(at, accent);
+    const bool isLowered = letter < 'a' && accent != ',';
+    const std::string_view shorthand = letter == 'i' ? "54 74 7B, 5B 9B"
+                                       : isLowered   ? lowCapital(letter)
+                                                     : skeletonGlyph(letter);
+    write(at, parseStrokes(shorthand), broad);
+    writeAccent(at, accent, isLowered);
 }
 
 void writeCell(const Cell& at, std::int32_t code) {

@@ -6,6 +6,7 @@
 #include "paint/icon.h"
 
 #include "image/rgb888.h"
+#include "paint/files.h"
 #include "paint/png.h"
 #include "paint/shading.h"
 #include "paint/strokes.h"
@@ -155,6 +156,19 @@ Icon paintIcon(std::int32_t size) {
         icon.coverage->pixels[i] = inside * 255 / most;
     }
     return icon;
+}
+
+bool writeIconOfWindows(const std::string& path) {
+    constexpr std::int32_t size = 48;
+    const Icon icon = paintIcon(size);
+    std::string bytes = "P7\nWIDTH 48\nHEIGHT 48\nDEPTH 4\nMAXVAL 255\nTUPLTYPE RGB_ALPHA\nENDHDR\n";
+    for (std::int32_t i = 0; i < size * size; ++i) {
+        const std::uint32_t colour = icon.colours->pixels[i];
+        for (const std::uint32_t channel : {colour >> 16, colour >> 8, colour, icon.coverage->pixels[i]}) {
+            bytes += static_cast<char>(static_cast<unsigned char>(channel));
+        }
+    }
+    return writeFile(path, bytes);
 }
 
 bool writeIcons(const std::string& directory) {

@@ -19,6 +19,10 @@ struct Icon {
 /// An icon of `size` by `size` pixels, 16 or more.
 Icon paintIcon(std::int32_t size);
 
+/// Writes the icon of the program's windows as a PAM file; false, after a message on stderr, when it cannot
+/// be written whole.
+bool writeIconOfWindows(const std::string& path);
+
 /// Writes SIZE.png for every usual size; false, after a message on stderr, when one cannot be written whole.
 bool writeIcons(const std::string& directory);
 

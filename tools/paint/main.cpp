@@ -3,7 +3,8 @@
 //
 // paint_assets DIRECTORY: paints every picture and writes every line drawing of the demo into DIRECTORY.
 // paint_assets --sheet DIRECTORY: writes contact sheets of all of them instead.
-// paint_assets --icons DIRECTORY: writes the program's icon in all sizes instead.
+// paint_assets --icons DIRECTORY: writes the program's icon in all sizes instead, and icon.pam for its
+// windows.
 #include "paint/contact_sheets.h"
 #include "paint/files.h"
 #include "paint/icon.h"
@@ -56,7 +57,7 @@ int main(int count, char** arguments) {
     } else if (choice == "--sheet") {
         done = velm::paint::writeContactSheets(directory);
     } else if (choice == "--icons") {
-        done = velm::paint::writeIcons(directory);
+        done = velm::paint::writeIcons(directory) && velm::paint::writeIconOfWindows(directory + "/icon.pam");
     } else {
         std::cerr << "usage: paint_assets [--sheet | --icons] DIRECTORY\n";
     }

@@ -94,7 +94,7 @@ void drawNumber(IMG& img, const Lines& lines) {
     constexpr std::string_view number = "4030";
     for (std::size_t i = 0; i < number.size(); ++i) {
         const std::int32_t left = right - 16 - advance * static_cast<std::int32_t>(number.size() - 1 - i);
-        for (auto [from, to, starts] : parseStrokes(number[i] == '0' ? openZero : mediumGlyph(number[i]))) {
+        for (auto [from, to, starts] : parseStrokes(number[i] == '0' ? openZero : skeletonGlyph(number[i]))) {
             const auto place = [&](Point p) {
                 return Point{((p.x - corner.x) * scale + left) * lines.unit,
                              ((p.y - corner.y) * scale + top) * lines.unit};

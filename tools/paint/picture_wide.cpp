@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The wide picture: a city of lines on a bay at night, an aurora above it, its lights in the water below.
+// The wide picture: a city of lines on a bay at night, an aurora above it, its lights in the water below. Its
+// right edge continues at its left one: colours and waves complete whole turns, and no tower stands across.
 #include "foundation/sine.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 
-#include <algorithm>
+#include <cstdlib>
 
 namespace velm::paint {
 
@@ -16,17 +17,18 @@ constexpr std::int32_t width = 256;
 constexpr std::int32_t height = 128;
 constexpr std::int32_t shore = 92; ///< the first row of water
 
-/// Curtains of light: each hangs from a wavy line and fades upwards.
+/// Curtains of light: each hangs from a wavy line and fades upwards. Factors of x that are multiples of 4
+/// make whole turns of the sine over the width.
 std::uint32_t aurora(std::uint32_t sky, std::int32_t x, std::int32_t y, std::int32_t curtain) {
-    const std::int32_t foot = 46 - curtain * 13 + (SINE_entry(x * 5 + curtain * 341) >> 12) +
-                              (SINE_entry(x * 13 - curtain * 200) >> 13);
-    const std::int32_t reach = 20 + (SINE_entry(x * 23 + curtain * 91) >> 12);
+    const std::int32_t foot = 46 - curtain * 13 + (SINE_entry(x * 4 + curtain * 341) >> 12) +
+                              (SINE_entry(x * 12 - curtain * 200) >> 13);
+    const std::int32_t reach = 20 + (SINE_entry(x * 24 + curtain * 91) >> 12);
     const std::int32_t above = foot - y;
     if (above < 0 || above > reach) {
         return sky;
     }
     const std::int32_t strength =
-        (reach - above) * 150 / reach * (160 + (SINE_entry(x * 97 + curtain * 50) >> 9)) / 224;
+        (reach - above) * 150 / reach * (160 + (SINE_entry(x * 96 + curtain * 50) >> 9)) / 224;
     const std::uint32_t light = blended(0x30FFA0, 0xC040FF, above * whole / reach);
     // The strength goes through the pattern, not the colour: few steps over any sky.
     const auto amount = static_cast<std::int32_t>(dither({0, whole - 1, 6}, strength, x, y));
@@ -131,13 +133,18 @@ void paintSide(IMG& img, std::int32_t x, std::int32_t y, std::int32_t w, std::ui
     }
 }
 
+/// From the left edge to the right one; the last tower takes what room is left.
 void paintTowers(IMG& img, const Layer& layer, bool outlined) {
-    std::int32_t x = -4;
-    for (std::int32_t i = 0; x < width; ++i) {
-        const std::int32_t w = between(layer.narrowest, layer.widest, scattered(i, layer.seed)) / 2 * 2 + 1;
+    constexpr std::int32_t firstHue = 200;
+    constexpr std::int32_t hueStep = hueTurn / width;
+    std::int32_t x = outlined ? 1 : 0;
+    for (std::int32_t i = 0; x + layer.narrowest <= width; ++i) {
+        const std::int32_t wanted =
+            between(layer.narrowest, layer.widest, scattered(i, layer.seed)) / 2 * 2 + 1;
+        const std::int32_t w = x + wanted + layer.narrowest > width ? width - x : wanted;
         const std::int32_t tall = between(layer.lowest, layer.highest, scattered(layer.seed, i));
         const std::int32_t y = shore - tall;
-        const std::uint32_t edge = outlined ? dimmed(hue(x * 5 + 200), 230) : layer.windows;
+        const std::uint32_t edge = outlined ? dimmed(hue(x * hueStep + firstHue), 230) : layer.windows;
         if (outlined) {
             paintSide(img, x, y, w, edge);
         }
@@ -160,8 +167,8 @@ void paintWater(IMG& img) {
         const std::int32_t swing = 1 + depth / 6;
         const std::int32_t shift = SINE_entry(depth * 1600 / (depth + 8) * 7) * swing >> 15;
         for (std::int32_t x = 0; x < width; ++x) {
-            const std::int32_t sourceX = std::clamp(x + shift, 0, width - 1);
-            const std::uint32_t mirrored = IMG_getPixel(&img, sourceX, shore - 1 - depth * 5 / 2);
+            const std::uint32_t mirrored =
+                IMG_getPixel(&img, (x + shift + width) % width, shore - 1 - depth * 5 / 2);
             const std::int32_t kept = 190 - depth * 3;
             const std::uint32_t water = dither({0x0C0830, 0x020210, 5}, depth * 7, x, y);
             IMG_putPixel(&img, x, y, isLit(kept + 40, x, y) ? blended(water, mirrored, kept) : water);

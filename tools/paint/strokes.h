@@ -36,7 +36,10 @@ Strokes parseStrokes(std::string_view shorthand);
 void drawStrokes(IMG& img, const Strokes& strokes, std::int32_t x, std::int32_t y, std::int32_t w,
                  std::int32_t h, std::uint32_t colour);
 
-/// The shorthand of a printable character on the 16 x 16 grid: "" for the space.
+/// The shorthand of a printable character on the 16 x 16 grid, one line a stroke: "" for the space.
+std::string_view skeletonGlyph(char character);
+
+/// The same character for the line font: the outline of its strokes, which are one unit wide.
 std::string_view mediumGlyph(char character);
 
 /// The zero without its dot, for places where no letter O can stand.

@@ -72,7 +72,7 @@ std::string writeFontSmall() {
 }
 
 std::string writeFontMedium() {
-    std::string text = opening("Line font, 16 by 16: capitals from row 1 to 11, small letters from row 4.",
+    std::string text = opening("Line font, 16 by 16: capitals from row 1 to 12, small letters from row 4.",
                                "A segment is s x1,y1,x2,y2 or segment x1,y1 x2,y2.", "font 16x16 wire");
     text += controlCodeObjects();
     for (char c = firstPrintable; c <= lastPrintable; ++c) {

@@ -3,8 +3,8 @@
 //
 // velm4030-play: the demo as today's desktops want it.
 #include "demo/velm4030.h"
+#include "desktop/desktop.h"
 #include "play/options.h"
-#include "player.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -28,15 +28,15 @@ void haveStandardFiles() {
 int main(int argc, char** argv) {
     using namespace velm;
     haveStandardFiles();
-    static const PlayOptions options = parseOptions(argc, argv);
+    static PlayOptions options = parseOptions(argc, argv);
     std::signal(SIGPIPE, SIG_IGN); // nobody may be listening to what it says
-    player.scale = options.scale;
-    player.fullScreen = options.fullScreen;
-    player.soundDriver = options.sound;
-    player.volume = options.volume;
-    player.frameLimit = options.frames;
-    player.onLimit = [] { std::exit(0); };
+    desktop.scale = options.scale;
+    desktop.fullScreen = options.fullScreen;
+    desktop.sound = options.sound;
+    desktop.volume = options.volume;
+    desktop.frameLimit = options.frames;
+    desktop.onLimit = [] { std::exit(0); };
     VELM4030_start();
     VELM4030_setFrameRate(options.rate);
-    SCENE_runForEver(options.scene);
+    PROGRAMME_play(options.programme);
 }

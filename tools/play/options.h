@@ -7,7 +7,7 @@
 //     const PlayOptions options = parseOptions(argc, argv);
 #pragma once
 
-#include "demo/scenes.h"
+#include "demo/programme.h"
 
 #include <cstdint>
 #include <string>
@@ -15,8 +15,8 @@
 namespace velm {
 
 struct PlayOptions {
-    const SCENE* scene = nullptr; ///< nullptr for the schedule
-    std::int32_t scale = 0;       ///< 0 for what suits the screen
+    PROGRAMME programme;    ///< what to show, in which order
+    std::int32_t scale = 0; ///< 0 for what suits the screen
     bool fullScreen = false;
     std::string sound;         ///< a driver's name, "" for the first that answers
     std::int32_t volume = 100; ///< per cent

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "desktop/canvas.h"
+
+#include "desktop/video.h"
+#include "desktop/x11.h"
+
+#include <algorithm>
+
+namespace velm {
+
+namespace {
+
+PixelLayout layoutOf(const SDL_PixelFormat& format) {
+    return {format.BytesPerPixel, format.Rmask, format.Gmask, format.Bmask};
+}
+
+/// A window's memory.
+struct Memory {
+    char* first;
+    std::int32_t width, height, pitch;
+    PixelLayout pixels;
+};
+
+/// Enlarges what fits of a frame into the memory and returns the place that it takes.
+SDL_Rect enlargeInto(const Memory& memory, const IMG& frame, const Layout& layout) {
+    // A window smaller than the picture shows its middle; a larger one shows all.
+    const std::int32_t x = std::max(-layout.left, 0);
+    const std::int32_t y = std::max(-layout.top, 0);
+    const Part part{x, y, std::min(frame.width - x, memory.width / layout.scale),
+                    std::min(frame.height - y, memory.height / layout.scale)};
+    const SDL_Rect place{std::max(layout.left, 0), std::max(layout.top, 0), part.width * layout.scale,
+                         part.height * layout.scale};
+    enlarge(frame, part, layout.scale, memory.pixels,
+            memory.first + std::ptrdiff_t{place.y} * memory.pitch + place.x * memory.pixels.bytes,
+            memory.pitch);
+    return place;
+}
+
+} // namespace
+
+bool Canvas::open(SDL_Window* into) {
+    window = into;
+    isFresh = true;
+    if (isX11()) {
+        SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+        if (SDL_GetWindowPixelFormat(window) == SDL_PIXELFORMAT_UNKNOWN) {
+            pixels = pixelsOf(window);
+            return pixels.has_value();
+        }
+        return SDL_GetWindowSurface(window) != nullptr;
+    }
+    renderer = SDL_CreateRenderer(window, -1, 0);
+    return renderer != nullptr;
+}
+
+void Canvas::close() {
+    if (renderer != nullptr) {
+        SDL_DestroyRenderer(renderer); // and the texture
+    }
+    *this = {};
+}
+
+SDL_Point Canvas::size() const {
+    SDL_Point size{};
+    if (renderer != nullptr) {
+        SDL_GetRendererOutputSize(renderer, &size.x, &size.y);
+    } else {
+        SDL_GetWindowSize(window, &size.x, &size.y);
+    }
+    return size;
+}
+
+bool Canvas::draw(const IMG& frame, const Layout& layout) {
+    isFresh = isFresh || layout != last;
+    last = layout;
+    const bool drawn = renderer != nullptr ? drawTexture(frame, layout)
+                       : pixels            ? drawRows(frame, layout)
+                                           : drawSurface(frame, layout);
+    isFresh = !drawn;
+    return drawn;
+}
+
+bool Canvas::drawSurface(const IMG& frame, const Layout& layout) {
+    SDL_Surface* const surface = SDL_GetWindowSurface(window);
+    if (surface == nullptr) {
+        return false;
+    }
+    if (isFresh) {
+        SDL_FillRect(surface, nullptr, 0);
+    }
+    const SDL_Rect place = enlargeInto({static_cast<char*>(surface->pixels), surface->w, surface->h,
+                                        surface->pitch, layoutOf(*surface->format)},
+                                       frame, layout);
+    return (isFresh ? SDL_UpdateWindowSurface(window) : SDL_UpdateWindowSurfaceRects(window, &place, 1)) == 0;
+}
+
+bool Canvas::drawRows(const IMG& frame, const Layout& layout) {
+    const SDL_Point whole = size();
+    const std::int32_t pitch = whole.x * pixels->bytes;
+    if (isFresh) {
+        rows.assign(static_cast<std::size_t>(pitch) * static_cast<std::size_t>(whole.y), '\0');
+    }
+    enlargeInto({rows.data(), whole.x, whole.y, pitch, *pixels}, frame, layout);
+    return putRows(window, rows.data(), whole);
+}
+
+bool Canvas::drawTexture(const IMG& frame, const Layout& layout) {
+    SDL_Point size{};
+    if (texture != nullptr) {
+        SDL_QueryTexture(texture, nullptr, nullptr, &size.x, &size.y);
+    }
+    if (size.x != frame.width || size.y != frame.height) {
+        SDL_DestroyTexture(texture);
+        texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
+                                    frame.width, frame.height);
+        SDL_SetTextureScaleMode(texture, SDL_ScaleModeNearest);
+    }
+    const SDL_Rect place{layout.left, layout.top, frame.width * layout.scale, frame.height * layout.scale};
+    const int pitch = frame.width * static_cast<int>(sizeof *frame.pixels);
+    const bool drawn = texture != nullptr && SDL_UpdateTexture(texture, nullptr, frame.pixels, pitch) == 0 &&
+                       SDL_SetRenderDrawColor(renderer, 0, 0, 0, SDL_ALPHA_OPAQUE) == 0 &&
+                       SDL_RenderClear(renderer) == 0 &&
+                       SDL_RenderCopy(renderer, texture, nullptr, &place) == 0;
+    SDL_RenderPresent(renderer);
+    return drawn;
+}
+
+} // namespace velm

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "desktop/enlarge.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+#include <vector>
+
+namespace velm {
+
+namespace {
+
+std::uint32_t fitted(std::uint32_t value, PixelLayout::Channel channel) {
+    const std::uint32_t fit = channel.bits <= 8 ? value >> (8 - channel.bits)
+                                                : value << (channel.bits - 8) | value >> (16 - channel.bits);
+    return fit << channel.shift;
+}
+
+/// A pixel is moved as so many bytes; the compiler makes one word of them.
+template <std::size_t bytes>
+void spreadRow(const std::vector<std::uint32_t>& pixels, std::int32_t scale, char* to) {
+    for (const std::uint32_t pixel : pixels) {
+        for (std::int32_t i = 0; i < scale; ++i) {
+            constexpr std::size_t unused =
+                std::endian::native == std::endian::little ? 0 : sizeof pixel - bytes;
+            std::memcpy(to, reinterpret_cast<const char*>(&pixel) + unused, bytes);
+            to += bytes;
+        }
+    }
+}
+
+using SpreadRow = void (*)(const std::vector<std::uint32_t>&, std::int32_t, char*);
+constexpr SpreadRow spreads[] = {spreadRow<1>, spreadRow<2>, spreadRow<3>, spreadRow<4>};
+
+} // namespace
+
+PixelLayout::Channel::Channel(std::uint32_t mask)
+    : shift(std::countr_zero(mask)), bits(std::popcount(mask)) {}
+
+std::uint32_t PixelLayout::of(std::uint32_t pixel) const {
+    return fitted(pixel >> 16 & 0xFF, red) | fitted(pixel >> 8 & 0xFF, green) | fitted(pixel & 0xFF, blue);
+}
+
+void enlarge(const IMG& frame, const Part& part, std::int32_t scale, const PixelLayout& layout, char* to,
+             std::ptrdiff_t stride) {
+    static const PixelLayout ours(4, 0xFF0000, 0x00FF00, 0x0000FF);
+    const bool isOurs = layout == ours;
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width));
+    const std::size_t rowBytes = pixels.size() * static_cast<std::size_t>(scale * layout.bytes);
+    for (std::int32_t y = part.y; y < part.y + part.height; ++y) {
+        const std::uint32_t* const row = frame.pixels + std::int64_t{y} * frame.width + part.x;
+        std::copy(row, row + part.width, pixels.begin());
+        if (!isOurs) {
+            std::transform(row, row + part.width, pixels.begin(),
+                           [&layout](std::uint32_t pixel) { return layout.of(pixel); });
+        }
+        spreads[layout.bytes - 1](pixels, scale, to);
+        for (std::int32_t copy = 1; copy < scale; ++copy) {
+            std::memcpy(to + copy * stride, to, rowBytes);
+        }
+        to += scale * stride;
+    }
+}
+
+} // namespace velm

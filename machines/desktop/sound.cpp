@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The sound device as the demo sees it, and the clock that it leads. A sound server may hang whoever opens or
+// closes it, so a thread of its own does, and the pictures never wait.
+#include "desktop/desktop.h"
+#include "desktop/pace.h"
+#include "desktop/sound_queue.h"
+#include "platform/clock.h"
+#include "platform/dsp.h"
+
+#include <SDL.h>
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <thread>
+#include <unistd.h>
+
+namespace velm {
+
+namespace {
+
+constexpr std::int32_t theDevice = 0;
+/// Names and what SDL calls them, in the order in which they are tried.
+constexpr std::pair<const char*, const char*> sounds[] = {
+    {"pipewire", "pipewire"}, {"pulseaudio", "pulseaudio"}, {"alsa", "alsa"}, {"oss", "dsp"}};
+constexpr const char* silence = "none";
+
+/// The thread may outlive everything else, so this is never taken down.
+SoundQueue& queue = *new SoundQueue;
+Pace pace;
+bool soundLeads = false; ///< a block went to the device since the last sleep
+
+void SDLCALL fill(void*, Uint8* bytes, int count) {
+    auto* const samples = reinterpret_cast<std::int16_t*>(bytes);
+    queue.pull({samples, static_cast<std::size_t>(count) / sizeof *samples}, CLOCK_now());
+}
+
+/// Opens SDL's default device of a sound; 0 without one.
+SDL_AudioDeviceID openSound(const char* driver) {
+    constexpr std::uint16_t biteSamples = 1024;
+    if (SDL_AudioInit(driver) != 0) {
+        return 0;
+    }
+    SDL_AudioSpec wanted{};
+    wanted.freq = SAMPLE_rate;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = 1;
+    wanted.samples = biteSamples;
+    wanted.callback = fill;
+    const SDL_AudioDeviceID device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    if (device == 0) {
+        SDL_AudioQuit();
+    }
+    return device;
+}
+
+void ignore(const char*, int, const char*, int, const char*, ...) {}
+
+/// ALSA has a word on standard error for everything that it does not find.
+void quietAlsa() {
+    using SetHandler = int (*)(decltype(&ignore));
+    if (void* const library = SDL_LoadObject("libasound.so.2"); library != nullptr) {
+        void* const set = SDL_LoadFunction(library, "snd_lib_error_set_handler");
+        if (set != nullptr) {
+            reinterpret_cast<SetHandler>(set)(ignore);
+        }
+    }
+}
+
+/// Says which sound is taken, once for each that is.
+void announce(const std::string& name) {
+    static std::string said;
+    if (name != said && (name != silence || said.empty())) {
+        const bool missed = name == silence && !desktop.sound.empty() && desktop.sound != silence;
+        std::printf("sound: %s%s\n", name.c_str(),
+                    missed ? (" (no " + desktop.sound + " device)").c_str() : "");
+        std::fflush(stdout);
+        said = name;
+    }
+}
+
+/// Opens the first sound that is wanted and answers.
+SDL_AudioDeviceID openAny() {
+    for (const auto& [name, driver] : sounds) {
+        if (desktop.sound.empty() || desktop.sound == name) {
+            if (const SDL_AudioDeviceID device = openSound(driver); device != 0) {
+                announce(name);
+                return device;
+            }
+        }
+    }
+    announce(silence);
+    return 0;
+}
+
+/// Keeps a device open, and opens it again when it is lost.
+[[noreturn]] void keepSound() {
+    using namespace std::chrono_literals;
+    quietAlsa();
+    for (;;) {
+        if (const SDL_AudioDeviceID device = openAny(); device != 0) {
+            queue.clear();
+            SDL_PauseAudioDevice(device, 0);
+            while (SDL_GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED) {
+                std::this_thread::sleep_for(100ms);
+            }
+            SDL_CloseAudioDevice(device);
+            SDL_AudioQuit();
+        }
+        std::this_thread::sleep_for(1s);
+    }
+}
+
+} // namespace
+
+std::vector<std::string> desktopSounds() {
+    std::vector<std::string> names;
+    for (const auto& [name, driver] : sounds) {
+        names.emplace_back(name);
+    }
+    return names;
+}
+
+std::int64_t CLOCK_now() {
+    using namespace std::chrono;
+    return duration_cast<microseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+void CLOCK_sleep(std::int32_t micros) {
+    const std::int32_t correction = soundLeads ? pace.correction(queue.aheadMicros(CLOCK_now())) : 0;
+    soundLeads = false;
+    std::this_thread::sleep_for(std::chrono::microseconds(std::max(micros + correction, 0)));
+}
+
+void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
+    ualarm(delay, interval); // it refuses what is too long
+}
+
+std::int32_t DSP_open(const char*) {
+    if (desktop.sound == silence) {
+        announce(silence);
+        return -1;
+    }
+    static const bool started = [] {
+        SDL_setenv("PIPEWIRE_DEBUG", "0", 0); // it complains on standard error where it does not run
+        std::thread(keepSound).detach();
+        return true;
+    }();
+    return started ? theDevice : -1;
+}
+
+std::int32_t DSP_frameRate(std::int32_t, std::int32_t framesPerSecond) {
+    return DSP_blockBytes(framesPerSecond);
+}
+
+std::int32_t DSP_request(std::int32_t, DspRequest request, std::int32_t* word) {
+    if (request == DspRequest::blockSize) {
+        constexpr std::int32_t usualRate = 30;
+        *word = DSP_blockBytes(usualRate);
+    }
+    return 0;
+}
+
+std::int32_t DSP_write(std::int32_t, const std::int16_t* block, std::int32_t samples) {
+    constexpr std::int32_t fullVolume = 100;
+    std::vector<std::int16_t> loud(block, block + samples);
+    for (std::int16_t& value : loud) {
+        value = static_cast<std::int16_t>(value * desktop.volume / fullVolume);
+    }
+    soundLeads = queue.push(loud);
+    return soundLeads ? samples * static_cast<std::int32_t>(sizeof *block) : 0;
+}
+
+void DSP_close(std::int32_t) {
+    queue.clear();
+}
+
+} // namespace velm

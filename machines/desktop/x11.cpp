@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "desktop/x11.h"
+
+#include "desktop/video.h"
+
+#include <SDL_syswm.h>
+#include <cstdlib>
+#include <dlfcn.h>
+
+namespace velm {
+
+namespace {
+
+template <typename Function>
+Function load(const char* name) {
+    [[maybe_unused]] static void* const library = dlopen("libX11.so.6", RTLD_LAZY | RTLD_GLOBAL);
+    return reinterpret_cast<Function>(dlsym(RTLD_DEFAULT, name));
+}
+
+/// The functions of the library that SDL has loaded.
+struct Xlib {
+    decltype(&XOpenDisplay) openDisplay = load<decltype(&XOpenDisplay)>("XOpenDisplay");
+    decltype(&XCloseDisplay) closeDisplay = load<decltype(&XCloseDisplay)>("XCloseDisplay");
+    decltype(&XDefaultRootWindow) root = load<decltype(&XDefaultRootWindow)>("XDefaultRootWindow");
+    decltype(&XSetErrorHandler) onError = load<decltype(&XSetErrorHandler)>("XSetErrorHandler");
+    decltype(&XSetIOErrorHandler) onLost = load<decltype(&XSetIOErrorHandler)>("XSetIOErrorHandler");
+    decltype(&XGetWindowAttributes) attributes =
+        load<decltype(&XGetWindowAttributes)>("XGetWindowAttributes");
+    decltype(&XSelectInput) select = load<decltype(&XSelectInput)>("XSelectInput");
+    decltype(&XQueryTree) tree = load<decltype(&XQueryTree)>("XQueryTree");
+    decltype(&XInternAtom) atom = load<decltype(&XInternAtom)>("XInternAtom");
+    decltype(&XGetWindowProperty) property = load<decltype(&XGetWindowProperty)>("XGetWindowProperty");
+    decltype(&XCreateImage) image = load<decltype(&XCreateImage)>("XCreateImage");
+    decltype(&XPutImage) put = load<decltype(&XPutImage)>("XPutImage");
+    decltype(&XSync) sync = load<decltype(&XSync)>("XSync");
+    decltype(&XFree) free = load<decltype(&XFree)>("XFree");
+    decltype(&XGetInputFocus) getFocus = load<decltype(&XGetInputFocus)>("XGetInputFocus");
+    decltype(&XSetInputFocus) setFocus = load<decltype(&XSetInputFocus)>("XSetInputFocus");
+};
+
+const Xlib& xlib() {
+    static const Xlib library;
+    return library;
+}
+
+bool isLost = false;
+
+int onProtocolError(Display*, XErrorEvent*) {
+    return 0; // a window that is gone tells so by an event
+}
+
+int onConnectionLost(Display*) {
+    isLost = true;
+    giveUp("lost the display", displayName());
+}
+
+/// SDL's own connection, and what it calls the window.
+SDL_SysWMinfo infoOf(SDL_Window* window) {
+    SDL_SysWMinfo info;
+    SDL_VERSION(&info.version);
+    SDL_GetWindowWMInfo(window, &info);
+    return info;
+}
+
+/// A short connection of our own, for what is asked before there is a window of SDL's.
+struct Connection {
+    Display* const display = xlib().openDisplay(nullptr);
+    Connection() {
+        if (display == nullptr) {
+            giveUp("lost the display", displayName());
+        }
+    }
+    ~Connection() { xlib().closeDisplay(display); }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    [[nodiscard]] Window root() const { return xlib().root(display); }
+
+    /// The window that stands in for the root, as this one's property says; 0 for none.
+    [[nodiscard]] Window standInOf(Window window) const {
+        constexpr long words = 1;
+        constexpr int wordFormat = 32;
+        Atom type = None;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long left = 0;
+        unsigned char* data = nullptr;
+        const Atom name = xlib().atom(display, "__SWM_VROOT", False);
+        Window found = 0;
+        if (xlib().property(display, window, name, 0, words, False, AnyPropertyType, &type, &format, &count,
+                            &left, &data) == Success &&
+            format == wordFormat && count == words) {
+            found = *reinterpret_cast<const Window*>(data);
+        }
+        if (data != nullptr) {
+            xlib().free(data);
+        }
+        return found;
+    }
+};
+
+Window formerFocus = 0;
+int formerRevert = 0;
+
+/// The program ends by exit() wherever it is.
+void giveKeyboardBack() {
+    if (!isLost) {
+        const Connection connection;
+        xlib().setFocus(connection.display, formerFocus, formerRevert, CurrentTime);
+    }
+}
+
+} // namespace
+
+void watchX11() {
+    xlib().onError(onProtocolError);
+    xlib().onLost(onConnectionLost);
+    SDL_EventState(SDL_SYSWMEVENT, SDL_ENABLE);
+}
+
+SDL_Window* foreignWindow(std::uint64_t number) {
+    XWindowAttributes attributes{};
+    const Connection connection;
+    if (xlib().attributes(connection.display, number, &attributes) == 0) {
+        return nullptr;
+    }
+    SDL_Window* const window = SDL_CreateWindowFrom(reinterpret_cast<void*>(number));
+    if (window != nullptr) {
+        // SDL asks for no event of such a window. Its size, its exposures and its end may be heard by
+        // anybody.
+        xlib().select(infoOf(window).info.x11.display, number, StructureNotifyMask | ExposureMask);
+    }
+    return window;
+}
+
+std::uint64_t rootWindow() {
+    const Connection connection;
+    Window root = connection.root();
+    Window parent = 0;
+    Window* children = nullptr;
+    unsigned int count = 0;
+    xlib().tree(connection.display, root, &root, &parent, &children, &count);
+    Window found = root;
+    for (unsigned int i = 0; i < count; ++i) {
+        const Window standIn = connection.standInOf(children[i]);
+        found = standIn != 0 ? standIn : found;
+    }
+    if (children != nullptr) {
+        xlib().free(children);
+    }
+    return found;
+}
+
+std::optional<PixelLayout> pixelsOf(SDL_Window* window) {
+    const SDL_SysWMinfo info = infoOf(window);
+    XWindowAttributes attributes{};
+    xlib().attributes(info.info.x11.display, info.info.x11.window, &attributes);
+    const auto mask = [](unsigned long channel) { return static_cast<std::uint32_t>(channel); };
+    constexpr int leastBits = 25; // those below SDL knows, if they have masks at all
+    return attributes.depth < leastBits ? std::nullopt
+                                        : std::optional(PixelLayout(4, mask(attributes.visual->red_mask),
+                                                                    mask(attributes.visual->green_mask),
+                                                                    mask(attributes.visual->blue_mask)));
+}
+
+bool putRows(SDL_Window* window, char* rows, SDL_Point size) {
+    const SDL_SysWMinfo info = infoOf(window);
+    Display* const display = info.info.x11.display;
+    constexpr int bits = 32;
+    XWindowAttributes attributes{};
+    xlib().attributes(display, info.info.x11.window, &attributes);
+    const auto width = static_cast<unsigned int>(size.x);
+    const auto height = static_cast<unsigned int>(size.y);
+    XImage* const image =
+        xlib().image(display, attributes.visual, static_cast<unsigned int>(attributes.depth), ZPixmap, 0,
+                     rows, width, height, bits, 0);
+    if (image == nullptr) {
+        return false;
+    }
+    xlib().put(display, info.info.x11.window, DefaultGCOfScreen(attributes.screen), image, 0, 0, 0, 0, width,
+               height);
+    xlib().sync(display, False);
+    image->data = nullptr; // else it would be freed, too
+    image->f.destroy_image(image);
+    return true;
+}
+
+bool tellsLoss(const SDL_Event& event) {
+    return event.type == SDL_SYSWMEVENT && event.syswm.msg->subsystem == SDL_SYSWM_X11 &&
+           event.syswm.msg->msg.x11.event.type == DestroyNotify;
+}
+
+bool hasManager() {
+    XWindowAttributes attributes{};
+    const Connection connection;
+    return xlib().attributes(connection.display, connection.root(), &attributes) != 0 &&
+           (attributes.all_event_masks & SubstructureRedirectMask) != 0;
+}
+
+void lendKeyboard() {
+    const Connection connection;
+    xlib().getFocus(connection.display, &formerFocus, &formerRevert);
+    std::atexit(giveKeyboardBack);
+}
+
+} // namespace velm
