@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/folder.h"
 
+#include "foundation/list.h"
 #include "foundation/memory.h"
 #include "headless/headless.h"
 

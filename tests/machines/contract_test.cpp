@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 //
 // What demo and effects rely on, whatever machine is behind the seam: the same cases for each of them.
+#include "foundation/list.h"
 #include "hands.h"
+#include "image/img.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
 #include "platform/xdpy.h"

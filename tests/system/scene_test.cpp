@@ -4,8 +4,11 @@
 // What a viewer of the default scene sees when the keys are pressed and the pointer moves.
 #include "demo/assets.h"
 #include "effects/lfont.h"
+#include "foundation/list.h"
+#include "image/img.h"
 #include "running_demo.h"
 #include "vector/obj2d.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 
