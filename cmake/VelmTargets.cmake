@@ -27,7 +27,7 @@ endfunction()
 # libraries that it links and of those below them, and no others.
 function(velm_library name)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${name}/*.cpp")
+  file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${name}/*.cpp" "${PROJECT_SOURCE_DIR}/src/${name}/*/*.cpp")
   add_library(velm_${name} STATIC ${sources})
   velm_configure(velm_${name})
   velm_folder(velm_${name} src/${name})

@@ -11,8 +11,8 @@
 
 namespace velm {
 
-/// A new tune of period 360 with its 120 instruments, or nullptr. Draws its noise from chance(), so the bank is
-/// the same whenever the draws before it are.
+/// A new tune of period 360 with its 120 instruments, or nullptr. Draws its noise from chance(), so the bank
+/// is the same whenever the draws before it are.
 MUSIC* VELM4030_buildMusic();
 
 } // namespace velm

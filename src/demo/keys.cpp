@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The key commands, and what ends every frame.
+// The key commands.
 #include "demo/state.h"
 #include "demo/velm4030.h"
 
@@ -86,16 +86,6 @@ void VELM4030_setFrameRate(std::int32_t framesPerSecond) {
     }
 }
 
-void VELM4030_fadeOut() {
-    // VELM4030_fadeOutIsLong: one expects to stop at black, which two passes reach; all 32 are presented, and
-    // leaving takes as long.
-    constexpr int passes = 32;
-    for (int i = 0; i < passes; ++i) {
-        IMG_subColour(demo.screen, 0x808080);
-        XDPY_present(demo.display, demo.screen);
-    }
-}
-
 void VELM4030_pauseLoop() {
     while (demo.paused != 0) {
         XKBD_poll(demo.keyboard);
@@ -114,21 +104,6 @@ void VELM4030_selectNext() {
     if (demo.dirListing != nullptr) {
         demo.dirSelection = std::min(demo.dirSelection + 1, demo.dirListing->names->count - 1);
     }
-}
-
-bool VELM4030_endFrame() {
-    XKBD_poll(demo.keyboard);
-    VELM4030_handleKey(demo.keyboard);
-    if (demo.framesLeft > 0 && --demo.framesLeft == 0) {
-        demo.control |= controlNextPart;
-    }
-    if ((demo.control & controlNextPart) != 0) {
-        demo.control &= static_cast<std::uint8_t>(~controlNextPart);
-        return false;
-    }
-    FPS_tick(demo.fps);
-    FPS_wait(demo.fps);
-    return true;
 }
 
 } // namespace velm

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/programme.h"
 
-#include "demo/scene_frames.h"
+#include "demo/scenes/frames.h"
 #include "image/rgb888.h"
 
 #include <algorithm>

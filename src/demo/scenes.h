@@ -17,6 +17,7 @@ struct SCENE {
     std::string_view name;
     std::string_view description; ///< one line, for people
     void (*run)();                ///< one run, from its set-up to its clean-up
+    std::string_view subject{};   ///< in the name of its file, scenes/scene_SUBJECT.cpp
 };
 
 /// Every scene, in the order of the schedule.

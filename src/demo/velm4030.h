@@ -11,6 +11,7 @@
 // its layers into `screen`, VELM4030_postLayer, VELM4030_musicLayer, VELM4030_endFrame.
 #pragma once
 
+#include "demo/scenes/table.h"
 #include "foundation/identity.h"
 #include "platform/xkbd.h"
 
@@ -47,46 +48,6 @@ void VELM4030_rasterSetup();
 void VELM4030_bitmapFontSetup();
 /// Parses the line fonts and the drawings and makes their pens.
 void VELM4030_lineFontSetup();
-
-/// 3000 frames of dots, a turning figure, the wave scroller, the pointer and four bobbing letters.
-void VELM4030_sceneDefault();
-void VELM4030_sceneDefaultSetup();
-void VELM4030_sceneDefaultCleanup();
-/// 750 frames of shaded balls that leave fading trails under the logo.
-void VELM4030_sceneInterludeA();
-void VELM4030_sceneInterludeASetup();
-/// 501 frames of a waving mesh in moving hues under the hopping word.
-void VELM4030_sceneInterludeB();
-void VELM4030_sceneInterludeBSetup();
-
-/// The scenes that the schedule leaves out. Each takes what it needs from the shared state, makes its own
-/// effects and deletes them at its end.
-/// The names in the working folder on a drum, in a ring of sound; until Space.
-void VELM4030_sceneExtra1();
-/// 900 frames of rings on a pond, from where a hopping word lands.
-void VELM4030_sceneExtra2();
-/// 750 frames of portholes into another picture.
-void VELM4030_sceneExtra3();
-/// 900 frames through two doors and a winding tunnel of neon frames to a logo of glittering dust.
-void VELM4030_sceneExtra4();
-/// 750 frames of lines and panes of colour that compose a picture, swing, breathe and leave.
-void VELM4030_sceneExtra5();
-/// 1000 frames in a theatre: a curtain parts for a twister, a rubber picture and a flag.
-void VELM4030_sceneExtra6();
-/// 1000 frames of line text that is what it says: a point, a line, a wave, a circle, and on.
-void VELM4030_sceneExtra7();
-/// 750 frames of drawings that colour floods, and of words out of the depth.
-void VELM4030_sceneExtra8();
-/// 1500 frames that chance arranges: clouds of dots, bent pictures, braided ribbons.
-void VELM4030_sceneExtra9();
-/// 750 frames of a journey along the panorama, over water, with a leaping figure.
-void VELM4030_sceneExtra10();
-/// 750 frames of rain over a city whose windows light up.
-void VELM4030_sceneExtra11();
-/// 750 frames of flight through stars, hoops and polygons.
-void VELM4030_sceneExtra12();
-/// 900 frames of water that falls through a word, and of sparks that turn it to stone.
-void VELM4030_sceneParticles();
 
 /// Makes the scroller's records where they are missing.
 void VELM4030_scrollSetup();

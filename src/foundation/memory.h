@@ -16,12 +16,23 @@
 
 namespace velm {
 
+/// How often memory ran out since the program began. Whoever makes a lot compares it before and after, and
+/// need not ask of each part whether it is there.
+inline std::int64_t refusedAllocations = 0;
+
+/// What was allocated; nullptr is counted.
+template <typename Memory>
+[[nodiscard]] Memory* allocated(Memory* memory) {
+    refusedAllocations += memory == nullptr ? 1 : 0;
+    return memory;
+}
+
 /// A record whose fields hold their defaults, 0 where they name none, or nullptr when memory runs out. The
 /// caller frees it with `delete`.
 template <typename Record>
 [[nodiscard]] Record* allocateRecord() {
     static_assert(std::is_trivially_destructible_v<Record>, "records are plain");
-    return new (std::nothrow) Record{};
+    return allocated(new (std::nothrow) Record{});
 }
 
 /// `count` zeroed elements, or nullptr when `count` is negative, too large to address, or memory runs
@@ -34,7 +45,7 @@ template <typename Element>
     if (count < 0 || count > most) {
         return nullptr;
     }
-    return new (std::nothrow) Element[static_cast<std::size_t>(count)]();
+    return allocated(new (std::nothrow) Element[static_cast<std::size_t>(count)]());
 }
 
 } // namespace velm

@@ -84,7 +84,7 @@ TEST_F(MusicTest, PatternsFollowTheirDraws) {
 
 TEST_F(MusicTest, TheGeneratorIsSharedAndStartsTheSame) {
     RANDOM* const before = MUSIC_random;
-    const Owned<MUSIC, MUSIC_delete> other(MUSIC_new());
+    const Owned<MUSIC_delete> other(MUSIC_new());
     EXPECT_EQ(MUSIC_random, before);
     EXPECT_EQ(other->bar->length, 132300);
     const auto makeFirst = [] {

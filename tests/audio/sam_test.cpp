@@ -56,7 +56,7 @@ protected:
         std::string made = std::filesystem::temp_directory_path() / "velm sam-XXXXXX";
         return std::string(mkdtemp(made.data()));
     }();
-    const Owned<SAM, SAM_delete> sam{SAM_new()};
+    const Owned<SAM_delete> sam{SAM_new()};
 };
 
 std::string number(std::uint32_t value, std::size_t bytes) {
@@ -188,7 +188,7 @@ TEST_F(SamTest, HostileFilesAreRefusedAtEveryLength) {
 
 TEST_F(SamTest, AnOpenFileNeedsNoName) {
     const std::string bytes = saved("x", {1, 2});
-    const Owned<SAM, SAM_delete> nameless(SAM_new());
+    const Owned<SAM_delete> nameless(SAM_new());
     SAM_setSample(nameless, sampleOf({1, 2}));
     nameless->storage = 'b';
     nameless->file = std::fopen(sam->path, "wb");
@@ -247,7 +247,7 @@ TEST_F(SamTest, SAM_newEndsTheProcessAndOtherFailuresAreReported) {
         EXPECT_EQ(SAM_load(nullptr) + SAM_readSam(nullptr) + SAM_readWave(nullptr) + SAM_readRaw(nullptr), 0);
         EXPECT_EQ(SAM_save(nullptr) + SAM_writeSam(sam) + SAM_writeWav(sam) + SAM_writeRaw(sam), 0);
         EXPECT_EQ(SAM_isFinished(nullptr) + SAM_signExtend(1, 33) + SAM_endsWith("x", nullptr), 0);
-        const Owned<SAM, SAM_delete> empty(SAM_new());
+        const Owned<SAM_delete> empty(SAM_new());
         SAM_setPath(empty, sam->path);
         EXPECT_EQ(SAM_save(empty), 0) << "without a sample no file is made empty";
         EXPECT_EQ(contents(), before);

@@ -33,8 +33,8 @@ protected:
         return img;
     }
 
-    const Owned<SAM, SAM_delete> sam{SAM_new()};
-    const Owned<SAMDRAW, SAMDRAW_delete> draw{SAMDRAW_new()};
+    const Owned<SAM_delete> sam{SAM_new()};
+    const Owned<SAMDRAW_delete> draw{SAMDRAW_new()};
 };
 
 TEST_F(SamdrawTest, SAMDRAW_stepIgnoresView) {

@@ -46,7 +46,7 @@ TEST(Sample, EditsMoveTheTail) {
     EXPECT_EQ(values(s), (List{7, 1, 7, 1, 7, 8, 8, 2, 3, 5}));
     SAMPLE_resize(s, 4);
     EXPECT_EQ(values(s), (List{7, 7, 8, 2}));
-    using Made = Owned<SAMPLE, SAMPLE_delete>;
+    using Made = Owned<SAMPLE_delete>;
     const std::int8_t bytes[] = {-128, 127};
     EXPECT_EQ(values(Made(SAMPLE_fromBytes(bytes, 2))), (List{-128, 127}));
     EXPECT_EQ(values(Made(SAMPLE_slice(s, -3, 2))), (List{7, 7}));

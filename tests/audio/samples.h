@@ -25,7 +25,7 @@ inline SAMPLE* sampleOf(const List& from) {
 }
 
 /// A sample that lives as long as its scope.
-struct Sample : Owned<SAMPLE, SAMPLE_delete> {
+struct Sample : Owned<SAMPLE_delete> {
     explicit Sample(const List& from = {}) : Owned(sampleOf(from)) {}
 };
 

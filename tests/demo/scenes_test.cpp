@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "audio/sample.h"
 #include "demo/scenes.h"
+#include "demo/scenes/shared.h"
 #include "demo_run.h"
 #include "effects/lfont.h"
 #include "foundation/chance.h"
@@ -18,6 +19,7 @@
 #include <malloc.h>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velm::test {
@@ -255,28 +257,77 @@ TEST_F(ScenesTest, TheBrowserListsAnyFolder) {
     EXPECT_EQ(demo.dirListing->names->count, 0);
 }
 
-/// What a scene has to leave to the next one.
-void expectTidyPens(const std::string& scene) {
-    for (const LFONT* pen : {demo.textSmall, demo.textMedium}) {
-        EXPECT_EQ(pen->angle, 0) << scene;
-        EXPECT_EQ(pen->scale->x * pen->scale->y, 1) << scene;
-    }
-    for (const LFONT* pen : {demo.textSmall, demo.textMedium, demo.textLarge}) {
-        EXPECT_EQ(pen->target, demo.screen) << scene;
-    }
-    EXPECT_EQ(demo.fontBitmap3->target, demo.screen) << scene;
-    EXPECT_EQ(demo.waveColumns->y, VELM4030_scrollY) << scene;
-    if (scene.starts_with("extra") || scene == "particles") {
-        IMG_fill(demo.screen, 0);
-        demo.overlay = overlayRate;
-        VELM4030_fpsLayer();
-        demo.overlay = 0;
-        EXPECT_NE(std::count(demo.screen->pixels, demo.screen->pixels + 4096, 0xFFFFFFU), 0) << scene;
+/// Of the scenes that fade the picture before them out.
+std::uint32_t fadeOf(const SCENE& scene) {
+    constexpr std::uint32_t fade = 32;
+    const std::string_view fading[] = {"default", "interlude-b", "extra-7", "extra-8", "extra-9"};
+    return std::count(std::begin(fading), std::end(fading), scene.name) != 0 ? fade : 0;
+}
+
+/// All that a scene has made for later ones, the listing among it, which DIR_delete leaves in pieces.
+void dropAll() {
+    dropShared();
+    if (demo.dirListing != nullptr) {
+        while (demo.dirListing->names->count > 0) {
+            delete[] static_cast<char*>(LIST_pop(demo.dirListing->names));
+        }
+        LIST_delete(&demo.dirListing->names);
+        DIR_delete(&demo.dirListing);
     }
 }
 
-TEST_F(ScenesTest, LastAsLongAsTheyShouldAllocateNothingMeanwhileAndLeaveTidyPens) {
-    constexpr std::uint32_t fade = 32;
+/// Runs a scene, which Space would end after so many presentations; how many it showed.
+std::uint32_t presentationsOf(const SCENE& scene, std::uint32_t untilSpace) {
+    const std::uint32_t begin = headless.frames;
+    pressAt(begin + untilSpace, ' ');
+    scene.run();
+    headless.keys.clear();
+    headless.nextKey = 0;
+    return headless.frames - begin;
+}
+
+TEST_F(ScenesTest, EndAtOnceWhereverTheirSetUpRunsOutOfMemory) {
+    demo.muted = 1; // composing allocates, too
+    VEC2D_verbose = 0;
+    settings.meshColumns = settings.meshRows = 3;
+    for (const SCENE& scene : SCENE_all()) {
+        const std::uint32_t begin = fadeOf(scene);
+        dropAll();
+        const std::int64_t before = allocationCount();
+        ASSERT_EQ(presentationsOf(scene, begin + 2), begin + 2) << scene.name;
+        const std::int64_t made = allocationCount() - before;
+        ASSERT_GT(made, scene.name == "interlude-a" ? 0 : 3) << scene.name;
+        std::uint32_t light = 0;
+        headless.onFrame = [&light](const IMG& frame) {
+            light = *std::max_element(frame.pixels, frame.pixels + 256 * 256);
+        };
+        for (std::int64_t nth = 1; nth <= made; nth += nth < 200 ? 1 : 97) { // the palette is 1536 appends
+            dropAll();
+            const FailingAllocation failure(nth);
+            EXPECT_EQ(presentationsOf(scene, begin + 9), begin + 1)
+                << scene.name << " without allocation " << nth << " of " << made;
+            EXPECT_EQ(light, 0U) << scene.name << ' ' << nth;
+        }
+        headless.onFrame = nullptr;
+        EXPECT_EQ(presentationsOf(scene, begin + 2), begin + 2) << scene.name << " has memory again";
+    }
+    demo.muted = 0;
+    settings.meshColumns = settings.meshRows = 64;
+    dropAll();
+}
+
+TEST_F(ScenesTest, EndAtOnceWithoutWhatStartUpCouldNotMake) {
+    SAMPLE* const ramp = std::exchange(demo.hueRamp, nullptr);
+    for (const SCENE& scene : SCENE_all()) {
+        if (scene.name.starts_with("extra") || scene.name == "particles") {
+            EXPECT_EQ(presentationsOf(scene, fadeOf(scene) + 9), fadeOf(scene) + 1) << scene.name;
+        }
+    }
+    demo.hueRamp = ramp;
+}
+
+TEST_F(ScenesTest, LastAsLongAsTheyShouldAndAllocateNothingMeanwhile) {
+    constexpr std::uint32_t fade = 32; // presentations
     constexpr std::uint32_t untilSpace = 600;
     const std::map<std::string_view, std::uint32_t> lengths = {
         {"default", fade + 3000}, {"interlude-a", 750},    {"interlude-b", fade + 501},
@@ -306,7 +357,7 @@ TEST_F(ScenesTest, LastAsLongAsTheyShouldAllocateNothingMeanwhileAndLeaveTidyPen
         headless.onFrame = nullptr;
         EXPECT_EQ(headless.frames - begin, lengths.at(scene.name)) << scene.name;
         EXPECT_EQ(demo.dots, nullptr) << scene.name;
-        expectTidyPens(std::string(scene.name));
+        EXPECT_EQ(demo.waveColumns->y, VELM4030_scrollY) << scene.name;
     }
 }
 

@@ -43,7 +43,7 @@ TEST(Layout, APlaceInTheWindowIsOneInThePictureAlsoOutside) {
 
 TEST(Enlarge, EveryPixelBecomesASquareInTheScreensLayoutAndNothingElseChanges) {
     test::Images random(4030);
-    const test::Owned<IMG, IMG_delete> frame(random.image(9, 8));
+    const test::Owned<IMG_delete> frame(random.image(9, 8));
     const PixelLayout layouts[] = {{1, 0xE0, 0x1C, 0x03},
                                    {2, 0xF800, 0x07E0, 0x001F},
                                    {3, 0x0000FF, 0x00FF00, 0xFF0000},

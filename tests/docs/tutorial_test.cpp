@@ -10,14 +10,13 @@
 
 namespace velm {
 
-/// 600 frames of a sea of colour.
-void VELM4030_scenePlasma();
+void VELM4030_scenePlasma(); ///< 600 frames
 
 namespace test {
 namespace {
 
 constexpr SCENE scenes[] = {
-    {"plasma", "a sea of colour", VELM4030_scenePlasma},
+    {"plasma", "a sea of colour", VELM4030_scenePlasma, "plasma"},
 };
 
 TEST(Tutorial, TheSceneShowsAMovingSeaUntilSpace) {

@@ -33,7 +33,7 @@ TEST(Backmove, WrapsInBothDirectionsAsThePlainRule) {
     for (const auto& [width, height] : {std::pair{64, 32}, {30, 90}, {7, 5}, {1, 1}}) {
         const Picture picture(noise(width, height, 4));
         for (const std::int32_t depths : {1, 3}) {
-            const Owned<BACKMOVE, BACKMOVE_delete> back(BACKMOVE_new());
+            const Owned<BACKMOVE_delete> back(BACKMOVE_new());
             BACKMOVE_setPicture(back, picture);
             BACKMOVE_setDepths(back, depths);
             back->rippleReach = depths == 1 ? 0 : 20;
@@ -57,7 +57,7 @@ TEST(Backmove, WrapsInBothDirectionsAsThePlainRule) {
 TEST(Backmove, MixesWithWhatStandsThere) {
     const Picture picture(IMG_newSized(2, 1));
     picture->pixels[0] = 0x804020;
-    const Owned<BACKMOVE, BACKMOVE_delete> back(BACKMOVE_new());
+    const Owned<BACKMOVE_delete> back(BACKMOVE_new());
     BACKMOVE_setPicture(back, picture);
     back->reachX = back->reachY = 0;
     back->brightness = 128;
@@ -74,7 +74,7 @@ TEST(Backmove, MixesWithWhatStandsThere) {
 }
 
 TEST(Backmove, RefusesWhatItCannotShow) {
-    const Owned<BACKMOVE, BACKMOVE_delete> back(BACKMOVE_new());
+    const Owned<BACKMOVE_delete> back(BACKMOVE_new());
     const Picture picture(noise(8, 8, 1));
     const Picture empty(IMG_newSized(0, 4));
     expectReports(BACKMOVE_verbose, 9, "BACKMOVE error", [&] {

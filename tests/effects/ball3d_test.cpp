@@ -12,7 +12,7 @@
 namespace velm::test {
 namespace {
 
-using Ball = Owned<BALL3D, BALL3D_delete>;
+using Ball = Owned<BALL3D_delete>;
 
 /// The ball as it is written down, point by point; what it prints is returned.
 std::string plainBall(const BALL3D& ball, IMG* target) {

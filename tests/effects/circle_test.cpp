@@ -83,7 +83,7 @@ TEST(Circle, ExtremesLeaveThePictureAlone) {
 }
 
 TEST(Circle, FleetStaysInItsFieldAndBeginsAgain) {
-    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     fleet->width = 30, fleet->height = 20, fleet->largest = 10;
     CIRCLE_setCount(fleet, 40);
     fleet->bodies[0] = {.x = 0x10000,
@@ -109,7 +109,7 @@ TEST(Circle, FleetStaysInItsFieldAndBeginsAgain) {
 }
 
 TEST(Circle, SizesOutOfRangeCountAsTheNearestInIt) {
-    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     const Picture target(IMG_newSized(1, 1));
     for (const auto& [size, nearest] :
          {std::pair{0, 1}, {100000, CIRCLE_largestRadius}, {0x7FFFFFFF, CIRCLE_largestRadius}}) {
@@ -130,7 +130,7 @@ TEST(Circle, SizesOutOfRangeCountAsTheNearestInIt) {
 }
 
 TEST(Circle, NestsFadeAndInterfere) {
-    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     CIRCLE_setCount(fleet, 1);
     fleet->bodies[0] = {10 << 16, 10 << 16, 0, 0, 8 << 16, 0, 0x808080};
     fleet->rings = 9, fleet->spacing = 4, fleet->largest = 16;
@@ -148,7 +148,7 @@ TEST(Circle, NestsFadeAndInterfere) {
 }
 
 TEST(Circle, FailuresAreReportedAndChangeNothing) {
-    const Owned<CIRCLE, CIRCLE_delete> fleet(CIRCLE_new());
+    const Owned<CIRCLE_delete> fleet(CIRCLE_new());
     const CIRCLE_BODY* const bodies = fleet->bodies;
     expectReports(CIRCLE_verbose, 8, "CIRCLE error", [&] {
         CIRCLE_setCount(fleet, -1), CIRCLE_advance(nullptr), CIRCLE_drawXor(nullptr, nullptr);

@@ -54,8 +54,8 @@ void expectPlain(Dist* dist, void (*draw)(Dist*, IMG*), void (*advance)(Dist*)) 
 }
 
 TEST(Dist, DrawAsThePlainRule) {
-    expectPlain<DISTX>(Owned<DISTX, DISTX_delete>(DISTX_new()), DISTX_draw, DISTX_advance);
-    expectPlain<DISTY>(Owned<DISTY, DISTY_delete>(DISTY_new()), DISTY_draw, DISTY_advance);
+    expectPlain<DISTX>(Owned<DISTX_delete>(DISTX_new()), DISTX_draw, DISTX_advance);
+    expectPlain<DISTY>(Owned<DISTY_delete>(DISTY_new()), DISTY_draw, DISTY_advance);
 }
 
 } // namespace

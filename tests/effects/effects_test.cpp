@@ -48,17 +48,17 @@ struct Show {
     Picture screen{IMG_newSized(96, 64)};
     Picture strip;
     PixelPen pen{1, 1};
-    Owned<SINEDOTS, SINEDOTS_delete> dots; // the first to draw; srand's generator is srandom's
-    Owned<BALL3D, BALL3D_delete> ball{BALL3D_new()};
-    Owned<LOGOFLY, LOGOFLY_delete> logo{LOGOFLY_new()};
-    Owned<RASTER, RASTER_delete> bars{RASTER_new()};
-    Owned<FONT, FONT_delete> font{FONT_new()};
-    Owned<SCROLL, SCROLL_delete> scroll{SCROLL_new()};
-    Owned<DISTX, DISTX_delete> rows{DISTX_new()};
-    Owned<DISTY, DISTY_delete> columns{DISTY_new()};
-    Owned<BACKMOVE, BACKMOVE_delete> back{BACKMOVE_new()};
-    Owned<CIRCLE, CIRCLE_delete> circles{CIRCLE_new()};
-    Owned<LSTAR, LSTAR_delete> sky{LSTAR_new()};
+    Owned<SINEDOTS_delete> dots; // the first to draw; srand's generator is srandom's
+    Owned<BALL3D_delete> ball{BALL3D_new()};
+    Owned<LOGOFLY_delete> logo{LOGOFLY_new()};
+    Owned<RASTER_delete> bars{RASTER_new()};
+    Owned<FONT_delete> font{FONT_new()};
+    Owned<SCROLL_delete> scroll{SCROLL_new()};
+    Owned<DISTX_delete> rows{DISTX_new()};
+    Owned<DISTY_delete> columns{DISTY_new()};
+    Owned<BACKMOVE_delete> back{BACKMOVE_new()};
+    Owned<CIRCLE_delete> circles{CIRCLE_new()};
+    Owned<LSTAR_delete> sky{LSTAR_new()};
 };
 
 TEST(Instances, DoNotDisturbEachOtherAndAllocateNothing) {
@@ -75,9 +75,9 @@ TEST(Instances, DoNotDisturbEachOtherAndAllocateNothing) {
 }
 
 TEST(Errors, DISTX_errorIsSilentAndDISTY_errorIsSilentAndSINEDOTS_errorIsSilent) {
-    const Owned<DISTX, DISTX_delete> rows(DISTX_new());
-    const Owned<DISTY, DISTY_delete> columns(DISTY_new());
-    const Owned<SINEDOTS, SINEDOTS_delete> dots(SINEDOTS_new());
+    const Owned<DISTX_delete> rows(DISTX_new());
+    const Owned<DISTY_delete> columns(DISTY_new());
+    const Owned<SINEDOTS_delete> dots(SINEDOTS_new());
     const Picture image(IMG_newSized(4, 4));
     IMG_verbose = DISTX_verbose = DISTY_verbose = 1;
     expectReports(SINEDOTS_verbose, 0, "", [&] {
@@ -95,17 +95,17 @@ TEST(Errors, DISTX_errorIsSilentAndDISTY_errorIsSilentAndSINEDOTS_errorIsSilent)
 }
 
 TEST(Errors, EveryBadCallIsReportedOnce) {
-    const Owned<BALL3D, BALL3D_delete> ball(BALL3D_new());
+    const Owned<BALL3D_delete> ball(BALL3D_new());
     expectReports(BALL3D_verbose, 4, "BALL3D error", [&] {
         BALL3D_draw(ball), BALL3D_draw(nullptr), BALL3D_delete(nullptr);
         expectFailure(1, BALL3D_new);
     });
-    const Owned<LOGOFLY, LOGOFLY_delete> logo(LOGOFLY_new());
+    const Owned<LOGOFLY_delete> logo(LOGOFLY_new());
     expectReports(LOGOFLY_verbose, 4, "LOGOFLY error", [&] {
         LOGOFLY_draw(logo), LOGOFLY_copy(nullptr, logo), LOGOFLY_delete(nullptr);
         expectFailure(1, LOGOFLY_new);
     });
-    const Owned<LFONT, LFONT_delete> pen(LFONT_new());
+    const Owned<LFONT_delete> pen(LFONT_new());
     VEC2D_verbose = 0;
     expectReports(LFONT_verbose, 9, "LFONT Error.", [&] {
         LFONT_drawChar(pen), LFONT_drawCharRandomColour(pen), LFONT_drawText(pen, "AB");
@@ -114,7 +114,7 @@ TEST(Errors, EveryBadCallIsReportedOnce) {
         expectFailure(1, LFONT_new), expectFailure(4, LFONT_new);
     });
     VEC2D_verbose = 1;
-    const Owned<RASTER, RASTER_delete> bars(RASTER_new());
+    const Owned<RASTER_delete> bars(RASTER_new());
     const Picture image(IMG_newSized(4, 4));
     RASTER_setCount(bars, 5);
     expectReports(RASTER_verbose, 10, "RASTER error", [&] {
@@ -129,8 +129,8 @@ TEST(Errors, EveryBadCallIsReportedOnce) {
 }
 
 TEST(Errors, SCROLL_newFailsSilently) {
-    const Owned<SCROLL, SCROLL_delete> scroll(SCROLL_new());
-    const Owned<FONT, FONT_delete> font(FONT_new());
+    const Owned<SCROLL_delete> scroll(SCROLL_new());
+    const Owned<FONT_delete> font(FONT_new());
     const Picture strip(IMG_newSized(4, 4));
     expectReports(SCROLL_verbose, 8, "SCROLL error", [&] {
         expectFailure(1, SCROLL_new), expectFailure(2, SCROLL_new);

@@ -8,7 +8,7 @@
 namespace velm::test {
 namespace {
 
-using Fill = Owned<FILL, FILL_delete>;
+using Fill = Owned<FILL_delete>;
 
 /// A square of `size` pixels with white walls and one black corridor that winds from the corner to the
 /// middle.

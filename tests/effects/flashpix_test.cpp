@@ -7,7 +7,7 @@
 namespace velm::test {
 namespace {
 
-using Sparks = Owned<FLASHPIX, FLASHPIX_delete>;
+using Sparks = Owned<FLASHPIX_delete>;
 
 /// A letter-like picture: a frame of 20 by 12 at (5, 7).
 IMG* shapeOf() {

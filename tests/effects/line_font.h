@@ -41,7 +41,7 @@ struct PixelPen {
 
     Picture target;
     Objects font;
-    Owned<LFONT, LFONT_delete> pen{LFONT_new()};
+    Owned<LFONT_delete> pen{LFONT_new()};
 
 private:
     static std::string fontText() {

@@ -17,7 +17,7 @@ namespace velm::test {
 namespace {
 
 TEST(Lrain, EndsOnTheGroundInARing) {
-    const Owned<LRAIN, LRAIN_delete> rain(LRAIN_new());
+    const Owned<LRAIN_delete> rain(LRAIN_new());
     rain->gust = 0;
     std::int32_t landed = 0;
     for (std::int32_t frame = 0; frame < 300; ++frame) {
@@ -35,7 +35,7 @@ TEST(Lrain, EndsOnTheGroundInARing) {
 }
 
 TEST(Archpath, LeapsFromWhereItLanded) {
-    const Owned<ARCHPATH, ARCHPATH_delete> path(ARCHPATH_new());
+    const Owned<ARCHPATH_delete> path(ARCHPATH_new());
     std::int32_t landings = 0;
     std::int32_t highest = path->ground;
     ARCHPATH_POSE last = path->trail[0];
@@ -55,7 +55,7 @@ TEST(Archpath, LeapsFromWhereItLanded) {
 }
 
 TEST(Archpath, LeapsWhereCoordinatesEnd) {
-    const Owned<ARCHPATH, ARCHPATH_delete> path(ARCHPATH_new());
+    const Owned<ARCHPATH_delete> path(ARCHPATH_new());
     constexpr std::int32_t most = 0x7FFFFFFF;
     path->left = most - 1, path->right = -most, path->ground = -most; // four columns about the end
     path->frames = 1;
@@ -72,7 +72,7 @@ TEST(Archpath, LeapsWhereCoordinatesEnd) {
 }
 
 TEST(Sineline, ClosesWithMoreCornersThanFitIntoANumberOfAngles) {
-    const Owned<SINELINE, SINELINE_delete> line(SINELINE_new());
+    const Owned<SINELINE_delete> line(SINELINE_new());
     line->echoes = 1;
     const auto drawn = [&line](std::int32_t corners) {
         auto screen = std::make_unique<Picture>(IMG_newSized(256, 256));
@@ -85,8 +85,8 @@ TEST(Sineline, ClosesWithMoreCornersThanFitIntoANumberOfAngles) {
 }
 
 TEST(Lradial, DrawsTheLengthsItIsGiven) {
-    const Owned<LRADIAL, LRADIAL_delete> rays(LRADIAL_new());
-    const Owned<SAMPLE, SAMPLE_delete> sound(SAMPLE_new());
+    const Owned<LRADIAL_delete> rays(LRADIAL_new());
+    const Owned<SAMPLE_delete> sound(SAMPLE_new());
     SAMPLE_append(sound, -800), SAMPLE_append(sound, 0x7FFFFFFF);
     LRADIAL_setCount(rays, 4);
     rays->turn = 0, rays->inner = 10, rays->reach = 60;

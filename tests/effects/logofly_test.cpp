@@ -26,7 +26,7 @@ struct Logofly : testing::Test {
     }
 
     PixelPen pen{64, 40};
-    Owned<LOGOFLY, LOGOFLY_delete> logo{LOGOFLY_new()};
+    Owned<LOGOFLY_delete> logo{LOGOFLY_new()};
 };
 
 TEST_F(Logofly, LOGOFLY_bytesAreSigned) {
@@ -72,7 +72,7 @@ TEST_F(Logofly, LOGOFLY_cloneLeavesPlace) {
     logo->colour = 0x00FF00;
     logo->text = "OTHER";
     chanceSeed(4);
-    const Owned<LOGOFLY, LOGOFLY_delete> clone(LOGOFLY_clone(logo));
+    const Owned<LOGOFLY_delete> clone(LOGOFLY_clone(logo));
     const long after = chance();
     EXPECT_EQ(LOGOFLY_equals(logo, clone), 1);
     EXPECT_EQ(clone->x, 0);

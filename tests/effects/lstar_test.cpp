@@ -9,7 +9,7 @@ namespace velm::test {
 namespace {
 
 TEST(Lstar, OneStarFliesOutOfTheMiddleAndComesBack) {
-    const Owned<LSTAR, LSTAR_delete> sky(LSTAR_new());
+    const Owned<LSTAR_delete> sky(LSTAR_new());
     LSTAR_setCount(sky, 1);
     sky->turn = 0;
     sky->stars[0] = {4096, 0, 32768};
@@ -32,10 +32,10 @@ TEST(Lstar, OneStarFliesOutOfTheMiddleAndComesBack) {
 }
 
 TEST(Lstar, DepthDecidesHueAndBrightness) {
-    const Owned<SAMPLE, SAMPLE_delete> colours(SAMPLE_new());
+    const Owned<SAMPLE_delete> colours(SAMPLE_new());
     SAMPLE_setLength(colours, 2);
     SAMPLE_set(colours, 0, 0xFF0000), SAMPLE_set(colours, 1, 0x0000FF);
-    const Owned<LSTAR, LSTAR_delete> sky(LSTAR_new());
+    const Owned<LSTAR_delete> sky(LSTAR_new());
     LSTAR_setCount(sky, 1);
     sky->colours = colours, sky->hueSpan = 2, sky->speed = sky->turn = 0;
     const auto shown = [&](std::int32_t z) {
@@ -53,7 +53,7 @@ TEST(Lstar, DepthDecidesHueAndBrightness) {
 
 TEST(Lstar, ClipsAndStaysInItsWorld) {
     chanceSeed(5);
-    const Owned<LSTAR, LSTAR_delete> sky(LSTAR_new());
+    const Owned<LSTAR_delete> sky(LSTAR_new());
     const Picture screen(IMG_newSized(64, 48));
     std::int32_t most = 0;
     for (const std::int32_t speed : {700, -5000, 0x7FFFFFFF}) {
@@ -71,7 +71,7 @@ TEST(Lstar, ClipsAndStaysInItsWorld) {
 }
 
 TEST(Lstar, FailuresAreReportedAndChangeNothing) {
-    const Owned<LSTAR, LSTAR_delete> sky(LSTAR_new());
+    const Owned<LSTAR_delete> sky(LSTAR_new());
     expectReports(LSTAR_verbose, 8, "LSTAR error", [&] {
         LSTAR_setCount(sky, -1), LSTAR_advance(nullptr), LSTAR_draw(sky, nullptr);
         LSTAR_drawPolygons(nullptr, nullptr), LSTAR_delete(nullptr);

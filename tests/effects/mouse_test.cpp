@@ -21,7 +21,7 @@ struct Mouse : testing::Test {
     Picture image{noise(16, 16, 1)};
     Picture target{noise(32, 32, 2)};
     XDPY* display{XDPY_open()};
-    Owned<MOUSE, MOUSE_delete> mouse{MOUSE_new()};
+    Owned<MOUSE_delete> mouse{MOUSE_new()};
 };
 
 TEST_F(Mouse, MOUSE_drawGoesOnAndMOUSE_cloneGivesNothing) {
@@ -43,7 +43,7 @@ TEST_F(Mouse, MOUSE_drawGoesOnAndMOUSE_cloneGivesNothing) {
 }
 
 TEST_F(Mouse, CopiesStateAndPictures) {
-    const Owned<MOUSE, MOUSE_delete> copy(MOUSE_new());
+    const Owned<MOUSE_delete> copy(MOUSE_new());
     MOUSE_copy(mouse, copy);
     EXPECT_EQ(MOUSE_equals(mouse, copy), 1);
     EXPECT_EQ(copy->buttons, 5);

@@ -9,7 +9,7 @@
 namespace velm::test {
 namespace {
 
-using Particles = Owned<PARTIXEL, PARTIXEL_delete>;
+using Particles = Owned<PARTIXEL_delete>;
 
 /// The rules once more, on a plain grid with its own generator, one pixel at a time.
 struct Plain {

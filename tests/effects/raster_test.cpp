@@ -12,7 +12,7 @@
 namespace velm::test {
 namespace {
 
-using Bars = Owned<RASTER, RASTER_delete>;
+using Bars = Owned<RASTER_delete>;
 using Colours = std::vector<std::uint32_t>;
 
 /// Bars of random colours, the spare one included.

@@ -84,7 +84,7 @@ TEST(Rect, TurnedOnesKeepTheirAreaAndTheirPlace) {
 }
 
 TEST(Rect, ThePanesDriftAroundTheFieldAndShowTheirBacks) {
-    const Owned<RECT, RECT_delete> rect(RECT_new());
+    const Owned<RECT_delete> rect(RECT_new());
     RECT_setCount(rect, 1);
     rect->width = 100, rect->height = 50;
     RECT_PANE& pane = *rect->panes;
@@ -118,7 +118,7 @@ TEST(Rect, ThePanesDriftAroundTheFieldAndShowTheirBacks) {
 }
 
 TEST(Rect, TunnelAndNestKeepTheColoursOfWhatComesNearer) {
-    const Owned<RECT, RECT_delete> rect(RECT_new());
+    const Owned<RECT_delete> rect(RECT_new());
     RECT_setCount(rect, 3);
     for (const RECT_PATH path : {RECT_PATH::tunnel, RECT_PATH::nest}) {
         rect->path = path;

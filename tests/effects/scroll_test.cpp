@@ -37,9 +37,9 @@ struct Scroller {
         return {scroll->cursor->index, scroll->offset};
     }
 
-    Owned<FONT, FONT_delete> font{FONT_new()};
+    Owned<FONT_delete> font{FONT_new()};
     Picture strip{IMG_newSized(100, 1)};
-    Owned<SCROLL, SCROLL_delete> scroll{SCROLL_new()};
+    Owned<SCROLL_delete> scroll{SCROLL_new()};
 };
 
 TEST(Scroll, StepsBothWays) {

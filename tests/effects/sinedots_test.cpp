@@ -9,7 +9,7 @@
 namespace velm::test {
 namespace {
 
-using Dots = Owned<SINEDOTS, SINEDOTS_delete>;
+using Dots = Owned<SINEDOTS_delete>;
 
 /// The curve as it is written down: every dot by itself.
 template <typename Plot>

@@ -7,7 +7,7 @@
 namespace velm::test {
 namespace {
 
-using Scan = Owned<SINESCAN, SINESCAN_delete>;
+using Scan = Owned<SINESCAN_delete>;
 constexpr SINESCAN_WAY ways[] = {SINESCAN_WAY::rows, SINESCAN_WAY::columns, SINESCAN_WAY::twister};
 
 /// A scan of a picture that leaves it as it is.

@@ -22,7 +22,7 @@ struct Numbers {
             SAMPLE_append(sample, i + 1);
         }
     }
-    Owned<SAMPLE, SAMPLE_delete> sample{SAMPLE_new()};
+    Owned<SAMPLE_delete> sample{SAMPLE_new()};
 };
 
 /// Gives an effect the glyphs of one pixel, and a colour for each character.
@@ -37,7 +37,7 @@ void makePlain(Effect* effect, const PixelPen& pen, const Numbers& numbers) {
 TEST(Lscroll, WrapsBothWays) {
     const PixelPen pen(64, 9);
     const Numbers numbers;
-    const Owned<LSCROLL, LSCROLL_delete> scroll(LSCROLL_new());
+    const Owned<LSCROLL_delete> scroll(LSCROLL_new());
     makePlain<LSCROLL>(scroll, pen, numbers);
     scroll->cell = 2;
     scroll->hueSpeed = 0;
@@ -65,7 +65,7 @@ TEST(Lscroll, WrapsBothWays) {
 }
 
 TEST(Lscroll, LeadsAroundARing) {
-    const Owned<LSCROLL, LSCROLL_delete> scroll(LSCROLL_new());
+    const Owned<LSCROLL_delete> scroll(LSCROLL_new());
     LSCROLL_setCurve(scroll, {100, 60, 50, 50, 1, 1, 0});
     EXPECT_NEAR(scroll->length, 314, 1);
     for (std::int32_t i = 0; i < scroll->length; ++i) {
@@ -91,8 +91,8 @@ TEST(LineTexts, KeepGlyphsFromTheEndsOfTheirRangeOutOfSight) {
     const PixelPen pen(64, 64);
     auto* const glyph = static_cast<OBJ2D*>(LIST_get(pen->glyphs, 'A'));
     const auto* const stroke = static_cast<SEG2D*>(LIST_get(glyph->segments, 0));
-    const Owned<LSCROLL, LSCROLL_delete> scroll(LSCROLL_new());
-    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    const Owned<LSCROLL_delete> scroll(LSCROLL_new());
+    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
     scroll->glyphs = zoom->glyphs = pen->glyphs;
     LSCROLL_setText(scroll, "A"), WORDZOOM_setText(zoom, "A");
     WORDZOOM_advance(zoom);
@@ -113,7 +113,7 @@ TEST(LineTexts, KeepGlyphsFromTheEndsOfTheirRangeOutOfSight) {
 TEST(Lscrlxyz, ShowsTheFarSideDimAndFromBehind) {
     const PixelPen pen(200, 200);
     const Numbers numbers;
-    const Owned<LSCRLXYZ, LSCRLXYZ_delete> scroll(LSCRLXYZ_new());
+    const Owned<LSCRLXYZ_delete> scroll(LSCRLXYZ_new());
     makePlain<LSCRLXYZ>(scroll, pen, numbers);
     SAMPLE_set(numbers.sample, 0, 0xFFFFFF);
     scroll->angle = {0, 0, 0};
@@ -141,7 +141,7 @@ TEST(Lscrlxyz, ShowsTheFarSideDimAndFromBehind) {
 
 TEST(Wordzoom, SendsWordByWordAndEnds) {
     const PixelPen pen(64, 64);
-    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
     zoom->glyphs = pen->glyphs;
     zoom->loop = 0;
     zoom->interval = 3;
@@ -174,7 +174,7 @@ TEST(Wordzoom, SendsWordByWordAndEnds) {
 
 TEST(Wordzoom, DragsEightCopiesAtMost) {
     const PixelPen pen(64, 64);
-    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
     zoom->glyphs = pen->glyphs;
     zoom->x = zoom->y = 32;
     zoom->cell = 60;
@@ -198,7 +198,7 @@ TEST(Wordzoom, DragsEightCopiesAtMost) {
 TEST(Wordzoom, WritesUprightAtFullSize) {
     const PixelPen pen(9, 3);
     const Numbers numbers;
-    const Owned<WORDZOOM, WORDZOOM_delete> zoom(WORDZOOM_new());
+    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
     makePlain<WORDZOOM>(zoom, pen, numbers);
     WORDZOOM_setText(zoom, "ABC");
     WORDZOOM_advance(zoom);

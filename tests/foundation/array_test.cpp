@@ -8,7 +8,7 @@
 namespace velm::test {
 namespace {
 
-using Array = Owned<ARRAY, ARRAY_delete>;
+using Array = Owned<ARRAY_delete>;
 
 /// An array of the words, each of three letters.
 ARRAY* arrayOf(std::initializer_list<const char*> words) {

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 //
 // What demo and effects rely on, whatever machine is behind the seam: the same cases for each of them.
+#include "foundation/list.h"
 #include "hands.h"
+#include "image/img.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
 #include "platform/xdpy.h"
@@ -111,7 +113,7 @@ TEST_F(MachineTest, GivesKeysOneAPollInTheirOrder) {
 }
 
 TEST_F(MachineTest, XPTR_firstMotionWins) {
-    const Owned<XPTR, XPTR_delete> pointer(XPTR_new());
+    const Owned<XPTR_delete> pointer(XPTR_new());
     EXPECT_EQ(pointer->x + pointer->y + pointer->buttons, 0);
     hands().point(190, 190); // where it comes in may be no motion yet
     ASSERT_TRUE(eventually([&] {
@@ -141,7 +143,7 @@ TEST_F(MachineTest, XPTR_firstMotionWins) {
 }
 
 TEST_F(MachineTest, TellsWhichOfThreeButtonsAreHeld) {
-    const Owned<XPTR, XPTR_delete> pointer(XPTR_new());
+    const Owned<XPTR_delete> pointer(XPTR_new());
     hands().point(100, 100);
     pointer->buttons = 8;
     const auto expectButtons = [&](std::int32_t buttons) {
@@ -171,7 +173,7 @@ TEST_F(MachineTest, TellsWhichOfThreeButtonsAreHeld) {
 }
 
 TEST_F(MachineTest, XPTR_cloneGivesNothing) {
-    const Owned<XPTR, XPTR_delete> pointer(XPTR_new());
+    const Owned<XPTR_delete> pointer(XPTR_new());
     EXPECT_EQ(XPTR_clone(pointer), nullptr);
     XPTR twin = *static_cast<XPTR*>(pointer);
     EXPECT_EQ(XPTR_equals(pointer, &twin), 1);
@@ -304,8 +306,8 @@ protected:
         return false;
     }
 
-    Owned<SAMPLE, SAMPLE_delete> bar{SAMPLE_new()};
-    Owned<SAMPLE, SAMPLE_delete> silence{SAMPLE_new()};
+    Owned<SAMPLE_delete> bar{SAMPLE_new()};
+    Owned<SAMPLE_delete> silence{SAMPLE_new()};
     XSND* sound = nullptr;
 };
 

@@ -56,7 +56,7 @@ struct Timer : testing::Test {
         TIMER_start(timer);
     }
 
-    Owned<TIMER, TIMER_delete> timer{TIMER_new()};
+    Owned<TIMER_delete> timer{TIMER_new()};
 };
 
 } // namespace
@@ -102,7 +102,7 @@ TEST_F(Timer, TIMER_secondsAreRefusedAndTIMER_sameReportsDifference) {
     start(999999, 'y');
     start(1000000, 'y');
     EXPECT_EQ(armed().it_interval.tv_usec, 999999);
-    const Owned<TIMER, TIMER_delete> second(TIMER_new());
+    const Owned<TIMER_delete> second(TIMER_new());
     EXPECT_EQ(TIMER_same(timer, timer), 1);
     expectReports(TIMER_verbose, 5, "TIMER error", [&] {
         EXPECT_EQ(TIMER_same(timer, second) + TIMER_same(nullptr, nullptr), 0);

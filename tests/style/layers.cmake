@@ -3,8 +3,8 @@
 #
 # cmake -DROOT=<the checkout> -DLINKS=<file> -P layers.cmake: fails when an #include names a folder or a system that the
 # file's target does not link, when two folders link each other, when a folder has no target, when a source declares an
-# extern of its own, draws from the C library's chance, or when a file lacks its licence line. LINKS has a line for each
-# folder: its path, its target, and every library whose headers the target sees, as CMake knows them.
+# extern of its own, draws from the C library's chance, when a file lacks its licence line, or when the table of scenes
+# does not know a scene's file. LINKS has a line for each folder: its path, its target, and every library whose headers the target sees, as CMake knows them.
 cmake_minimum_required(VERSION 3.22)
 
 # What a system's headers belong to: a library, or the one folder that may speak to the kernel.
@@ -79,6 +79,15 @@ foreach(place IN LISTS places)
     check("${file}" "${target_of_${name}}")
     math(EXPR checked "${checked} + 1")
   endforeach()
+endforeach()
+file(GLOB scenes "${ROOT}/src/demo/scenes/scene_*.cpp")
+foreach(scene IN LISTS scenes)
+  file(READ "${ROOT}/src/demo/scenes/table.h" table)
+  string(REGEX REPLACE ".*/scene_(.*)\\.cpp" "\\1" subject "${scene}")
+  string(FIND "${table}" "\"${subject}\"}" place)
+  if(place EQUAL -1)
+    list(APPEND findings "${scene}: no row of scenes/table.h has the subject ${subject}")
+  endif()
 endforeach()
 if(checked LESS 10)
   list(APPEND findings "only ${checked} files found below ${ROOT}")

@@ -1,33 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Records that clean up after themselves, and calls that are to fail.
+// Pictures with an owner, and calls that are to fail.
 //
 //     const Picture screen(noise(64, 48, 1));
 //     expectReports(IMG_verbose, 1, "IMG error", [] { IMG_delete(nullptr); });
 #pragma once
 
+#include "foundation/owned.h"
+#include "image/img.h"
 #include "support/allocation.h"
 #include "support/capture_stdout.h"
 #include "support/images.h"
 
 namespace velm::test {
 
-template <typename Record, void (*Delete)(Record**)>
-class Owned {
-public:
-    explicit Owned(Record* made) : record(made) {}
-    ~Owned() { Delete(&record); }
-    Owned(const Owned&) = delete;
-    Owned& operator=(const Owned&) = delete;
-    operator Record*() const { return record; }
-    Record* operator->() const { return record; }
-
-private:
-    Record* record;
-};
-
-using Picture = Owned<IMG, IMG_delete>;
+using Picture = Owned<IMG_delete>;
 
 inline IMG* noise(std::int32_t width, std::int32_t height, std::uint32_t seed) {
     return Images(seed).image(width, height);

@@ -28,7 +28,7 @@ struct Pen {
         return text;
     }
 
-    Owned<FONT, FONT_delete> font;
+    Owned<FONT_delete> font;
     Picture target;
     IMG* sheet; ///< the font's own
 };
@@ -119,7 +119,7 @@ TEST(Font, BigGlyphsAreMosaicsOfSmallOnes) {
 
 TEST(Font, PensThatCannotDrawAreReported) {
     const Pen other(8, 1, 1, 1);
-    const Owned<FONT, FONT_delete> pen(FONT_new());
+    const Owned<FONT_delete> pen(FONT_new());
     pen->image = IMG_newSized(0, 5);
     for (FONT* font : {static_cast<FONT*>(nullptr), static_cast<FONT*>(pen)}) {
         expectReports(FONT_verbose, 5, "FONT Error.", [&] {

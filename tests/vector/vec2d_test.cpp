@@ -51,7 +51,7 @@ TEST(Vec2d, MissingPointsAreToldByDefault) {
 }
 
 TEST(Seg2d, TransformsBothPointsAndDrawsInTheFirstOnesColour) {
-    const Owned<SEG2D, SEG2D_delete> segment(SEG2D_new());
+    const Owned<SEG2D_delete> segment(SEG2D_new());
     segment->a->colour = 0xAA0000;
     const VEC2D offset{2, 0, 0};
     const VEC2D factor{3, 5, 0};

@@ -22,22 +22,20 @@ constexpr std::int32_t enlargement = 4;
 constexpr std::int32_t margin = 8;
 constexpr std::uint32_t paper = 0x202028; ///< around the pictures, so that their black edges show
 
-struct ListDeleter {
-    void operator()(LIST* list) const {
-        for (std::int32_t i = 0; i < list->count; ++i) {
-            auto* object = static_cast<OBJ2D*>(LIST_get(list, i));
-            if (object != nullptr) {
-                delete[] object->name;
-                OBJ2D_deleteSegments(object);
-                OBJ2D_delete(&object);
-            }
+void deleteObjects(LIST** list) {
+    for (std::int32_t i = 0; i < (*list)->count; ++i) {
+        auto* object = static_cast<OBJ2D*>(LIST_get(*list, i));
+        if (object != nullptr) {
+            delete[] object->name;
+            OBJ2D_deleteSegments(object);
+            OBJ2D_delete(&object);
         }
-        LIST_delete(&list);
     }
-};
+    LIST_delete(list);
+}
 
-/// Parsed drawings that free themselves.
-using Objects = std::unique_ptr<LIST, ListDeleter>;
+/// Parsed drawings.
+using Objects = Owned<deleteObjects>;
 
 Objects parse(const std::string& text) {
     return Objects(OBJ2D_parse(text.c_str()));
@@ -57,7 +55,7 @@ void drawEnlarged(const IMG& img, IMG& sheet, std::int32_t left, std::int32_t to
 Picture twice(const IMG& img) {
     Picture sheet =
         makePicture(img.width * enlargement + 2 * margin, img.height * (enlargement + 1) + 3 * margin);
-    IMG_fill(sheet.get(), paper);
+    IMG_fill(sheet, paper);
     drawEnlarged(img, *sheet, margin, margin, 1);
     drawEnlarged(img, *sheet, margin, img.height + 2 * margin, enlargement);
     return sheet;
@@ -137,17 +135,17 @@ bool writeFontSheets(const std::string& place) {
     const Picture sheet = paintFontSheet();
     const Picture shaded = paintFontShaded();
     const Picture faces =
-        family({{bitmapFace(shaded.get(), 32, 64), "Sphinx 4030"},
-                {bitmapFace(sheet.get(), 16, 16), "SPHINX OF BLACK QUARTZ"},
-                {bitmapFace(sheet.get(), 16, 16), "Judge my vow: O0 I1l!*"},
-                {lineFace(medium.get(), 16, 0x60FFC0), "SPHINX OF BLACK QUARTZ"},
-                {lineFace(medium.get(), 16, 0x60FFC0), "Judge my vow: O0 I1l!*"},
-                {lineFace(small.get(), 8, 0xFFC060), "SPHINX OF BLACK QUARTZ, judge my vow: 012345"}});
+        family({{bitmapFace(shaded, 32, 64), "Sphinx 4030"},
+                {bitmapFace(sheet, 16, 16), "SPHINX OF BLACK QUARTZ"},
+                {bitmapFace(sheet, 16, 16), "Judge my vow: O0 I1l!*"},
+                {lineFace(medium, 16, 0x60FFC0), "SPHINX OF BLACK QUARTZ"},
+                {lineFace(medium, 16, 0x60FFC0), "Judge my vow: O0 I1l!*"},
+                {lineFace(small, 8, 0xFFC060), "SPHINX OF BLACK QUARTZ, judge my vow: 012345"}});
     return writePng(place + "faces.png", *twice(*faces)) &&
-           writePng(place + "font_small.png", *twice(*specimen(lineFace(small.get(), 8, 0xFFC060)))) &&
-           writePng(place + "font_medium.png", *twice(*specimen(lineFace(medium.get(), 16, 0x60FFC0)))) &&
-           writePng(place + "font_sheet.png", *twice(*specimen(bitmapFace(sheet.get(), 16, 16)))) &&
-           writePng(place + "font_shaded.png", *twice(*specimen(bitmapFace(shaded.get(), 32, 64)))) &&
+           writePng(place + "font_small.png", *twice(*specimen(lineFace(small, 8, 0xFFC060)))) &&
+           writePng(place + "font_medium.png", *twice(*specimen(lineFace(medium, 16, 0x60FFC0)))) &&
+           writePng(place + "font_sheet.png", *twice(*specimen(bitmapFace(sheet, 16, 16)))) &&
+           writePng(place + "font_shaded.png", *twice(*specimen(bitmapFace(shaded, 32, 64)))) &&
            writePng(place + "font_sheet_cells.png", *twice(*sheet)) &&
            writePng(place + "font_shaded_cells.png", *twice(*shaded));
 }
@@ -157,7 +155,7 @@ Picture inRow(const IMG& column) {
     const std::int32_t cell = column.width;
     Picture row = makePicture(column.height, cell);
     for (std::int32_t at = 0; at < column.height; at += cell) {
-        IMG_blit(&column, row.get(), 0, at, at, 0, cell, cell);
+        IMG_blit(&column, row, 0, at, at, 0, cell, cell);
     }
     return row;
 }
@@ -166,7 +164,7 @@ Picture inRow(const IMG& column) {
 Picture turned(const IMG& img) {
     Picture side = makePicture(img.height, img.width);
     for (std::int32_t i = 0; i < img.width * img.height; ++i) {
-        IMG_putPixel(side.get(), i / img.width, i % img.width, img.pixels[i]);
+        IMG_putPixel(side, i / img.width, i % img.width, img.pixels[i]);
     }
     return side;
 }
@@ -177,8 +175,8 @@ Picture pointerGrounds() {
     Picture grounds = makePicture(3 * pointer->width, pointer->height);
     std::int32_t x = 0;
     for (const std::uint32_t ground : {0x000000U, 0x20D0FFU, 0xFFFFFFU}) {
-        IMG_fillRect(grounds.get(), x, 0, pointer->width, pointer->height, ground);
-        IMG_blit(pointer.get(), grounds.get(), 0, 0, x, 0, pointer->width, pointer->height);
+        IMG_fillRect(grounds, x, 0, pointer->width, pointer->height, ground);
+        IMG_blit(pointer, grounds, 0, 0, x, 0, pointer->width, pointer->height);
         x += pointer->width;
     }
     return grounds;
@@ -210,7 +208,7 @@ bool writePictureSheet(const std::string& place) {
         {inRow(*paintDigitsB()), 0, digits + digitRow},
     };
     Picture sheet = makePicture(right + half + 2 * margin, digits + 2 * digitRow + margin);
-    IMG_fill(sheet.get(), paper);
+    IMG_fill(sheet, paper);
     for (const auto& [picture, x, y] : placed) {
         drawEnlarged(*picture, *sheet, margin + x, margin + y, enlargement);
     }
@@ -235,7 +233,7 @@ Picture angleSheet(const LIST* drawings, std::int32_t first, std::int32_t count)
         drawing->position->x = i % (angles * columns) * room + room / 2;
         drawing->position->y = i / (angles * columns) * room + room / 2;
         OBJ2D_setColour(drawing, blended(hue((first * angles + i) * 14), 0xFFFFFF, whole / 2));
-        OBJ2D_draw(drawing, sheet.get());
+        OBJ2D_draw(drawing, sheet);
     }
     return sheet;
 }
@@ -247,7 +245,7 @@ bool writeDrawingSheets(const std::string& place) {
     for (std::int32_t first = 0; first < drawings->count; first += drawingsPerSheet, ++number) {
         const std::int32_t count = std::min(drawingsPerSheet, drawings->count - first);
         if (!writePng(place + "drawings_" + std::to_string(number) + ".png",
-                      *angleSheet(drawings.get(), first, count))) {
+                      *angleSheet(drawings, first, count))) {
             return false;
         }
     }

@@ -101,10 +101,10 @@ Picture paintDigitsA() {
         for (std::int32_t i = 0; i < cell * cell; ++i) {
             const std::int32_t x = i % cell;
             const std::int32_t y = i / cell;
-            if (IMG_getPixel(shape.get(), x, y) != 0) {
-                IMG_putPixel(column.get(), x, topOf(digit) + y, enamel(colour, x, y));
+            if (IMG_getPixel(shape, x, y) != 0) {
+                IMG_putPixel(column, x, topOf(digit) + y, enamel(colour, x, y));
             } else if (touches(*shape, x, y)) {
-                IMG_putPixel(column.get(), x, topOf(digit) + y, dimmed(colour, 48));
+                IMG_putPixel(column, x, topOf(digit) + y, dimmed(colour, 48));
             }
         }
     }

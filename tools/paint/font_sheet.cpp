@@ -40,7 +40,7 @@ constexpr Pen hair = {1, 1};
 void write(const Cell& at, const Strokes& strokes, Pen pen) {
     Picture glyph = makePicture(cell, cell);
     drawStrokes(*glyph, strokes, 0, 0, pen.w, pen.h, white);
-    IMG_blit(glyph.get(), at.sheet, 0, 0, at.x, at.y, cell, cell);
+    IMG_blit(glyph, at.sheet, 0, 0, at.x, at.y, cell, cell);
 }
 
 template <typename Rule>
@@ -269,7 +269,7 @@ void writeCell(const Cell& at, std::int32_t code) {
 Picture paintFontSheet() {
     Picture sheet = makePicture(cell * cellsPerRow, cell * cellsPerRow);
     for (std::int32_t code = 0; code < cellsPerRow * cellsPerRow; ++code) {
-        writeCell({sheet.get(), code % cellsPerRow * cell, code / cellsPerRow * cell}, code);
+        writeCell({sheet, code % cellsPerRow * cell, code / cellsPerRow * cell}, code);
     }
     return sheet;
 }

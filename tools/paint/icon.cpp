@@ -175,7 +175,7 @@ bool writeIcons(const std::string& directory) {
     constexpr std::int32_t sizes[] = {16, 24, 32, 48, 64, 128, 256};
     return std::all_of(std::begin(sizes), std::end(sizes), [&directory](std::int32_t size) {
         const Icon icon = paintIcon(size);
-        return writePng(directory + "/" + std::to_string(size) + ".png", *icon.colours, icon.coverage.get());
+        return writePng(directory + "/" + std::to_string(size) + ".png", *icon.colours, icon.coverage);
     });
 }
 

@@ -134,7 +134,7 @@ Picture paintStrip() {
         const std::uint32_t colour = hue(y * hueTurn / strip->height);
         for (std::int32_t x = 0; x < strip->width; ++x) {
             const std::uint32_t lit = x == 2 ? blended(colour, white, 150) : colour;
-            IMG_putPixel(strip.get(), x, y, dimmed(lit, roundness[static_cast<std::size_t>(x)]));
+            IMG_putPixel(strip, x, y, dimmed(lit, roundness[static_cast<std::size_t>(x)]));
         }
     }
     return strip;
@@ -165,7 +165,7 @@ Picture paintPointer() {
         for (std::int32_t x = 0; x < 16; ++x) {
             const char kind = shape[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
             const std::uint32_t fill = dither({0xFFFFFF, 0x20D0FF, 4}, (x * 2 + y - 4) * 15, x, y);
-            IMG_putPixel(pointer.get(), x, y, kind == '#' ? edge : kind == 'o' ? fill : 0);
+            IMG_putPixel(pointer, x, y, kind == '#' ? edge : kind == 'o' ? fill : 0);
         }
     }
     return pointer;

@@ -8,20 +8,15 @@
 //     writeBitmap("logo.pbm", "logo", *logo, Ink::clearBits);
 #pragma once
 
+#include "foundation/owned.h"
 #include "image/img.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 namespace velm::paint {
 
-struct PictureDeleter {
-    void operator()(IMG* img) const { IMG_delete(&img); }
-};
-
-/// An image that frees itself.
-using Picture = std::unique_ptr<IMG, PictureDeleter>;
+using Picture = Owned<IMG_delete>;
 
 /// A black picture; ends the program with a message when memory runs out.
 Picture makePicture(std::int32_t width, std::int32_t height);

@@ -4,6 +4,7 @@
 // A machine in a terminal: pictures of 64 x 32 coloured blanks on standard output, keys from standard input,
 // no pointer and no sound.
 #include "foundation/memory.h"
+#include "image/img.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
 #include "platform/folder.h"

@@ -8,7 +8,7 @@
 namespace velm::test {
 namespace {
 
-using Sea = Owned<PLASMA, PLASMA_delete>;
+using Sea = Owned<PLASMA_delete>;
 
 Sea seaOf(unsigned seed) {
     chanceSeed(seed);

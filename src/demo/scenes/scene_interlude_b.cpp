@@ -3,10 +3,9 @@
 //
 // Interlude B: a slanted mesh of 64 by 64 points that two waves lift, drawn mirrored in hue bands that move
 // over it, and the hopping word below.
-#include "demo/scene_frames.h"
-#include "demo/state.h"
-#include "demo/velm4030.h"
+#include "demo/scenes/frames.h"
 #include "foundation/chance.h"
+#include "foundation/owned.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 
@@ -38,9 +37,15 @@ SEG2D* segmentOf(const OBJ2D* obj, std::int32_t index) {
 
 /// Two segments a cell: its link to the right and its link down.
 void makeMesh() {
+    const std::int32_t count = 2 * settings.meshRows * columns();
     demo.mesh = OBJ2D_new();
-    for (std::int32_t i = 0; i < 2 * settings.meshRows * columns(); ++i) {
-        OBJ2D_addSegment(demo.mesh, SEG2D_new());
+    for (std::int32_t i = 0; demo.mesh != nullptr && i < count; ++i) {
+        Owned<SEG2D_delete> segment(SEG2D_new());
+        OBJ2D_addSegment(demo.mesh, segment);
+        if (demo.mesh->segments->count == i) {
+            return; // there is no room for it
+        }
+        (void)segment.release(); // the mesh has taken it over
     }
     demo.meshView = OBJ2D_clone(demo.mesh);
 }
@@ -147,6 +152,10 @@ void VELM4030_sceneInterludeBSetup() {
 
 void VELM4030_sceneInterludeB() {
     VELM4030_sceneInterludeBSetup();
+    if (demo.meshView == nullptr) {
+        runEmptyFrame();
+        return;
+    }
     runFrames(frames, [](std::int32_t) {
         VELM4030_meshLayer();
         VELM4030_fpsLayer();

@@ -3,10 +3,9 @@
 //
 // The default scene: a cloud of 16384 dots in one dark hue that only their overlapping makes visible, a
 // drawing that turns as the scene counts down, the wave scroller, the pointer and the bobbing letters.
-#include "demo/scene_frames.h"
-#include "demo/state.h"
-#include "demo/velm4030.h"
+#include "demo/scenes/frames.h"
 #include "foundation/chance.h"
+#include "foundation/memory.h"
 #include "image/rgb888.h"
 
 namespace velm {
@@ -59,6 +58,15 @@ void drawFigure(std::int32_t angle) {
     LFONT_drawCharRandomColour(pen);
 }
 
+void drawFrame(std::int32_t frame) {
+    drawScrollText();
+    VELM4030_dotsLayer();
+    drawFigure(frames - frame);
+    VELM4030_mouseLayer();
+    VELM4030_fpsLayer();
+    VELM4030_logoLettersLayer();
+}
+
 } // namespace
 
 void VELM4030_sceneDefaultSetup() {
@@ -73,21 +81,21 @@ void VELM4030_sceneDefaultSetup() {
 }
 
 void VELM4030_sceneDefault() {
+    const std::int64_t refused = refusedAllocations;
     VELM4030_sceneDefaultSetup();
     VELM4030_fadeOut();
-    runFrames(frames, [](std::int32_t frame) {
-        drawScrollText();
-        VELM4030_dotsLayer();
-        drawFigure(frames - frame);
-        VELM4030_mouseLayer();
-        VELM4030_fpsLayer();
-        VELM4030_logoLettersLayer();
-    });
+    if (refusedAllocations == refused) {
+        runFrames(frames, drawFrame);
+    } else {
+        runEmptyFrame();
+    }
     VELM4030_sceneDefaultCleanup();
 }
 
 void VELM4030_sceneDefaultCleanup() {
-    SINEDOTS_delete(&demo.dots);
+    if (demo.dots != nullptr) {
+        SINEDOTS_delete(&demo.dots);
+    }
 }
 
 void VELM4030_dotsLayer() {

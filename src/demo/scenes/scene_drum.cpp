@@ -1,19 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Extra scene 1, the directory browser: the names in the working folder on a turning drum, the selected one
-// large before the others, and around it the bar of music that is playing as a ring of rays. The keys e and d
-// or the arrows turn the drum.
-#include "demo/scene_curves.h"
-#include "demo/scene_frames.h"
-#include "demo/state.h"
-#include "demo/velm4030.h"
+// Extra scene 1, the drum: the names in the working folder on a turning drum, the selected one large before
+// the others, and around it the bar of music that is playing as a ring of rays. The keys e and d or the
+// arrows turn the drum.
+#include "demo/scenes/acts.h"
+#include "demo/scenes/caption.h"
+#include "demo/scenes/curves.h"
 #include "effects/lradial.h"
 #include "effects/sineline.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
-#include "image/rgb888.h"
 #include "platform/folder.h"
 
 #include <algorithm>
@@ -25,7 +23,7 @@ namespace velm {
 
 namespace {
 
-constexpr std::int32_t middle = 128;
+constexpr std::int32_t untilSpace = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t drumRadius = 100; // pixels
 constexpr std::int32_t drumStep = 44;    // 1/1024 turns between names
 constexpr std::int32_t namesBeyond = 5;  // names on either side of the selected one; the next would be behind
@@ -34,16 +32,6 @@ constexpr std::int32_t cell = 8;         // of the small font, pixels
 constexpr std::int32_t hueStep = 48;     // of the ramp from name to name
 constexpr std::int32_t firstPlace = -12; // names before the first one, where the drum begins to turn
 constexpr std::int32_t one = 1 << 8;     // 1.0 of a place on the drum
-
-struct Browser {
-    LRADIAL* ring;
-    SINELINE* line;     ///< breathes behind the names
-    SAMPLE* shades;     ///< the hue ramp at two thirds of its brightness
-    IMG* glow;          ///< the frame before, blurred
-    std::int32_t place; ///< 24.8; the name that faces the viewer; it follows the selection
-    std::int32_t still; ///< frames since the selection changed
-    std::int32_t shown; ///< the selection of the frame before
-};
 
 /// Lists the folder anew, in the order of the bytes of the names. One that cannot be read leaves an empty
 /// list.
@@ -70,33 +58,42 @@ std::int32_t selection() {
     return std::clamp(demo.dirSelection, 0, std::max(nameCount() - 1, 0));
 }
 
-std::uint32_t hueOf(std::int32_t index, std::uint32_t brightness = 256) {
-    return curveHue(wrapMul(index, hueStep), brightness);
+std::uint32_t hueOf(std::int32_t index, std::int32_t weight = curveFull) {
+    return curveHue(wrapMul(index, hueStep), weight);
 }
 
-void makeRing(Browser& browser) {
-    constexpr std::int32_t rays = 128;
-    browser.shades = SAMPLE_clone(demo.hueRamp);
-    for (std::int32_t i = 0; browser.shades != nullptr && i < browser.shades->length; ++i) {
-        SAMPLE_set(browser.shades, i, static_cast<std::int32_t>(curveHue(i, 170)));
-    }
-    if ((browser.ring = LRADIAL_new()) != nullptr) {
-        LRADIAL_setCount(browser.ring, rays);
-        browser.ring->colours = browser.shades;
-        browser.ring->spin = 1;
+void prepareShades(SAMPLE& shades) {
+    constexpr std::int32_t twoThirds = 170;
+    for (std::int32_t i = 0; i < shades.length; ++i) {
+        SAMPLE_set(&shades, i, static_cast<std::int32_t>(curveHue(i, twoThirds)));
     }
 }
 
-void makeLine(Browser& browser) {
+void prepareLine(SINELINE& line) {
     constexpr std::int32_t right = 160; // where short names leave room
-    if ((browser.line = SINELINE_new()) != nullptr) {
-        browser.line->x = right;
-        browser.line->colour = 0x081828;
-        browser.line->echoColour = 0x100828;
-        browser.line->wave[0].reach = 48;
-        browser.line->wave[1].reach = 24;
-    }
+    line.x = right;
+    line.colour = 0x081828;
+    line.echoColour = 0x100828;
+    line.wave[0].reach = 48;
+    line.wave[1].reach = 24;
 }
+
+struct Browser {
+    Browser() { listFolder(); }
+
+    Owned<SAMPLE_delete> shades{SAMPLE_clone(demo.hueRamp), prepareShades}; ///< the ring's
+    Owned<LRADIAL_delete> ring{LRADIAL_new(), [this](LRADIAL& made) {
+                                   constexpr std::int32_t rays = 128;
+                                   LRADIAL_setCount(&made, rays);
+                                   made.colours = shades;
+                                   made.spin = 1;
+                               }};
+    Owned<SINELINE_delete> line{SINELINE_new(), prepareLine}; ///< breathes behind the names
+    Picture glow{IMG_clone(demo.screen)};                     ///< the frame before, blurred
+    std::int32_t place = firstPlace * one; ///< 24.8; the name that faces the viewer; it follows the selection
+    std::int32_t still = 0;                ///< frames since the selection changed
+    std::int32_t shown = 0;                ///< the selection of the frame before
+};
 
 /// The ring: a low wave, and over it rays as long as the next twelfth of a second of the music is loud.
 void drawRing(Browser& browser, std::int32_t frame) {
@@ -107,9 +104,6 @@ void drawRing(Browser& browser, std::int32_t frame) {
     constexpr std::int32_t samplesPerRay = 29;
     constexpr std::int32_t quiet = 4; // bits that a sample is shifted down to a length in pixels
     LRADIAL* const ring = browser.ring;
-    if (ring == nullptr) {
-        return;
-    }
     ring->inner = std::min(frame > inner ? inner : frame * growth, inner);
     LRADIAL_advance(ring);
     ring->reach = waveReach;
@@ -129,22 +123,26 @@ char printable(char byte) {
 
 /// Writes what can be seen of a name from column x on. A name that the right edge would cut ends in '>' where
 /// `cut` is set.
-void drawName(const char* name, std::int32_t x, std::int32_t y, std::int32_t scale, bool cut) {
-    LFONT* const pen = demo.textSmall;
+void drawName(const char* name, std::int32_t x, std::int32_t y, std::int32_t scale, std::uint32_t colour,
+              bool cut) {
+    constexpr std::int32_t most = 40; // more than a row of the window takes
     const std::int32_t width = cell * scale;
-    if (pen == nullptr) {
-        return;
-    }
-    for (std::int32_t i = std::max(-x / width - 1, 0); name[i] != '\0' && x + i * width < demo.screen->width;
-         ++i) {
-        const bool last = cut && name[i + 1] != '\0' && x + (i + 2) * width > demo.screen->width;
-        LFONT_place(pen, x + i * width + width / 2, y, scale);
-        pen->character = static_cast<unsigned char>(last ? '>' : printable(name[i]));
-        LFONT_drawChar(pen);
-        if (last) {
+    const std::int32_t first = std::max(-x / width - 1, 0);
+    char seen[most];
+    std::int32_t count = 0;
+    for (bool last = false; !last && count < most; ++count) {
+        const std::int32_t i = first + count;
+        if (name[i] == '\0' || x + i * width >= demo.screen->width) {
             break;
         }
+        last = cut && name[i + 1] != '\0' && x + (i + 2) * width > demo.screen->width;
+        seen[count] = last ? '>' : printable(name[i]);
     }
+    drawCaption(demo.textSmall, {.text = {seen, static_cast<std::size_t>(count)},
+                                 .x = x + first * width + count * width / 2,
+                                 .y = y,
+                                 .scale = scale,
+                                 .colour = colour});
 }
 
 /// A name on the drum, `turned` 1/1024 turns from the viewer.
@@ -155,9 +153,8 @@ void drawDrumName(std::int32_t index, std::int32_t turned) {
         return;
     }
     const std::int32_t y = middle + SINE_scaled(drumRadius, turned);
-    LFONT_setColour(demo.textSmall, hueOf(index, static_cast<std::uint32_t>(facing * 3 / 4)));
     drawName(static_cast<const char*>(LIST_get(demo.dirListing->names, index)),
-             nameX + (((256 - facing) * depthX) >> 8), y, 1, true);
+             nameX + (((256 - facing) * depthX) >> 8), y, 1, hueOf(index, facing * 3 / 4), true);
 }
 
 /// How far the selected name has run to the left: a long one waits, runs to its end, waits and runs back.
@@ -181,8 +178,7 @@ void drawSelected(const Browser& browser) {
     for (const std::int32_t y : {middle - half, middle + half}) {
         IMG_drawHLine(demo.screen, hueOf(selection()), y, nameX, demo.screen->width - 1 - nameX);
     }
-    LFONT_setColour(demo.textSmall, 0xFFFFFF);
-    drawName(name, nameX - runOf(overhang, browser.still), middle, scale, false);
+    drawName(name, nameX - runOf(overhang, browser.still), middle, scale, 0xFFFFFF, false);
 }
 
 /// The number of the selected name and how many there are.
@@ -190,15 +186,12 @@ void drawCount() {
     constexpr std::int32_t y = 7;
     char text[32];
     std::snprintf(text, sizeof text, "%d/%d", selection() + 1, nameCount());
-    LFONT_setColour(demo.textSmall, hueOf(selection(), 160));
-    drawName(text, middle - static_cast<std::int32_t>(std::strlen(text)) * cell / 2, y, 1, false);
+    drawCaption(demo.textSmall, {.text = text, .y = y, .colour = hueOf(selection(), 160)});
 }
 
 void drawEmpty(std::int32_t frame) {
-    constexpr std::string_view text = "NOTHING TO READ HERE";
-    const auto bright = static_cast<std::uint32_t>(160 + SINE_scaled(90, wrapMul(12, frame)));
-    LFONT_setColour(demo.textSmall, RGB888_mix(0, 0xFFFFFF, bright));
-    drawName(text.data(), middle - static_cast<std::int32_t>(text.size()) * cell / 2, middle, 1, false);
+    const std::int32_t weight = 160 + SINE_scaled(90, wrapMul(12, frame));
+    drawCaption(demo.textSmall, {.text = "NOTHING TO READ HERE", .weight = weight});
 }
 
 /// The place follows the selection, a fifth of the way a frame.
@@ -226,51 +219,34 @@ void drawDrum(Browser& browser) {
 }
 
 /// Lets the frame before shine on: a little wider, then, by the clear mode, a little darker.
-void spreadGlow(const Browser& browser) {
-    if (browser.glow != nullptr) {
-        IMGFX_blur7(demo.screen, browser.glow);
-        IMG_copy(browser.glow, demo.screen);
+void spreadGlow(Browser& browser, std::int32_t) {
+    IMGFX_blur7(demo.screen, browser.glow);
+    IMG_copy(browser.glow, demo.screen);
+}
+
+void drawLine(Browser& browser, std::int32_t) {
+    SINELINE_advance(browser.line);
+    SINELINE_draw(browser.line, demo.screen);
+}
+
+void drawNames(Browser& browser, std::int32_t frame) {
+    if (nameCount() > 0) {
+        drawDrum(browser);
+        drawCount();
+    } else {
+        drawEmpty(frame);
     }
 }
 
-Browser VELM4030_sceneExtra1Setup() {
-    listFolder();
-    setLook({.fadeStep = 0x181818, .fadeOn = 1, .clearMode = ClearMode::fade});
-    Browser browser{};
-    makeRing(browser);
-    makeLine(browser);
-    browser.glow = IMG_clone(demo.screen);
-    browser.place = firstPlace * one;
-    return browser;
-}
-
-void VELM4030_sceneExtra1Cleanup(Browser& browser) {
-    LRADIAL_delete(&browser.ring);
-    SINELINE_delete(&browser.line);
-    SAMPLE_delete(&browser.shades);
-    IMG_delete(&browser.glow);
-}
+constexpr Act<Browser> acts[] = {{0, untilSpace, spreadGlow},
+                                 {0, untilSpace, drawRing},
+                                 {0, untilSpace, drawLine},
+                                 {0, untilSpace, drawNames}};
 
 } // namespace
 
 void VELM4030_sceneExtra1() {
-    Browser browser = VELM4030_sceneExtra1Setup();
-    runFrames(std::numeric_limits<std::int32_t>::max(), [&browser](std::int32_t frame) {
-        spreadGlow(browser);
-        drawRing(browser, frame);
-        if (browser.line != nullptr) {
-            SINELINE_advance(browser.line);
-            SINELINE_draw(browser.line, demo.screen);
-        }
-        if (nameCount() > 0) {
-            drawDrum(browser);
-            drawCount();
-        } else {
-            drawEmpty(frame);
-        }
-        drawPointerAndOverlay();
-    });
-    VELM4030_sceneExtra1Cleanup(browser);
+    play({.fadeStep = 0x181818, .fadeOn = 1, .clearMode = ClearMode::fade}, untilSpace, acts);
 }
 
 } // namespace velm

@@ -1,15 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// A garden that chance arranges: every season a generator of its own draws new curves of dots, new hues, new
-// waves for the pictures that bend and for the ribbons that braid; what was fades while what comes grows. The
-// generator starts the same each time, so the garden is always this one, and the music's choices stay.
-#include "demo/scene_curves.h"
-#include "demo/scene_frames.h"
-#include "demo/state.h"
-#include "demo/velm4030.h"
+// Extra scene 9, a garden that chance arranges: every season a generator of its own draws new curves of dots,
+// new hues, new waves for the pictures that bend and for the ribbons that braid; what was fades while what
+// comes grows. The generator starts the same each time, so the garden is always this one, and the music's
+// choices stay.
+#include "demo/scenes/acts.h"
+#include "demo/scenes/curves.h"
 #include "foundation/sine.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -30,33 +28,61 @@ constexpr std::int32_t ribbonLength = 256;
 constexpr std::int32_t pictureHeight = 128;
 constexpr std::uint32_t seed = 0x20150614;
 
+struct Cloud {
+    Owned<SINEDOTS_delete> dots = makeDots(SINE_tableLength);
+    std::int32_t hue = 0;
+};
+
 /// Clouds that were drawn together.
 struct Bed {
-    SINEDOTS* clouds[cloudCount];
-    std::int32_t hue[cloudCount];
+    Cloud clouds[cloudCount];
 };
 
 /// A wave on its way to what chance has drawn for it.
 struct Sway {
-    std::int32_t amplitude; ///< 1/16 of what the distorters call it
-    std::int32_t wanted;
+    std::int32_t amplitude = 0; ///< 1/16 of what the distorters call it
+    std::int32_t wanted = 0;
+};
+
+/// Three ribbons a third of a turn apart, which braid each other. They show one picture.
+template <auto Make, auto Delete>
+struct Braid {
+    Braid(std::int32_t width, std::int32_t height) : thread(IMG_newSized(width, height)) {
+        for (std::int32_t i = 0; i < ribbonCount; ++i) {
+            ribbons[i] = Owned<Delete>(Make(), [&](auto& made) {
+                made.source = thread;
+                made.x = width > height ? 0 : (settings.windowWidth - width) / 2;
+                made.y = width > height ? (settings.windowHeight - height) / 2 : 0;
+                made.wave.phase = i * SINE_tableLength / ribbonCount;
+                made.wave.speed = 8;
+            });
+        }
+    }
+
+    Picture thread; ///< of the ribbon's size
+    Owned<Delete> ribbons[ribbonCount];
 };
 
 struct Garden {
-    RANDOM* random;
+    Owned<RANDOM_delete> random{RANDOM_new(), [](RANDOM& made) { made.counter = seed; }};
     Bed beds[bedCount];
-    IMG* across;  ///< ribbonLength by ribbonWidth, the ribbon that lies
-    IMG* upright; ///< ribbonWidth by ribbonLength, the one that stands
-    std::int32_t ribbonHue[ribbonLength];
-    std::int32_t ribbonStep; ///< 1/1024 turns of its wave per pixel
-    DISTY* lying[ribbonCount];
-    DISTX* standing[ribbonCount];
-    IMG* picture; ///< 256 by pictureHeight, as bright as it is to be
-    IMG* bent;    ///< the same, bent by rows
-    DISTX* rows;
-    DISTY* columns;
+    std::int32_t ribbonHue[ribbonLength] = {};
+    std::int32_t ribbonStep = 0; ///< 1/1024 turns of its wave per pixel
+    Braid<DISTY_new, DISTY_delete> lying{ribbonLength, ribbonWidth};
+    Braid<DISTX_new, DISTX_delete> standing{ribbonWidth, ribbonLength};
+    Picture picture{IMG_newSized(settings.windowWidth, pictureHeight)}; ///< as bright as it is to be
+    Picture bent{IMG_newSized(settings.windowWidth, pictureHeight)};    ///< the same, bent by rows
+    Owned<DISTX_delete> rows{DISTX_new(), [this](DISTX& made) {
+                                 made.source = picture;
+                                 made.wave.speed = 9;
+                             }};
+    Owned<DISTY_delete> columns{DISTY_new(), [this](DISTY& made) {
+                                    made.source = bent;
+                                    made.y = (settings.windowHeight - pictureHeight) / 2;
+                                    made.wave.speed = 7;
+                                }};
     Sway rowSway, columnSway, ribbonSway;
-    std::int32_t shown; ///< which picture
+    std::int32_t shown = 0; ///< which picture
 };
 
 /// What grows in which season: 1 for yes.
@@ -84,8 +110,8 @@ void plantBed(const Garden& garden, Bed& bed) {
     const std::int32_t hue = draw(garden, 0, hueCount - 1);
     const std::int32_t apart = draw(garden, 90, 320);
     for (std::int32_t i = 0; i < cloudCount; ++i) {
-        SINEDOTS& cloud = *bed.clouds[i];
-        bed.hue[i] = hue + i * apart;
+        SINEDOTS& cloud = *bed.clouds[i].dots;
+        bed.clouds[i].hue = hue + i * apart;
         for (std::int32_t wave = 0; wave < SINEDOTS_waveCount; ++wave) {
             cloud.step[wave] = {drawSigned(garden, 1, 2 + 2 * wave), drawSigned(garden, 1, 2 + 2 * wave), 0};
             cloud.speed[wave] = {drawSigned(garden, 1, 4), drawSigned(garden, 1, 4), 0};
@@ -108,11 +134,11 @@ void spinRibbon(Garden& garden) {
     garden.ribbonStep = draw(garden, 3, 8);
 }
 
-/// Paints a ribbon, round by its shading, so bright, lying or upright.
-void paintRibbon(const Garden& garden, IMG* ribbon, std::int32_t light) {
+/// Paints a ribbon, lying or upright, round by its shading.
+void paintRibbon(const Garden& garden, IMG* ribbon, std::int32_t weight) {
     const bool lies = ribbon->width > ribbon->height;
     for (std::int32_t x = 0; x < ribbonLength; ++x) {
-        const std::uint32_t colour = curveHue(garden.ribbonHue[x], static_cast<std::uint32_t>(light));
+        const std::uint32_t colour = curveHue(garden.ribbonHue[x], weight);
         for (std::int32_t thread = 0; thread < ribbonWidth; ++thread) {
             const std::int32_t bright = SINE_entry((2 * thread + 1) * SINE_quarter / ribbonWidth) >> 7;
             // Never quite black: the edge of a ribbon sets it off from what lies behind.
@@ -159,26 +185,33 @@ std::int32_t pictureLightAt(std::int32_t frame) {
     return follows ? std::abs(curveBetween(-curveFull, curveFull, change)) : grownAt(frame, &Season::picture);
 }
 
-void copyDimmed(const IMG* from, IMG* to, std::int32_t left, std::int32_t top, std::int32_t light) {
-    for (std::int32_t y = 0; from != nullptr && y < from->height; ++y) {
+void copyDimmed(const IMG* from, IMG* to, std::int32_t left, std::int32_t top, std::int32_t weight) {
+    for (std::int32_t y = 0; y < from->height; ++y) {
         for (std::int32_t x = 0; x < from->width; ++x) {
-            IMG_putPixel(to, left + x, top + y, curveDim(IMG_getPixel(from, x, y), light));
+            IMG_putPixel(to, left + x, top + y, curveDim(IMG_getPixel(from, x, y), weight));
         }
     }
 }
 
 /// The picture of the season, bent by rows, then by columns, behind everything.
-void drawPicture(Garden& garden, std::int32_t light) {
+void drawPicture(Garden& garden, std::int32_t frame) {
     constexpr std::int32_t half = 128;
+    if (frame % seasonFrames == growFrames / 2) {
+        changePicture(garden);
+    }
+    const std::int32_t weight = pictureLightAt(frame) * 2 / 3;
+    if (weight <= 0) {
+        return;
+    }
     IMG_fill(garden.picture, 0);
     IMG_fill(garden.bent, 0);
     if (garden.shown % 2 == 0) {
-        copyDimmed(demo.pictureWide, garden.picture, 0, 0, light);
+        copyDimmed(demo.pictureWide, garden.picture, 0, 0, weight);
     } else {
-        copyDimmed(demo.pictureA, garden.picture, 0, 0, light);
-        copyDimmed(demo.pictureB, garden.picture, half, 0, light);
-        copyDimmed(demo.pictureB, garden.picture, 0, pictureHeight / 2, light);
-        copyDimmed(demo.pictureA, garden.picture, half, pictureHeight / 2, light);
+        copyDimmed(demo.pictureA, garden.picture, 0, 0, weight);
+        copyDimmed(demo.pictureB, garden.picture, half, 0, weight);
+        copyDimmed(demo.pictureB, garden.picture, 0, pictureHeight / 2, weight);
+        copyDimmed(demo.pictureA, garden.picture, half, pictureHeight / 2, weight);
     }
     garden.rows->amplitude = garden.rowSway.amplitude / 16;
     garden.columns->amplitude = garden.columnSway.amplitude / 16;
@@ -186,23 +219,27 @@ void drawPicture(Garden& garden, std::int32_t light) {
     DISTY_draw(garden.columns, demo.screen);
 }
 
-/// Three ribbons a third of a turn apart braid each other; they begin as one straight dark one.
-template <typename Dist>
-void drawRibbons(const Garden& garden, Dist* const (&ribbons)[ribbonCount], void (*drawOne)(Dist*, IMG*),
-                 std::int32_t grown) {
-    if (grown == 0) {
+/// Three ribbons braid each other; they begin as one straight dark one.
+template <typename Braided, typename Draw>
+void drawRibbons(const Garden& garden, const Braided& braid, Draw drawOne, std::int32_t weight) {
+    if (weight == 0) {
         return;
     }
-    paintRibbon(garden, ribbons[0]->source, grown);
-    for (Dist* const ribbon : ribbons) {
-        ribbon->amplitude = garden.ribbonSway.amplitude / 16 * grown / curveFull;
+    paintRibbon(garden, braid.thread, weight);
+    for (const auto& ribbon : braid.ribbons) {
+        ribbon->amplitude = garden.ribbonSway.amplitude / 16 * weight / curveFull;
         ribbon->wave.offsetStep = garden.ribbonStep;
         drawOne(ribbon, demo.screen);
     }
 }
 
-/// A cloud with its own past behind it, ever dimmer.
-void drawCloud(SINEDOTS& cloud, std::uint32_t colour, std::int32_t light) {
+void drawBraids(Garden& garden, std::int32_t frame) {
+    drawRibbons(garden, garden.lying, DISTY_draw, grownAt(frame, &Season::lying));
+    drawRibbons(garden, garden.standing, DISTX_draw, grownAt(frame, &Season::standing));
+}
+
+/// A cloud, trailed by its own past, ever dimmer.
+void drawCloud(SINEDOTS& cloud, std::uint32_t colour, std::int32_t weight) {
     constexpr std::int32_t moments = 7;
     constexpr std::int32_t lag = 3; // frames
     SINEDOTS_AXES phases[SINEDOTS_waveCount];
@@ -212,142 +249,61 @@ void drawCloud(SINEDOTS& cloud, std::uint32_t colour, std::int32_t light) {
             cloud.phase[wave].x = phases[wave].x - k * lag * cloud.speed[wave].x;
             cloud.phase[wave].y = phases[wave].y - k * lag * cloud.speed[wave].y;
         }
-        cloud.colour = curveDim(colour, light * (moments - k) / (2 * moments));
+        cloud.colour = curveDim(colour, weight * (moments - k) / (2 * moments));
         SINEDOTS_drawAdd(&cloud, demo.screen);
     }
     std::copy_n(phases, SINEDOTS_waveCount, cloud.phase);
 }
 
 /// Both beds: the one of this season as it grows, the one before as it fades.
-void drawClouds(Garden& garden, std::int32_t frame, std::int32_t light) {
+void drawClouds(Garden& garden, std::int32_t frame) {
+    constexpr std::int32_t leadOut = 70;
+    const std::int32_t light = curveFull - curveRise(frame, frames - leadOut, frames - 6);
     const std::int32_t season = frame / seasonFrames;
     const std::int32_t grown = curveRise(frame % seasonFrames, 0, growFrames);
     for (std::int32_t age = 0; age < bedCount && age <= season; ++age) {
-        Bed& bed = garden.beds[(season - age) % bedCount];
-        const std::int32_t bedLight = (age == 0 ? grown : curveFull - grown) * light / curveFull;
+        const Bed& bed = garden.beds[(season - age) % bedCount];
+        const std::int32_t weight = (age == 0 ? grown : curveFull - grown) * light / curveFull;
         for (std::int32_t i = 0; i < plan[season - age].clouds; ++i) {
-            SINEDOTS_advance(bed.clouds[i]);
-            if (bedLight > 0) {
-                drawCloud(*bed.clouds[i], curveHue(bed.hue[i] + frame, curveFull), bedLight);
+            const Cloud& cloud = bed.clouds[i];
+            SINEDOTS_advance(cloud.dots);
+            if (weight > 0) {
+                drawCloud(*cloud.dots, curveHue(cloud.hue + frame), weight);
             }
         }
     }
 }
 
-void drawFrame(Garden& garden, std::int32_t frame) {
-    constexpr std::int32_t leadOut = 70;
+/// What chance has drawn for a season comes slowly.
+void growSeason(Garden& garden, std::int32_t frame) {
     if (frame % seasonFrames == 0) {
         beginSeason(garden, frame / seasonFrames);
-    }
-    const std::int32_t light = curveFull - curveRise(frame, frames - leadOut, frames - 6);
-    if (frame % seasonFrames == growFrames / 2) {
-        changePicture(garden);
     }
     for (Sway* const sway : {&garden.rowSway, &garden.columnSway, &garden.ribbonSway}) {
         sway->amplitude += (sway->wanted - sway->amplitude) / 32;
     }
-    if (const std::int32_t pictureLight = pictureLightAt(frame) * 2 / 3; pictureLight > 0) {
-        drawPicture(garden, pictureLight);
-    }
-    drawRibbons(garden, garden.lying, DISTY_draw, grownAt(frame, &Season::lying));
-    drawRibbons(garden, garden.standing, DISTX_draw, grownAt(frame, &Season::standing));
-    drawClouds(garden, frame, light);
+}
+
+void moveWaves(Garden& garden, std::int32_t) {
     DISTX_advance(garden.rows);
     DISTY_advance(garden.columns);
     for (std::int32_t i = 0; i < ribbonCount; ++i) {
-        DISTY_advance(garden.lying[i]);
-        DISTX_advance(garden.standing[i]);
+        DISTY_advance(garden.lying.ribbons[i]);
+        DISTX_advance(garden.standing.ribbons[i]);
     }
 }
 
-template <typename Dist>
-Dist* prepared(Dist* dist, IMG* source, std::int32_t x, std::int32_t y, std::int32_t phase,
-               std::int32_t speed) {
-    if (dist != nullptr) {
-        dist->source = source;
-        dist->x = x;
-        dist->y = y;
-        dist->wave.phase = phase;
-        dist->wave.speed = speed;
-    }
-    return dist;
-}
-
-void makeGarden(Garden& garden) {
-    const std::int32_t width = settings.windowWidth;
-    const std::int32_t height = settings.windowHeight;
-    const std::int32_t top = (height - pictureHeight) / 2;
-    garden.random = RANDOM_new();
-    if (garden.random != nullptr) {
-        garden.random->counter = seed;
-    }
-    for (Bed& bed : garden.beds) {
-        for (SINEDOTS*& cloud : bed.clouds) {
-            cloud = SINEDOTS_new();
-            SINEDOTS_setCount(cloud, SINE_tableLength);
-        }
-    }
-    garden.across = IMG_newSized(ribbonLength, ribbonWidth);
-    garden.upright = IMG_newSized(ribbonWidth, ribbonLength);
-    garden.picture = IMG_newSized(width, pictureHeight);
-    garden.bent = IMG_newSized(width, pictureHeight);
-    garden.rows = prepared(DISTX_new(), garden.picture, 0, 0, 0, 9);
-    garden.columns = prepared(DISTY_new(), garden.bent, 0, top, 0, 7);
-    for (std::int32_t i = 0; i < ribbonCount; ++i) {
-        const std::int32_t phase = i * SINE_tableLength / ribbonCount;
-        garden.lying[i] = prepared(DISTY_new(), garden.across, 0, (height - ribbonWidth) / 2, phase, 8);
-        garden.standing[i] = prepared(DISTX_new(), garden.upright, (width - ribbonWidth) / 2, 0, phase, 8);
-    }
-}
-
-bool isWhole(const Garden& garden) {
-    const auto isThere = [](const void* record) { return record != nullptr; };
-    const auto areThere = [isThere](const auto& records) {
-        return std::all_of(std::begin(records), std::end(records), isThere);
-    };
-    return isThere(garden.random) && areThere(garden.beds[0].clouds) && areThere(garden.beds[1].clouds) &&
-           isThere(garden.across) && isThere(garden.upright) && isThere(garden.picture) &&
-           isThere(garden.bent) && isThere(garden.rows) && isThere(garden.columns) &&
-           areThere(garden.lying) && areThere(garden.standing);
-}
-
-void deleteGarden(Garden& garden) {
-    RANDOM_delete(&garden.random);
-    for (Bed& bed : garden.beds) {
-        for (SINEDOTS*& cloud : bed.clouds) {
-            SINEDOTS_delete(&cloud);
-        }
-    }
-    for (IMG** const img : {&garden.across, &garden.upright, &garden.picture, &garden.bent}) {
-        IMG_delete(img);
-    }
-    DISTX_delete(&garden.rows);
-    DISTY_delete(&garden.columns);
-    for (std::int32_t i = 0; i < ribbonCount; ++i) {
-        DISTY_delete(&garden.lying[i]);
-        DISTX_delete(&garden.standing[i]);
-    }
-}
-
-void VELM4030_sceneExtra9Setup() {
-    VELM4030_fadeOut();
-    setLook({.fadeStep = 0x080808, .glare = 1});
-}
+constexpr Act<Garden> acts[] = {{0, frames, growSeason},
+                                {0, frames, drawPicture},
+                                {0, frames, drawBraids},
+                                {0, frames, drawClouds},
+                                {0, frames, moveWaves}};
 
 } // namespace
 
 void VELM4030_sceneExtra9() {
-    VELM4030_sceneExtra9Setup();
-    Garden garden{};
-    makeGarden(garden);
-    const bool isComplete = isWhole(garden);
-    runFrames(frames, [&](std::int32_t frame) {
-        if (isComplete) {
-            drawFrame(garden, frame);
-        }
-        drawPointerAndOverlay();
-    });
-    deleteGarden(garden);
+    VELM4030_fadeOut();
+    play({.fadeStep = 0x080808, .glare = 1}, frames, acts);
 }
 
 } // namespace velm

@@ -1,18 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Outlines and what happens inside them: drawings and words are drawn stroke by stroke, then colour springs
-// up in their cells and floods them and the spaces between, one mosaic after the other. Words out of the
-// depth open and close it.
-#include "demo/scene_curves.h"
-#include "demo/scene_frames.h"
-#include "demo/state.h"
-#include "demo/velm4030.h"
+// Extra scene 8, the mosaic: drawings and words are drawn stroke by stroke, then colour springs up in their
+// cells and floods them and the spaces between, one mosaic after the other. Words out of the depth open and
+// close it.
+#include "demo/scenes/acts.h"
+#include "demo/scenes/caption.h"
+#include "demo/scenes/curves.h"
 #include "effects/fill.h"
 #include "effects/line_text.h"
 #include "effects/wordzoom.h"
 #include "foundation/sine.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <string_view>
@@ -31,13 +29,6 @@ constexpr std::int32_t drainFrom = 118;        // the colour runs dry
 constexpr std::int32_t mosaics = 4;
 constexpr std::int32_t closing = firstMosaic + mosaics * mosaicFrames - 30;
 
-/// What the scene owns.
-struct Studio {
-    FILL* fill;
-    WORDZOOM* zoom;
-    IMG* canvas; ///< the outlines
-};
-
 /// A drawing on the canvas, by its name among the drawings, about its middle.
 struct Figure {
     std::string_view name;
@@ -46,8 +37,7 @@ struct Figure {
 
 /// The drawing of that name, or nullptr.
 const OBJ2D* drawingOf(std::string_view name) {
-    const std::int32_t count = demo.fontLarge == nullptr ? 0 : demo.fontLarge->count;
-    for (std::int32_t i = 0; i < count; ++i) {
+    for (std::int32_t i = 0; i < demo.fontLarge->count; ++i) {
         const auto* const obj = static_cast<const OBJ2D*>(LIST_get(demo.fontLarge, i));
         if (obj != nullptr && obj->name != nullptr && obj->name == name) {
             return obj;
@@ -70,7 +60,6 @@ void forEachStrokeOf(const Figure& figure, Draw draw) {
 template <typename Draw>
 void forEachStrokeOf(std::string_view word, std::int32_t y, std::int32_t scale, Draw draw) {
     constexpr std::int32_t cell = 8;
-    constexpr std::int32_t middle = 128;
     std::int32_t left = middle - cell * scale * static_cast<std::int32_t>(word.size() - 1) / 2;
     for (const char letter : word) {
         forEachStroke(glyphOf(demo.fontSmall, static_cast<std::uint8_t>(letter)), [&](VEC2D a, VEC2D b) {
@@ -102,8 +91,7 @@ constexpr std::string_view lowerWord = "4030";
 constexpr std::int32_t letterScale = 7;
 constexpr std::int32_t upperY = 56; // the middle of the letters' cells
 constexpr std::int32_t lowerY = 164;
-constexpr Figure window{"mystic rose", 128, 128, 15}; // twelve corners, each joined to each
-constexpr std::int32_t windowMiddle = 128;
+constexpr Figure window{"mystic rose", middle, middle, 15}; // twelve corners, each joined to each
 
 /// A maze of slashes, a bit for each of 16 by 16: set, it leans to the right.
 constexpr std::uint16_t slashes[16] = {0xE86A, 0xD897, 0x7D4A, 0xCFE4, 0xB73E, 0xDBC2, 0xCEAC, 0xE974,
@@ -152,11 +140,11 @@ void forEachStrokeIn(std::int32_t mosaic, Draw draw) {
     }
 }
 
-/// Draws so much of a mosaic, 0..256, on the canvas.
-void drawStrokes(IMG* canvas, std::int32_t mosaic, std::int32_t share) {
+/// Draws the share of a mosaic that a weight tells on the canvas.
+void drawStrokes(IMG* canvas, std::int32_t mosaic, std::int32_t weight) {
     std::int32_t count = 0;
     forEachStrokeIn(mosaic, [&count](const VEC2D&, const VEC2D&) { ++count; });
-    const std::int32_t shown = count * share / curveFull;
+    const std::int32_t shown = count * weight / curveFull;
     std::int32_t n = 0;
     forEachStrokeIn(mosaic, [&](VEC2D a, VEC2D b) {
         if (n++ < shown) {
@@ -180,8 +168,8 @@ void pourWindow(FILL* fill, std::int32_t age) {
     const std::int32_t radius = 3 * age;
     for (std::int32_t i = 0; i < panes && radius < 112; ++i) {
         const std::int32_t angle = (2 * i + 1) * SINE_tableLength / (2 * panes);
-        FILL_pour(fill, windowMiddle + SINE_scaled(radius, angle),
-                  windowMiddle - SINE_cosineScaled(radius, angle), 13 * radius + 200 * (i % 2));
+        FILL_pour(fill, middle + SINE_scaled(radius, angle), middle - SINE_cosineScaled(radius, angle),
+                  13 * radius + 200 * (i % 2));
     }
     if (age == 44) {
         for (const std::int32_t corner : {0, 255}) {
@@ -241,7 +229,7 @@ void pourGallery(FILL* fill, std::int32_t age) {
 
 /// How a mosaic is filled: its seeds, and how the colour flows.
 struct Mosaic {
-    const char* title;
+    std::string_view title;
     void (*pour)(FILL* fill, std::int32_t age); ///< called for each frame from the last stroke on
     std::int32_t flow, stretch, speed, ripple;  ///< as in FILL
 };
@@ -263,26 +251,38 @@ void paintWalls(const IMG& canvas, std::uint32_t colour) {
 }
 
 /// The title on a plate at the lower edge: it is typed, and taken back from its end when the colour runs dry.
-void drawTitle(const char* title, std::int32_t age) {
+void drawTitle(std::string_view title, std::int32_t age) {
     constexpr std::int32_t cell = 8;
     constexpr std::int32_t y = 246;
-    constexpr std::int32_t middle = 128;
-    const std::string_view text = title;
-    const auto length = static_cast<std::int32_t>(text.size());
-    const std::int32_t shown = std::clamp(std::min(age, drainFrom - age), 0, length);
-    LFONT* const pen = demo.textSmall;
-    if (pen == nullptr || shown == 0) {
-        return;
-    }
-    const std::int32_t left = middle - length * cell / 2;
-    IMG_fillRect(demo.screen, left - cell / 2, y - cell, (shown + 1) * cell, 2 * cell, 0);
-    LFONT_setColour(pen, 0xD0F0FF);
-    LFONT_place(pen, left + cell / 2, y, 1); // the small glyphs are drawn about their middle
-    for (std::int32_t i = 0; i < shown; ++i) {
-        pen->character = static_cast<std::uint8_t>(text[static_cast<std::size_t>(i)]);
-        LFONT_drawChar(pen);
+    const auto length = static_cast<std::int32_t>(title.size());
+    const std::int32_t typed = std::clamp(std::min(age, drainFrom - age), 0, length);
+    if (typed > 0) {
+        IMG_fillRect(demo.screen, middle - (length + 1) * cell / 2, y - cell, (typed + 1) * cell, 2 * cell,
+                     0);
+        drawCaption(demo.textSmall, {.text = title, .y = y, .colour = 0xD0F0FF, .typed = typed});
     }
 }
+
+void prepareFill(FILL& fill) {
+    FILL_setSize(&fill, settings.windowWidth, settings.windowHeight);
+    fill.palette = demo.hueRamp;
+}
+
+void prepareZoom(WORDZOOM& zoom) {
+    zoom.glyphs = demo.fontMedium;
+    zoom.palette = demo.hueRamp;
+    zoom.loop = 0;
+    zoom.hue = 256;
+    zoom.growth = oneInSixteen * 5 / 4;
+    zoom.interval = 22;
+    WORDZOOM_setText(&zoom, "STAY INSIDE THE LINES");
+}
+
+struct Studio {
+    Owned<FILL_delete> fill{FILL_new(), prepareFill};
+    Owned<WORDZOOM_delete> zoom{WORDZOOM_new(), prepareZoom};
+    Picture canvas{newWindowPicture()}; ///< the outlines
+};
 
 void beginMosaic(const Studio& studio, const Mosaic& mosaic) {
     IMG_fill(studio.canvas, 0);
@@ -293,8 +293,10 @@ void beginMosaic(const Studio& studio, const Mosaic& mosaic) {
     studio.fill->ripple = mosaic.ripple;
 }
 
-/// Frame `age` of a mosaic.
-void playMosaic(const Studio& studio, std::int32_t number, std::int32_t age) {
+/// One mosaic after the other.
+void playMosaics(Studio& studio, std::int32_t frame) {
+    const std::int32_t number = (frame - firstMosaic) / mosaicFrames;
+    const std::int32_t age = (frame - firstMosaic) % mosaicFrames;
     FILL& fill = *studio.fill;
     if (age == 0) {
         beginMosaic(studio, mosaicsInOrder[number]);
@@ -310,64 +312,32 @@ void playMosaic(const Studio& studio, std::int32_t number, std::int32_t age) {
     FILL_draw(&fill, demo.screen);
     const std::int32_t dark = std::max(curveRise(age, drawFrames, drawFrames + 50) * 7 / 8,
                                        curveRise(age, drainFrom, drainFrom + 20));
-    paintWalls(*studio.canvas, RGB888_mix(0xD0F0FF, 0x000000, static_cast<std::uint32_t>(dark)));
+    paintWalls(*studio.canvas, curveMix(0xD0F0FF, 0x000000, dark));
     drawTitle(mosaicsInOrder[number].title, age);
 }
 
-void playWords(WORDZOOM* zoom, std::int32_t frame) {
-    if (frame == closing) {
-        zoom->growth = oneInSixteen * 3 / 2;
-        zoom->interval = 18;
-        zoom->hue = 1300;
-        WORDZOOM_setText(zoom, "OR RATHER DO NOT");
-    }
-    WORDZOOM_advance(zoom);
-    WORDZOOM_draw(zoom, demo.screen);
+void playWords(Studio& studio, std::int32_t) {
+    WORDZOOM_advance(studio.zoom);
+    WORDZOOM_draw(studio.zoom, demo.screen);
 }
 
-Studio makeStudio() {
-    Studio studio{FILL_new(), WORDZOOM_new(), IMG_newSized(settings.windowWidth, settings.windowHeight)};
-    if (studio.fill != nullptr) {
-        FILL_setSize(studio.fill, settings.windowWidth, settings.windowHeight);
-        studio.fill->palette = demo.hueRamp;
-    }
-    if (studio.zoom != nullptr) {
-        studio.zoom->glyphs = demo.fontMedium;
-        studio.zoom->palette = demo.hueRamp;
-        studio.zoom->loop = 0;
-        studio.zoom->hue = 256;
-        studio.zoom->growth = oneInSixteen * 5 / 4;
-        studio.zoom->interval = 22;
-        WORDZOOM_setText(studio.zoom, "STAY INSIDE THE LINES");
-    }
-    return studio;
+void beginClosing(Studio& studio) {
+    WORDZOOM* const zoom = studio.zoom;
+    zoom->growth = oneInSixteen * 3 / 2;
+    zoom->interval = 18;
+    zoom->hue = 1300;
+    WORDZOOM_setText(zoom, "OR RATHER DO NOT");
 }
 
-void VELM4030_sceneExtra8Setup() {
-    VELM4030_fadeOut();
-    setLook({.fadeStep = 0x080808});
-}
+constexpr Act<Studio> acts[] = {{firstMosaic, firstMosaic + mosaics* mosaicFrames, playMosaics},
+                                {0, closing, playWords},
+                                {closing, frames, playWords, beginClosing}};
 
 } // namespace
 
 void VELM4030_sceneExtra8() {
-    VELM4030_sceneExtra8Setup();
-    Studio studio = makeStudio();
-    const bool isComplete = studio.fill != nullptr && studio.zoom != nullptr && studio.canvas != nullptr &&
-                            demo.screen != nullptr;
-    runFrames(frames, [&](std::int32_t frame) {
-        const std::int32_t number = (frame - firstMosaic) / mosaicFrames;
-        if (isComplete && frame >= firstMosaic && number < mosaics) {
-            playMosaic(studio, number, (frame - firstMosaic) % mosaicFrames);
-        }
-        if (isComplete) {
-            playWords(studio.zoom, frame);
-        }
-        drawPointerAndOverlay();
-    });
-    FILL_delete(&studio.fill);
-    WORDZOOM_delete(&studio.zoom);
-    IMG_delete(&studio.canvas);
+    VELM4030_fadeOut();
+    play({.fadeStep = 0x080808}, frames, acts);
 }
 
 } // namespace velm

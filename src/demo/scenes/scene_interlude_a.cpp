@@ -3,9 +3,7 @@
 //
 // Interlude A: balls of random colour, place and size, one a frame, each under a light that has turned a
 // little, and each leaving a fading trail; the logo stands above them.
-#include "demo/scene_frames.h"
-#include "demo/state.h"
-#include "demo/velm4030.h"
+#include "demo/scenes/frames.h"
 #include "foundation/chance.h"
 #include "foundation/sine.h"
 
@@ -25,9 +23,6 @@ void makeBall() {
 }
 
 void throwBall() {
-    if (demo.ball == nullptr) {
-        return;
-    }
     demo.ball->colour = static_cast<std::uint32_t>(chance()) & 0x7F7F7F;
     demo.ball->x = chance() % settings.windowWidth;
     demo.ball->y = chance() % settings.windowHeight;
@@ -38,14 +33,12 @@ void throwBall() {
 /// Turns the light for the next frame; each component stays within about +-10.
 void turnLight(std::int32_t left) {
     const auto component = [](std::int32_t angle) { return (SINE_entry(angle) * 5) >> 14; };
-    if (demo.ball != nullptr) {
-        demo.ball->light = {component(5 * left), component(3 * left), component(7 * left)};
-    }
+    demo.ball->light = {component(5 * left), component(3 * left), component(7 * left)};
 }
 
 void drawLogo() {
     constexpr std::int32_t y = 64;
-    if (demo.logoImage != nullptr && demo.screen != nullptr) {
+    if (demo.logoImage != nullptr) {
         IMG_blit(demo.logoImage, demo.screen, 0, 0, (demo.screen->width - demo.logoImage->width) / 2, y,
                  demo.logoImage->width, demo.logoImage->height);
     }
@@ -65,6 +58,10 @@ void VELM4030_sceneInterludeASetup() {
 
 void VELM4030_sceneInterludeA() {
     VELM4030_sceneInterludeASetup();
+    if (demo.ball == nullptr) {
+        runEmptyFrame();
+        return;
+    }
     runFrames(frames, [](std::int32_t frame) {
         throwBall();
         turnLight(frames - frame);

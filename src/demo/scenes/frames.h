@@ -1,39 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The loop of every scene: a scene says how many frames it has and what one of them draws. And what the
-// frames of several scenes end with.
+// The loop of every scene: a scene says how many frames it has and what one of them draws. scenes/acts.h
+// makes whole scenes with it.
 //
 //     runFrames(750, [](std::int32_t frame) {
 //         IMG_drawHLine(demo.screen, 0xFFFFFF, frame & 255, 0, 255);
-//         drawPointerAndOverlay();
+//         VELM4030_mouseLayer();
 //     });
 #pragma once
 
+#include "demo/scenes/shared.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 
 #include <cstdint>
 
 namespace velm {
-
-/// The bars and the scroll text, each while its key leaves it on.
-inline void drawScrollText() {
-    if (settings.rastersOn != 0) {
-        VELM4030_rasterLayer();
-    }
-    if (settings.scrollOn != 0) {
-        VELM4030_scrollLayer();
-    }
-}
-
-/// The pointer and the overlay, which is white whatever the scene has last written with its pen.
-inline void drawPointerAndOverlay() {
-    constexpr std::uint32_t white = 0xFFFFFF;
-    LFONT_setColour(demo.textMedium, white);
-    VELM4030_mouseLayer();
-    VELM4030_fpsLayer();
-}
 
 /// How frames are filtered, shown and cleared until a key changes it. A scene says what differs from this.
 struct SceneLook {
@@ -44,13 +27,7 @@ struct SceneLook {
 };
 
 /// Every scene begins with a look of its own; none begins blurred.
-inline void setLook(const SceneLook& look) {
-    settings.fadeStep = look.fadeStep;
-    settings.fadeOn = look.fadeOn;
-    demo.blur = 0;
-    demo.glare = look.glare;
-    demo.clearMode = look.clearMode;
-}
+void setLook(const SceneLook& look);
 
 /// Calls draw(frame) for frame 0 to `count` - 1, each time between the start of the frame's time and what
 /// ends it: the post layer, the music layer and the keys. Space ends the loop early.
@@ -66,5 +43,10 @@ void runFrames(std::int32_t count, Draw draw) {
         }
     }
 }
+
+/// All that is left of a scene whose set-up ran out of memory: one black frame. It still reads the keys and
+/// takes its time, so that Escape works even where every scene ends like this. What the scenes share is
+/// dropped, as it may be in pieces.
+void runEmptyFrame();
 
 } // namespace velm

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "demo/scenes/caption.h"
+
+#include "demo/state.h"
+
+namespace velm {
+
+void drawCaption(LFONT* pen, const Caption& caption) {
+    if (pen == nullptr || caption.weight <= 0) {
+        return;
+    }
+    const KeptPen kept(pen);
+    const std::int32_t cell = pen->spacing->x * caption.scale;
+    const auto length = static_cast<std::int32_t>(caption.text.size());
+    const std::int32_t origin = pen == demo.textSmall ? cell / 2 : 0; // small glyphs stand about their middle
+    LFONT_setColour(pen, curveDim(caption.colour, caption.weight));
+    LFONT_place(pen, caption.x - length * cell / 2 + caption.first * cell + origin, caption.y, caption.scale);
+    for (std::int32_t i = caption.first; i < std::min(caption.typed, length); ++i) {
+        pen->character = static_cast<unsigned char>(caption.text[static_cast<std::size_t>(i)]);
+        LFONT_drawChar(pen);
+    }
+}
+
+KeptPen::KeptPen(LFONT* kept) : pen(kept) {
+    if (pen == nullptr) {
+        return;
+    }
+    before = *pen;
+    position = *pen->position;
+    scale = *pen->scale;
+    for (std::int32_t i = 0; pen->glyphs != nullptr && i < pen->glyphs->count; ++i) {
+        const auto* const glyph = static_cast<const OBJ2D*>(LIST_get(pen->glyphs, i));
+        if (glyph != nullptr && glyph->points->count > 0) {
+            colour = static_cast<const VEC2D*>(LIST_get(glyph->points, 0))->colour;
+            break;
+        }
+    }
+}
+
+KeptPen::~KeptPen() {
+    if (pen != nullptr) {
+        *pen = before;
+        *pen->position = position;
+        *pen->scale = scale;
+        LFONT_setColour(pen, colour);
+    }
+}
+
+} // namespace velm
