@@ -213,8 +213,7 @@ std::int32_t SAM_readSam(SAM* sam) {
     }
     const std::int32_t count = header.number[SamHeader::count];
     if (isText) {
-        // SAM_cutTextIsSuccess: one expects 0 when values are missing; they are reported, and the answer
-        // is 1.
+        // SAM_cutTextIsSuccess: one expects 0 when values are missing; they are reported, and 1 is returned.
         if (!readText(sam->file, sample, count)) {
             SAM_error();
         }
