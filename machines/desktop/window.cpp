@@ -10,6 +10,7 @@
 #include "desktop/x11.h"
 #include "foundation/memory.h"
 #include "platform/clock.h"
+#include "platform/icon.h"
 #include "platform/xdpy.h"
 
 #include <cstdio>
@@ -57,12 +58,15 @@ void fillWithoutManager(SDL_Window* window, bool full) {
 /// Gives the window what a desktop shows of it: its icon, its least size, its full screen.
 void dressWindow(SDL_Window* window) {
     SDL_SetWindowMinimumSize(window, pictureSize, pictureSize);
-    if (const IMG* const icon = desktop.icon; icon != nullptr) {
-        constexpr int bits = 32;
-        SDL_Surface* const surface = SDL_CreateRGBSurfaceWithFormatFrom(
-            icon->pixels, icon->width, icon->height, bits, icon->width * bits / 8, SDL_PIXELFORMAT_ARGB8888);
-        SDL_SetWindowIcon(window, surface);
-        SDL_FreeSurface(surface);
+    constexpr int bits = 32;
+    SDL_Surface* const icon =
+        SDL_CreateRGBSurfaceWithFormat(0, ICON_size, ICON_size, bits, SDL_PIXELFORMAT_ARGB8888);
+    if (icon != nullptr) {
+        for (std::int32_t i = 0; i < ICON_size * ICON_size; ++i) {
+            static_cast<std::uint32_t*>(icon->pixels)[i] = ICON_pixel(i);
+        }
+        SDL_SetWindowIcon(window, icon);
+        SDL_FreeSurface(icon);
     }
 }
 

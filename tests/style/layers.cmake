@@ -19,7 +19,7 @@ set(below_headless ${below_platform} headless)
 set(below_desktop ${below_platform} desktop)
 set(below_common ${below_demo} common)
 set(below_capture ${below_common} capture headless)
-set(below_paint foundation image vector paint)
+set(below_paint foundation image vector common paint)
 set(below_play ${below_common} play desktop)
 
 set(systems_x11 "X11|sys/soundcard")

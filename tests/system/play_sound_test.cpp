@@ -27,7 +27,7 @@ protected:
 
 TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     waitForRecorder();
-    Child player({VELM_PLAYER, "--scale", "1", "--frames", "220"}, withDisplay());
+    Child player({VELM_PLAYER, "--scale", "1", "--gain", "0", "--frames", "220"}, withDisplay());
     ASSERT_EQ(player.waitForExit(60), 0) << player.errors();
     EXPECT_EQ(player.output(), "sound: pulseaudio\n");
     EXPECT_EQ(player.errors(), "");
@@ -51,7 +51,7 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     EXPECT_GE(found, pieces - pieces / 10);
 
     // The same through the other driver, at half the volume.
-    Child half({VELM_PLAYER, "--scale", "1", "--volume", "50", "--sound", "oss"}, withDevice());
+    Child half({VELM_PLAYER, "--scale", "1", "--volume", "50", "--gain", "0", "--sound", "oss"}, withDevice());
     Sound stretch = loudestWindow(captured(60));
     for (std::int16_t& value : stretch) {
         value /= 2;

@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 //
 // velm4030-play: the demo as today's desktops want it.
+#include "demo/state.h"
 #include "demo/velm4030.h"
 #include "desktop/desktop.h"
+#include "play/caption.h"
+#include "play/keys.h"
 #include "play/options.h"
+#include "play/snapshot.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -23,6 +27,11 @@ void haveStandardFiles() {
     close(file);
 }
 
+/// Ends the scene as Space does: the programme decides what comes then.
+void endScene() {
+    velm::demo.control |= velm::controlNextPart;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -30,12 +39,13 @@ int main(int argc, char** argv) {
     haveStandardFiles();
     static const PlayOptions options = parseOptions(argc, argv);
     std::signal(SIGPIPE, SIG_IGN); // nobody may be listening to what it says
-    desktop.scale = options.scale;
-    desktop.fullScreen = options.fullScreen;
-    desktop.sound = options.sound;
-    desktop.volume = options.volume;
-    desktop.frameLimit = options.frames;
+    desktop = options.desktop;
+    desktop.help = keysText;
     desktop.onLimit = [] { std::exit(0); };
+    desktop.onPrevious = endScene;
+    desktop.onNext = endScene;
+    desktop.onPicture = keepSnapshot;
+    desktop.onText = drawCaption;
     VELM4030_init();
     VELM4030_setFrameRate(options.rate);
     SCENE_runForEver(options.scene);
