@@ -51,7 +51,8 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     EXPECT_GE(found, pieces - pieces / 10);
 
     // The same through the other driver, at half the volume.
-    Child half({VELM_PLAYER, "--scale", "1", "--volume", "50", "--gain", "0", "--sound", "oss"}, withDevice());
+    Child half({VELM_PLAYER, "--scale", "1", "--volume", "50", "--gain", "0", "--sound", "oss"},
+               withDevice());
     Sound stretch = loudestWindow(captured(60));
     for (std::int16_t& value : stretch) {
         value /= 2;
