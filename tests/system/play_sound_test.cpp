@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The player on a real sound server: through libasound, through the stand-in for "/dev/dsp", and through the
-// server's death.
+// The player on a real sound server: by its own protocol, through the stand-in for "/dev/dsp", and through the
+// server's silence and death.
 #include "sound_server.h"
 
 #include <csignal>
@@ -81,6 +81,24 @@ TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundRetur
     EXPECT_EQ(player.waitForExit(), 0);
     EXPECT_EQ(player.errors(), "");
     EXPECT_EQ(player.output(), "sound: pulseaudio\n");
+}
+
+TEST_F(PlaySoundTest, AServerThatHangsAtTheStartCostsOnlySilence) {
+    waitForRecorder();
+    pulseaudio->signal(SIGSTOP);
+    Child player({VELM_PLAYER, "--scale", "1"}, withDisplay());
+    ASSERT_TRUE(eventually([this] { return session.findDemo() != 0; })) << player.errors();
+    // The first second shows the logo, and then the demo moves.
+    const double begin = secondsNow();
+    ASSERT_TRUE(eventually([this] { return isPictureMoving(); }, 4));
+    EXPECT_LT(secondsNow() - begin, 2.5) << "no picture waits for the sound";
+    EXPECT_EQ(player.output(), "") << "no sound answers yet";
+    pulseaudio->signal(SIGCONT);
+    EXPECT_TRUE(eventually([this] { return !isSilent(recorded()); })) << "the sound comes when it can";
+    EXPECT_EQ(player.output(), "sound: pulseaudio\n");
+    session.press("Escape");
+    EXPECT_EQ(player.waitForExit(), 0);
+    EXPECT_EQ(player.errors(), "");
 }
 
 } // namespace
