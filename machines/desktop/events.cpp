@@ -234,7 +234,7 @@ void XKBD_poll(XKBD* keyboard) {
 void XKBD_rest(XKBD*) {
     constexpr int microsPerMilli = 1000;
     const bool spoke = CLOCK_now() < playerWindow.textUntil;
-    SDL_WaitEventTimeout(nullptr, XKBD_longestRest / microsPerMilli);
+    SDL_Delay(XKBD_longestRest / microsPerMilli);
     if (spoke && CLOCK_now() >= playerWindow.textUntil) {
         playerWindow.redraw(); // what was said goes
     }

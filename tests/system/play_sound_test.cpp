@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The player on a real sound server: by its own protocol, through the stand-in for "/dev/dsp", and through the
-// server's silence and death.
+// The player on a real sound server: by its own protocol, through the stand-in for "/dev/dsp", and through
+// the server's silence and death.
 #include "sound_server.h"
 
 #include <csignal>

@@ -14,6 +14,7 @@
 #include "x11_session.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -121,6 +122,14 @@ public:
         const auto& frames = captured();
         const auto found = std::find_if(frames.begin() + startFrames, frames.end(), matches);
         return found == frames.end() ? 0 : static_cast<std::size_t>(found - frames.begin()) + 1;
+    }
+
+    /// The same of a player that runs: it is stopped while it is looked at.
+    [[nodiscard]] bool runsAt(int scale, int left, int top) const {
+        player->signal(SIGSTOP);
+        const bool found = shown(scale, left, top) != 0;
+        player->signal(SIGCONT);
+        return found;
     }
 
     /// Waits for the server: it reads the player's connection and the viewer's in the order that it likes.

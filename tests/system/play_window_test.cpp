@@ -185,14 +185,7 @@ TEST(PlaySaver, DrawsIntoAWindowOfAnothersFollowsItAndEndsWithIt) {
         stage.more = {{"XSCREENSAVER_WINDOW", byVariable ? number : ""}};
         stage.start(byVariable ? std::vector<std::string>{"--root"}
                                : std::vector<std::string>{"--window-id", std::to_string(stage.window)});
-        // Stopped, it cannot draw the next picture while this one is compared.
-        const auto showsFrame = [&](int scale, int left, int top) {
-            stage.player->signal(SIGSTOP);
-            const bool found = stage.shown(scale, left, top) != 0;
-            stage.player->signal(SIGCONT);
-            return found;
-        };
-        EXPECT_TRUE(eventually([&] { return showsFrame(1, 22, 12); }, 10));
+        EXPECT_TRUE(eventually([&] { return stage.runsAt(1, 22, 12); }, 10));
         XWindowAttributes attributes{};
         XGetWindowAttributes(display, stage.window, &attributes);
         constexpr long input =
@@ -201,7 +194,7 @@ TEST(PlaySaver, DrawsIntoAWindowOfAnothersFollowsItAndEndsWithIt) {
         stage.session.press("Escape");
         XResizeWindow(display, stage.window, 520, 440);
         XSync(display, False);
-        EXPECT_TRUE(eventually([&] { return showsFrame(1, 132, 92); }, 10));
+        EXPECT_TRUE(eventually([&] { return stage.runsAt(1, 132, 92); }, 10));
         XDestroyWindow(display, stage.window);
         XSync(display, False);
         EXPECT_EQ(stage.player->waitForExit(), 0);
@@ -226,12 +219,52 @@ TEST(PlaySaver, OnTheRootItDrawsIntoWhatStandsInForIt) {
             XSync(display, False);
         }
         stage.start({"--root"});
-        stage.player->signal(SIGSTOP);
-        EXPECT_NE(hasStandIn ? stage.shown(1, 72, 22) : stage.shown(1, 192, 112), 0U) << hasStandIn;
-        stage.player->signal(SIGCONT);
+        EXPECT_TRUE(hasStandIn ? stage.runsAt(1, 72, 22) : stage.runsAt(1, 192, 112)) << hasStandIn;
         stage.player->signal(SIGTERM);
         EXPECT_EQ(stage.player->waitForExit(), 128 + SIGTERM) << "as screen savers are ended";
     }
+}
+
+/// A Wayland compositor; its folder has its socket.
+struct Compositor {
+    Folder folder;
+    Child child;
+
+    Compositor(const Stage& stage, std::vector<std::string> arguments)
+        : child(complete(std::move(arguments)),
+                {{"DISPLAY", stage.server.display()}, {"XDG_RUNTIME_DIR", folder.path}}) {
+        EXPECT_TRUE(eventually([this] { return std::filesystem::exists(folder.path + "/velm"); }));
+    }
+    static std::vector<std::string> complete(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), {"weston", "--no-config", "--socket=velm", "--idle-time=0"});
+        return arguments;
+    }
+    [[nodiscard]] Environment environment() const {
+        return {{"WAYLAND_DISPLAY", "velm"}, {"XDG_RUNTIME_DIR", folder.path}};
+    }
+};
+
+TEST(PlayWayland, ItIsNativeWhereTheCompositorHasASeatAndGoesOnToX11WhereItHasNone) {
+    Stage stage("24", "640x600");
+    {
+        const Compositor seatless(stage, {"--backend=headless-backend.so"});
+        stage.more = seatless.environment();
+        stage.play({"--scale", "2"});
+        EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 0, 0); }, 10));
+        stage.session.press("Escape");
+        EXPECT_EQ(stage.player->waitForExit(), 0);
+        EXPECT_EQ(stage.player->errors(), "");
+    }
+    const Compositor compositor(stage, {"--backend=x11-backend.so", "--shell=kiosk-shell.so", "--use-pixman",
+                                        "--width=640", "--height=600"});
+    Environment environment = compositor.environment();
+    environment.emplace_back("DISPLAY", "");
+    stage.player =
+        std::make_unique<Child>(std::vector<std::string>{VELM_PLAYER, "--sound", "none"}, environment);
+    stage.window = DefaultRootWindow(stage.session.connection); // the compositor's window covers it
+    EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 64, 44); }, 20)) << stage.player->errors();
+    stage.session.press("Escape");
+    EXPECT_EQ(stage.player->waitForExit(), 0);
 }
 
 } // namespace
