@@ -1,27 +1,47 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "x11/keyboard.h"
+
+#include "platform/clock.h"
 #include "platform/xkbd.h"
-#include "x11/display.h"
+#include "x11/events.h"
 
 #include <X11/Xutil.h>
+#include <X11/keysym.h>
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 
 namespace velm {
 
 namespace {
 
 constexpr int lookedUpBytes = 8;
-constexpr char escape = 27;
 
-/// True when the window's close button was pressed since the last call.
-bool takeClose() {
-    XEvent event;
-    return XCheckTypedWindowEvent(x11Display.connection, x11Display.window, ClientMessage, &event) != 0 &&
-           event.xclient.message_type == x11Display.protocols &&
-           static_cast<Atom>(event.xclient.data.l[0]) == x11Display.deleteWindow;
+std::int32_t keycodeOf(KeySym symbol, unsigned int keycode) {
+    constexpr std::int32_t up = 98;
+    constexpr std::int32_t down = 104;
+    switch (symbol) {
+    case XK_Up:
+    case XK_KP_Up:
+        return up;
+    case XK_Down:
+    case XK_KP_Down:
+        return down;
+    default:
+        return keycode == up || keycode == down ? 0 : static_cast<std::int32_t>(keycode);
+    }
 }
 
 } // namespace
+
+PressedKey x11LookUp(XKeyEvent& event) {
+    PressedKey press{.micros = CLOCK_now()};
+    KeySym symbol = NoSymbol;
+    XLookupString(&event, press.text, lookedUpBytes, &symbol, nullptr);
+    press.keycode = keycodeOf(symbol, event.keycode);
+    return press;
+}
 
 void XKBD_poll(XKBD* keyboard) {
     if (keyboard == nullptr) {
@@ -32,15 +52,21 @@ void XKBD_poll(XKBD* keyboard) {
         XKBD_error();
         return;
     }
-    if (takeClose()) {
-        keyboard->text[0] = escape;
+    x11TakeEvents();
+    if (const std::optional<PressedKey> press = takeKey(x11Events.keys, CLOCK_now())) {
+        std::copy(std::begin(press->text), std::end(press->text), keyboard->text);
+        keyboard->keycode = press->keycode;
+    }
+}
+
+void XKBD_rest(XKBD*) {
+    if (!XDPY_isOpen()) {
         return;
     }
-    XEvent event;
-    if (XCheckWindowEvent(x11Display.connection, x11Display.window, KeyPressMask, &event) != 0) {
-        XLookupString(&event.xkey, keyboard->text, lookedUpBytes, nullptr, nullptr);
-        keyboard->keycode = static_cast<std::int32_t>(event.xkey.keycode);
-    }
+    // Nobody else would notice now that the window is gone.
+    XWindowAttributes attributes{};
+    x11IsViewable(attributes);
+    x11AwaitKey(XKBD_longestRest);
 }
 
 } // namespace velm

@@ -39,7 +39,11 @@ std::int32_t OSS_open(const char* path) {
 }
 
 std::int32_t OSS_request(std::int32_t device, DspRequest request, std::int32_t* word) {
-    return ioctl(device, static_cast<unsigned long>(request), word);
+    const int answer = ioctl(device, static_cast<unsigned long>(request), word);
+    if (request == DspRequest::blockSize && (*word <= 0 || *word > OSS_largestBlock)) {
+        return -1;
+    }
+    return answer;
 }
 
 std::int32_t OSS_write(std::int32_t device, const std::int16_t* block, std::int32_t samples) {
@@ -47,7 +51,9 @@ std::int32_t OSS_write(std::int32_t device, const std::int16_t* block, std::int3
 }
 
 void OSS_close(std::int32_t device) {
-    close(device);
+    if (device >= 0) {
+        close(device);
+    }
 }
 
 } // namespace velm

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/memory.h"
 #include "platform/xptr.h"
-#include "x11/display.h"
+#include "x11/events.h"
 
 #include <iterator>
 
@@ -39,12 +39,6 @@ bool isUsable(const XPTR* pointer) {
     return true;
 }
 
-void place(XPTR* pointer, int windowX, int windowY) {
-    pointer->x = windowX;
-    pointer->y = windowY;
-    x11ToPicture(pointer->x, pointer->y);
-}
-
 /// Sets or clears a button's bit. The state is that before the event, so a button that was held is being let
 /// go.
 void applyButton(XPTR* pointer, const XButtonEvent& event) {
@@ -57,6 +51,11 @@ void applyButton(XPTR* pointer, const XButtonEvent& event) {
     } else {
         pointer->buttons |= 1 << button;
     }
+}
+
+void forgetPointerEvents() {
+    x11Events.motion.reset();
+    x11Events.button.reset();
 }
 
 } // namespace
@@ -80,16 +79,17 @@ void XPTR_poll(XPTR* pointer) {
     if (!isUsable(pointer)) {
         return;
     }
-    XEvent event;
+    x11TakeEvents();
     // XPTR_firstMotionWins: one expects the latest position; the frame's first motion is taken and XPTR_flush
     // drops the rest, so a fast pointer trails behind.
-    if (XCheckWindowEvent(x11Display.connection, x11Display.window, PointerMotionMask, &event) != 0) {
-        place(pointer, event.xmotion.x, event.xmotion.y);
+    if (x11Events.motion) {
+        pointer->x = x11Events.motion->x;
+        pointer->y = x11Events.motion->y;
     }
-    if (XCheckWindowEvent(x11Display.connection, x11Display.window, ButtonPressMask | ButtonReleaseMask,
-                          &event) != 0) {
-        applyButton(pointer, event.xbutton);
+    if (x11Events.button) {
+        applyButton(pointer, *x11Events.button);
     }
+    forgetPointerEvents();
     hidePointer();
 }
 
@@ -106,7 +106,8 @@ void XPTR_query(XPTR* pointer) {
     unsigned int state = 0;
     if (XQueryPointer(x11Display.connection, x11Display.window, &root, &child, &rootX, &rootY, &x, &y,
                       &state) != 0) {
-        place(pointer, x, y);
+        pointer->x = x;
+        pointer->y = y;
         for (unsigned int button = 0; button < std::size(buttonMasks); ++button) {
             const std::int32_t bit = 1 << button;
             const bool held = (state & buttonMasks[button]) != 0;
@@ -120,10 +121,8 @@ std::int32_t XPTR_flush(XPTR* pointer) {
     // Without a record the events are discarded all the same.
     isUsable(pointer);
     if (XDPY_isOpen()) {
-        constexpr long pointerEvents = PointerMotionMask | ButtonPressMask | ButtonReleaseMask;
-        XEvent event;
-        while (XCheckWindowEvent(x11Display.connection, x11Display.window, pointerEvents, &event) != 0) {
-        }
+        x11TakeEvents();
+        forgetPointerEvents();
     }
     return 0;
 }

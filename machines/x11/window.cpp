@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/memory.h"
-#include "platform/xkbd.h"
-#include "x11/display.h"
+#include "x11/events.h"
 #include "x11/pixels.h"
+#include "x11/properties.h"
 
 #include <algorithm>
-#include <poll.h>
+#include <cstdlib>
+#include <unistd.h>
 
 namespace velm {
 
@@ -24,6 +25,36 @@ std::uint32_t rootDepth() {
     return static_cast<std::uint32_t>(DefaultDepth(x11Display.connection, 0));
 }
 
+/// Gives a window manager a moment to map the window, so that the start-up picture is seen; without one the
+/// window is there at once.
+void awaitWindowManager() {
+    constexpr int tries = 100;
+    constexpr useconds_t pause = 1000;
+    XWindowAttributes attributes{};
+    for (int i = 0; i < tries && !x11IsViewable(attributes); ++i) {
+        usleep(pause);
+    }
+}
+
+/// A black image in the layout of the default visual, or nullptr.
+XImage* makeBlackImage(std::uint32_t width, std::uint32_t height) {
+    XImage* const image =
+        XCreateImage(x11Display.connection, DefaultVisual(x11Display.connection, x11Display.screen),
+                     static_cast<unsigned int>(DefaultDepth(x11Display.connection, x11Display.screen)),
+                     ZPixmap, 0, nullptr, width, height, BitmapPad(x11Display.connection), 0);
+    if (image == nullptr) {
+        return nullptr;
+    }
+    // Xlib frees the samples, and does so with free().
+    image->data = static_cast<char*>(std::calloc(static_cast<std::size_t>(image->height),
+                                                 static_cast<std::size_t>(image->bytes_per_line)));
+    if (image->data == nullptr) {
+        XDestroyImage(image);
+        return nullptr;
+    }
+    return image;
+}
+
 /// An image of the window's size: what the server shows, or an empty one where it cannot tell (a window that
 /// is partly off the screen).
 XImage* makeImage(const XDPY* display) {
@@ -33,9 +64,7 @@ XImage* makeImage(const XDPY* display) {
         image = XGetImage(x11Display.connection, x11Display.window, 0, 0, display->width, display->height,
                           AllPlanes, ZPixmap);
     }
-    return image != nullptr ? image
-                            : x11NewImage(static_cast<std::int32_t>(display->width),
-                                          static_cast<std::int32_t>(display->height));
+    return image != nullptr ? image : makeBlackImage(display->width, display->height);
 }
 
 bool haveImage(const XDPY* display) {
@@ -48,7 +77,7 @@ bool haveImage(const XDPY* display) {
 } // namespace
 
 XDPY* XDPY_open() {
-    x11Connect("velm4030");
+    x11Connect();
     XDPY* const display = allocateRecord<XDPY>();
     XDPY_current = display;
     if (display == nullptr) {
@@ -65,6 +94,7 @@ XDPY* XDPY_open() {
     display->height = windowSize;
     display->depth = rootDepth();
     x11ReceiveClose();
+    x11Describe();
     XFlush(x11Display.connection);
     XMapWindow(x11Display.connection, x11Display.window);
     XRaiseWindow(x11Display.connection, x11Display.window);
@@ -74,30 +104,16 @@ XDPY* XDPY_open() {
     XDPY_resize(display, windowSize, windowSize);
     XStoreName(x11Display.connection, x11Display.window, "VELM4030");
     XFlush(x11Display.connection);
-    x11WaitForWindowManager();
+    awaitWindowManager();
     return display;
 }
 
 void XDPY_selectInput() {
-    static_assert(x11InputEvents == 0x204F);
+    constexpr long inputEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
+                                 PointerMotionMask | ButtonMotionMask;
+    static_assert(inputEvents == 0x204F);
     if (XDPY_isOpen()) {
-        XSelectInput(x11Display.connection, x11Display.window, x11InputEvents);
-    }
-}
-
-void x11ToPicture(std::int32_t&, std::int32_t&) {}
-
-void XKBD_rest(XKBD*) {
-    if (!XDPY_isOpen()) {
-        return;
-    }
-    // Nobody else would notice now that the window is gone.
-    XWindowAttributes attributes{};
-    x11IsViewable(attributes);
-    if (XPending(x11Display.connection) == 0) {
-        constexpr int microsPerMilli = 1000;
-        pollfd input{ConnectionNumber(x11Display.connection), POLLIN, 0};
-        poll(&input, 1, XKBD_longestRest / microsPerMilli);
+        XSelectInput(x11Display.connection, x11Display.window, inputEvents);
     }
 }
 

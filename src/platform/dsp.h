@@ -36,14 +36,15 @@ constexpr std::int32_t DSP_blockBytes(std::int32_t framesPerSecond) {
 /// bytes of the block that suits it, or 0 where the device's own block stays.
 std::int32_t DSP_frameRate(std::int32_t device, std::int32_t framesPerSecond);
 
-/// Opens the device for writing and gives its descriptor, or a negative number.
+/// Opens the device for writing and gives its descriptor, or a negative number; so when it takes too long.
 std::int32_t DSP_open(const char* path);
 
 /// Makes a request: a negative number when it is refused. `word` is nullptr for `reset`.
 std::int32_t DSP_request(std::int32_t device, DspRequest request, std::int32_t* word);
 
-/// Hands over a block, once, waiting while the device is full. Gives the bytes taken, perhaps fewer than
-/// offered, or -1.
+/// Hands over a block, once, waiting while the device is full, which paces the frames; a device that takes
+/// nothing for seconds may be given up, with one line. Gives the bytes taken, perhaps fewer than offered, or
+/// -1.
 std::int32_t DSP_write(std::int32_t device, const std::int16_t* block, std::int32_t samples);
 
 /// Closes the device.

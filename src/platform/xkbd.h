@@ -16,7 +16,7 @@ namespace velm {
 
 struct XKBD {
     char* text; ///< owned, 9 bytes: what the last key press stands for, at most 8 bytes; "" for arrow keys
-    std::int32_t keycode; ///< the X keycode of the last key press
+    std::int32_t keycode; ///< the X keycode of the last key press; 98 and 104 are Up and Down
 };
 
 extern const IDENTITY XKBD_identity;
@@ -26,9 +26,9 @@ extern std::uint8_t XKBD_verbose;
 /// input.
 XKBD* XKBD_new();
 
-/// Takes one pending key press, if there is one, without waiting; else the record stays as it is. The
-/// window's close button arrives as the Escape key. A missing record is reported and ends the program with
-/// status 0.
+/// Takes one pending key press, if there is one, without waiting; else the record stays as it is. Presses
+/// come in order, but for an Escape that has waited for half a second (see key_queue.h). The window's close
+/// button arrives as the Escape key. A missing record is reported and ends the program with status 0.
 void XKBD_poll(XKBD* keyboard);
 
 /// The longest rest of a paused demo in microseconds: short enough for a key to seem to act at once.

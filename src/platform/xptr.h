@@ -36,7 +36,8 @@ void XPTR_poll(XPTR* pointer);
 /// Asks the server for the position and the buttons.
 void XPTR_query(XPTR* pointer);
 
-/// Discards every pending motion and button event; returns 0.
+/// Discards every pending motion and button event; returns 0. A machine need not keep what would be
+/// discarded.
 std::int32_t XPTR_flush(XPTR* pointer);
 
 /// 1 when all seven fields are equal, else 0.

@@ -3,7 +3,7 @@
 //
 // XSND, the only way sound leaves the program: a queue of borrowed samples, written to the device one block a
 // call as signed 16-bit mono, 44100 a second. The write waits while the device is full, so it helps to pace
-// the frames. Without a device everything works and nothing is heard.
+// the frames. Without a device, or with one that never answers, everything works and nothing is heard.
 //
 //     XSND* sound = XSND_new();
 //     LIST_append(sound->queue, bar);

@@ -8,6 +8,7 @@
 #include "support/owned.h"
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdarg>
 #include <cstring>
@@ -172,7 +173,7 @@ TEST_F(XsndTest, ADeviceThatRefusesIsAsGoodAsNone) {
         EXPECT_EQ(static_cast<int>(device.requests.size()), request + 1);
     }
     device.refused = -1;
-    for (const std::int32_t bytes : {0, 1, -6}) {
+    for (const std::int32_t bytes : {0, 1, -6, (1 << 20) + 2, 0x7FFFFFFE}) {
         device.blockBytes = bytes;
         expectSilence();
     }
@@ -211,22 +212,25 @@ TEST_F(XsndTest, AVanishedServerDoesNotKill) {
     EXPECT_EQ(sound->samplesWritten, 0);
 }
 
-TEST_F(XsndTest, ASignalEndsAWaitingWrite) {
+TEST_F(XsndTest, ADeviceThatTakesNothingIsGivenUpAndTheFramesGoOn) {
     openWithBlockOf(4);
     const std::vector<char> filler(1 << 20);
     while (send(sound->fd, filler.data(), filler.size(), MSG_DONTWAIT) > 0) {
     }
-    queue(first, {1, 2, 3, 4});
-    struct sigaction action {};
-    action.sa_handler = [](int) {};
-    sigaction(SIGALRM, &action, nullptr);
-    // Ticks go on until the write has begun to wait and been interrupted.
-    itimerval ticks{{0, 5000}, {0, 5000}};
-    setitimer(ITIMER_REAL, &ticks, nullptr);
+    queue(first, {1, 2, 3, 4, 5, 6, 7, 8});
+    using std::chrono::steady_clock;
+    const auto begin = steady_clock::now();
+    testing::internal::CaptureStderr();
     EXPECT_EQ(XSND_play(sound), 1);
-    ticks = {};
-    setitimer(ITIMER_REAL, &ticks, nullptr);
+    EXPECT_GE(steady_clock::now() - begin, std::chrono::seconds(1)) << "a slow device is waited for";
+    for (int frame = 0; frame < 10; ++frame) {
+        XSND_play(sound);
+    }
+    EXPECT_LT(steady_clock::now() - begin, std::chrono::seconds(4));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "velm4030: playing silent, no answer from \"/dev/dsp\"\n");
     EXPECT_EQ(sound->samplesWritten, 0);
+    EXPECT_EQ(sound->queue->count, 0) << "the queue goes on";
 }
 
 TEST_F(XsndTest, FailuresAreReported) {

@@ -10,10 +10,13 @@
 #include "support/images.h"
 #include "x11_session.h"
 
+#include <X11/Xatom.h>
 #include <X11/Xutil.h>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <unistd.h>
+#include <vector>
 
 namespace velm::test {
 namespace {
@@ -71,6 +74,21 @@ protected:
             << difference;
     }
 
+    /// The 32-bit words of a property of the window.
+    [[nodiscard]] std::vector<unsigned long> words(const char* property) const {
+        ::Atom type = 0;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long left = 0;
+        unsigned char* bytes = nullptr;
+        XGetWindowProperty(session.connection, window, XInternAtom(session.connection, property, False), 0,
+                           1 << 16, False, XA_CARDINAL, &type, &format, &count, &left, &bytes);
+        const auto* const first = reinterpret_cast<const unsigned long*>(bytes);
+        std::vector<unsigned long> all(first, first + count);
+        XFree(bytes);
+        return all;
+    }
+
     Session session{server().display()};
     XDPY* display = nullptr;
     ::Window window = 0;
@@ -97,6 +115,28 @@ TEST_F(DisplayTest, TheWindowHasItsTitleSizeAndPlace) {
     EXPECT_EQ(XDPY_getName(nullptr), nullptr);
     EXPECT_EQ(XDPY_same(display, display), 1);
     EXPECT_EQ(XDPY_get(display), display);
+}
+
+TEST_F(DisplayTest, TheWindowTellsADesktopWhatItIs) {
+    XClassHint names{};
+    ASSERT_NE(XGetClassHint(session.connection, window, &names), 0);
+    EXPECT_STREQ(names.res_name, "velm4030");
+    EXPECT_STREQ(names.res_class, "VELM4030");
+    XTextProperty machine{};
+    ASSERT_NE(XGetWMClientMachine(session.connection, window, &machine), 0);
+    char host[256] = "";
+    gethostname(host, sizeof host - 1);
+    EXPECT_STREQ(reinterpret_cast<const char*>(machine.value), host);
+    EXPECT_EQ(words("_NET_WM_PID"), std::vector<unsigned long>{static_cast<unsigned long>(getpid())});
+    const auto icon = words("_NET_WM_ICON");
+    ASSERT_EQ(icon.size(), 2U + 48 * 48);
+    EXPECT_EQ(icon[0], 48U);
+    EXPECT_EQ(icon[1], 48U);
+    EXPECT_EQ(icon[2] >> 24, 0U) << "the corner of the tile is round";
+    EXPECT_EQ(icon[2 + 24 * 48 + 24] >> 24 & 0xFF, 0xFFU) << "its middle is not";
+    XFree(names.res_name);
+    XFree(names.res_class);
+    XFree(machine.value);
 }
 
 TEST_F(DisplayTest, AFrameIsOnTheScreenBitForBit) {
@@ -167,7 +207,7 @@ TEST_F(DisplayTest, KeysComeOneAPollWithTextAndKeycode) {
     poll(); // the Shift that xdotool holds for the capital
     EXPECT_EQ(poll(), "B");
     EXPECT_EQ(poll(), "");
-    EXPECT_EQ(keyboard->keycode, XKeysymToKeycode(session.connection, XK_Up));
+    EXPECT_EQ(keyboard->keycode, 98) << "the arrow up, whatever keycode the keymap has for it";
     session.sendClose(window);
     EXPECT_TRUE(eventually([&] {
         XKBD_poll(keyboard);
@@ -195,16 +235,29 @@ TEST_F(DisplayTest, XPTR_firstMotionWins) {
     XPTR_flush(pointer);
     XPTR_poll(pointer);
     EXPECT_EQ(pointer->x, 200) << "nothing is left in the queue";
-    session.clickDown(3);
-    EXPECT_TRUE(eventually([&] {
-        XPTR_poll(pointer);
-        return pointer->buttons == 4;
-    }));
-    session.clickUp(3);
-    EXPECT_TRUE(eventually([&] {
-        XPTR_poll(pointer);
-        return pointer->buttons == 0;
-    }));
+    XPTR_delete(&pointer);
+}
+
+TEST_F(DisplayTest, EveryButtonHasItsBit) {
+    session.movePointer(128, 128);
+    XPTR* pointer = XPTR_new();
+    const auto become = [&](std::int32_t buttons) {
+        return eventually(
+            [&] {
+                XPTR_poll(pointer);
+                return pointer->buttons == buttons;
+            },
+            5);
+    };
+    for (const int button : {1, 2, 3}) {
+        session.clickDown(button);
+        EXPECT_TRUE(become(1 << (button - 1))) << button;
+        pointer->buttons = 0;
+        XPTR_query(pointer);
+        EXPECT_EQ(pointer->buttons, 1 << (button - 1)) << button;
+        session.clickUp(button);
+        EXPECT_TRUE(become(0)) << button;
+    }
     XPTR_delete(&pointer);
 }
 

@@ -6,29 +6,91 @@
 #include "foundation/identity.h"
 #include "running_demo.h"
 
+#include <X11/keysym.h>
+#include <arpa/inet.h>
+#include <array>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
 namespace velm::test {
 namespace {
 
-using ProgramTest = RunningDemo;
+class ProgramTest : public RunningDemo {
+protected:
+    /// Eleven minutes of keys that do nothing, at one key a frame.
+    void crowd() {
+        XEvent event{};
+        event.type = KeyPress;
+        event.xkey.keycode = XKeysymToKeycode(session->connection, XK_x);
+        session->send(session->findDemo(), event, KeyPressMask, 20000);
+    }
+};
+
+/// A display on a loopback address that answers the first message of a connection, as a real server told it,
+/// and then is gone.
+class ShortLivedDisplay {
+public:
+    explicit ShortLivedDisplay(const XServer& server) {
+        sockaddr_in place{};
+        place.sin_family = AF_INET;
+        place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t size = sizeof place;
+        bind(listener, reinterpret_cast<const sockaddr*>(&place), size);
+        getsockname(listener, reinterpret_cast<sockaddr*>(&place), &size);
+        name = "127.0.0.1:" + std::to_string(ntohs(place.sin_port) - 6000);
+        listen(listener, 1);
+        thread = std::thread([this, socketOfServer = "/tmp/.X11-unix/X" + server.display().substr(1)] {
+            answerOnce(socketOfServer);
+        });
+    }
+    ~ShortLivedDisplay() {
+        thread.join();
+        close(listener);
+    }
+    ShortLivedDisplay(const ShortLivedDisplay&) = delete;
+    ShortLivedDisplay& operator=(const ShortLivedDisplay&) = delete;
+
+    std::string name;
+
+private:
+    void answerOnce(const std::string& socketOfServer) const {
+        const int client = accept(listener, nullptr, nullptr);
+        const int server = socket(AF_UNIX, SOCK_STREAM, 0);
+        sockaddr_un place{};
+        place.sun_family = AF_UNIX;
+        socketOfServer.copy(place.sun_path, sizeof place.sun_path - 1);
+        connect(server, reinterpret_cast<const sockaddr*>(&place), sizeof place);
+        std::array<char, 65536> message{};
+        send(server, message.data(), bytes(recv(client, message.data(), message.size(), 0)), 0);
+        // Eight bytes, the last two of which count the words that follow.
+        const std::size_t head = bytes(recv(server, message.data(), 8, MSG_WAITALL));
+        std::uint16_t words = 0;
+        std::memcpy(&words, &message[6], sizeof words);
+        const std::size_t rest = bytes(recv(server, &message[8], 4U * words, MSG_WAITALL));
+        send(client, message.data(), head + rest, 0);
+        close(server);
+        close(client);
+    }
+    static std::size_t bytes(ssize_t count) { return count < 0 ? 0 : static_cast<std::size_t>(count); }
+
+    int listener = socket(AF_INET, SOCK_STREAM, 0);
+    std::thread thread;
+};
 
 TEST_F(ProgramTest, EscapeFadesOutIn32PresentationsAlsoDuringAPause) {
     waitForScene();
-    session->press("p");
-    std::size_t before = 0;
-    ASSERT_TRUE(eventually([&] {
-        const std::size_t earlier = before;
-        before = puts().size();
-        return earlier == before && (usleep(300000), puts().size() == before);
-    })) << "the pause presents nothing";
+    pause();
+    const std::size_t before = puts().size();
     session->press("Escape");
     EXPECT_EQ(demo.waitForExit(), 0) << demo.errors();
     const std::vector<Put> all = puts();
@@ -37,8 +99,9 @@ TEST_F(ProgramTest, EscapeFadesOutIn32PresentationsAlsoDuringAPause) {
     EXPECT_EQ(demo.errors(), "");
 }
 
-TEST_F(ProgramTest, TheCloseButtonFadesOutToo) {
+TEST_F(ProgramTest, TheCloseButtonFadesOutAlsoDuringAPause) {
     waitForScene();
+    pause();
     session->sendClose(session->findDemo());
     EXPECT_EQ(demo.waitForExit(), 0) << demo.errors();
     const std::vector<Put> all = puts();
@@ -46,6 +109,38 @@ TEST_F(ProgramTest, TheCloseButtonFadesOutToo) {
     for (std::size_t i = all.size() - 30; i < all.size(); ++i) {
         EXPECT_EQ(all[i].brightest, 0U) << i;
     }
+}
+
+TEST_F(ProgramTest, EscapeOvertakesACrowdOfKeys) {
+    waitForScene();
+    crowd();
+    session->press("Escape");
+    EXPECT_EQ(demo.waitForExit(5), 0);
+}
+
+TEST_F(ProgramTest, TheCloseButtonOvertakesACrowdOfKeys) {
+    waitForScene();
+    crowd();
+    session->sendClose(session->findDemo());
+    EXPECT_EQ(demo.waitForExit(5), 0);
+}
+
+TEST_F(ProgramTest, APauseRestsAndNothingPilesUpInIt) {
+    waitForScene();
+    pause();
+    const double before = demo.processorSeconds();
+    usleep(2000000);
+    EXPECT_LT(demo.processorSeconds() - before, VELM_IS_SANITIZED ? 0.4 : 0.1);
+    EXPECT_TRUE(demo.isRunning());
+    const long kilobytes = demo.peakKilobytes();
+    XEvent motion{};
+    motion.type = MotionNotify;
+    session->send(session->findDemo(), motion, PointerMotionMask, 300000);
+    const std::size_t pictures = puts().size();
+    session->press("p");
+    EXPECT_TRUE(eventually([&] { return puts().size() > pictures; }, 1)) << "a key acts at once";
+    EXPECT_TRUE(demo.isRunning());
+    EXPECT_LT(demo.peakKilobytes() - kilobytes, 16 * 1024);
 }
 
 TEST_F(ProgramTest, TheFirstPictureComesWithin50Milliseconds) {
@@ -73,7 +168,7 @@ TEST_F(ProgramTest, AKilledClientEndsItWithOneLine) {
 
 TEST_F(ProgramTest, ADestroyedWindowEndsItWithOneLineAlsoDuringAPause) {
     waitForScene();
-    session->press("p");
+    pause();
     XDestroyWindow(session->connection, session->findDemo());
     XFlush(session->connection);
     EXPECT_EQ(demo.waitForExit(), 1);
@@ -87,6 +182,14 @@ TEST(Program, WithoutADisplayItSaysSoAndLeaves) {
         EXPECT_EQ(demo.errors(), "velm4030: cannot open display \"" + std::string(display) + "\"\n");
         EXPECT_EQ(demo.output(), "");
     }
+}
+
+TEST(Program, ADisplayThatIsLostWhileItConnectsIsOneThatCannotBeOpened) {
+    const XServer server("24");
+    const ShortLivedDisplay display(server);
+    Child demo({VELM_PROGRAM}, {{"DISPLAY", display.name}});
+    EXPECT_EQ(demo.waitForExit(), 1);
+    EXPECT_EQ(demo.errors(), "velm4030: cannot open display \"" + display.name + "\"\n");
 }
 
 TEST(Program, OnADisplayWithoutChannelMasksItSaysSoAndLeaves) {

@@ -17,6 +17,8 @@
 #include <fstream>
 #include <optional>
 #include <string>
+#include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace velm::test {
@@ -30,13 +32,18 @@ struct Put {
 /// The finished program, started on a server of its own with the spy preloaded.
 class RunningDemo : public testing::Test {
 protected:
+    /// With more variables for the demo's environment.
+    explicit RunningDemo(Environment more = {}) : additions(std::move(more)) {}
+
     void TearDown() override { std::filesystem::remove(spyLog); }
 
     [[nodiscard]] Environment environment() const {
-        return {{"DISPLAY", server.display()},
-                {"LD_PRELOAD", VELM_X11_SPY},
-                {"VELM_SPY", spyLog},
-                {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+        Environment all = {{"DISPLAY", server.display()},
+                           {"LD_PRELOAD", VELM_X11_SPY},
+                           {"VELM_SPY", spyLog},
+                           {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+        all.insert(all.end(), additions.begin(), additions.end());
+        return all;
     }
 
     /// Every picture that the program has sent so far.
@@ -57,6 +64,22 @@ protected:
         ASSERT_TRUE(eventually([this] { return puts().size() > 60; }, 60)) << demo.errors();
     }
 
+    /// Waits until no picture comes any more.
+    void awaitStandstill() {
+        std::size_t before = 0;
+        ASSERT_TRUE(eventually([&] {
+            const std::size_t earlier = before;
+            before = puts().size();
+            return earlier == before && (usleep(300000), puts().size() == before);
+        })) << "pictures still come";
+    }
+
+    void pause() {
+        session->press("p");
+        awaitStandstill();
+    }
+
+    Environment additions;
     XServer server{"24"};
     std::optional<Session> session{server.display()};
     std::string spyLog = temporaryFile();

@@ -90,15 +90,21 @@ void Session::clickUp(int button) const {
     xdotool({"mouseup", std::to_string(button)});
 }
 
+void Session::send(::Window window, XEvent event, long mask, int times) const {
+    event.xany.window = window;
+    for (int i = 0; i < times; ++i) {
+        XSendEvent(connection, window, False, mask, &event);
+    }
+    XSync(connection, False);
+}
+
 void Session::sendClose(::Window window) const {
     XEvent event{};
     event.xclient.type = ClientMessage;
-    event.xclient.window = window;
     event.xclient.message_type = XInternAtom(connection, "WM_PROTOCOLS", False);
     event.xclient.format = 32;
     event.xclient.data.l[0] = static_cast<long>(XInternAtom(connection, "WM_DELETE_WINDOW", False));
-    XSendEvent(connection, window, False, NoEventMask, &event);
-    XFlush(connection);
+    send(window, event, NoEventMask);
 }
 
 bool Session::cursorIsVisible() const {

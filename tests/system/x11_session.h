@@ -40,6 +40,9 @@ public:
     void clickDown(int button) const;
     void clickUp(int button) const;
 
+    /// Sends the window an event, over and over, and waits until the server has passed them on.
+    void send(::Window window, XEvent event, long mask, int times = 1) const;
+
     /// What a window manager sends when the close button is pressed.
     void sendClose(::Window window) const;
 

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The finished program with sound devices that block or lie.
+#include "running_demo.h"
+
+#include <sys/stat.h>
+
+namespace velm::test {
+namespace {
+
+constexpr const char* silent = "velm4030: playing silent, no answer from \"/dev/dsp\"\n";
+
+class FaultyDevice : public RunningDemo {
+protected:
+    explicit FaultyDevice(const std::string& fault)
+        : RunningDemo({{"LD_PRELOAD", VELM_X11_SPY ":" VELM_FAULTY_DEVICE}, {"VELM_DEVICE", fault}}) {}
+
+    /// The picture moves, `said` is all that was said, memory is as ever, and Escape leaves.
+    void expectOnlySilence(const std::string& said) {
+        waitForScene();
+        EXPECT_TRUE(demo.isRunning());
+        EXPECT_EQ(demo.errors(), said);
+        EXPECT_LT(demo.peakKilobytes(), (VELM_IS_SANITIZED ? 512 : 48) * 1024);
+        session->press("Escape");
+        EXPECT_EQ(demo.waitForExit(), 0);
+    }
+};
+
+/// A pipe that nobody reads: to open it waits until somebody does.
+struct Fifo {
+    std::string path = temporaryFile();
+    Fifo() {
+        std::filesystem::remove(path);
+        mkfifo(path.c_str(), 0600);
+    }
+    ~Fifo() { std::filesystem::remove(path); }
+    Fifo(const Fifo&) = delete;
+    Fifo& operator=(const Fifo&) = delete;
+};
+
+class DeviceThatNeverOpens : private Fifo, public FaultyDevice {
+protected:
+    DeviceThatNeverOpens() : FaultyDevice(Fifo::path) {}
+};
+
+TEST_F(DeviceThatNeverOpens, CostsTheSoundAlone) {
+    ASSERT_TRUE(eventually([this] { return !puts().empty(); }));
+    EXPECT_LT(puts().front().milliseconds, VELM_IS_SANITIZED ? 3000 : 1500);
+    expectOnlySilence(silent);
+}
+
+class DeviceThatHangs : public FaultyDevice {
+protected:
+    DeviceThatHangs() : FaultyDevice("hanging") {}
+};
+
+TEST_F(DeviceThatHangs, CostsTheSoundAlone) {
+    expectOnlySilence(silent);
+}
+
+TEST_F(DeviceThatHangs, KeepsNobodyFromLeaving) {
+    session->movePointer(128, 128);
+    ASSERT_TRUE(eventually([this] { return puts().size() > 33; }));
+    awaitStandstill();
+    session->press("Escape");
+    EXPECT_EQ(demo.waitForExit(), 0);
+    EXPECT_EQ(demo.errors(), "") << "it left before the device was given up";
+}
+
+class DeviceWithHugeBlocks : public FaultyDevice {
+protected:
+    DeviceWithHugeBlocks() : FaultyDevice("huge") {}
+};
+
+TEST_F(DeviceWithHugeBlocks, CostsTheSoundAlone) {
+    expectOnlySilence("");
+}
+
+} // namespace
+} // namespace velm::test
