@@ -2,16 +2,21 @@
 // SPDX-License-Identifier: MIT
 //
 // The capture tool as a whole: its files, its arguments, and all the ways in which it ends.
+#include "capture/wav_file.h"
 #include "process.h"
 #include "support/images.h"
 
 #include <algorithm>
+#include <cmath>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <memory>
+#include <numeric>
 
 namespace velm::test {
 namespace {
@@ -41,6 +46,37 @@ protected:
         return all;
     }
 
+    /// Runs shell commands in the folder, "$capture" being the tool, and gives their status.
+    [[nodiscard]] int shell(const std::string& commands) const {
+        return runTool({"bash", "-c", "cd '" + folder + "' && capture='" VELM_CAPTURE "' && " + commands},
+                       {});
+    }
+
+    /// The names in the folder, in order, each with a space behind it.
+    [[nodiscard]] std::string names() const {
+        std::vector<std::string> all;
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            all.push_back(entry.path().filename().string() + " ");
+        }
+        std::sort(all.begin(), all.end());
+        return std::accumulate(all.begin(), all.end(), std::string());
+    }
+
+    /// Seconds of a stream of a file.
+    [[nodiscard]] double duration(const std::string& name, const std::string& stream) const {
+        EXPECT_EQ(shell("ffprobe -v error -select_streams " + stream +
+                        " -show_entries stream=duration -of csv=p=0 " + name + " > seconds"),
+                  0);
+        return std::atof(contents(path("seconds")).c_str());
+    }
+
+    [[nodiscard]] std::vector<std::int16_t> samples(const std::string& name) const {
+        const std::string bytes = contents(path(name));
+        std::vector<std::int16_t> all(bytes.size() / 2);
+        std::memcpy(all.data(), bytes.data(), 2 * all.size());
+        return all;
+    }
+
     [[nodiscard]] std::string path(const std::string& name) const { return folder + "/" + name; }
 
     std::string folder = [] {
@@ -49,6 +85,26 @@ protected:
     }();
     std::unique_ptr<Child> tool;
 };
+
+/// How many samples later than expected a quarter of a second of `sound` is found in `film`.
+int bestMatch(const std::vector<std::int16_t>& film, std::size_t expected,
+              const std::vector<std::int16_t>& sound, std::size_t start) {
+    constexpr int reach = 6000;
+    constexpr int length = 11025;
+    int best = 0;
+    double most = -1;
+    for (int shift = -reach; shift <= reach; shift += 4) {
+        const auto at = film.begin() + static_cast<std::ptrdiff_t>(expected) + shift;
+        const double likeness =
+            std::inner_product(at, at + length, sound.begin() + static_cast<std::ptrdiff_t>(start), 0.0);
+        const double energy = std::inner_product(at, at + length, at, 1.0);
+        if (likeness / std::sqrt(energy) > most) {
+            most = likeness / std::sqrt(energy);
+            best = shift;
+        }
+    }
+    return best;
+}
 
 TEST_F(CaptureTest, EveryFormTellsTheSame) {
     ASSERT_EQ(capture({"--frames", "40", "--raw", path("raw"), "--crc", path("crc"), "--ppm", path("ppm"),
@@ -136,6 +192,8 @@ TEST_F(CaptureTest, AnEndlessPauseIsToldWithItsFilesComplete) {
 }
 
 TEST_F(CaptureTest, WrongArgumentsGiveOneLineAndStatus2) {
+    ASSERT_EQ(shell("ln -s new link; ln -s . wider; touch file; ln file 'hard link'; mkfifo pipe"), 0);
+    const std::string before = names();
     const std::vector<std::vector<std::string>> wrong = {
         {},
         {"--frames", "0"},
@@ -148,8 +206,17 @@ TEST_F(CaptureTest, WrongArgumentsGiveOneLineAndStatus2) {
         {"--frames", "1", "--block", "1"},
         {"--frames", "1", "--scale", "0"},
         {"--frames", "1", "--audio", "-"},
+        {"--frames", "1", "--gain", "nan"},
         {"--frames", "1", "--raw", "-", "--crc", "-"},
-        {"--frames", "1", "--raw", "same", "--audio", "same"},
+        {"--frames", "1", "--raw", path("same"), "--audio", path("same")},
+        {"--frames", "1", "--raw", path("same"), "--audio", path("./same")},
+        {"--frames", "1", "--crc", path("new"), "--raw", path("link")},
+        {"--frames", "1", "--crc", path("new"), "--raw", path("wider/new")},
+        {"--frames", "1", "--crc", path("file"), "--mp4", path("hard link")},
+        {"--frames", "1", "--ppm", path("wider"), "--raw", path("frame-00001.ppm")},
+        {"--frames", "1", "--audio", path("pipe")},
+        {"--frames", "1", "--mp4", path("pipe")},
+        {"--frames", "1", "--mp4", "/dev/null"},
         {"--frames", "1", "unknown"}};
     for (const auto& arguments : wrong) {
         EXPECT_EQ(capture(arguments), 2) << (arguments.empty() ? "" : arguments.back());
@@ -157,6 +224,8 @@ TEST_F(CaptureTest, WrongArgumentsGiveOneLineAndStatus2) {
         EXPECT_EQ(line.substr(0, 18), "velm4030-capture: ");
         EXPECT_EQ(line.find('\n'), line.size() - 1) << line;
     }
+    EXPECT_EQ(shell("$capture --frames 1 --crc out --raw - > out"), 2) << "the shell has named the same file";
+    EXPECT_EQ(names(), before.substr(0, before.find("pipe")) + "out pipe wider ");
     EXPECT_EQ(capture({"--help"}), 0);
     EXPECT_EQ(capture({"--version"}), 0);
 }
@@ -169,12 +238,54 @@ TEST_F(CaptureTest, WhatCannotBeWrittenGivesOneLineAndLeavesNothingHalf) {
     EXPECT_EQ(WEXITSTATUS(std::system(full.c_str())), 1);
     EXPECT_EQ(contents(path("errors")),
               "velm4030-capture: cannot write standard output: No space left on device\n");
+}
+
+TEST_F(CaptureTest, AnOutputThatFailsLeavesTheOthersWhole) {
     // A small limit on the size of files stands in for a full disk.
-    const std::string limited = "cd '" + folder + "' && ulimit -f 1024 && trap '' XFSZ && exec " +
-                                VELM_CAPTURE + " --frames 50 --raw raw 2> errors";
-    EXPECT_EQ(WEXITSTATUS(std::system(limited.c_str())), 1);
-    EXPECT_FALSE(std::filesystem::exists(path("raw")));
-    EXPECT_FALSE(std::filesystem::exists(path("raw.part")));
+    EXPECT_EQ(
+        shell("ulimit -f 1024; exec $capture --frames 50 --raw raw --crc crc --audio wav --mp4 mp4 --scale 1"
+              " --ppm ppm 2> errors"),
+        1);
+    EXPECT_EQ(names(), "crc errors mp4 ppm wav ");
+    EXPECT_EQ(contents(path("errors")), "velm4030-capture: cannot write raw: File too large\n");
+    EXPECT_EQ(contents(path("crc")).substr(9 * 11 + 40 * 12, 3), "50 ");
+    EXPECT_EQ(contents(path("wav")).size(), 44U + 17 * 2942);
+}
+
+TEST_F(CaptureTest, AFilmThatFailsLeavesNothingBehind) {
+    EXPECT_EQ(shell("ulimit -f 16; exec $capture --frames 90 --crc crc --mp4 mp4 2> errors"), 1);
+    EXPECT_EQ(names(), "crc errors ");
+    EXPECT_EQ(contents(path("errors")), "velm4030-capture: cannot write mp4: File too large\n");
+    EXPECT_EQ(shell("PATH=/nowhere; exec $capture --frames 90 --crc crc --mp4 mp4 2> errors"), 1);
+    EXPECT_EQ(contents(path("errors")),
+              "velm4030-capture: cannot write mp4: ffmpeg is not installed, which makes the film\n");
+}
+
+TEST_F(CaptureTest, NothingElseInTheFolderIsTouched) {
+    ASSERT_EQ(shell("mkdir ppm; echo mine | tee target crc.part ppm/frame-00001.ppm.part mp4.part.mp4;"
+                    "ln -s target wav.part; ln -s target raw.part; chmod 640 target; ln -s target raw"),
+              0);
+    EXPECT_EQ(shell("$capture --frames 3 --crc crc --audio wav --ppm ppm --mp4 mp4 --scale 1"), 0);
+    for (const char* name : {"target", "crc.part", "ppm/frame-00001.ppm.part", "mp4.part.mp4"}) {
+        EXPECT_EQ(contents(path(name)), "mine\n") << name;
+    }
+    EXPECT_EQ(shell("umask 022; $capture --frames 3 --raw raw --crc crc"), 0);
+    EXPECT_EQ(contents(path("target")).size(), 3 * frameBytes) << "the link stays one";
+    EXPECT_EQ(shell("test $(stat -c %a target) = 640 -a $(stat -c %a crc) = 644"), 0);
+}
+
+TEST_F(CaptureTest, ASignalLeavesNothingBehind) {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        Child child({VELM_CAPTURE, "--frames", "1000000", "--crc", path("crc"), "--audio", path("wav"),
+                     "--mp4", path("mp4"), "--ppm", path("ppm"), "--raw", "/dev/null"},
+                    {});
+        ASSERT_TRUE(eventually([&] { return std::filesystem::exists(path("ppm/frame-00099.ppm")); }));
+        child.signal(number);
+        EXPECT_EQ(child.waitForExit(), 128 + number);
+        EXPECT_EQ(names(), "ppm ");
+        EXPECT_EQ(shell("ls -A ppm | grep -v '^frame-[0-9]*.ppm$'"), 1);
+        std::filesystem::remove_all(path("ppm"));
+    }
 }
 
 TEST_F(CaptureTest, PipesAndLinksStayWhatTheyAre) {
@@ -186,15 +297,6 @@ TEST_F(CaptureTest, PipesAndLinksStayWhatTheyAre) {
     EXPECT_EQ(contents(path("target")).size(), 3 * frameBytes);
     EXPECT_EQ(capture({"--frames", "2", "--ppm", path("heard")}), 1);
     EXPECT_EQ(tool->errors(), "velm4030-capture: cannot make the folder " + path("heard") + "\n");
-}
-
-TEST_F(CaptureTest, AFailingOutputTakesThePartsOfTheOthersAlong) {
-    const std::string limited = "cd '" + folder + "' && ulimit -f 1024 && trap '' XFSZ && exec " +
-                                VELM_CAPTURE +
-                                " --frames 50 --raw raw --crc crc --audio wav --mp4 film.mp4 2> errors";
-    EXPECT_EQ(WEXITSTATUS(std::system(limited.c_str())), 1);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1)
-        << "only the errors are left";
 }
 
 // Sanitizers need memory of their own, and time.
@@ -213,12 +315,14 @@ TEST_F(CaptureTest, LongRunsAreRepeatableAndStaySmall) {
 }
 #endif
 
-TEST_F(CaptureTest, AClosedPipeEndsItQuietly) {
-    const std::string piped = "set -o pipefail; " + std::string(VELM_CAPTURE) +
-                              " --frames 100000 --raw - 2> '" + path("errors") +
-                              "' | head -c 1000 > /dev/null";
-    EXPECT_EQ(WEXITSTATUS(runTool({"bash", "-c", piped}, {}) << 8), 0);
+TEST_F(CaptureTest, AClosedPipeEndsThatOutputAlone) {
+    EXPECT_EQ(shell("set -o pipefail; $capture --frames 100000 --raw - 2> errors | head -c 1000 > start"), 0);
     EXPECT_EQ(contents(path("errors")), "");
+    EXPECT_EQ(
+        shell("set -o pipefail; $capture --frames 50 --raw - --crc crc 2> errors | head -c 1000 > start"), 1);
+    EXPECT_EQ(contents(path("errors")),
+              "velm4030-capture: cannot write all of standard output: its reader has left\n");
+    EXPECT_EQ(contents(path("crc")).substr(9 * 11 + 40 * 12, 3), "50 ");
 }
 
 TEST_F(CaptureTest, AFilmHasAPictureForEveryTickAndItsSound) {
@@ -234,6 +338,71 @@ TEST_F(CaptureTest, AFilmHasAPictureForEveryTickAndItsSound) {
     EXPECT_NE(streams.find("video,256,90"), std::string::npos) << streams;
     EXPECT_NE(streams.find("audio"), std::string::npos) << streams;
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2) << "no parts are left";
+}
+
+TEST_F(CaptureTest, AWavFileBeyond4GiBTellsItsLength) {
+    const std::uint64_t lengths[] = {88200, 0xFFFFFFFF - 73, 0xFFFFFFFF - 71, 6'000'000'000};
+    for (const std::uint64_t length : lengths) {
+        const std::vector<std::byte> header = wavHeader(length, WavRoom::long64);
+        EXPECT_EQ(static_cast<char>(header[3]), length < 0xFFFFFFFF - 72 ? 'F' : '4') << "RIFF or RF64";
+        std::ofstream(path("wav"), std::ios::binary)
+            .write(reinterpret_cast<const char*>(header.data()), static_cast<std::streamsize>(header.size()));
+        std::filesystem::resize_file(path("wav"), header.size() + length); // takes no room on the disk
+        EXPECT_NEAR(duration("wav", "a:0"), static_cast<double>(length) / 88200, 0.01) << length;
+    }
+    // 14 hours might need it, what was made of them does not.
+    EXPECT_EQ(capture({"--frames", "1500000", "--keys", "40:esc", "--audio", path("wav")}), 0);
+    EXPECT_EQ(contents(path("wav")).substr(12, 4), "JUNK");
+    EXPECT_NEAR(duration("wav", "a:0"), 7 * 1471 / 44100.0, 1e-5);
+}
+
+TEST_F(CaptureTest, AFilmsSoundLiesWhereItsPicturesAre) {
+    const std::vector<std::vector<std::string>> films = {
+        {"--frames", "633", "--keys", "100:0,250:0"},
+        {"--frames", "400", "--keys", "100:6"},
+        {"--frames", "400", "--keys", "100:5", "--rate", "60"},
+        {"--frames", "200", "--rate", "60", "--block", "2942"}};
+    for (std::vector<std::string> film : films) {
+        film.insert(film.end(), {"--mp4", path("mp4"), "--scale", "1"});
+        ASSERT_EQ(capture(film), 0) << tool->errors();
+        EXPECT_GT(duration("mp4", "v:0"), 2);
+        EXPECT_NEAR(duration("mp4", "v:0"), duration("mp4", "a:0"), 0.1) << film[3];
+    }
+    // Five seconds without sound; the device is handed what comes after them right after what came before.
+    ASSERT_EQ(capture({"--frames", "900", "--keys", "650:0,800:0", "--mp4", path("mp4"), "--scale", "1",
+                       "--gain", "0", "--audio", path("wav")}),
+              0);
+    ASSERT_EQ(shell("ffmpeg -v error -i mp4 -f s16le film.pcm; ffmpeg -v error -i wav -f s16le wav.pcm"), 0);
+    const std::vector<std::int16_t> film = samples("film.pcm");
+    const std::vector<std::int16_t> sound = samples("wav.pcm");
+    constexpr std::size_t muted = (650 - 33) * 1470; // samples
+    constexpr std::size_t gap = 150 * 1470;
+    constexpr std::size_t second = 44100;
+    const auto quiet = [](std::int16_t value) { return std::abs(value) < 8; };
+    ASSERT_GT(film.size(), muted + gap + 2 * second);
+    EXPECT_TRUE(std::all_of(&film[muted + second / 5], &film[muted + gap - second / 5], quiet));
+    EXPECT_FALSE(std::all_of(&sound[muted - second], &sound[muted], quiet));
+    EXPECT_NEAR(bestMatch(film, muted - second, sound, muted - second), 0, 200);
+    EXPECT_NEAR(bestMatch(film, muted + second + gap, sound, muted + second), 0, 200);
+}
+
+TEST_F(CaptureTest, FilmsAreLouderAndWavFilesExact) {
+    ASSERT_EQ(capture({"--frames", "700", "--audio", path("exact"), "--mp4", path("mp4"), "--scale", "1"}),
+              0);
+    ASSERT_EQ(capture({"--frames", "700", "--audio", path("loud"), "--gain", "12"}), 0);
+    ASSERT_EQ(capture({"--frames", "700", "--audio", path("same"), "--gain", "0"}), 0);
+    ASSERT_EQ(
+        shell("for f in exact loud mp4; do ffmpeg -v error -i $f -f s16le $f.pcm; done; cmp exact same"), 0);
+    const std::vector<std::int16_t> exact = samples("exact.pcm");
+    const std::vector<std::int16_t> loud = samples("loud.pcm");
+    for (std::size_t i = 0; i < exact.size(); ++i) {
+        ASSERT_NEAR(loud[i], std::clamp(exact[i] * 3.9811, -32768.0, 32767.0), 0.6) << i;
+    }
+    const auto energy = [](const std::vector<std::int16_t>& all) {
+        return std::inner_product(all.begin(), all.end(), all.begin(), 0.0);
+    };
+    EXPECT_GT(energy(exact), 0);
+    EXPECT_NEAR(energy(samples("mp4.pcm")) / energy(loud), 1, 0.05);
 }
 
 } // namespace

@@ -1,54 +1,63 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// A film with sound, through ffmpeg: what a viewer sees at each tick of virtual time. Pictures that are
-// presented at the same moment, as in a fade-out, count as one, the last.
+// A film with sound, through ffmpeg: what a viewer sees and hears at each tick of virtual time. Pictures that
+// are presented at the same moment, as in a fade-out, count as one, the last.
 //
-//     Film film("demo.mp4", 30, 2);
-//     film.frame(words, micros);
+//     Film film("demo.mp4", {.rate = 30, .scale = 2, .gain = 1});
+//     film.frame(frame);
 //     film.finish(micros);
 #pragma once
 
+#include "capture/ffmpeg.h"
+#include "capture/output.h"
+#include "capture/soundtrack.h"
+#include "capture/temporary_file.h"
+
 #include <cstdint>
-#include <cstdio>
-#include <span>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace velm {
 
-class Film {
+struct FilmLook {
+    std::int32_t rate;  ///< pictures per second
+    std::int32_t scale; ///< enlargement, without smoothing
+    double gain;        ///< what the samples are multiplied by
+};
+
+class Film : public Output {
 public:
-    Film(std::string finalPath, std::int32_t rate, std::int32_t scale);
-    ~Film();
-    Film(const Film&) = delete;
-    Film& operator=(const Film&) = delete;
+    Film(std::string finalPath, const FilmLook& look);
 
-    /// 256 x 256 words presented at a moment of virtual time.
-    void frame(std::span<const std::byte> words, std::int64_t micros);
+    void frame(const Frame& frame) override;
+    void sound(const Block& block) override;
 
-    /// 16-bit mono at 44100 per second.
-    void sound(std::span<const std::byte> samples);
+    /// Encodes what is left (the last picture for a tick at least), joins picture and sound, which then have
+    /// the same length, and names the file.
+    void finish(std::int64_t micros) override;
 
-    /// Encodes what is left (the last picture for a tick at least), joins picture and sound and names the
-    /// file.
-    void finish(std::int64_t micros);
+    [[nodiscard]] OutputState state() const override { return status; }
+    [[nodiscard]] const std::string& name() const override { return path; }
 
 private:
+    bool startEncoder(std::int32_t scale);
     void showUntil(std::int64_t micros);
-    [[noreturn]] void fail(const char* what);
-    void removeParts() const;
+    bool join();
+    void fail(const char* what);
 
     std::string path;
-    std::string picturePath; ///< the encoded pictures, until the sound joins them
-    std::string soundPath;   ///< the bare samples
-    std::string joinedPath;  ///< the film before it gets its name
+    TemporaryFile film;     ///< gets the name
+    TemporaryFile pictures; ///< encoded, until the sound joins them
+    TemporaryFile samples;  ///< bare
     std::int32_t framesPerSecond;
-    std::FILE* encoder = nullptr;
-    std::FILE* soundFile = nullptr;
+    Ffmpeg ffmpeg;
+    std::optional<Soundtrack> soundtrack;
     std::vector<std::byte> shown; ///< the picture that is on the screen now
     std::int64_t shownSince = 0;  ///< virtual time
     std::int64_t shownFrames = 0; ///< film frames encoded so far
+    OutputState status = OutputState::open;
 };
 
 } // namespace velm

@@ -2,16 +2,21 @@
 // SPDX-License-Identifier: MIT
 //
 // velm4030-capture: the demo on the machine without a machine, its frames and its sound written as they come.
+#include "capture/console.h"
 #include "capture/options.h"
 #include "capture/recorder.h"
+#include "capture/signals.h"
 #include "demo/velm4030.h"
 #include "headless/headless.h"
 
-#include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
+#include <string>
+#include <unistd.h>
 
 namespace {
 
+constexpr int statusNotWritten = 1;
 constexpr int statusEndlessPause = 3;
 
 /// The demo ends in the middle of a frame, by a limit of ours or by its Escape key, so the recorder is
@@ -19,14 +24,31 @@ constexpr int statusEndlessPause = 3;
 velm::Recorder* recorder = nullptr;
 
 void finishRecording() {
-    recorder->finish();
+    if (!recorder->finish()) {
+        std::_Exit(statusNotWritten);
+    }
+}
+
+void record(const velm::IMG& frame) {
+    recorder->frame(frame);
+    if (recorder->isIdle()) {
+        std::exit(0);
+    }
 }
 
 [[noreturn]] void reportEndlessPause() {
-    recorder->endProgressLine();
-    std::fprintf(stderr, "velm4030-capture: paused after frame %u, and no key is left to end it\n",
-                 velm::headless.frames);
+    velm::say("paused after frame " + std::to_string(velm::headless.frames) +
+              ", and no key is left to end it");
     std::exit(statusEndlessPause);
+}
+
+/// An output must not become standard output because the caller has closed that.
+void takeClosedStreams() {
+    int descriptor = STDIN_FILENO;
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
+        descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    }
+    close(descriptor);
 }
 
 } // namespace
@@ -34,14 +56,18 @@ void finishRecording() {
 int main(int argc, char** argv) {
     using namespace velm;
     const CaptureOptions options = parseOptions(argc, argv);
-    std::signal(SIGPIPE, SIG_IGN);
+    takeClosedStreams();
+    cleanUpOnSignals();
     static Recorder theRecorder(options);
+    if (!theRecorder.isReady()) {
+        return statusNotWritten;
+    }
     recorder = &theRecorder;
     headless.keys = options.keys;
     headless.pointers = options.pointers;
     headless.blockBytes = options.block;
     headless.frameLimit = options.frames;
-    headless.onFrame = [](const IMG& frame) { recorder->frame(frame); };
+    headless.onFrame = record;
     headless.onSound = [](std::span<const std::int16_t> samples) { recorder->sound(samples); };
     headless.onLimit = [] { std::exit(0); };
     headless.onEndlessPause = reportEndlessPause;

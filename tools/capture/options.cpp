@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "capture/options.h"
 
+#include "capture/frame_outputs.h"
+#include "capture/paths.h"
 #include "common/arguments.h"
 #include "platform/dsp.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <map>
 
 namespace velm {
 
@@ -83,18 +86,38 @@ std::string parsePointers(const std::string& text, std::vector<HeadlessPointer>&
     return "";
 }
 
-/// Refuses two outputs on one file or stream, and on a stream what must be written from its start again.
+/// Refuses two outputs on one file, whatever they call it, and one that would be a picture of the folder.
 void requireApart(const CaptureOptions& options) {
-    std::vector<std::string> outputs = {options.raw, options.crc, options.audio, options.film,
-                                        options.ppmFolder};
+    const std::string folder = options.ppmFolder == "-" ? "./-" : options.ppmFolder;
+    std::map<std::string, std::string> known; // by identity, as it was called
+    for (const std::string& path : {options.raw, options.crc, options.audio, options.film, folder}) {
+        if (path.empty()) {
+            continue;
+        }
+        const auto [first, isNew] = known.try_emplace(identityOf(path), path);
+        if (!isNew) {
+            throw CLI::ValidationError("two outputs cannot share '" + path + "'" +
+                                       (path == first->second ? "" : ", which is '" + first->second + "'"));
+        }
+        const std::filesystem::path target = linkTarget(path);
+        const std::string parent = target.has_parent_path() ? target.parent_path().string() : ".";
+        if (!folder.empty() && NumberedPictures::mayWrite(target.filename().string()) &&
+            identityOf(parent) == identityOf(folder)) {
+            throw CLI::ValidationError("'" + path + "' is a picture of the folder '" + folder + "'");
+        }
+    }
+}
+
+/// Refuses what cannot be written to the place that it is to go to.
+void requirePlaces(const CaptureOptions& options) {
     if (options.audio == "-" || options.film == "-") {
         throw CLI::ValidationError("sound and films need a file, not standard output");
     }
-    std::erase(outputs, "");
-    std::sort(outputs.begin(), outputs.end());
-    const auto twice = std::adjacent_find(outputs.begin(), outputs.end());
-    if (twice != outputs.end()) {
-        throw CLI::ValidationError("two outputs cannot share '" + *twice + "'");
+    if (!canRewind(options.audio)) {
+        throw CLI::ValidationError("sound needs a file, not the pipe or terminal '" + options.audio + "'");
+    }
+    if (!isOrdinary(options.film)) {
+        throw CLI::ValidationError("a film needs an ordinary file, not '" + options.film + "'");
     }
 }
 
@@ -124,14 +147,22 @@ CaptureOptions parseOptions(int argc, char** argv) {
     app.add_option("--crc", options.crc,
                    "a line a frame, number and CRC-32 of its words; - for standard output");
     app.add_option("--audio", options.audio, "what the sound device is handed, as a WAV file");
-    app.add_option("--block", options.block, "bytes of the sound driver's block (what a frame lasts at --rate)")
+    app.add_option("--block", options.block,
+                   "bytes of the sound driver's block (what a frame lasts at --rate)")
         ->check(CLI::Range(2, 1 << 20));
     app.add_option("--mp4", options.film, "a film with sound, made by ffmpeg");
     app.add_option("--scale", options.scale, "enlargement of the film, without smoothing")
         ->check(CLI::Range(1, 16));
+    takeGain(*app.add_option(
+        "--gain", options.gain,
+        "decibels that the sound is raised by; 12 for a film, none for a WAV file unless given"));
     app.add_flag("--quiet", options.quiet, "no progress line");
-    parseOrLeave(app, "velm4030-capture", argc, argv, [&options] { requireApart(options); });
-    // A driver names its block once, whatever the keys do to the rate; a film's sound has to stay with its picture.
+    parseOrLeave(app, "velm4030-capture", argc, argv, [&options] {
+        requirePlaces(options);
+        requireApart(options);
+    });
+    // A driver names its block once, whatever the keys do to the rate; a film's sound has to stay with its
+    // picture.
     if (options.block == 0 && options.film.empty()) {
         options.block = DSP_blockBytes(options.rate);
     }

@@ -11,6 +11,7 @@
 #include "headless/headless.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,7 +28,8 @@ struct CaptureOptions {
     std::string ppmFolder;
     std::string audio;
     std::string film;
-    std::int32_t scale = 2; ///< enlargement of the film
+    std::int32_t scale = 2;     ///< enlargement of the film
+    std::optional<double> gain; ///< dB; without, a film has the usual gain and a WAV file none
     std::int32_t block = 0; ///< bytes of the sound driver's block; 0 for what suits the rate of each frame
     bool quiet = false;
 };

@@ -2,114 +2,67 @@
 // SPDX-License-Identifier: MIT
 #include "capture/output_file.h"
 
+#include "capture/console.h"
+#include "capture/paths.h"
+
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <vector>
 
 namespace velm {
 
-namespace {
-
-std::vector<std::string>& watchedParts() {
-    static std::vector<std::string> parts;
-    return parts;
-}
-
-void removeParts() {
-    for (const std::string& part : watchedParts()) {
-        std::remove(part.c_str());
-    }
-}
-
-/// Where the content is built up: beside the file that the path names in the end, or "" for a device or a
-/// pipe.
-std::string partOf(const std::string& path) {
-    std::error_code error;
-    if (std::filesystem::exists(path, error) && !std::filesystem::is_regular_file(path, error)) {
-        return "";
-    }
-    // A link keeps pointing where it points, to a file that need not be there yet.
-    constexpr int mostLinks = 40;
-    std::filesystem::path target = path;
-    for (int i = 0; i < mostLinks && std::filesystem::is_symlink(target, error); ++i) {
-        target = target.parent_path() / std::filesystem::read_symlink(target, error);
-    }
-    return target.string() + ".part";
-}
-
-} // namespace
-
-void watchPart(const std::string& path) {
-    watchedParts().push_back(path);
-}
-
-void giveUp(const std::string& line) {
-    removeParts();
-    std::fprintf(stderr, "velm4030-capture: %s\n", line.c_str());
-    std::_Exit(1);
-}
-
-OutputFile::OutputFile(std::string finalPath) : path(std::move(finalPath)) {
+OutputFile::OutputFile(const std::string& path) : shownName(path == "-" ? "standard output" : path) {
     if (path == "-") {
         stream = stdout;
-        return;
+    } else if (isOrdinary(path)) {
+        stream = temporary.emplace(path).stream();
+    } else {
+        stream = std::fopen(path.c_str(), "wbe");
     }
-    partPath = partOf(path);
-    stream = std::fopen(partPath.empty() ? path.c_str() : partPath.c_str(), "wb");
     if (stream == nullptr) {
         fail();
-    }
-    if (!partPath.empty()) {
-        watchPart(partPath);
     }
 }
 
 OutputFile::~OutputFile() {
-    if (stream != nullptr && stream != stdout) {
+    if (stream != nullptr && stream != stdout && !temporary) {
         std::fclose(stream);
-        if (!partPath.empty()) {
-            std::remove(partPath.c_str());
-        }
     }
 }
 
 void OutputFile::write(std::span<const std::byte> bytes) {
-    if (std::fwrite(bytes.data(), 1, bytes.size(), stream) != bytes.size()) {
+    if (status == OutputState::open && std::fwrite(bytes.data(), 1, bytes.size(), stream) != bytes.size()) {
         fail();
     }
 }
 
 void OutputFile::rewriteStart(std::span<const std::byte> bytes) {
-    if (std::fseek(stream, 0, SEEK_SET) != 0) {
+    if (status == OutputState::open && std::fseek(stream, 0, SEEK_SET) != 0) {
         fail();
     }
     write(bytes);
 }
 
 void OutputFile::finish() {
-    if (std::fflush(stream) != 0) {
-        fail();
-    }
-    if (stream == stdout) {
+    if (status != OutputState::open) {
         return;
     }
-    const bool closed = std::fclose(stream) == 0;
-    stream = nullptr;
-    const std::string target = partPath.substr(0, partPath.rfind(".part"));
-    if (!closed || (!partPath.empty() && std::rename(partPath.c_str(), target.c_str()) != 0)) {
+    if (std::fflush(stream) != 0 || (temporary && !temporary->takeName())) {
         fail();
+    } else {
+        status = OutputState::whole;
     }
 }
 
-void OutputFile::fail() const {
+void OutputFile::fail() {
     const int error = errno;
-    if (error == EPIPE) {
-        removeParts();
-        std::_Exit(0);
+    status = error == EPIPE ? OutputState::cut : OutputState::failed;
+    if (status == OutputState::failed) {
+        say("cannot write " + shownName + ": " + std::strerror(error));
     }
-    giveUp("cannot write " + (path == "-" ? "standard output" : path) + ": " + std::strerror(error));
+    if (temporary) {
+        temporary.reset();
+        stream = nullptr;
+    }
 }
 
 } // namespace velm

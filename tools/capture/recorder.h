@@ -1,29 +1,31 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What a capture writes: frames, checksums, sound and film.
+// Hands every frame and every block of sound to all that a capture writes.
 //
 //     Recorder recorder(options);
 //     recorder.frame(*screen);
 //     recorder.sound(block);
-//     recorder.finish();
+//     const bool everything = recorder.finish();
 #pragma once
 
-#include "capture/film.h"
 #include "capture/options.h"
-#include "capture/output_file.h"
+#include "capture/output.h"
 #include "image/img.h"
 
 #include <cstdint>
-#include <optional>
+#include <memory>
 #include <span>
+#include <vector>
 
 namespace velm {
 
 class Recorder {
 public:
     explicit Recorder(const CaptureOptions& options);
-    ~Recorder();
+
+    /// True when every output could be opened.
+    [[nodiscard]] bool isReady() const;
 
     /// A presentation, the next number.
     void frame(const IMG& img);
@@ -31,24 +33,17 @@ public:
     /// A block that the sound device was handed.
     void sound(std::span<const std::int16_t> samples);
 
-    /// Ends the progress line, so that a message can follow.
-    void endProgressLine();
+    /// True when something was asked for and none of it takes more.
+    [[nodiscard]] bool isIdle() const;
 
-    /// Completes every file. Nothing is written afterwards.
-    void finish();
+    /// Completes every output that still can be; nothing is written afterwards. True when each is whole, and
+    /// when the only one is a pipe whose reader has left. Another that was cut is named in a line.
+    bool finish();
 
 private:
-    void progress();
-
     const CaptureOptions& options;
-    std::optional<OutputFile> raw;
-    std::optional<OutputFile> crc;
-    std::optional<OutputFile> audio;
-    std::optional<Film> film;
+    std::vector<std::unique_ptr<Output>> outputs;
     std::uint32_t frames = 0;
-    std::uint32_t audioBytes = 0;
-    double startSeconds = 0;
-    bool lineIsOpen = false; ///< the terminal's cursor stands behind a progress line
 };
 
 } // namespace velm

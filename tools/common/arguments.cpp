@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "common/arguments.h"
 
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -32,6 +33,14 @@ void takeFrames(CLI::Option& option) {
 void takeRate(CLI::Option& option) {
     option.check([](const std::string& text) {
         return text == "30" || text == "60" ? "" : "neither 30 nor 60: '" + text + "'";
+    });
+}
+
+void takeGain(CLI::Option& option) {
+    option.check([](const std::string& text) {
+        constexpr double most = 60;
+        const bool isSensible = std::abs(numberOf<double>(text).value_or(2 * most)) <= most;
+        return isSensible ? "" : "not decibels from -60 to 60: '" + text + "'";
     });
 }
 

@@ -38,6 +38,9 @@ void takeFrames(CLI::Option& option);
 /// The option takes a frame rate, 30 or 60.
 void takeRate(CLI::Option& option);
 
+/// The option takes decibels, from -60 to 60.
+void takeGain(CLI::Option& option);
+
 /// Parses, and lets `check` look at the result. Leaves by itself: with status 0 after --help and --version,
 /// with one line on standard error and status 2 after a wrong argument.
 void parseOrLeave(
