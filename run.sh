@@ -4,8 +4,8 @@
 #
 # ./run.sh: installs what is missing, builds the demo and plays it. Without a display it plays in a private Xvfb;
 # without /dev/dsp it plays through a sound server, or silent.
-# ./run.sh ARGUMENT...: the same for the player, velm4030-play, which takes the arguments ("--help" names them) and finds
-# the sound by itself.
+# ./run.sh tour [ARGUMENT...]: the same for the player, velm4030-play, which shows all scenes and finds the sound itself.
+# ./run.sh ARGUMENT...: the player with these arguments ("--help" names them).
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")"
 . packaging/packages.sh
@@ -14,7 +14,11 @@ if [ $# -eq 0 ]; then
     program=velm4030
     tools=OFF
     packages=("${build_packages[@]}")
+    echo 'The demo, by its own schedule. ./run.sh tour shows all sixteen scenes, larger.'
 else
+    if [ "$1" = tour ]; then
+        shift
+    fi
     program=velm4030-play
     tools=ON
     packages=("${player_packages[@]}")

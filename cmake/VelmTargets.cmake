@@ -16,13 +16,21 @@ function(velm_configure target)
   endif()
 endfunction()
 
+# velm_folder(TARGET FOLDER): the sources in FOLDER are the target's and may include what it links. tests/style holds
+# every file to that, and wants every folder to have its target.
+function(velm_folder target folder)
+  set_property(GLOBAL APPEND PROPERTY VELM_FOLDERS "${folder}")
+  set_property(GLOBAL PROPERTY "VELM_TARGET_OF_${folder}" ${target})
+endfunction()
+
 # velm_library(NAME LINKS LIBRARY...): the folder src/NAME as the static library velm_NAME. It sees the headers of the
-# libraries that it links and of those below them; tests/style checks that no include points anywhere else.
+# libraries that it links and of those below them, and no others.
 function(velm_library name)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${name}/*.cpp")
   add_library(velm_${name} STATIC ${sources})
   velm_configure(velm_${name})
+  velm_folder(velm_${name} src/${name})
   target_include_directories(velm_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   foreach(lower IN LISTS ARG_LINKS)
     target_link_libraries(velm_${name} PUBLIC velm_${lower})
@@ -51,9 +59,13 @@ endfunction()
 # they need it.
 function(velm_machine name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  if(ARG_LINKS MATCHES "velm_")
+    message(FATAL_ERROR "the machine ${name} may see the seam alone, not ${ARG_LINKS}")
+  endif()
   list(TRANSFORM ARG_SOURCES PREPEND "${PROJECT_SOURCE_DIR}/machines/${name}/")
   add_library(velm_${name} OBJECT ${ARG_SOURCES})
   velm_configure(velm_${name})
+  velm_folder(velm_${name} machines/${name})
   target_include_directories(velm_${name} PUBLIC "${PROJECT_SOURCE_DIR}/machines")
   target_link_libraries(velm_${name} PUBLIC velm_platform PRIVATE ${ARG_LINKS})
 endfunction()

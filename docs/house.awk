@@ -22,7 +22,7 @@ BEGIN {
     folder["velm_x11"] = "machines/x11"
     folder["velm_headless"] = "machines/headless"
     folder["velm_desktop"] = "machines/desktop"
-    folder["velm_png"] = "tools/common"
+    folder["velm_png"] = "tools/png"
     folder["velm_arguments"] = "tools/common"
     print "digraph house {"
     print "bgcolor=\"white\"; nodesep=0.3; ranksep=0.5;"

@@ -11,7 +11,6 @@
 #pragma once
 
 #include "image/img.h"
-#include "platform/gain.h"
 
 #include <cstdint>
 #include <functional>
@@ -28,7 +27,7 @@ struct Desktop {
     bool root = false;            ///< draw into the X11 root window, or the one that stands in for it
     std::string sound;            ///< a name of desktopSounds(), "none", or "" for the first that answers
     std::int32_t volume = 100;    ///< per cent, 0..100; `+` and `-` change it
-    double gain = GAIN_usual;     ///< decibels by which the sound is raised before that; it saturates
+    double gain = 0;              ///< decibels by which the sound is raised before that; it saturates
     std::uint32_t frameLimit = 0; ///< presentations before onLimit is called instead of another; 0 for none
     std::string help;             ///< the lines that H or F1 shows
 

@@ -8,6 +8,7 @@
 #include "desktop/sound_queue.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
+#include "platform/gain.h"
 
 #include <SDL.h>
 #include <array>

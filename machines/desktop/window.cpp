@@ -124,9 +124,7 @@ void PlayerWindow::redraw() {
         desktop.onText(*labelled, label);
         shown = labelled;
     }
-    const SDL_Point size = canvas.size();
-    layout = layoutFor(frame->width, frame->height, size.x, size.y);
-    if (!canvas.draw(*shown, layout)) {
+    if (!canvas.draw(*shown, layout())) {
         XDPY_error();
     }
 }
@@ -152,12 +150,19 @@ void PlayerWindow::toggleFullScreen() {
     }
 }
 
+Layout PlayerWindow::layout() const {
+    const SDL_Point size = canvas.size();
+    const std::int32_t width = frame != nullptr ? frame->width : pictureSize;
+    const std::int32_t height = frame != nullptr ? frame->height : pictureSize;
+    return layoutFor(width, height, size.x, size.y);
+}
+
 SDL_Point PlayerWindow::inPicture(SDL_Point place) const {
     SDL_Point own{};
     SDL_GetWindowSize(window, &own.x, &own.y);
     const SDL_Point size = canvas.size(); // larger than its own where a desktop magnifies
     SDL_Point picture{place.x * size.x / std::max(own.x, 1), place.y * size.y / std::max(own.y, 1)};
-    layout.toPicture(picture.x, picture.y);
+    layout().toPicture(picture.x, picture.y);
     return picture;
 }
 
@@ -198,9 +203,9 @@ void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
         XDPY_error();
         return;
     }
+    const std::int32_t scale = playerWindow.layout().scale;
     display->width = static_cast<std::uint32_t>(width);
     display->height = static_cast<std::uint32_t>(height);
-    const std::int32_t scale = playerWindow.layout.scale;
     SDL_SetWindowSize(playerWindow.window, width * scale, height * scale);
 }
 

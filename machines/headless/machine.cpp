@@ -7,8 +7,10 @@
 #include "platform/xkbd.h"
 #include "platform/xptr.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
+#include <iterator>
 
 namespace velm {
 
@@ -26,6 +28,13 @@ const Entry* takeDue(const std::vector<Entry>& entries, std::size_t& next) {
         return &entries[next++];
     }
     return nullptr;
+}
+
+void place(XPTR* pointer, const HeadlessPointer& entry) {
+    constexpr std::int32_t known = 7;
+    pointer->x = entry.x;
+    pointer->y = entry.y;
+    pointer->buttons = (pointer->buttons & ~known) | (entry.buttons & known);
 }
 
 } // namespace
@@ -141,15 +150,21 @@ void XPTR_poll(XPTR* pointer) {
         return;
     }
     if (const HeadlessPointer* const due = takeDue(headless.pointers, headless.nextPointer); due != nullptr) {
-        pointer->x = due->x;
-        pointer->y = due->y;
-        constexpr std::int32_t known = 7;
-        pointer->buttons = (pointer->buttons & ~known) | (due->buttons & known);
+        place(pointer, *due);
     }
 }
 
 void XPTR_query(XPTR* pointer) {
-    XPTR_poll(pointer);
+    if (pointer == nullptr) {
+        XPTR_error();
+        return;
+    }
+    const auto later =
+        std::find_if(headless.pointers.begin(), headless.pointers.end(),
+                     [](const HeadlessPointer& entry) { return entry.frame > headless.frames; });
+    if (later != headless.pointers.begin()) {
+        place(pointer, *std::prev(later));
+    }
 }
 
 std::int32_t XPTR_flush(XPTR* pointer) {

@@ -119,6 +119,9 @@ void VELM4030_selectNext() {
 bool VELM4030_endFrame() {
     XKBD_poll(demo.keyboard);
     VELM4030_handleKey(demo.keyboard);
+    if (demo.framesLeft > 0 && --demo.framesLeft == 0) {
+        demo.control |= controlNextPart;
+    }
     if ((demo.control & controlNextPart) != 0) {
         demo.control &= static_cast<std::uint8_t>(~controlNextPart);
         return false;

@@ -36,6 +36,9 @@ constexpr SCENE scenes[] = {
 
 } // namespace
 
+const SCENE SCENE_schedule = {"schedule", "the demo's own: the default scene, and now and then an interlude",
+                              VELM4030_runSchedule};
+
 std::span<const SCENE> SCENE_all() {
     return scenes;
 }
@@ -43,7 +46,10 @@ std::span<const SCENE> SCENE_all() {
 const SCENE* SCENE_find(std::string_view name) {
     const auto* const found =
         std::find_if(std::begin(scenes), std::end(scenes), [name](const SCENE& s) { return s.name == name; });
-    return found == std::end(scenes) ? nullptr : found;
+    if (found != std::end(scenes)) {
+        return found;
+    }
+    return name == SCENE_schedule.name ? &SCENE_schedule : nullptr;
 }
 
 void SCENE_runForEver(const SCENE* scene) {

@@ -22,7 +22,10 @@ struct SCENE {
 /// Every scene, in the order of the schedule.
 std::span<const SCENE> SCENE_all();
 
-/// The scene of that name, or nullptr.
+/// A pass of the demo's own schedule under a scene's name, "schedule". It is none of SCENE_all.
+extern const SCENE SCENE_schedule;
+
+/// The scene of that name, or the schedule, or nullptr.
 const SCENE* SCENE_find(std::string_view name);
 
 /// Runs a scene again and again, or for nullptr the schedule. Only Escape ends it.

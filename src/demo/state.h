@@ -94,6 +94,7 @@ struct DemoState {
     OBJ2D* mesh;               ///< the grid of interlude B, made by its first run
     OBJ2D* meshView;           ///< its coloured copy, drawn
     SINEDOTS* dots;            ///< exists while the default scene runs
+    std::int32_t framesLeft;   ///< after so many frames the scene ends as if Space was pressed; 0: by itself
     std::uint8_t control;      ///< controlExit, controlNextPart
     std::uint8_t overlay;      ///< overlayRate, overlaySpare
     std::uint8_t blur;         ///< 1: the blur filter is on

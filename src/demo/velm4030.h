@@ -117,7 +117,8 @@ void VELM4030_selectPrevious();
 void VELM4030_selectNext();
 
 /// What ends every frame: reads and handles one key, then waits for the next frame's time. False, without
-/// waiting, when the scene is to end; the request is then taken back.
+/// waiting, when the scene is to end, by a key or because its `framesLeft` are over; the request is then taken
+/// back.
 bool VELM4030_endFrame();
 
 } // namespace velm

@@ -13,9 +13,8 @@ quoted() {
     awk -v opening="$1" '/^```/ { open = !open; inside = open && $0 == opening; next } inside' "$page"
 }
 
-files=$(sed -n 's/^```cpp \([^ ]*\)$/\1/p' "$page" | sort -u)
-[ "$(wc -w <<<"$files")" -ge 1 ] || { echo "$page quotes no file" >&2 && exit 1; }
-for file in $files; do
+grep -q '^```cpp ' "$page" || { echo "$page quotes no file" >&2 && exit 1; }
+for file in $(sed -n 's/^```cpp \([^ ]*\)$/\1/p' "$page" | sort -u); do
     diff -B <(quoted "\`\`\`cpp $file") "$file" || { echo "$page (<) and $file (>) differ" >&2 && exit 1; }
 done
 for file in $(sed -n 's/^```cpp from \([^ ]*\)$/\1/p' "$page" | sort -u); do

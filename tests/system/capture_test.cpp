@@ -136,6 +136,21 @@ TEST_F(CaptureTest, EveryFormTellsTheSame) {
     EXPECT_EQ(static_cast<unsigned char>(wav[40]) | static_cast<unsigned char>(wav[41]) << 8, 7 * 2942);
 }
 
+TEST_F(CaptureTest, TheTourFadesFromTheLogoThroughItsScenes) {
+    const auto tour = frames(50, {"--tour", "--keys", "20:space"});
+    const auto brightest = [](const std::string& frame) {
+        return static_cast<unsigned char>(*std::max_element(
+            frame.begin(), frame.end(), [](unsigned char a, unsigned char b) { return a < b; }));
+    };
+    for (std::size_t i = 0; i <= 15; ++i) {
+        EXPECT_EQ(brightest(tour[i]), 255 - 17 * i) << i;
+    }
+    const auto opening = frames(1 + 5, {"--scene", "extra-4"});
+    EXPECT_TRUE(std::equal(tour.begin() + 16, tour.begin() + 20, opening.begin() + 1))
+        << "it opens with doors";
+    EXPECT_NE(tour.back(), frames(50, {"--scene", "extra-4"}).back()) << "Space goes on to the next";
+}
+
 TEST_F(CaptureTest, TwoRunsGiveTheSameBytesAlsoOnStandardOutput) {
     const auto first = frames(300, {"--keys", "40:b,60:g", "--pointer", "50:10:20:1"});
     const std::string again = std::string(VELM_CAPTURE) +
@@ -200,6 +215,7 @@ TEST_F(CaptureTest, WrongArgumentsGiveOneLineAndStatus2) {
         {"--frames", "x"},
         {"--frames", "1", "--rate", "50"},
         {"--frames", "1", "--scene", "nothing"},
+        {"--frames", "1", "--scene", "default", "--tour"},
         {"--frames", "1", "--keys", "5"},
         {"--frames", "1", "--keys", "5:abc"},
         {"--frames", "1", "--pointer", "1:2:3"},

@@ -3,10 +3,8 @@
 //
 // The window modules against a real X server, at the depth that VELM_TEST_DEPTH names.
 #include "platform/xdpy.h"
-#include "platform/xkbd.h"
 #include "platform/xptr.h"
 #include "process.h"
-#include "support/capture_stdout.h"
 #include "support/images.h"
 #include "x11_session.h"
 
@@ -45,7 +43,6 @@ protected:
     }
 
     void TearDown() override {
-        XDPY_verbose = 0;
         XDestroyWindow(session.connection, window);
         XSync(session.connection, False);
         XDPY_close(&display);
@@ -111,10 +108,6 @@ TEST_F(DisplayTest, TheWindowHasItsTitleSizeAndPlace) {
     EXPECT_EQ(height, 256U);
     EXPECT_EQ(borderWidth, 2U);
     EXPECT_EQ(std::to_string(display->depth), testDepth());
-    EXPECT_STREQ(XDPY_getName(display), "") << "the name is not the title";
-    EXPECT_EQ(XDPY_getName(nullptr), nullptr);
-    EXPECT_EQ(XDPY_same(display, display), 1);
-    EXPECT_EQ(XDPY_get(display), display);
 }
 
 TEST_F(DisplayTest, TheWindowTellsADesktopWhatItIs) {
@@ -145,15 +138,6 @@ TEST_F(DisplayTest, AFrameIsOnTheScreenBitForBit) {
     IMG_subColour(frame, 0x102030);
     XDPY_present(display, frame);
     expectSeen(0, 0, 0, 0); // the second frame goes through the kept image
-}
-
-TEST_F(DisplayTest, AFrameOfAnotherSizeIsReportedAndNotShown) {
-    XDPY_present(display, frame);
-    XDPY_verbose = 1;
-    IMG* narrow = IMG_newSized(255, 256);
-    EXPECT_EQ(printedBy([&] { XDPY_present(display, narrow); }), "XDPY error\n");
-    expectSeen(0, 0, 0, 0);
-    IMG_delete(&narrow);
 }
 
 TEST_F(DisplayTest, AWindowPartlyOffTheScreenIsDrawn) {
@@ -187,80 +171,6 @@ TEST_F(DisplayTest, AHiddenWindowIsSkippedWhileDumpsGoOn) {
     std::filesystem::remove_all(folder);
 }
 
-TEST_F(DisplayTest, KeysComeOneAPollWithTextAndKeycode) {
-    XKBD* keyboard = XKBD_new();
-    EXPECT_EQ(XKBD_new(), keyboard) << "there is one record";
-    session.movePointer(128, 128);
-    session.press("a");
-    session.press("B");
-    session.press("Up");
-    const auto poll = [&] {
-        keyboard->text[0] = '\0';
-        keyboard->keycode = 0;
-        EXPECT_TRUE(eventually([&] {
-            XKBD_poll(keyboard);
-            return keyboard->keycode != 0;
-        }));
-        return std::string(keyboard->text, keyboard->text[0] == '\0' ? 0 : 1);
-    };
-    EXPECT_EQ(poll(), "a");
-    poll(); // the Shift that xdotool holds for the capital
-    EXPECT_EQ(poll(), "B");
-    EXPECT_EQ(poll(), "");
-    EXPECT_EQ(keyboard->keycode, 98) << "the arrow up, whatever keycode the keymap has for it";
-    session.sendClose(window);
-    EXPECT_TRUE(eventually([&] {
-        XKBD_poll(keyboard);
-        return keyboard->text[0] == 27;
-    })) << "the close button arrives as Escape";
-    XKBD_delete(&keyboard);
-    EXPECT_EQ(keyboard, nullptr);
-}
-
-TEST_F(DisplayTest, XPTR_firstMotionWins) {
-    session.movePointer(400, 400);
-    XPTR* pointer = XPTR_new();
-    XPTR_flush(pointer);
-    session.movePointer(20 + border, 30 + border);
-    session.movePointer(200 + border, 100 + border);
-    XSync(session.connection, False);
-    EXPECT_TRUE(eventually([&] {
-        XPTR_poll(pointer);
-        return pointer->x != 0;
-    }));
-    EXPECT_EQ(pointer->x, 20);
-    EXPECT_EQ(pointer->y, 30);
-    XPTR_query(pointer);
-    EXPECT_EQ(pointer->x, 200);
-    XPTR_flush(pointer);
-    XPTR_poll(pointer);
-    EXPECT_EQ(pointer->x, 200) << "nothing is left in the queue";
-    XPTR_delete(&pointer);
-}
-
-TEST_F(DisplayTest, EveryButtonHasItsBit) {
-    session.movePointer(128, 128);
-    XPTR* pointer = XPTR_new();
-    const auto become = [&](std::int32_t buttons) {
-        return eventually(
-            [&] {
-                XPTR_poll(pointer);
-                return pointer->buttons == buttons;
-            },
-            5);
-    };
-    for (const int button : {1, 2, 3}) {
-        session.clickDown(button);
-        EXPECT_TRUE(become(1 << (button - 1))) << button;
-        pointer->buttons = 0;
-        XPTR_query(pointer);
-        EXPECT_EQ(pointer->buttons, 1 << (button - 1)) << button;
-        session.clickUp(button);
-        EXPECT_TRUE(become(0)) << button;
-    }
-    XPTR_delete(&pointer);
-}
-
 TEST_F(DisplayTest, TheSystemPointerIsInvisibleOverTheWindowOnly) {
     XPTR* pointer = XPTR_new();
     session.movePointer(128, 128);
@@ -270,16 +180,6 @@ TEST_F(DisplayTest, TheSystemPointerIsInvisibleOverTheWindowOnly) {
     }));
     session.movePointer(400, 400);
     EXPECT_TRUE(eventually([&] { return session.cursorIsVisible(); }));
-    XPTR_delete(&pointer);
-}
-
-TEST_F(DisplayTest, XPTR_cloneGivesNothing) {
-    XPTR* pointer = XPTR_new();
-    EXPECT_EQ(XPTR_clone(pointer), nullptr);
-    XPTR twin = *pointer;
-    EXPECT_EQ(XPTR_equals(pointer, &twin), 1);
-    twin.reserved[3] = 1;
-    EXPECT_EQ(XPTR_equals(pointer, &twin), 0);
     XPTR_delete(&pointer);
 }
 

@@ -80,9 +80,5 @@ TEST_F(KeysTest, TheArrowsOfAnyKeymapMoveTheSelectionAndNothingElseDoes) {
     DIR_delete(&demo.dirListing);
 }
 
-TEST(KeyboardDeathTest, APollWithoutAKeyboardLeavesWithStatus0) {
-    EXPECT_EXIT(XKBD_poll(nullptr), testing::ExitedWithCode(0), "");
-}
-
 } // namespace
 } // namespace velm::test

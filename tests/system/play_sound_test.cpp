@@ -27,7 +27,7 @@ protected:
 
 TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     waitForRecorder();
-    Child player({VELM_PLAYER, "--scale", "1", "--gain", "0", "--frames", "220"}, withDisplay());
+    Child player({VELM_PLAYER, "schedule", "--scale", "1", "--gain", "0", "--frames", "220"}, withDisplay());
     ASSERT_EQ(player.waitForExit(60), 0) << player.errors();
     EXPECT_EQ(player.output(), "sound: pulseaudio\n");
     EXPECT_EQ(player.errors(), "");
@@ -51,7 +51,7 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     EXPECT_GE(found, pieces - pieces / 10);
 
     // The same through the other driver, at half the volume.
-    Child half({VELM_PLAYER, "--scale", "1", "--volume", "50", "--gain", "0", "--sound", "oss"},
+    Child half({VELM_PLAYER, "schedule", "--scale", "1", "--volume", "50", "--gain", "0", "--sound", "oss"},
                withDevice());
     Sound stretch = loudestWindow(captured(60));
     for (std::int16_t& value : stretch) {
@@ -64,7 +64,7 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
 TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundReturns) {
     waitForRecorder();
     constexpr int movesToSee = 30; // a second's
-    Child player({VELM_PLAYER, "--scale", "1"}, withDisplay());
+    Child player({VELM_PLAYER, "schedule", "--scale", "1"}, withDisplay());
     ASSERT_TRUE(eventually([this] { return !isSilent(recorded()); }, 40)) << player.errors();
     pulseaudio->signal(SIGSTOP);
     for (int i = 0; i < movesToSee; ++i) {

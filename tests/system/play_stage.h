@@ -64,7 +64,7 @@ public:
     /// Starts the player and waits until the demo is past its logo.
     void start(std::vector<std::string> arguments) {
         std::ofstream(spyLog, std::ios::trunc);
-        arguments.insert(arguments.begin(), VELM_PLAYER);
+        arguments.insert(arguments.begin(), {VELM_PLAYER, "schedule"});
         Environment environment = {{"DISPLAY", server.display()},
                                    {"LD_PRELOAD", VELM_X11_SPY},
                                    {"VELM_SPY", spyLog},

@@ -15,7 +15,7 @@ namespace {
 /// A folder that goes with everything in it.
 struct Folder {
     std::string path = std::filesystem::temp_directory_path() / "velm-play-XXXXXX";
-    Folder() { mkdtemp(path.data()); }
+    Folder() { EXPECT_NE(mkdtemp(path.data()), nullptr); }
     ~Folder() { std::filesystem::remove_all(path); }
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;
@@ -259,8 +259,8 @@ TEST(PlayWayland, ItIsNativeWhereTheCompositorHasASeatAndGoesOnToX11WhereItHasNo
                                         "--width=640", "--height=600"});
     Environment environment = compositor.environment();
     environment.emplace_back("DISPLAY", "");
-    stage.player =
-        std::make_unique<Child>(std::vector<std::string>{VELM_PLAYER, "--sound", "none"}, environment);
+    stage.player = std::make_unique<Child>(
+        std::vector<std::string>{VELM_PLAYER, "schedule", "--sound", "none"}, environment);
     stage.window = DefaultRootWindow(stage.session.connection); // the compositor's window covers it
     EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 64, 44); }, 20)) << stage.player->errors();
     stage.session.press("Escape");

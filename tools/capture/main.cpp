@@ -6,6 +6,7 @@
 #include "capture/options.h"
 #include "capture/recorder.h"
 #include "capture/signals.h"
+#include "demo/programme.h"
 #include "demo/velm4030.h"
 #include "headless/headless.h"
 
@@ -74,5 +75,9 @@ int main(int argc, char** argv) {
     std::atexit(finishRecording);
     VELM4030_init();
     VELM4030_setFrameRate(options.rate);
+    if (options.tour) {
+        PROGRAMME tour;
+        PROGRAMME_play(tour);
+    }
     SCENE_runForEver(options.scene);
 }

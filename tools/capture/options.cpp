@@ -133,9 +133,11 @@ CaptureOptions parseOptions(int argc, char** argv) {
     takeFrames(
         *app.add_option("--frames", options.frames, "how many presentations, the start-up logo included")
              ->required());
-    takeScene(*app.add_option("--scene", scene,
-                              "this scene again and again instead of the schedule: " + sceneNames()),
-              options.scene);
+    CLI::Option* const one = app.add_option(
+        "--scene", scene, "this scene again and again instead of the schedule: " + sceneNames());
+    takeScene(*one, options.scene);
+    app.add_flag("--tour", options.tour, "all scenes one after the other instead of the schedule")
+        ->excludes(one);
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60"));
     app.add_option("--keys", keys,
                    "FRAME:KEY,... presses a key (a character, esc, space, up, down) after a frame")

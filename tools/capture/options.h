@@ -20,6 +20,7 @@ namespace velm {
 struct CaptureOptions {
     std::uint32_t frames = 0;     ///< presentations
     const SCENE* scene = nullptr; ///< nullptr for the schedule
+    bool tour = false;            ///< all scenes instead of one
     std::int32_t rate = 30;       ///< frames per second at the start
     std::vector<HeadlessKey> keys;
     std::vector<HeadlessPointer> pointers;

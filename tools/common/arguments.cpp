@@ -12,15 +12,19 @@ namespace velm {
 std::string sceneNames() {
     std::string names;
     for (const SCENE& scene : SCENE_all()) {
-        names += (names.empty() ? "" : ", ") + std::string(scene.name);
+        names += std::string(scene.name) + ", ";
     }
-    return names;
+    return names + std::string(SCENE_schedule.name);
 }
 
 void takeScene(CLI::Option& option, const SCENE*& scene) {
-    option.check([&scene](const std::string& name) {
-        scene = SCENE_find(name);
-        return scene == nullptr ? "no such scene: '" + name + "'; there are " + sceneNames() : "";
+    takeScenes(option);
+    option.each([&scene](const std::string& name) { scene = SCENE_find(name); });
+}
+
+void takeScenes(CLI::Option& option) {
+    option.check([](const std::string& name) {
+        return SCENE_find(name) == nullptr ? "no such scene: '" + name + "'; there are " + sceneNames() : "";
     });
 }
 

@@ -3,8 +3,8 @@
 //
 // What the tools that run the demo share of their command lines.
 //
-//     addSceneOption(*app.add_option("--scene", name, "... instead of the schedule: " + sceneNames()),
-//     scene); parseOrLeave(app, "velm4030-capture", argc, argv);
+//     takeScene(*app.add_option("--scene", name, "instead of the schedule: " + sceneNames()), scene);
+//     parseOrLeave(app, "velm4030-capture", argc, argv);
 #pragma once
 
 #include "demo/scenes.h"
@@ -26,11 +26,14 @@ std::optional<Number> numberOf(const std::string& text) {
     return whole ? std::optional(number) : std::nullopt;
 }
 
-/// "default, interlude-a, ..."
+/// "default, interlude-a, ..., schedule"
 std::string sceneNames();
 
 /// The option takes the name of a scene, which is stored.
 void takeScene(CLI::Option& option, const SCENE*& scene);
+
+/// The option takes names of scenes, for SCENE_find.
+void takeScenes(CLI::Option& option);
 
 /// The option takes a number of frames, 1 or more.
 void takeFrames(CLI::Option& option);

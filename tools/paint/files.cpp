@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "paint/files.h"
 
-#include "common/png.h"
+#include "png/png.h"
 
 #include <cstddef>
 #include <cstdlib>

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 //
 // velm4030-play: the demo as today's desktops want it.
-#include "demo/state.h"
 #include "demo/velm4030.h"
 #include "desktop/desktop.h"
 #include "play/caption.h"
@@ -27,26 +26,21 @@ void haveStandardFiles() {
     close(file);
 }
 
-/// Ends the scene as Space does: the programme decides what comes then.
-void endScene() {
-    velm::demo.control |= velm::controlNextPart;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
     using namespace velm;
     haveStandardFiles();
-    static const PlayOptions options = parseOptions(argc, argv);
+    static PlayOptions options = parseOptions(argc, argv);
     std::signal(SIGPIPE, SIG_IGN); // nobody may be listening to what it says
     desktop = options.desktop;
     desktop.help = keysText;
     desktop.onLimit = [] { std::exit(0); };
-    desktop.onPrevious = endScene;
-    desktop.onNext = endScene;
+    desktop.onPrevious = [] { PROGRAMME_previous(options.programme); };
+    desktop.onNext = [] { PROGRAMME_next(options.programme); };
     desktop.onPicture = keepSnapshot;
     desktop.onText = drawCaption;
     VELM4030_init();
     VELM4030_setFrameRate(options.rate);
-    SCENE_runForEver(options.scene);
+    PROGRAMME_play(options.programme);
 }

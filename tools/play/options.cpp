@@ -7,8 +7,10 @@
 #include "play/keys.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 #include <vector>
 
 namespace velm {
@@ -20,10 +22,26 @@ constexpr const char* noSound = "none";
 
 void listScenes() {
     constexpr int nameWidth = 16;
-    for (const SCENE& scene : SCENE_all()) {
+    const auto list = [](const SCENE& scene) {
         std::printf("%-*s%s\n", nameWidth, std::string(scene.name).c_str(),
                     std::string(scene.description).c_str());
+    };
+    std::ranges::for_each(SCENE_all(), list);
+    list(SCENE_schedule);
+}
+
+PROGRAMME programmeOf(const std::vector<std::string>& names, bool isMixed) {
+    PROGRAMME programme;
+    for (const std::string& name : names) {
+        PROGRAMME_append(programme, SCENE_find(name));
     }
+    if (names.empty()) {
+        PROGRAMME_appendTour(programme);
+    }
+    if (isMixed) {
+        PROGRAMME_shuffle(programme, std::random_device{}() | 1U);
+    }
+    return programme;
 }
 
 std::vector<std::string> soundNames() {
@@ -54,19 +72,21 @@ void takeSaverWindow(Desktop& wanted) {
 PlayOptions parseOptions(int argc, char** argv) {
     PlayOptions options;
     Desktop& wanted = options.desktop;
-    std::string scene;
+    wanted.gain = GAIN_usual;
+    std::vector<std::string> scenes;
     std::string window;
     std::string sound;
     bool list = false;
+    bool isMixed = false;
     constexpr int mostScale = 16;
     constexpr int mostVolume = 100;
-    constexpr double mostGain = 40;
     CLI::App app("The VELM4030 demo, enlarged or full screen, with sound through what the desktop has.");
     app.footer(std::string("Keys:\n") + keysText);
     app.set_version_flag("--version", std::string(desktopProgram) + " " VELM_VERSION);
-    takeScene(*app.add_option("SCENE", scene, "this scene again and again instead of the schedule"),
-              options.scene);
+    takeScenes(*app.add_option("SCENE", scenes, "these scenes, again and again; all of them unless given")
+                    ->expected(0, PROGRAMME::mostParts));
     app.add_flag("--list", list, "names the scenes and leaves");
+    app.add_flag("--shuffle", isMixed, "mixes their order");
     CLI::Option* const scale =
         app.add_option("--scale", wanted.scale, "enlargement, without smoothing (what suits the screen)")
             ->check(CLI::Range(1, mostScale));
@@ -84,8 +104,7 @@ PlayOptions parseOptions(int argc, char** argv) {
         ->check(CLI::IsMember(soundNames()));
     app.add_option("--volume", wanted.volume, "of the sound, per cent (100)")
         ->check(CLI::Range(0, mostVolume));
-    app.add_option("--gain", wanted.gain, "decibels by which the sound is raised (12; 0 as it is)")
-        ->check(CLI::Range(-mostGain, mostGain));
+    takeGain(*app.add_option("--gain", wanted.gain, "decibels by which the sound is raised (12; 0 as it is)"));
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
     takeFrames(*app.add_option("--frames", wanted.frameLimit, "leaves after so many presentations"));
     parseOrLeave(app, desktopProgram, argc, argv);
@@ -93,6 +112,7 @@ PlayOptions parseOptions(int argc, char** argv) {
         listScenes();
         std::exit(0);
     }
+    options.programme = programmeOf(scenes, isMixed);
     wanted.foreign = windowOf(window);
     takeSaverWindow(wanted);
     const bool isForeign = wanted.foreign != 0 || wanted.root;

@@ -7,7 +7,7 @@
 //     const PlayOptions options = parseOptions(argc, argv);
 #pragma once
 
-#include "demo/scenes.h"
+#include "demo/programme.h"
 #include "desktop/desktop.h"
 
 #include <cstdint>
@@ -15,9 +15,9 @@
 namespace velm {
 
 struct PlayOptions {
-    const SCENE* scene = nullptr; ///< nullptr for the schedule
-    std::int32_t rate = 30;       ///< frames per second at the start
-    Desktop desktop;              ///< window, full screen or foreign window, sound, and the number of frames
+    PROGRAMME programme;    ///< what to show, in which order
+    std::int32_t rate = 30; ///< frames per second at the start
+    Desktop desktop;        ///< window, full screen or foreign window, sound, and the number of frames
 };
 
 PlayOptions parseOptions(int argc, char** argv);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "play/snapshot.h"
 
-#include "common/png.h"
+#include "png/png.h"
 
 #include <cerrno>
 #include <cstdio>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "common/png.h"
+#include "png/png.h"
 
 #include <zlib.h>
 

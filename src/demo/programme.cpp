@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "demo/programme.h"
+
+#include "demo/scene_frames.h"
+#include "image/rgb888.h"
+
+#include <algorithm>
+#include <random>
+#include <span>
+
+namespace velm {
+
+namespace {
+
+/// A part of the tour, and its frames where the scene would go on for too long, be it in the dark.
+struct Stop {
+    std::string_view scene;
+    std::int32_t frames = 0;
+};
+
+constexpr Stop tour[] = {
+    {"extra-4"},       {"extra-10"},     {"default", 900}, {"extra-2"},  {"extra-5"}, {"interlude-b"},
+    {"extra-11", 725}, {"particles"},    {"extra-7"},      {"extra-12"}, {"extra-3"}, {"interlude-a"},
+    {"extra-9"},       {"extra-8", 740}, {"extra-1", 750}, {"extra-6"},
+};
+
+const Stop* stopOf(const SCENE& scene) {
+    const auto* const found = std::find_if(std::begin(tour), std::end(tour),
+                                           [&scene](const Stop& stop) { return stop.scene == scene.name; });
+    return found != std::end(tour) ? found : nullptr;
+}
+
+using Order = std::array<const SCENE*, PROGRAMME::mostParts>;
+
+std::int32_t roundOf(const PROGRAMME& programme, std::int32_t place) {
+    const std::int32_t last = programme.count - 1;
+    return place >= 0 ? place / programme.count : (place - last) / programme.count;
+}
+
+/// The order of a round of the mix, which its number and the seed alone decide. Two parts have no other order
+/// than their own, or one of them would come twice running.
+Order orderOf(const PROGRAMME& programme, std::int32_t round) {
+    Order order = programme.parts;
+    if (programme.count < 3) {
+        return order;
+    }
+    std::mt19937 draws(programme.seed + static_cast<std::uint32_t>(round));
+    std::shuffle(order.begin(), order.begin() + programme.count, draws);
+    return order;
+}
+
+constexpr std::uint32_t fadeStep = 0x111111;
+
+/// The frames in which a picture fades until nothing is left but, perhaps, the pointer: 15 from white, none
+/// from black.
+std::int32_t framesToBlack(const IMG& img) {
+    constexpr std::int64_t pointerArea = 16 * 16;
+    constexpr std::uint32_t most = 15;
+    const std::span pixels(img.pixels,
+                           static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height));
+    std::uint32_t frames = 0;
+    while (frames < most && std::ranges::count_if(pixels, [frames](std::uint32_t pixel) {
+                                return RGB888_sub(pixel, frames * fadeStep) != 0;
+                            }) > pointerArea) {
+        ++frames;
+    }
+    return static_cast<std::int32_t>(frames);
+}
+
+/// Takes the picture that is shown to black, in frames of the usual pace, while the music goes on.
+void fade(const IMG* shown) {
+    if (shown != demo.screen) {
+        IMG_copy(shown, demo.screen);
+    }
+    setLook({.fadeOn = 0, .clearMode = ClearMode::fade}); // what is on the screen stays there
+    runFrames(framesToBlack(*demo.screen), [](std::int32_t) { IMG_subColour(demo.screen, fadeStep); });
+    IMG_fill(demo.screen, 0); // a key may have ended it early
+}
+
+void leavePart(PROGRAMME& programme, std::int32_t steps) {
+    programme.next += steps;
+    programme.isPlaying = false;
+    demo.paused = 0;
+    demo.control |= controlNextPart;
+}
+
+} // namespace
+
+bool PROGRAMME_append(PROGRAMME& programme, const SCENE* scene) {
+    if (scene == nullptr || programme.count == PROGRAMME::mostParts) {
+        return false;
+    }
+    programme.parts[static_cast<std::size_t>(programme.count++)] = scene;
+    return true;
+}
+
+void PROGRAMME_appendTour(PROGRAMME& programme) {
+    const std::span stops(tour);
+    for (const Stop& stop : stops.first(stops.size() - 1)) {
+        PROGRAMME_append(programme, SCENE_find(stop.scene));
+    }
+    for (const SCENE& scene : SCENE_all()) { // what the table does not know yet comes before the curtain
+        if (stopOf(scene) == nullptr) {
+            PROGRAMME_append(programme, &scene);
+        }
+    }
+    PROGRAMME_append(programme, SCENE_find(stops.back().scene));
+}
+
+void PROGRAMME_shuffle(PROGRAMME& programme, std::uint32_t seed) {
+    auto* const begin = programme.parts.data();
+    auto* end = begin;
+    for (std::int32_t i = 0; i < programme.count; ++i) {
+        if (std::find(begin, end, begin[i]) == end) {
+            *end++ = begin[i];
+        }
+    }
+    programme.count = static_cast<std::int32_t>(end - begin);
+    programme.seed = seed;
+}
+
+const SCENE* PROGRAMME_at(const PROGRAMME& programme, std::int32_t place) {
+    if (programme.count == 0) {
+        return nullptr;
+    }
+    const std::int32_t round = roundOf(programme, place);
+    auto index = static_cast<std::size_t>(place - round * programme.count);
+    if (programme.seed == 0) {
+        return programme.parts[index];
+    }
+    const Order order = orderOf(programme, round);
+    const Order before = orderOf(programme, round - 1);
+    // Where a round would begin with what the round before ended on, its first two change places. Of three or
+    // more that moves no end, so the round before may be taken as drawn.
+    const bool repeats =
+        programme.count > 2 && order[0] == before[static_cast<std::size_t>(programme.count - 1)];
+    if (repeats && index < 2) {
+        index = 1 - index;
+    }
+    return order[index];
+}
+
+std::int32_t PROGRAMME_length(const SCENE& scene) {
+    const Stop* const stop = stopOf(scene);
+    return stop != nullptr ? stop->frames : 0;
+}
+
+void PROGRAMME_next(PROGRAMME& programme) {
+    // While a part runs, `next` stands behind it already.
+    leavePart(programme, programme.isPlaying ? 0 : 1);
+}
+
+void PROGRAMME_previous(PROGRAMME& programme) {
+    leavePart(programme, programme.isPlaying ? -2 : -1);
+}
+
+void PROGRAMME_playPart(PROGRAMME& programme) {
+    const SCENE* const scene = PROGRAMME_at(programme, programme.next);
+    if (scene == nullptr) {
+        return;
+    }
+    const bool isOneOfSeveral = programme.count > 1;
+    ++programme.next;
+    programme.isPlaying = true;
+    demo.framesLeft = isOneOfSeveral ? PROGRAMME_length(*scene) : 0;
+    scene->run();
+    demo.framesLeft = 0;
+    programme.isPlaying = false;
+    if (isOneOfSeveral) {
+        fade(demo.blurImage); // the frame as it was shown
+    }
+}
+
+void PROGRAMME_play(PROGRAMME& programme) {
+    if (programme.count == 0) {
+        PROGRAMME_appendTour(programme);
+    }
+    if (programme.count > 1) {
+        fade(demo.screen);
+    }
+    for (;;) {
+        PROGRAMME_playPart(programme);
+    }
+}
+
+} // namespace velm

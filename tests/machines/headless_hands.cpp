@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "hands.h"
+#include "headless/headless.h"
+
+namespace velm::test {
+namespace {
+
+class HeadlessHands : public Hands {
+public:
+    HeadlessHands() {
+        headless.onFrame = [this](const IMG& frame) {
+            picture.assign(frame.pixels, frame.pixels + std::int64_t{frame.width} * frame.height);
+        };
+        headless.onSound = [this](std::span<const std::int16_t> block) {
+            sound.insert(sound.end(), block.begin(), block.end());
+        };
+    }
+
+    void press(const std::string& key) override {
+        constexpr char escape = 27;
+        constexpr std::int32_t anyKeycode = 1;
+        constexpr std::int32_t keycodeUp = 98;
+        const char text = key == "Escape" ? escape : key.size() == 1 ? key[0] : '\0';
+        headless.keys.push_back({headless.frames, text, key == "Up" ? keycodeUp : anyKeycode});
+    }
+    void pressClose() override { press("Escape"); } // it has no window, so nothing else to close
+
+    void point(int x, int y) override {
+        place.x = x;
+        place.y = y;
+        tell();
+    }
+    void hold(int button) override {
+        place.buttons |= 1 << (button - 1);
+        tell();
+    }
+    void letGo(int button) override {
+        place.buttons &= ~(1 << (button - 1));
+        tell();
+    }
+
+    std::vector<std::uint32_t> seen() override { return picture; }
+
+    void bringSound() override {
+        headless.hasSound = true;
+        sound.clear();
+    }
+    void takeSoundAway() override { headless.hasSound = false; }
+    std::vector<std::int16_t> heard() override { return sound; }
+
+    void tidy() override { picture.clear(); }
+
+private:
+    void tell() {
+        place.frame = headless.frames;
+        headless.pointers.push_back(place);
+    }
+
+    HeadlessPointer place{};
+    std::vector<std::uint32_t> picture;
+    std::vector<std::int16_t> sound;
+};
+
+} // namespace
+
+Hands& hands() {
+    static HeadlessHands one;
+    return one;
+}
+
+} // namespace velm::test

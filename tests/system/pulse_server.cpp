@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "pulse_server.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace velm::test {
+
+namespace {
+
+constexpr std::size_t windowLength = 400;
+
+double energy(const std::int16_t* begin) {
+    double sum = 0;
+    for (std::size_t i = 0; i < windowLength; ++i) {
+        sum += static_cast<double>(begin[i]) * begin[i];
+    }
+    return sum;
+}
+
+} // namespace
+
+Sound readSound(const std::string& path, std::size_t headerBytes) {
+    const std::string bytes = contents(path);
+    Sound sound;
+    for (std::size_t i = headerBytes; i + 1 < bytes.size(); i += 2) {
+        sound.push_back(static_cast<std::int16_t>(static_cast<unsigned char>(bytes[i]) |
+                                                  static_cast<unsigned char>(bytes[i + 1]) << 8));
+    }
+    return sound;
+}
+
+Sound loudestWindow(const Sound& sound) {
+    std::size_t best = 0;
+    for (std::size_t at = 0; at + windowLength < sound.size(); at += windowLength / 4) {
+        if (energy(&sound[at]) > energy(&sound[best])) {
+            best = at;
+        }
+    }
+    const auto begin = sound.begin() + static_cast<std::ptrdiff_t>(best);
+    return {begin, begin + windowLength};
+}
+
+bool isSilent(const Sound& sound) {
+    return std::all_of(sound.begin(), sound.end(), [](std::int16_t s) { return s == 0; });
+}
+
+std::size_t find(const Sound& recording, const Sound& stretch, std::size_t from) {
+    constexpr int tolerance = 1;
+    const auto near = [](std::int16_t a, std::int16_t b) { return std::abs(a - b) <= tolerance; };
+    const auto begin = recording.begin() + static_cast<std::ptrdiff_t>(std::min(from, recording.size()));
+    return static_cast<std::size_t>(
+        std::search(begin, recording.end(), stretch.begin(), stretch.end(), near) - recording.begin());
+}
+
+bool contains(const Sound& recording, const Sound& stretch, std::size_t from) {
+    return find(recording, stretch, from) != recording.size();
+}
+
+std::string PulseServer::temporaryFolder() {
+    std::string name = std::filesystem::temp_directory_path() / "velm-sound-XXXXXX";
+    return mkdtemp(name.data());
+}
+
+void PulseServer::startServer() {
+    recorder.reset();
+    pulseaudio.reset();
+    std::filesystem::remove(folder + "/native");
+    pulseaudio = std::make_unique<Child>(
+        std::vector<std::string>{
+            "pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
+            "--load=module-null-sink sink_name=velm rate=44100 format=s16le channels=1",
+            "--load=module-native-protocol-unix auth-anonymous=1 socket=" + folder + "/native"},
+        Environment{{"HOME", folder}, {"XDG_RUNTIME_DIR", folder}});
+    ASSERT_TRUE(eventually([this] { return runTool({"pactl", "info"}, pulse) == 0; }));
+    recorder = std::make_unique<Child>(
+        std::vector<std::string>{"sh", "-c",
+                                 "exec parec --raw -d velm.monitor --rate=44100 --channels=1"
+                                 " --format=s16le --latency-msec=20 > " +
+                                     recording},
+        pulse);
+}
+
+PulseServer::~PulseServer() {
+    recorder.reset();
+    pulseaudio.reset();
+    std::filesystem::remove_all(folder);
+}
+
+} // namespace velm::test
