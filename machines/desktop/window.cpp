@@ -37,7 +37,7 @@ SDL_Window* makeWindow() {
     SDL_GetDisplayUsableBounds(monitor, &room);
     const std::int32_t scale =
         desktop.scale > 0 ? desktop.scale : scaleForScreen(pictureSize, pictureSize, room.w, room.h);
-    const int place = SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned int>(monitor));
+    const auto place = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned int>(monitor)));
     return SDL_CreateWindow("VELM4030", place, place, pictureSize * scale, pictureSize * scale,
                             SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
 }

@@ -104,7 +104,8 @@ PlayOptions parseOptions(int argc, char** argv) {
         ->check(CLI::IsMember(soundNames()));
     app.add_option("--volume", wanted.volume, "of the sound, per cent (100)")
         ->check(CLI::Range(0, mostVolume));
-    takeGain(*app.add_option("--gain", wanted.gain, "decibels by which the sound is raised (12; 0 as it is)"));
+    takeGain(
+        *app.add_option("--gain", wanted.gain, "decibels by which the sound is raised (12; 0 as it is)"));
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
     takeFrames(*app.add_option("--frames", wanted.frameLimit, "leaves after so many presentations"));
     parseOrLeave(app, desktopProgram, argc, argv);

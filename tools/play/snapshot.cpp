@@ -49,8 +49,10 @@ int writeNew(const std::string& path, const std::string& bytes) {
 } // namespace
 
 std::string picturesFolder() {
-    const std::string own = variable("XDG_CONFIG_HOME");
-    std::ifstream file((own.empty() ? variable("HOME") + "/.config" : own) + "/user-dirs.dirs");
+    const std::filesystem::path own = variable("XDG_CONFIG_HOME");
+    const std::filesystem::path config =
+        own.empty() ? std::filesystem::path(variable("HOME")) / ".config" : own;
+    std::ifstream file(config / "user-dirs.dirs");
     std::string folder;
     for (std::string line; std::getline(file, line);) {
         const std::string found = folderIn(line);
@@ -62,20 +64,17 @@ std::string picturesFolder() {
 
 std::string keepSnapshot(const IMG& frame) {
     const std::string bytes = pngOf(frame);
-    const std::string folder = picturesFolder();
-    std::string name;
+    const std::filesystem::path folder = picturesFolder();
+    std::filesystem::path path;
     int reason = EEXIST;
     for (int number = 1; reason == EEXIST; ++number) {
-        name = "velm4030-" + std::to_string(number) + ".png";
-        reason = bytes.empty() ? ENOMEM : writeNew(folder + "/" + name, bytes);
+        path = folder / ("velm4030-" + std::to_string(number) + ".png");
+        reason = bytes.empty() ? ENOMEM : writeNew(path, bytes);
     }
-    if (reason != 0) {
-        std::printf("picture: cannot write %s/%s: %s\n", folder.c_str(), name.c_str(), std::strerror(reason));
-    } else {
-        std::printf("picture: %s/%s\n", folder.c_str(), name.c_str());
-    }
+    const std::string why = reason == 0 ? "" : std::string(": ") + std::strerror(reason);
+    std::printf("picture: %s%s%s\n", reason == 0 ? "" : "cannot write ", path.c_str(), why.c_str());
     std::fflush(stdout);
-    return reason == 0 ? "kept as " + name : "no picture: see terminal";
+    return reason == 0 ? "kept as " + path.filename().string() : "no picture: see terminal";
 }
 
 } // namespace velm
