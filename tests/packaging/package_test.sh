@@ -40,11 +40,12 @@ run_dpkg --install "$play" || fail "$(cat "$work/dpkg.log")"
 installed=$(cd "$root/usr" && find . -type f | sort)
 for program in "$root"/usr/bin/*; do
     name=$(basename "$program")
-    readelf -dW "$program" | grep -q BIND_NOW || fail "$name binds its symbols late"
-    readelf -sW --dyn-syms "$program" | grep -q __stack_chk_fail || fail "$name has no guarded stack"
+    readelf -dW "$program" | grep BIND_NOW >/dev/null || fail "$name binds its symbols late"
+    readelf -sW --dyn-syms "$program" | grep __stack_chk_fail >/dev/null || fail "$name has no guarded stack"
     [ -s "$root/usr/share/man/man6/$name.6.gz" ] || fail "$name has no man page"
 done
-for file in applications/velm4030-play.desktop xscreensaver/config/velm4030-play.xml metainfo/org.velm4030.velm4030.metainfo.xml doc/velm4030/copyright \
+for file in applications/velm4030-play.desktop xscreensaver/config/velm4030-play.xml \
+    metainfo/org.velm4030.velm4030.metainfo.xml doc/velm4030/copyright \
     doc/velm4030/README.md doc/velm4030/changelog.gz doc/velm4030/changelog.Debian.gz doc/velm4030-play/copyright; do
     grep -qxF "./share/$file" <<<"$installed" || fail "$file is missing in $installed"
 done
@@ -63,7 +64,8 @@ fi
 [ "$message" = 'velm4030: cannot open display ""' ] || fail "without a display it says: $message"
 
 # What the screen saver's settings offer is what the player takes.
-sed -n 's/.* arg\(-set\)\?="\([^"]*\)".*/\2/p' "$root/usr/share/xscreensaver/config/velm4030-play.xml" >"$work/arguments"
+sed -n 's/.* arg\(-set\)\?="\([^"]*\)".*/\2/p' \
+    "$root/usr/share/xscreensaver/config/velm4030-play.xml" >"$work/arguments"
 [ "$(wc -l <"$work/arguments")" -ge 9 ] || fail "no arguments in the screen saver's settings"
 while read -r arguments; do
     # shellcheck disable=SC2086
