@@ -32,7 +32,8 @@ SDL_Rect enlargeInto(const Memory& memory, const IMG& frame, const Layout& layou
     const SDL_Rect place{std::max(layout.left, 0), std::max(layout.top, 0), part.width * layout.scale,
                          part.height * layout.scale};
     enlarge(frame, part, layout.scale, memory.pixels,
-            memory.first + std::ptrdiff_t{place.y} * memory.pitch + place.x * memory.pixels.bytes,
+            memory.first + std::ptrdiff_t{place.y} * memory.pitch +
+                std::ptrdiff_t{place.x} * memory.pixels.bytes,
             memory.pitch);
     return place;
 }

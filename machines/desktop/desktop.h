@@ -27,9 +27,8 @@ struct Desktop {
     bool root = false;            ///< draw into the X11 root window, or the one that stands in for it
     std::string sound;            ///< a name of desktopSounds(), "none", or "" for the first that answers
     std::int32_t volume = 100;    ///< per cent, 0..100; `+` and `-` change it
-    std::int32_t gain = 0;        ///< decibels by which the sound is raised before that; it saturates
+    double gain = 0;              ///< decibels by which the sound is raised before that; it saturates
     std::uint32_t frameLimit = 0; ///< presentations before onLimit is called instead of another; 0 for none
-    const IMG* icon = nullptr;    ///< borrowed; of the window, 0xAARRGGBB
     std::string help;             ///< the lines that H or F1 shows
 
     std::function<void()> onLimit;                          ///< must not return

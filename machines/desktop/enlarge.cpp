@@ -11,12 +11,6 @@ namespace velm {
 
 namespace {
 
-std::uint32_t fitted(std::uint32_t value, PixelLayout::Channel channel) {
-    const std::uint32_t fit = channel.bits <= 8 ? value >> (8 - channel.bits)
-                                                : value << (channel.bits - 8) | value >> (16 - channel.bits);
-    return fit << channel.shift;
-}
-
 /// A pixel is moved as so many bytes; the compiler makes one word of them.
 template <std::size_t bytes>
 void spreadRow(const std::vector<std::uint32_t>& pixels, std::int32_t scale, char* to) {
@@ -35,17 +29,9 @@ constexpr SpreadRow spreads[] = {spreadRow<1>, spreadRow<2>, spreadRow<3>, sprea
 
 } // namespace
 
-PixelLayout::Channel::Channel(std::uint32_t mask)
-    : shift(std::countr_zero(mask)), bits(std::popcount(mask)) {}
-
-std::uint32_t PixelLayout::of(std::uint32_t pixel) const {
-    return fitted(pixel >> 16 & 0xFF, red) | fitted(pixel >> 8 & 0xFF, green) | fitted(pixel & 0xFF, blue);
-}
-
 void enlarge(const IMG& frame, const Part& part, std::int32_t scale, const PixelLayout& layout, char* to,
              std::ptrdiff_t stride) {
-    static const PixelLayout ours(4, 0xFF0000, 0x00FF00, 0x0000FF);
-    const bool isOurs = layout == ours;
+    const bool isOurs = layout.isOurs();
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width));
     const std::size_t rowBytes = pixels.size() * static_cast<std::size_t>(scale * layout.bytes);
     for (std::int32_t y = part.y; y < part.y + part.height; ++y) {

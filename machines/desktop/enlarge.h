@@ -8,32 +8,12 @@
 #pragma once
 
 #include "image/img.h"
+#include "image/pixel_layout.h"
 
 #include <cstddef>
 #include <cstdint>
 
 namespace velm {
-
-/// How a screen stores a pixel.
-struct PixelLayout {
-    /// Where a colour stands in a pixel, and how many bits it has there.
-    struct Channel {
-        std::int32_t shift, bits;
-        explicit Channel(std::uint32_t mask);
-        bool operator==(const Channel&) const = default;
-    };
-
-    std::int32_t bytes; ///< 1..4
-    Channel red, green, blue;
-
-    PixelLayout(std::int32_t pixelBytes, std::uint32_t redMask, std::uint32_t greenMask,
-                std::uint32_t blueMask)
-        : bytes(pixelBytes), red(redMask), green(greenMask), blue(blueMask) {}
-    bool operator==(const PixelLayout&) const = default;
-
-    /// A pixel of ours in this layout: fewer bits drop the low ones, more bits repeat the high ones.
-    [[nodiscard]] std::uint32_t of(std::uint32_t pixel) const;
-};
 
 /// A part of a frame, in its pixels.
 struct Part {

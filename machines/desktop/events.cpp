@@ -198,7 +198,7 @@ void takeEvents() {
     bool isStale = false;
     SDL_Event event;
     while (SDL_PollEvent(&event) != 0) {
-        if (tellsLoss(event)) {
+        if (tellsLoss(playerWindow.window, event)) {
             playerWindow.isForeign ? std::exit(0) : giveUp("the window is gone", "closed by another program");
         }
         if (event.type == SDL_QUIT) {
@@ -234,7 +234,7 @@ void XKBD_poll(XKBD* keyboard) {
 void XKBD_rest(XKBD*) {
     constexpr int microsPerMilli = 1000;
     const bool spoke = CLOCK_now() < playerWindow.textUntil;
-    SDL_WaitEventTimeout(nullptr, XKBD_longestRest / microsPerMilli);
+    SDL_Delay(XKBD_longestRest / microsPerMilli);
     if (spoke && CLOCK_now() >= playerWindow.textUntil) {
         playerWindow.redraw(); // what was said goes
     }
@@ -272,6 +272,7 @@ void XPTR_query(XPTR* pointer) {
     if (!isUsable(pointer)) {
         return;
     }
+    takeEvents();
     SDL_Point place{};
     const std::uint32_t held = SDL_GetMouseState(&place.x, &place.y);
     constexpr std::int32_t known = 7;

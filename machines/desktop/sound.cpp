@@ -8,6 +8,7 @@
 #include "desktop/sound_queue.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
+#include "platform/gain.h"
 
 #include <SDL.h>
 #include <array>
@@ -125,7 +126,9 @@ std::vector<std::string> desktopSounds() {
 
 std::int64_t CLOCK_now() {
     using namespace std::chrono;
-    return duration_cast<microseconds>(steady_clock::now().time_since_epoch()).count();
+    static const steady_clock::time_point begin = steady_clock::now();
+    static const system_clock::duration wall = system_clock::now().time_since_epoch();
+    return duration_cast<microseconds>(wall + (steady_clock::now() - begin)).count();
 }
 
 void CLOCK_sleep(std::int32_t micros) {
@@ -164,11 +167,10 @@ std::int32_t DSP_request(std::int32_t, DspRequest request, std::int32_t* word) {
 }
 
 std::int32_t DSP_write(std::int32_t, const std::int16_t* block, std::int32_t samples) {
-    constexpr std::int32_t fullVolume = 100;
     std::vector<std::int16_t> loud(block, block + samples);
-    for (std::int16_t& value : loud) {
-        value = static_cast<std::int16_t>(value * desktop.volume / fullVolume);
-    }
+    GAIN_apply(loud, GAIN_factor(desktop.gain));
+    constexpr double fullVolume = 100;
+    GAIN_apply(loud, desktop.volume / fullVolume);
     soundLeads = queue.push(loud);
     return soundLeads ? samples * static_cast<std::int32_t>(sizeof *block) : 0;
 }

@@ -10,6 +10,7 @@
 #include "desktop/x11.h"
 #include "foundation/memory.h"
 #include "platform/clock.h"
+#include "platform/icon.h"
 #include "platform/xdpy.h"
 
 #include <cstdio>
@@ -36,7 +37,7 @@ SDL_Window* makeWindow() {
     SDL_GetDisplayUsableBounds(monitor, &room);
     const std::int32_t scale =
         desktop.scale > 0 ? desktop.scale : scaleForScreen(pictureSize, pictureSize, room.w, room.h);
-    const int place = SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned int>(monitor));
+    const auto place = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned int>(monitor)));
     return SDL_CreateWindow("VELM4030", place, place, pictureSize * scale, pictureSize * scale,
                             SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
 }
@@ -57,12 +58,15 @@ void fillWithoutManager(SDL_Window* window, bool full) {
 /// Gives the window what a desktop shows of it: its icon, its least size, its full screen.
 void dressWindow(SDL_Window* window) {
     SDL_SetWindowMinimumSize(window, pictureSize, pictureSize);
-    if (const IMG* const icon = desktop.icon; icon != nullptr) {
-        constexpr int bits = 32;
-        SDL_Surface* const surface = SDL_CreateRGBSurfaceWithFormatFrom(
-            icon->pixels, icon->width, icon->height, bits, icon->width * bits / 8, SDL_PIXELFORMAT_ARGB8888);
-        SDL_SetWindowIcon(window, surface);
-        SDL_FreeSurface(surface);
+    constexpr int bits = 32;
+    SDL_Surface* const icon =
+        SDL_CreateRGBSurfaceWithFormat(0, ICON_size, ICON_size, bits, SDL_PIXELFORMAT_ARGB8888);
+    if (icon != nullptr) {
+        for (std::int32_t i = 0; i < ICON_size * ICON_size; ++i) {
+            static_cast<std::uint32_t*>(icon->pixels)[i] = ICON_pixel(i);
+        }
+        SDL_SetWindowIcon(window, icon);
+        SDL_FreeSurface(icon);
     }
 }
 
@@ -120,9 +124,7 @@ void PlayerWindow::redraw() {
         desktop.onText(*labelled, label);
         shown = labelled;
     }
-    const SDL_Point size = canvas.size();
-    layout = layoutFor(frame->width, frame->height, size.x, size.y);
-    if (!canvas.draw(*shown, layout)) {
+    if (!canvas.draw(*shown, layout())) {
         XDPY_error();
     }
 }
@@ -148,12 +150,19 @@ void PlayerWindow::toggleFullScreen() {
     }
 }
 
+Layout PlayerWindow::layout() const {
+    const SDL_Point size = canvas.size();
+    const std::int32_t width = frame != nullptr ? frame->width : pictureSize;
+    const std::int32_t height = frame != nullptr ? frame->height : pictureSize;
+    return layoutFor(width, height, size.x, size.y);
+}
+
 SDL_Point PlayerWindow::inPicture(SDL_Point place) const {
     SDL_Point own{};
     SDL_GetWindowSize(window, &own.x, &own.y);
     const SDL_Point size = canvas.size(); // larger than its own where a desktop magnifies
     SDL_Point picture{place.x * size.x / std::max(own.x, 1), place.y * size.y / std::max(own.y, 1)};
-    layout.toPicture(picture.x, picture.y);
+    layout().toPicture(picture.x, picture.y);
     return picture;
 }
 
@@ -194,9 +203,9 @@ void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
         XDPY_error();
         return;
     }
+    const std::int32_t scale = playerWindow.layout().scale;
     display->width = static_cast<std::uint32_t>(width);
     display->height = static_cast<std::uint32_t>(height);
-    const std::int32_t scale = playerWindow.layout.scale;
     SDL_SetWindowSize(playerWindow.window, width * scale, height * scale);
 }
 

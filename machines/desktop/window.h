@@ -23,7 +23,6 @@ struct PlayerWindow {
     bool isHidden = false;        ///< minimised: nothing is drawn
     bool isFull = false;          ///< it fills the screen
     Canvas canvas;
-    Layout layout;              ///< of the last picture
     IMG* frame = nullptr;       ///< the last one as it came; nullptr before
     std::uint32_t frames = 0;   ///< presentations so far
     bool showsHelp = false;     ///< the keys stand over the picture
@@ -38,6 +37,9 @@ struct PlayerWindow {
 
     void toggleHelp();
     void toggleFullScreen();
+
+    /// Where the picture stands in the window now.
+    [[nodiscard]] Layout layout() const;
 
     /// A place in the window as one in the picture.
     [[nodiscard]] SDL_Point inPicture(SDL_Point place) const;

@@ -186,9 +186,12 @@ bool putRows(SDL_Window* window, char* rows, SDL_Point size) {
     return true;
 }
 
-bool tellsLoss(const SDL_Event& event) {
-    return event.type == SDL_SYSWMEVENT && event.syswm.msg->subsystem == SDL_SYSWM_X11 &&
-           event.syswm.msg->msg.x11.event.type == DestroyNotify;
+bool tellsLoss(SDL_Window* window, const SDL_Event& event) {
+    if (window == nullptr || event.type != SDL_SYSWMEVENT || event.syswm.msg->subsystem != SDL_SYSWM_X11) {
+        return false;
+    }
+    const XEvent& told = event.syswm.msg->msg.x11.event;
+    return told.type == DestroyNotify && told.xdestroywindow.window == infoOf(window).info.x11.window;
 }
 
 bool hasManager() {

@@ -32,8 +32,8 @@ std::optional<PixelLayout> pixelsOf(SDL_Window* window);
 /// Fills a window with rows of such pixels; false when memory runs out.
 bool putRows(SDL_Window* window, char* rows, SDL_Point size);
 
-/// True for the event that a window is gone behind our back.
-bool tellsLoss(const SDL_Event& event);
+/// True for the event that the window is gone behind our back.
+bool tellsLoss(SDL_Window* window, const SDL_Event& event);
 
 /// True when a window manager runs.
 bool hasManager();

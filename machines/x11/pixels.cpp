@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "x11/pixels.h"
 
+#include "image/pixel_layout.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -10,20 +12,11 @@ namespace velm {
 
 namespace {
 
-/// Where a channel stands in a pixel of the server, and how many bits it has there.
-struct Channel {
-    int shift;
-    int bits;
-};
-
-Channel channelOf(unsigned long mask) {
-    return {std::countr_zero(mask), std::popcount(mask)};
-}
-
-unsigned long fitted(unsigned long value, Channel channel) {
-    const unsigned long fit = channel.bits <= 8 ? value >> (8 - channel.bits)
-                                                : value << (channel.bits - 8) | value >> (16 - channel.bits);
-    return fit << channel.shift;
+PixelLayout layoutOf(const XImage& image) {
+    constexpr int bitsPerByte = 8;
+    const auto mask = [](unsigned long channel) { return static_cast<std::uint32_t>(channel); };
+    return {image.bits_per_pixel / bitsPerByte, mask(image.red_mask), mask(image.green_mask),
+            mask(image.blue_mask)};
 }
 
 void copyWords(const IMG& frame, XImage& image, std::int32_t width, std::int32_t height) {
@@ -38,15 +31,11 @@ void copyWords(const IMG& frame, XImage& image, std::int32_t width, std::int32_t
 }
 
 void convertPixels(const IMG& frame, XImage& image, std::int32_t width, std::int32_t height) {
-    const Channel red = channelOf(image.red_mask);
-    const Channel green = channelOf(image.green_mask);
-    const Channel blue = channelOf(image.blue_mask);
+    const PixelLayout layout = layoutOf(image);
     for (std::int32_t y = 0; y < height; ++y) {
         const std::uint32_t* const row = frame.pixels + std::int64_t{y} * frame.width;
         for (std::int32_t x = 0; x < width; ++x) {
-            XPutPixel(&image, x, y,
-                      fitted((row[x] >> 16) & 0xFF, red) | fitted((row[x] >> 8) & 0xFF, green) |
-                          fitted(row[x] & 0xFF, blue));
+            XPutPixel(&image, x, y, layout.of(row[x]));
         }
     }
 }
@@ -55,8 +44,7 @@ void convertPixels(const IMG& frame, XImage& image, std::int32_t width, std::int
 
 bool x11CopiesWords(const XImage& image) {
     constexpr int ownOrder = std::endian::native == std::endian::little ? LSBFirst : MSBFirst;
-    return image.bits_per_pixel == 32 && image.byte_order == ownOrder && image.red_mask == 0xFF0000 &&
-           image.green_mask == 0x00FF00 && image.blue_mask == 0x0000FF;
+    return image.byte_order == ownOrder && layoutOf(image).isOurs();
 }
 
 void x11CopyPixels(const IMG& frame, XImage& image) {

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# package_test.sh BUILD_FOLDER WORK_FOLDER: packs what is built, looks at the sizes and the list of files, installs
-# the package into a root of its own, runs the programs from there and removes it again. The package stays for
-# lint.package.
+# package_test.sh BUILD_FOLDER WORK_FOLDER: packs what is built, looks at the sizes, the dependencies and the list of
+# files, installs the packages into a root of its own, runs the programs from there and removes them again. The
+# packages stay for lint.package.
 set -euo pipefail
 
 build=$1
@@ -19,31 +19,41 @@ rm -rf "$work"
 mkdir -p "$work/root/var/lib/dpkg"/{info,updates}
 touch "$work/root/var/lib/dpkg"/{status,available}
 (cd "$build" && cpack -B "$work" >"$work/cpack.log") || fail "$(cat "$work/cpack.log")"
-package=$(echo "$work"/*.deb)
-[ "$(stat -c %s "$package")" -lt "$mebibyte" ] || fail "the package has 1 MiB or more"
+demo=$(echo "$work"/velm4030_*.deb)
+play=$(echo "$work"/velm4030-play_*.deb)
+for package in "$demo" "$play"; do
+    [ "$(stat -c %s "$package")" -lt "$mebibyte" ] || fail "$package has 1 MiB or more"
+done
+# The C++ library and X11, nothing else; SDL comes with the player.
+needs() { dpkg-deb --field "$1" Depends | tr ',' '\n' | sed 's/^ *\([^ ]*\).*/\1/' | sort | tr '\n' ' '; }
+[ "$(needs "$demo")" = 'libc6 libgcc-s1 libstdc++6 libx11-6 ' ] || fail "the demo needs $(needs "$demo")"
+[[ " $(needs "$play")" == *' libsdl2-2.0-0 '*' velm4030 '* ]] || fail "the player needs $(needs "$play")"
 
 # Dependencies belong to the system outside; what matters here is what the package itself brings and leaves.
 root=$work/root
 run_dpkg() { dpkg --root="$root" --force-not-root --force-depends --log=/dev/null "$@" >>"$work/dpkg.log" 2>&1; }
 (cd "$root" && find . -not -path './var/*' | sort) >"$work/before"
-run_dpkg --install "$package" || fail "$(cat "$work/dpkg.log")"
+run_dpkg --install "$demo" || fail "$(cat "$work/dpkg.log")"
+[ "$(cd "$root/usr/bin" && echo *)" = velm4030 ] || fail "the demo's package brings $(ls "$root/usr/bin")"
+run_dpkg --install "$play" || fail "$(cat "$work/dpkg.log")"
 [ "$(stat -c %s "$root/usr/bin/velm4030")" -lt "$mebibyte" ] || fail "the stripped demo has 1 MiB or more"
 installed=$(cd "$root/usr" && find . -type f | sort)
 for program in "$root"/usr/bin/*; do
     name=$(basename "$program")
-    readelf -dW "$program" | grep -q BIND_NOW || fail "$name binds its symbols late"
-    readelf -sW --dyn-syms "$program" | grep -q __stack_chk_fail || fail "$name has no guarded stack"
+    readelf -dW "$program" | grep BIND_NOW >/dev/null || fail "$name binds its symbols late"
+    readelf -sW --dyn-syms "$program" | grep __stack_chk_fail >/dev/null || fail "$name has no guarded stack"
     [ -s "$root/usr/share/man/man6/$name.6.gz" ] || fail "$name has no man page"
 done
-for file in applications/velm4030.desktop metainfo/org.velm4030.velm4030.metainfo.xml doc/velm4030/copyright \
-    doc/velm4030/README.md doc/velm4030/changelog.gz doc/velm4030/changelog.Debian.gz; do
+for file in applications/velm4030-play.desktop xscreensaver/config/velm4030-play.xml \
+    metainfo/org.velm4030.velm4030.metainfo.xml doc/velm4030/copyright \
+    doc/velm4030/README.md doc/velm4030/changelog.gz doc/velm4030/changelog.Debian.gz doc/velm4030-play/copyright; do
     grep -qxF "./share/$file" <<<"$installed" || fail "$file is missing in $installed"
 done
 for size in 16 24 32 48 64 128 256; do
     icon=$root/usr/share/icons/hicolor/${size}x$size/apps/velm4030.png
     [[ "$(pngtopnm "$icon" | pnmfile)" == *" $size by $size "* ]] || fail "$icon is not $size by $size"
 done
-starts=$(sed -n 's/^Exec=//p' "$root/usr/share/applications/velm4030.desktop")
+starts=$(sed -n 's/^Exec=//p' "$root/usr/share/applications/velm4030-play.desktop")
 [ -x "$root/usr/bin/$starts" ] || fail "the menu starts $starts, which is not installed"
 "$root/usr/bin/velm4030-capture" --frames 3 --quiet --crc "$work/installed.crc"
 "$build/velm4030-capture" --frames 3 --quiet --crc "$work/built.crc"
@@ -53,5 +63,14 @@ if message=$(env -u DISPLAY "$root/usr/bin/velm4030" 2>&1); then
 fi
 [ "$message" = 'velm4030: cannot open display ""' ] || fail "without a display it says: $message"
 
-run_dpkg --purge velm4030 || fail "$(cat "$work/dpkg.log")"
+# What the screen saver's settings offer is what the player takes.
+sed -n 's/.* arg\(-set\)\?="\([^"]*\)".*/\2/p' \
+    "$root/usr/share/xscreensaver/config/velm4030-play.xml" >"$work/arguments"
+[ "$(wc -l <"$work/arguments")" -ge 9 ] || fail "no arguments in the screen saver's settings"
+while read -r arguments; do
+    # shellcheck disable=SC2086
+    "$root/usr/bin/velm4030-play" $arguments --list >"$work/list" || fail "velm4030-play refuses $arguments"
+done <"$work/arguments"
+
+run_dpkg --purge velm4030-play velm4030 || fail "$(cat "$work/dpkg.log")"
 (cd "$root" && find . -not -path './var/*' | sort) | diff "$work/before" - || fail "the removal left files"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The player on a real sound server: through libasound, through the stand-in for "/dev/dsp", and through the
-// server's death.
+// The player on a real sound server: by its own protocol, through the stand-in for "/dev/dsp", and through
+// the server's silence and death.
 #include "sound_server.h"
 
 #include <csignal>
@@ -27,7 +27,7 @@ protected:
 
 TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     waitForRecorder();
-    Child player({VELM_PLAYER, "schedule", "--scale", "1", "--frames", "220"}, withDisplay());
+    Child player({VELM_PLAYER, "schedule", "--scale", "1", "--gain", "0", "--frames", "220"}, withDisplay());
     ASSERT_EQ(player.waitForExit(60), 0) << player.errors();
     EXPECT_EQ(player.output(), "sound: pulseaudio\n");
     EXPECT_EQ(player.errors(), "");
@@ -51,7 +51,8 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     EXPECT_GE(found, pieces - pieces / 10);
 
     // The same through the other driver, at half the volume.
-    Child half({VELM_PLAYER, "schedule", "--scale", "1", "--volume", "50", "--sound", "oss"}, withDevice());
+    Child half({VELM_PLAYER, "schedule", "--scale", "1", "--volume", "50", "--gain", "0", "--sound", "oss"},
+               withDevice());
     Sound stretch = loudestWindow(captured(60));
     for (std::int16_t& value : stretch) {
         value /= 2;
@@ -80,6 +81,24 @@ TEST_F(PlaySoundTest, AServerThatHangsOrDiesNeverStopsThePictureAndTheSoundRetur
     EXPECT_EQ(player.waitForExit(), 0);
     EXPECT_EQ(player.errors(), "");
     EXPECT_EQ(player.output(), "sound: pulseaudio\n");
+}
+
+TEST_F(PlaySoundTest, AServerThatHangsAtTheStartCostsOnlySilence) {
+    waitForRecorder();
+    pulseaudio->signal(SIGSTOP);
+    Child player({VELM_PLAYER, "--scale", "1"}, withDisplay());
+    ASSERT_TRUE(eventually([this] { return session.findDemo() != 0; })) << player.errors();
+    // The first second shows the logo, and then the demo moves.
+    const double begin = secondsNow();
+    ASSERT_TRUE(eventually([this] { return isPictureMoving(); }, 4));
+    EXPECT_LT(secondsNow() - begin, 2.5) << "no picture waits for the sound";
+    EXPECT_EQ(player.output(), "") << "no sound answers yet";
+    pulseaudio->signal(SIGCONT);
+    EXPECT_TRUE(eventually([this] { return !isSilent(recorded()); })) << "the sound comes when it can";
+    EXPECT_EQ(player.output(), "sound: pulseaudio\n");
+    session.press("Escape");
+    EXPECT_EQ(player.waitForExit(), 0);
+    EXPECT_EQ(player.errors(), "");
 }
 
 } // namespace

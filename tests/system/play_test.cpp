@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The player on real X servers of several kinds, with a real window manager and without one. A pause freezes
-// the picture, so a screenshot can be looked up among the frames of a capture.
+// The player's picture on real X servers of several kinds, with a real window manager and without one.
 #include "demo/assets.h"
 #include "demo/scenes.h"
 #include "image/img.h"
-#include "process.h"
-#include "x11_session.h"
+#include "play_stage.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -20,132 +18,23 @@
 namespace velm::test {
 namespace {
 
-constexpr int pictureSize = 256;
-constexpr std::size_t framePixels = std::size_t{pictureSize} * pictureSize;
-constexpr std::ptrdiff_t startFrames = 33; ///< the logo and its fading out; the last ones are all black
-
-using Frame = std::vector<std::uint32_t>;
-
-/// The demo's first frames, from the capture tool.
-const std::vector<Frame>& captured() {
-    static const std::vector<Frame> all = [] {
-        const std::string path = temporaryFile();
-        EXPECT_EQ(runTool({VELM_CAPTURE, "--frames", "400", "--quiet", "--raw", path}, {}), 0);
-        const std::string raw = contents(path);
-        std::filesystem::remove(path);
-        std::vector<Frame> frames(raw.size() / (4 * framePixels), Frame(framePixels));
-        for (std::size_t i = 0; i < frames.size(); ++i) {
-            std::memcpy(frames[i].data(), &raw[i * 4 * framePixels], 4 * framePixels);
-        }
-        return frames;
-    }();
-    return all;
-}
-
-/// A player on a server, and what a viewer sees of it.
-class Stage {
-public:
-    Stage(std::string serverDepth, const std::string& size, const std::vector<std::string>& serverArguments,
-          const std::string& host = "")
-        : depth(std::move(serverDepth)), server(depth, size, serverArguments),
-          session(host + server.display()) {
-        // The pointer rests where windows get the keyboard. It does not move, so the demo leaves it in its
-        // corner.
-        session.movePointer(320, 240);
-    }
-    ~Stage() { std::filesystem::remove(spyLog); }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-
-    void play(std::vector<std::string> arguments, const std::string& host = "") {
-        std::ofstream(spyLog, std::ios::trunc);
-        arguments.insert(arguments.begin(), {VELM_PLAYER, "schedule", "--sound", "none"});
-        player =
-            std::make_unique<Child>(arguments, Environment{{"DISPLAY", host + server.display()},
-                                                           {"LD_PRELOAD", VELM_X11_SPY},
-                                                           {"VELM_SPY", spyLog},
-                                                           {"ASAN_OPTIONS", "verify_asan_link_order=0"}});
-        ASSERT_TRUE(eventually([this] { return puts() > startFrames + 3; }, 60)) << player->errors();
-        window = session.findDemo();
-        ASSERT_NE(window, 0U);
-    }
-
-    /// Pictures sent so far.
-    [[nodiscard]] std::ptrdiff_t puts() const {
-        const std::string log = contents(spyLog);
-        return std::count(log.begin(), log.end(), '\n');
-    }
-
-    void pause() {
-        session.press("p");
-        ASSERT_TRUE(eventually([this] {
-            const std::ptrdiff_t before = puts();
-            return std::system("sleep 0.2") == 0 && puts() == before;
-        }));
-    }
-
-    /// The number of the captured frame that the window shows at `scale` from (left, top) on, black around; 0
-    /// for none.
-    [[nodiscard]] std::size_t shown(int scale, int left, int top) const {
-        const Session::Place place = session.placeOf(window);
-        const auto pixels = session.screen(place.x, place.y, static_cast<unsigned int>(place.width),
-                                           static_cast<unsigned int>(place.height));
-        const auto seen = [&](int x, int y) { return pixels[static_cast<std::size_t>(y * place.width + x)]; };
-        const auto matches = [&](const Frame& frame) {
-            for (int y = 0; y < place.height; ++y) {
-                for (int x = 0; x < place.width; ++x) {
-                    const bool inside = x >= left && y >= top && x < left + pictureSize * scale &&
-                                        y < top + pictureSize * scale;
-                    const std::size_t at =
-                        inside
-                            ? static_cast<std::size_t>((y - top) / scale * pictureSize + (x - left) / scale)
-                            : 0;
-                    if (seen(x, y) != (inside ? onScreen(depth, frame[at]) : 0)) {
-                        return false;
-                    }
-                }
-            }
-            return true;
-        };
-        const auto& frames = captured();
-        const auto found = std::find_if(frames.begin() + startFrames, frames.end(), matches);
-        return found == frames.end() ? 0 : static_cast<std::size_t>(found - frames.begin()) + 1;
-    }
-
-    /// Waits for the server: it reads the player's connection and the viewer's in the order that it likes.
-    void expectShown(int scale, int left, int top) const {
-        EXPECT_TRUE(eventually([&] { return shown(scale, left, top) != 0; }, 5)) << "not a frame of the demo";
-    }
-
-    std::string depth;
-    XServer server;
-    Session session;
-    std::string spyLog = temporaryFile();
-    std::unique_ptr<Child> player;
-    ::Window window = 0;
-};
-
 /// How a picture may get to the server.
 struct Way {
     const char* name;
     std::vector<std::string> serverArguments;
-    const char* host;
-    bool announced;
     bool shared;
 };
 
 class PlayFrames : public testing::TestWithParam<const char*> {};
 
 TEST_P(PlayFrames, AreTheDemosBitForBitOnEveryWayToTheServer) {
-    const Way ways[] = {{"shared", {}, "", true, true},
-                        {"without", {"-extension", "MIT-SHM"}, "", false, false}};
+    const Way ways[] = {{"shared", {}, true}, {"without", {"-extension", "MIT-SHM"}, false}};
     for (const Way& way : ways) {
         SCOPED_TRACE(way.name);
-        Stage stage(GetParam(), "640x600", way.serverArguments, way.host);
+        Stage stage(GetParam(), "640x600", way.serverArguments);
         int code = 0;
-        EXPECT_EQ(XQueryExtension(stage.session.connection, "MIT-SHM", &code, &code, &code) != 0,
-                  way.announced);
-        stage.play({"--scale", "2"}, way.host);
+        EXPECT_EQ(XQueryExtension(stage.session.connection, "MIT-SHM", &code, &code, &code) != 0, way.shared);
+        stage.play({"--scale", "2"});
         const std::string maps = contents("/proc/" + std::to_string(stage.player->id()) + "/maps");
         // For 30 bits SDL has no memory of a window's, so none is shared.
         EXPECT_EQ(maps.find("/SYSV") != std::string::npos, way.shared && stage.depth != "30");
@@ -310,7 +199,8 @@ TEST(Play, TakesItsArgumentsAndRefusesWrongOnesWithOneLine) {
     Child list({VELM_PLAYER, "--list"}, {{"DISPLAY", ""}});
     EXPECT_EQ(list.waitForExit(), 0);
     const std::string lines = list.output();
-    EXPECT_EQ(static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n')), SCENE_all().size() + 1) << "and the schedule";
+    EXPECT_EQ(static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n')), SCENE_all().size() + 1)
+        << "and the schedule";
     const XServer server("24");
     const std::string play = "exec \"$0\" --frames 60 --rate 60 --sound oss interlude-a";
     Child silent({"sh", "-c", play, VELM_PLAYER}, {{"DISPLAY", server.display()}});

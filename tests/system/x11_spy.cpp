@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
-#include <sys/shm.h>
 #include <time.h>
 
 namespace {
@@ -61,12 +60,4 @@ extern "C" Bool XShmPutImage(Display* display, Drawable drawable, GC graphics, X
     static const auto put = reinterpret_cast<Put>(dlsym(RTLD_NEXT, "XShmPutImage"));
     note(image, width, height);
     return put(display, drawable, graphics, image, srcX, srcY, dstX, dstY, width, height, sendEvent);
-}
-
-/// Shared memory is its owner's alone, so that the server refuses it to who comes by TCP: it cannot know
-/// whose it is.
-extern "C" int shmget(key_t key, size_t size, int flags) {
-    constexpr int others = 077;
-    static const auto get = reinterpret_cast<int (*)(key_t, size_t, int)>(dlsym(RTLD_NEXT, "shmget"));
-    return get(key, size, flags & ~others);
 }

@@ -4,7 +4,7 @@
 #include "paint/contact_sheets.h"
 
 #include "foundation/sine.h"
-#include "paint/png.h"
+#include "paint/files.h"
 #include "paint/shading.h"
 #include "vector/obj2d.h"
 #include "vector/vec2d.h"

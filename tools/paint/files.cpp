@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "paint/files.h"
 
+#include "png/png.h"
+
 #include <cstddef>
 #include <cstdlib>
 #include <fstream>
@@ -45,6 +47,10 @@ bool writeFile(const std::string& path, const std::string& bytes) {
         return false;
     }
     return true;
+}
+
+bool writePng(const std::string& path, const IMG& img, const IMG* coverage) {
+    return writeFile(path, pngOf(img, coverage));
 }
 
 bool writeBitmap(const std::string& path, const std::string& title, const IMG& img, Ink ink) {

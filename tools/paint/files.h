@@ -20,6 +20,9 @@ bool writeGrey(const std::string& path, const std::string& title, const IMG& img
 /// P6.
 bool writeColour(const std::string& path, const std::string& title, const IMG& img);
 
+/// PNG, with the coverage as alpha; nullptr for none.
+bool writePng(const std::string& path, const IMG& img, const IMG* coverage = nullptr);
+
 /// The bytes as they stand.
 bool writeFile(const std::string& path, const std::string& bytes);
 

@@ -7,7 +7,7 @@
 
 #include "image/rgb888.h"
 #include "paint/files.h"
-#include "paint/png.h"
+#include "paint/files.h"
 #include "paint/shading.h"
 #include "paint/strokes.h"
 

@@ -4,7 +4,10 @@
 // velm4030-play: the demo as today's desktops want it.
 #include "demo/velm4030.h"
 #include "desktop/desktop.h"
+#include "play/caption.h"
+#include "play/keys.h"
 #include "play/options.h"
+#include "play/snapshot.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -30,12 +33,13 @@ int main(int argc, char** argv) {
     haveStandardFiles();
     static PlayOptions options = parseOptions(argc, argv);
     std::signal(SIGPIPE, SIG_IGN); // nobody may be listening to what it says
-    desktop.scale = options.scale;
-    desktop.fullScreen = options.fullScreen;
-    desktop.sound = options.sound;
-    desktop.volume = options.volume;
-    desktop.frameLimit = options.frames;
+    desktop = options.desktop;
+    desktop.help = keysText;
     desktop.onLimit = [] { std::exit(0); };
+    desktop.onPrevious = [] { PROGRAMME_previous(options.programme); };
+    desktop.onNext = [] { PROGRAMME_next(options.programme); };
+    desktop.onPicture = keepSnapshot;
+    desktop.onText = drawCaption;
     VELM4030_start();
     VELM4030_setFrameRate(options.rate);
     PROGRAMME_play(options.programme);

@@ -3,7 +3,8 @@
 #include "play/options.h"
 
 #include "common/arguments.h"
-#include "desktop/desktop.h"
+#include "platform/gain.h"
+#include "play/keys.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -15,6 +16,9 @@
 namespace velm {
 
 namespace {
+
+constexpr const char* firstSound = "auto";
+constexpr const char* noSound = "none";
 
 void listScenes() {
     constexpr int nameWidth = 16;
@@ -42,44 +46,78 @@ PROGRAMME programmeOf(const std::vector<std::string>& names, bool isMixed) {
 
 std::vector<std::string> soundNames() {
     std::vector<std::string> names = desktopSounds();
-    names.insert(names.begin(), "auto");
-    names.emplace_back("none");
+    names.insert(names.begin(), firstSound);
+    names.emplace_back(noSound);
     return names;
+}
+
+/// A window's number, decimal or with 0x before it; 0 for anything else.
+std::uint64_t windowOf(const std::string& text) {
+    constexpr int anyBase = 0;
+    char* end = nullptr;
+    const std::uint64_t number = std::strtoull(text.c_str(), &end, anyBase);
+    return !text.empty() && *end == '\0' && text[0] != '-' ? number : 0;
+}
+
+/// Of the screen saver's window, if one has started us: it says which by a variable.
+void takeSaverWindow(Desktop& wanted) {
+    const char* const window = std::getenv("XSCREENSAVER_WINDOW");
+    if (wanted.foreign == 0 && window != nullptr) {
+        wanted.foreign = windowOf(window);
+    }
 }
 
 } // namespace
 
 PlayOptions parseOptions(int argc, char** argv) {
     PlayOptions options;
+    Desktop& wanted = options.desktop;
+    wanted.gain = GAIN_usual;
     std::vector<std::string> scenes;
+    std::string window;
+    std::string sound;
     bool list = false;
     bool isMixed = false;
-    std::string sound = "auto";
     constexpr int mostScale = 16;
     constexpr int mostVolume = 100;
     CLI::App app("The VELM4030 demo, enlarged or full screen, with sound through what the desktop has.");
+    app.footer(std::string("Keys:\n") + keysText);
     app.set_version_flag("--version", std::string(desktopProgram) + " " VELM_VERSION);
     takeScenes(*app.add_option("SCENE", scenes, "these scenes, again and again; all of them unless given")
                     ->expected(0, PROGRAMME::mostParts));
     app.add_flag("--list", list, "names the scenes and leaves");
     app.add_flag("--shuffle", isMixed, "mixes their order");
     CLI::Option* const scale =
-        app.add_option("--scale", options.scale, "enlargement, without smoothing (what suits the screen)")
+        app.add_option("--scale", wanted.scale, "enlargement, without smoothing (what suits the screen)")
             ->check(CLI::Range(1, mostScale));
-    app.add_flag("--fullscreen", options.fullScreen, "fills the screen, in whole multiples")->excludes(scale);
+    CLI::Option* const full =
+        app.add_flag("--fullscreen", wanted.fullScreen, "fills the screen, in whole multiples")
+            ->excludes(scale);
+    CLI::Option* const root =
+        app.add_flag("--root", wanted.root, "draws on the X11 root window, silent unless --sound is given");
+    app.add_option("--window-id", window, "draws into this X11 window of another program, likewise")
+        ->check(
+            [](const std::string& text) { return windowOf(text) > 0 ? "" : "not a window: '" + text + "'"; })
+        ->excludes(scale, full, root);
+    root->excludes(scale, full);
     app.add_option("--sound", sound, "where the sound goes (auto, the first that answers)")
         ->check(CLI::IsMember(soundNames()));
-    app.add_option("--volume", options.volume, "of the sound, per cent (100)")
+    app.add_option("--volume", wanted.volume, "of the sound, per cent (100)")
         ->check(CLI::Range(0, mostVolume));
+    takeGain(
+        *app.add_option("--gain", wanted.gain, "decibels by which the sound is raised (12; 0 as it is)"));
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
-    takeFrames(*app.add_option("--frames", options.frames, "leaves after so many presentations"));
+    takeFrames(*app.add_option("--frames", wanted.frameLimit, "leaves after so many presentations"));
     parseOrLeave(app, desktopProgram, argc, argv);
     if (list) {
         listScenes();
         std::exit(0);
     }
     options.programme = programmeOf(scenes, isMixed);
-    options.sound = sound == "auto" ? "" : sound;
+    wanted.foreign = windowOf(window);
+    takeSaverWindow(wanted);
+    const bool isForeign = wanted.foreign != 0 || wanted.root;
+    wanted.sound = sound.empty() && isForeign ? noSound : sound == firstSound ? "" : sound;
     return options;
 }
 

@@ -8,20 +8,16 @@
 #pragma once
 
 #include "demo/programme.h"
+#include "desktop/desktop.h"
 
 #include <cstdint>
-#include <string>
 
 namespace velm {
 
 struct PlayOptions {
     PROGRAMME programme;    ///< what to show, in which order
-    std::int32_t scale = 0; ///< 0 for what suits the screen
-    bool fullScreen = false;
-    std::string sound;         ///< a driver's name, "" for the first that answers
-    std::int32_t volume = 100; ///< per cent
-    std::int32_t rate = 30;    ///< frames per second at the start
-    std::uint32_t frames = 0;  ///< presentations, then it leaves; 0 for no end
+    std::int32_t rate = 30; ///< frames per second at the start
+    Desktop desktop;        ///< window, full screen or foreign window, sound, and the number of frames
 };
 
 PlayOptions parseOptions(int argc, char** argv);

@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "paint/png.h"
-
-#include "paint/files.h"
+#include "png/png.h"
 
 #include <zlib.h>
 
-namespace velm::paint {
+namespace velm {
 
 namespace {
 
@@ -63,7 +61,7 @@ std::string rowsOf(const IMG& img, const IMG* coverage) {
 
 } // namespace
 
-bool writePng(const std::string& path, const IMG& img, const IMG* coverage) {
+std::string pngOf(const IMG& img, const IMG* coverage) {
     constexpr std::uint32_t trueColour = 2;
     constexpr std::uint32_t withAlpha = 6;
     std::string head;
@@ -75,9 +73,10 @@ bool writePng(const std::string& path, const IMG& img, const IMG* coverage) {
     }
     std::string file = "\x89PNG\r\n\x1A\n";
     appendChunk(file, "IHDR", head);
-    appendChunk(file, "IDAT", compressed(rowsOf(img, coverage)));
+    const std::string rows = compressed(rowsOf(img, coverage));
+    appendChunk(file, "IDAT", rows);
     appendChunk(file, "IEND", "");
-    return writeFile(path, file);
+    return rows.empty() ? "" : file;
 }
 
-} // namespace velm::paint
+} // namespace velm

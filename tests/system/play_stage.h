@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The player on a real X server, and what a viewer sees of it. A pause freezes the picture, so a screenshot
+// can be looked up among the frames of a capture.
+//
+//     Stage stage("24", "640x480", {});
+//     stage.play({"--scale", "1"});
+//     stage.pause();
+//     stage.expectShown(1, 0, 0);
+#pragma once
+
+#include "process.h"
+#include "x11_session.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace velm::test {
+
+inline constexpr int pictureSize = 256;
+inline constexpr std::size_t framePixels = std::size_t{pictureSize} * pictureSize;
+inline constexpr std::ptrdiff_t startFrames =
+    33; ///< the logo and its fading out; the last ones are all black
+
+using Frame = std::vector<std::uint32_t>;
+
+/// The demo's first frames, from the capture tool.
+inline const std::vector<Frame>& captured() {
+    static const std::vector<Frame> all = [] {
+        const std::string path = temporaryFile();
+        EXPECT_EQ(runTool({VELM_CAPTURE, "--frames", "400", "--quiet", "--raw", path}, {}), 0);
+        const std::string raw = contents(path);
+        std::filesystem::remove(path);
+        std::vector<Frame> frames(raw.size() / (4 * framePixels), Frame(framePixels));
+        for (std::size_t i = 0; i < frames.size(); ++i) {
+            std::memcpy(frames[i].data(), &raw[i * 4 * framePixels], 4 * framePixels);
+        }
+        return frames;
+    }();
+    return all;
+}
+
+/// A player on a server, and what a viewer sees of it.
+class Stage {
+public:
+    Stage(std::string serverDepth, const std::string& size,
+          const std::vector<std::string>& serverArguments = {})
+        : depth(std::move(serverDepth)), server(depth, size, serverArguments), session(server.display()) {
+        // The pointer rests where windows get the keyboard. It does not move, so the demo leaves it in its
+        // corner.
+        session.movePointer(320, 240);
+    }
+    ~Stage() { std::filesystem::remove(spyLog); }
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    /// Starts the player and waits until the demo is past its logo.
+    void start(std::vector<std::string> arguments) {
+        std::ofstream(spyLog, std::ios::trunc);
+        arguments.insert(arguments.begin(), {VELM_PLAYER, "schedule"});
+        Environment environment = {{"DISPLAY", server.display()},
+                                   {"LD_PRELOAD", VELM_X11_SPY},
+                                   {"VELM_SPY", spyLog},
+                                   {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+        environment.insert(environment.end(), more.begin(), more.end());
+        player = std::make_unique<Child>(arguments, environment);
+        ASSERT_TRUE(eventually([this] { return puts() > startFrames + 3; }, 60)) << player->errors();
+    }
+
+    /// The same in a window of its own, silent.
+    void play(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), {"--sound", "none"});
+        start(std::move(arguments));
+        window = session.findDemo();
+        ASSERT_NE(window, 0U);
+    }
+
+    /// Pictures sent so far.
+    [[nodiscard]] std::ptrdiff_t puts() const {
+        const std::string log = contents(spyLog);
+        return std::count(log.begin(), log.end(), '\n');
+    }
+
+    void pause() {
+        session.press("p");
+        ASSERT_TRUE(eventually([this] {
+            const std::ptrdiff_t before = puts();
+            return std::system("sleep 0.2") == 0 && puts() == before;
+        }));
+    }
+
+    /// The number of the captured frame that the window shows at `scale` from (left, top) on, black around; 0
+    /// for none.
+    [[nodiscard]] std::size_t shown(int scale, int left, int top) const {
+        const Session::Place place = session.placeOf(window);
+        const auto pixels = session.screen(place.x, place.y, static_cast<unsigned int>(place.width),
+                                           static_cast<unsigned int>(place.height));
+        const auto seen = [&](int x, int y) { return pixels[static_cast<std::size_t>(y * place.width + x)]; };
+        const auto matches = [&](const Frame& frame) {
+            for (int y = 0; y < place.height; ++y) {
+                for (int x = 0; x < place.width; ++x) {
+                    const bool inside = x >= left && y >= top && x < left + pictureSize * scale &&
+                                        y < top + pictureSize * scale;
+                    const std::size_t at =
+                        inside
+                            ? static_cast<std::size_t>((y - top) / scale * pictureSize + (x - left) / scale)
+                            : 0;
+                    if (seen(x, y) != (inside ? onScreen(depth, frame[at]) : 0)) {
+                        return false;
+                    }
+                }
+            }
+            return true;
+        };
+        const auto& frames = captured();
+        const auto found = std::find_if(frames.begin() + startFrames, frames.end(), matches);
+        return found == frames.end() ? 0 : static_cast<std::size_t>(found - frames.begin()) + 1;
+    }
+
+    /// The same of a player that runs: it is stopped while it is looked at.
+    [[nodiscard]] bool runsAt(int scale, int left, int top) const {
+        player->signal(SIGSTOP);
+        const bool found = shown(scale, left, top) != 0;
+        player->signal(SIGCONT);
+        return found;
+    }
+
+    /// Waits for the server: it reads the player's connection and the viewer's in the order that it likes.
+    void expectShown(int scale, int left, int top) const {
+        EXPECT_TRUE(eventually([&] { return shown(scale, left, top) != 0; }, 5)) << "not a frame of the demo";
+    }
+
+    std::string depth;
+    XServer server;
+    Session session;
+    Environment more; ///< of the player's
+    std::string spyLog = temporaryFile();
+    std::unique_ptr<Child> player;
+    ::Window window = 0;
+};
+
+} // namespace velm::test

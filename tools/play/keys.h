@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// What the player's help says about the keys: over the picture and after --help.
+#pragma once
+
+namespace velm {
+
+/// Lines of at most 31 characters, as many as fit on a picture.
+inline constexpr const char* keysText = "Escape     fades out and leaves\n"
+                                        "Space      next part\n"
+                                        "Left Right scene before, after\n"
+                                        "F11        full screen\n"
+                                        "F12        keeps the picture\n"
+                                        "+ -        volume\n"
+                                        "h F1       these keys\n"
+                                        "p          pause\n"
+                                        "0          music\n"
+                                        "1          scroll text\n"
+                                        "4          raster bars\n"
+                                        "5 6        30 or 60 frames\n"
+                                        "8          the frame rate\n"
+                                        "b g        blur, glare\n"
+                                        "w f        clear mode, fade\n"
+                                        "q          black or white\n"
+                                        "s          another view\n"
+                                        "e d        turn the drum\n";
+
+} // namespace velm
