@@ -5,40 +5,7 @@
 #include "desktop/video.h"
 #include "desktop/x11.h"
 
-#include <algorithm>
-
 namespace velm {
-
-namespace {
-
-PixelLayout layoutOf(const SDL_PixelFormat& format) {
-    return {format.BytesPerPixel, format.Rmask, format.Gmask, format.Bmask};
-}
-
-/// A window's memory.
-struct Memory {
-    char* first;
-    std::int32_t width, height, pitch;
-    PixelLayout pixels;
-};
-
-/// Enlarges what fits of a frame into the memory and returns the place that it takes.
-SDL_Rect enlargeInto(const Memory& memory, const IMG& frame, const Layout& layout) {
-    // A window smaller than the picture shows its middle; a larger one shows all.
-    const std::int32_t x = std::max(-layout.left, 0);
-    const std::int32_t y = std::max(-layout.top, 0);
-    const Part part{x, y, std::min(frame.width - x, memory.width / layout.scale),
-                    std::min(frame.height - y, memory.height / layout.scale)};
-    const SDL_Rect place{std::max(layout.left, 0), std::max(layout.top, 0), part.width * layout.scale,
-                         part.height * layout.scale};
-    enlarge(frame, part, layout.scale, memory.pixels,
-            memory.first + std::ptrdiff_t{place.y} * memory.pitch +
-                std::ptrdiff_t{place.x} * memory.pixels.bytes,
-            memory.pitch);
-    return place;
-}
-
-} // namespace
 
 bool Canvas::open(SDL_Window* into) {
     window = into;
@@ -90,9 +57,14 @@ bool Canvas::drawSurface(const IMG& frame, const Layout& layout) {
     if (isFresh) {
         SDL_FillRect(surface, nullptr, 0);
     }
-    const SDL_Rect place = enlargeInto({static_cast<char*>(surface->pixels), surface->w, surface->h,
-                                        surface->pitch, layoutOf(*surface->format)},
-                                       frame, layout);
+    const SDL_PixelFormat& format = *surface->format;
+    const Part part = enlarge(frame, layout,
+                              {static_cast<char*>(surface->pixels),
+                               surface->w,
+                               surface->h,
+                               surface->pitch,
+                               {format.BytesPerPixel, format.Rmask, format.Gmask, format.Bmask}});
+    const SDL_Rect place{part.x, part.y, part.width, part.height};
     return (isFresh ? SDL_UpdateWindowSurface(window) : SDL_UpdateWindowSurfaceRects(window, &place, 1)) == 0;
 }
 
@@ -102,7 +74,7 @@ bool Canvas::drawRows(const IMG& frame, const Layout& layout) {
     if (isFresh) {
         rows.assign(static_cast<std::size_t>(pitch) * static_cast<std::size_t>(whole.y), '\0');
     }
-    enlargeInto({rows.data(), whole.x, whole.y, pitch, *pixels}, frame, layout);
+    enlarge(frame, layout, {rows.data(), whole.x, whole.y, pitch, *pixels});
     return putRows(window, rows.data(), whole);
 }
 

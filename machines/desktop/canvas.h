@@ -9,8 +9,7 @@
 //     canvas.draw(frame, layoutFor(256, 256, canvas.size().x, canvas.size().y));
 #pragma once
 
-#include "desktop/enlarge.h"
-#include "desktop/layout.h"
+#include "platform/enlarge.h"
 
 #include <SDL.h>
 #include <optional>

@@ -6,7 +6,7 @@
 // of velm_x11.
 //
 //     desktop.fullScreen = true;
-//     desktop.onNext = [] { ... };
+//     desktop.onKey = [](const std::string& key) { return key == "F12" && keep(*desktopFrame()); };
 //     VELM4030_main();
 #pragma once
 
@@ -21,28 +21,41 @@ namespace velm {
 
 /// The one desktop of the process. Set it up before the demo starts.
 struct Desktop {
-    std::int32_t scale = 0;       ///< the window's first enlargement; 0 for the largest that leaves a margin
-    bool fullScreen = false;      ///< instead of a window
-    std::uint64_t foreign = 0;    ///< the X11 window of another program to draw into; 0 for one of our own
-    bool root = false;            ///< draw into the X11 root window, or the one that stands in for it
-    std::string sound;            ///< a name of desktopSounds(), "none", or "" for the first that answers
-    std::int32_t volume = 100;    ///< per cent, 0..100; `+` and `-` change it
-    double gain = 0;              ///< decibels by which the sound is raised before that; it saturates
-    std::uint32_t frameLimit = 0; ///< presentations before onLimit is called instead of another; 0 for none
-    std::string help;             ///< the lines that H or F1 shows
+    std::int32_t scale = 0;    ///< the window's first enlargement; 0 for the largest that leaves a margin
+    bool fullScreen = false;   ///< instead of a window
+    std::uint64_t foreign = 0; ///< the X11 window of another program to draw into; 0 for one of our own
+    bool root = false;         ///< draw into the X11 root window, or the one that stands in for it
+    std::string sound;         ///< a name of desktopSounds(), noSound, or "" for the first that answers
+    std::int32_t volume = 100; ///< per cent, 0..100
+    double gain = 0;           ///< decibels by which the sound is raised before that; it saturates
 
-    std::function<void()> onLimit;                          ///< must not return
-    std::function<void()> onPrevious;                       ///< Left
-    std::function<void()> onNext;                           ///< Right
-    std::function<std::string(const IMG& frame)> onPicture; ///< F12: keeps the frame, returns a line to show
-    /// Draws lines of text over a copy of a frame. Without it no text is shown.
-    std::function<void(IMG& picture, const std::string& text)> onText;
+    std::function<void()> onPresent; ///< before each presentation
+    std::function<void()> onRest;    ///< now and then while the demo is paused
+    /// A key press comes here first: true keeps it from the demo. Keys have SDL's names ("F11",
+    /// "Alt+Return"), those that write are the text that they write ("h", "+").
+    std::function<bool(const std::string& key)> onKey;
+    /// What is drawn for a frame: itself, or another one of its size.
+    std::function<const IMG&(const IMG& frame)> onDraw;
+    /// A sound was taken, or noSound. A thread of its own calls it.
+    std::function<void(const std::string& sound)> onSound;
 };
 
 extern Desktop desktop;
 
+/// The last frame that was presented, or nullptr.
+const IMG* desktopFrame();
+
+/// Draws the last frame once more, by onDraw.
+void desktopRedraw();
+
+/// From the window to the full screen, and back.
+void desktopToggleFullScreen();
+
 /// The sounds that SDL knows, as --sound has them, in the order in which they are tried.
 std::vector<std::string> desktopSounds();
+
+/// What is in their place where there is none.
+inline constexpr const char* noSound = "none";
 
 /// The program's name, for what it says.
 inline constexpr const char* desktopProgram = "velm4030-play";

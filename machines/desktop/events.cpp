@@ -1,22 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "desktop/events.h"
-
+//
+// What the desktop tells, as the demo's keyboard and pointer.
 #include "desktop/desktop.h"
 #include "desktop/video.h"
 #include "desktop/window.h"
 #include "desktop/x11.h"
-#include "foundation/memory.h"
 #include "platform/clock.h"
 #include "platform/key_queue.h"
 #include "platform/xdpy.h"
 #include "platform/xkbd.h"
 #include "platform/xptr.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <deque>
+#include <string>
 #include <utility>
 
 namespace velm {
@@ -24,106 +22,58 @@ namespace velm {
 namespace {
 
 KeyQueue keys;
-std::deque<SDL_Point> motions;            ///< in the picture, first one first
-std::deque<SDL_MouseButtonEvent> buttons; ///< likewise
-constexpr std::size_t mostWaiting = 64;   ///< of either; what nobody reads is not kept
-bool hasEntered = false;                  ///< the next motion is where the pointer came in
-bool isRepeat = false;                    ///< the text that follows is of a key that is held
-std::int64_t lastMotion = 0;              ///< CLOCK_now(); 0 while the pointer is parked, or has not moved
+std::optional<SDL_Point> motion;            ///< the first that waits, in the picture
+std::optional<SDL_MouseButtonEvent> button; ///< likewise
+bool hasEntered = false;                    ///< the next motion is where the pointer came in
+bool isRepeat = false;                      ///< the text that follows is of a key that is held
+std::int64_t lastMotion = 0;                ///< CLOCK_now(); 0 while the pointer is parked, or has not moved
 
-template <typename Item>
-void keep(std::deque<Item>& queue, const Item& item) {
-    if (queue.size() < mostWaiting) {
-        queue.push_back(item);
-    }
-}
-
-void pushText(const char* text, std::int32_t keycode = 0) {
+void pushPress(const char* text, std::int32_t keycode = 0) {
     PressedKey press{.keycode = keycode, .micros = CLOCK_now()};
     std::strncpy(press.text, text, sizeof press.text - 1);
     pushKey(keys, press);
 }
 
-void changeVolume(std::int32_t by) {
-    constexpr std::int32_t most = 100;
-    desktop.volume = std::clamp(desktop.volume + by, 0, most);
-    playerWindow.say("volume " + std::to_string(desktop.volume) + " %");
-}
-
-void keepPicture() {
-    if (desktop.onPicture && playerWindow.frame != nullptr) {
-        playerWindow.say(desktop.onPicture(*playerWindow.frame));
-    }
-}
-
-void call(const std::function<void()>& hook) {
-    if (hook) {
-        hook();
-    }
+/// True for a key that is the program's own.
+bool isTaken(const std::string& key) {
+    return desktop.onKey && desktop.onKey(key);
 }
 
 void onKey(const SDL_Keysym& key) {
     constexpr std::int32_t keycodeUp = 98;
     constexpr std::int32_t keycodeDown = 104;
+    const char* const name = SDL_GetKeyName(key.sym);
+    const bool writes = std::strlen(name) == 1; // then the text follows
+    if (writes || isTaken(((key.mod & KMOD_ALT) != 0 ? "Alt+" : "") + std::string(name))) {
+        return;
+    }
     switch (key.sym) {
     case SDLK_ESCAPE:
-        return pushText("\x1b");
+        return pushPress("\x1b");
     case SDLK_UP:
-        return pushText("", keycodeUp);
+        return pushPress("", keycodeUp);
     case SDLK_DOWN:
-        return pushText("", keycodeDown);
-    case SDLK_LEFT:
-        return call(desktop.onPrevious);
-    case SDLK_RIGHT:
-        return call(desktop.onNext);
-    case SDLK_F1:
-        return playerWindow.toggleHelp();
-    case SDLK_F11:
-        return playerWindow.toggleFullScreen();
-    case SDLK_F12:
-        return keepPicture();
-    case SDLK_RETURN:
-        if ((key.mod & KMOD_ALT) != 0) {
-            playerWindow.toggleFullScreen();
-        }
-        return;
+        return pushPress("", keycodeDown);
     default:
         return;
     }
 }
 
-/// The characters that are the player's own; all others are the demo's.
-void onText(const char* text) {
-    constexpr std::int32_t volumeStep = 5;
-    switch (text[1] == '\0' ? text[0] : '\0') {
-    case 'h':
-    case 'H':
-        return playerWindow.toggleHelp();
-    case '+':
-    case '=':
-        return changeVolume(volumeStep);
-    case '-':
-        return changeVolume(-volumeStep);
-    default:
-        return pushText(text);
-    }
-}
-
-void onMotion(const SDL_MouseMotionEvent& motion) {
+void onMotion(const SDL_MouseMotionEvent& event) {
     // Where the pointer comes in is no motion: a demo that nobody has touched leaves it in its corner.
     if (std::exchange(hasEntered, false)) {
         return;
     }
-    keep(motions, playerWindow.inPicture({motion.x, motion.y}));
+    motion = motion.value_or(playerWindow.inPicture({event.x, event.y}));
     lastMotion = CLOCK_now();
 }
 
 /// On the full screen a pointer that rests leaves the picture, until it moves again.
 void parkPointer() {
     constexpr std::int64_t patience = 2000000;
-    if (playerWindow.isFull && lastMotion != 0 && CLOCK_now() - lastMotion > patience &&
-        playerWindow.frame != nullptr) {
-        keep(motions, {playerWindow.frame->width, playerWindow.frame->height});
+    const IMG* const frame = desktopFrame();
+    if (playerWindow.isFull && lastMotion != 0 && CLOCK_now() - lastMotion > patience && frame != nullptr) {
+        motion = motion.value_or(SDL_Point{frame->width, frame->height});
         lastMotion = 0;
     }
 }
@@ -160,15 +110,16 @@ void onInput(const SDL_Event& event) {
         }
         return;
     case SDL_TEXTINPUT:
-        if (!isRepeat) {
-            onText(event.text.text);
+        if (!isRepeat && !isTaken(event.text.text)) {
+            pushPress(event.text.text);
         }
         return;
     case SDL_MOUSEMOTION:
         return onMotion(event.motion);
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP:
-        return keep(buttons, event.button);
+        button = button.value_or(event.button);
+        return;
     default:
         return;
     }
@@ -183,35 +134,31 @@ void applyButton(XPTR* pointer, const SDL_MouseButtonEvent& event) {
     pointer->buttons = event.state == SDL_PRESSED ? pointer->buttons | bit : pointer->buttons & ~bit;
 }
 
-/// Reports a missing record or window.
-bool isUsable(const XPTR* pointer) {
-    if (pointer == nullptr || !XDPY_isOpen()) {
-        XPTR_error();
-        return false;
-    }
-    return true;
+void forgetPointer() {
+    motion.reset();
+    button.reset();
 }
 
 } // namespace
 
-void takeEvents() {
+void PlayerWindow::takeEvents() {
     bool isStale = false;
     SDL_Event event;
     while (SDL_PollEvent(&event) != 0) {
-        if (tellsLoss(playerWindow.window, event)) {
-            playerWindow.isForeign ? std::exit(0) : giveUp("the window is gone", "closed by another program");
+        if (tellsLoss(window, event)) {
+            isForeign ? std::exit(0) : giveUp("the window is gone", "closed by another program");
         }
         if (event.type == SDL_QUIT) {
             keys.closeAsked = true;
         } else if (event.type == SDL_WINDOWEVENT) {
             isStale = onWindow(event.window) || isStale;
-        } else if (!playerWindow.isForeign) {
+        } else if (!isForeign) {
             onInput(event);
         }
     }
     parkPointer();
     if (isStale) {
-        playerWindow.redraw();
+        redraw();
     }
 }
 
@@ -224,7 +171,7 @@ void XKBD_poll(XKBD* keyboard) {
         XKBD_error();
         return;
     }
-    takeEvents();
+    playerWindow.takeEvents();
     if (const std::optional<PressedKey> press = takeKey(keys, CLOCK_now())) {
         std::memcpy(keyboard->text, press->text, sizeof press->text);
         keyboard->keycode = press->keycode;
@@ -233,46 +180,42 @@ void XKBD_poll(XKBD* keyboard) {
 
 void XKBD_rest(XKBD*) {
     constexpr int microsPerMilli = 1000;
-    const bool spoke = CLOCK_now() < playerWindow.textUntil;
     SDL_Delay(XKBD_longestRest / microsPerMilli);
-    if (spoke && CLOCK_now() >= playerWindow.textUntil) {
-        playerWindow.redraw(); // what was said goes
+    if (desktop.onRest) {
+        desktop.onRest();
     }
 }
 
 XPTR* XPTR_new() {
-    XPTR* const pointer = XDPY_isOpen() ? allocateRecord<XPTR>() : nullptr;
-    if (pointer == nullptr) {
-        XPTR_error();
-    } else if (!playerWindow.isForeign) {
+    XPTR* const pointer = XPTR_make();
+    if (pointer != nullptr && !playerWindow.isForeign) {
         SDL_ShowCursor(SDL_DISABLE);
     }
     return pointer;
 }
 
 void XPTR_poll(XPTR* pointer) {
-    if (!isUsable(pointer)) {
+    if (!XPTR_isUsable(pointer)) {
         return;
     }
-    takeEvents();
+    playerWindow.takeEvents();
     // XPTR_firstMotionWins: one expects the latest position; the frame's first motion is taken and XPTR_flush
     // drops the rest, so a fast pointer trails behind.
-    if (!motions.empty()) {
-        pointer->x = motions.front().x;
-        pointer->y = motions.front().y;
-        motions.pop_front();
+    if (motion) {
+        pointer->x = motion->x;
+        pointer->y = motion->y;
     }
-    if (!buttons.empty()) {
-        applyButton(pointer, buttons.front());
-        buttons.pop_front();
+    if (button) {
+        applyButton(pointer, *button);
     }
+    forgetPointer();
 }
 
 void XPTR_query(XPTR* pointer) {
-    if (!isUsable(pointer)) {
+    if (!XPTR_isUsable(pointer)) {
         return;
     }
-    takeEvents();
+    playerWindow.takeEvents();
     SDL_Point place{};
     const std::uint32_t held = SDL_GetMouseState(&place.x, &place.y);
     constexpr std::int32_t known = 7;
@@ -284,11 +227,10 @@ void XPTR_query(XPTR* pointer) {
 
 std::int32_t XPTR_flush(XPTR* pointer) {
     // Without a record the events are discarded all the same.
-    isUsable(pointer);
+    XPTR_isUsable(pointer);
     if (XDPY_isOpen()) {
-        takeEvents();
-        motions.clear();
-        buttons.clear();
+        playerWindow.takeEvents();
+        forgetPointer();
     }
     return 0;
 }

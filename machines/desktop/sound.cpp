@@ -4,19 +4,15 @@
 // The sound device as the demo sees it, and the clock that it leads. A sound server may hang whoever opens or
 // closes it, so a thread of its own does, and the pictures never wait.
 #include "desktop/desktop.h"
-#include "desktop/pace.h"
-#include "desktop/sound_queue.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
 #include "platform/gain.h"
+#include "platform/pace.h"
+#include "platform/sound_queue.h"
 
 #include <SDL.h>
-#include <array>
 #include <chrono>
-#include <cstdio>
-#include <cstring>
 #include <thread>
-#include <unistd.h>
 
 namespace velm {
 
@@ -26,7 +22,6 @@ constexpr std::int32_t theDevice = 0;
 /// Names and what SDL calls them, in the order in which they are tried.
 constexpr std::pair<const char*, const char*> sounds[] = {
     {"pipewire", "pipewire"}, {"pulseaudio", "pulseaudio"}, {"alsa", "alsa"}, {"oss", "dsp"}};
-constexpr const char* silence = "none";
 
 /// The thread may outlive everything else, so this is never taken down.
 SoundQueue& queue = *new SoundQueue;
@@ -70,15 +65,9 @@ void quietAlsa() {
     }
 }
 
-/// Says which sound is taken, once for each that is.
-void announce(const std::string& name) {
-    static std::string said;
-    if (name != said && (name != silence || said.empty())) {
-        const bool missed = name == silence && !desktop.sound.empty() && desktop.sound != silence;
-        std::printf("sound: %s%s\n", name.c_str(),
-                    missed ? (" (no " + desktop.sound + " device)").c_str() : "");
-        std::fflush(stdout);
-        said = name;
+void announce(const char* name) {
+    if (desktop.onSound) {
+        desktop.onSound(name);
     }
 }
 
@@ -92,7 +81,7 @@ SDL_AudioDeviceID openAny() {
             }
         }
     }
-    announce(silence);
+    announce(noSound);
     return 0;
 }
 
@@ -124,26 +113,15 @@ std::vector<std::string> desktopSounds() {
     return names;
 }
 
-std::int64_t CLOCK_now() {
-    using namespace std::chrono;
-    static const steady_clock::time_point begin = steady_clock::now();
-    static const system_clock::duration wall = system_clock::now().time_since_epoch();
-    return duration_cast<microseconds>(wall + (steady_clock::now() - begin)).count();
-}
-
 void CLOCK_sleep(std::int32_t micros) {
     const std::int32_t correction = soundLeads ? pace.correction(queue.aheadMicros(CLOCK_now())) : 0;
     soundLeads = false;
     std::this_thread::sleep_for(std::chrono::microseconds(std::max(micros + correction, 0)));
 }
 
-void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
-    ualarm(delay, interval); // it refuses what is too long
-}
-
 std::int32_t DSP_open(const char*) {
-    if (desktop.sound == silence) {
-        announce(silence);
+    if (desktop.sound == noSound) {
+        announce(noSound);
         return -1;
     }
     static const bool started = [] {

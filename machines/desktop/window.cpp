@@ -5,14 +5,12 @@
 #include "desktop/window.h"
 
 #include "desktop/desktop.h"
-#include "desktop/events.h"
 #include "desktop/video.h"
 #include "desktop/x11.h"
-#include "foundation/memory.h"
-#include "platform/clock.h"
 #include "platform/icon.h"
 #include "platform/xdpy.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace velm {
@@ -60,14 +58,10 @@ void dressWindow(SDL_Window* window) {
     SDL_SetWindowMinimumSize(window, pictureSize, pictureSize);
     constexpr int bits = 32;
     SDL_Surface* const icon =
-        SDL_CreateRGBSurfaceWithFormat(0, ICON_size, ICON_size, bits, SDL_PIXELFORMAT_ARGB8888);
-    if (icon != nullptr) {
-        for (std::int32_t i = 0; i < ICON_size * ICON_size; ++i) {
-            static_cast<std::uint32_t*>(icon->pixels)[i] = ICON_pixel(i);
-        }
-        SDL_SetWindowIcon(window, icon);
-        SDL_FreeSurface(icon);
-    }
+        SDL_CreateRGBSurfaceWithFormatFrom(const_cast<char*>(ICON_bytes()), ICON_size, ICON_size, bits,
+                                           bits / 8 * ICON_size, SDL_PIXELFORMAT_RGBA32);
+    SDL_SetWindowIcon(window, icon);
+    SDL_FreeSurface(icon);
 }
 
 void openOwn() {
@@ -75,9 +69,10 @@ void openOwn() {
         lendKeyboard();
     }
     playerWindow.window = makeWindow();
-    if (playerWindow.window != nullptr) {
-        dressWindow(playerWindow.window);
+    if (playerWindow.window == nullptr) {
+        giveUp("cannot open a window", SDL_GetError());
     }
+    dressWindow(playerWindow.window);
 }
 
 void openForeign() {
@@ -91,54 +86,27 @@ void openForeign() {
     }
 }
 
-/// Makes `copy` as `img` is; false when memory runs out.
-bool copyTo(const IMG& img, IMG*& copy) {
-    if (copy == nullptr) {
-        copy = IMG_newSized(img.width, img.height);
-    }
-    if (copy == nullptr) {
-        return false;
-    }
-    if (copy->width != img.width || copy->height != img.height) {
-        IMG_setSize(copy, img.width, img.height);
-    }
-    IMG_copy(&img, copy);
-    return true;
-}
-
-/// What is to stand over the picture now.
-std::string textNow() {
-    const bool speaks = CLOCK_now() < playerWindow.textUntil;
-    return playerWindow.showsHelp ? desktop.help : speaks ? playerWindow.text : "";
-}
-
 } // namespace
+
+const IMG* desktopFrame() {
+    return playerWindow.frame;
+}
+
+void desktopRedraw() {
+    playerWindow.redraw();
+}
+
+void desktopToggleFullScreen() {
+    playerWindow.toggleFullScreen();
+}
 
 void PlayerWindow::redraw() {
     if (window == nullptr || isHidden || frame == nullptr) {
         return;
     }
-    static IMG* labelled = nullptr;
-    const IMG* shown = frame;
-    if (const std::string label = textNow(); !label.empty() && desktop.onText && copyTo(*frame, labelled)) {
-        desktop.onText(*labelled, label);
-        shown = labelled;
-    }
-    if (!canvas.draw(*shown, layout())) {
+    if (!canvas.draw(desktop.onDraw ? desktop.onDraw(*frame) : *frame, layout())) {
         XDPY_error();
     }
-}
-
-void PlayerWindow::say(const std::string& line) {
-    constexpr std::int64_t micros = 1500000;
-    text = line;
-    textUntil = CLOCK_now() + micros;
-    redraw();
-}
-
-void PlayerWindow::toggleHelp() {
-    showsHelp = !showsHelp;
-    redraw();
 }
 
 void PlayerWindow::toggleFullScreen() {
@@ -168,27 +136,17 @@ SDL_Point PlayerWindow::inPicture(SDL_Point place) const {
 
 XDPY* XDPY_open() {
     openVideo();
-    XDPY* const display = allocateRecord<XDPY>();
-    XDPY_current = display;
-    if (display == nullptr) {
-        XDPY_error();
-        return nullptr;
-    }
     desktop.foreign != 0 || desktop.root ? openForeign() : openOwn();
-    if (playerWindow.window == nullptr) {
-        giveUp("cannot open a window", SDL_GetError());
-    }
     const std::uint32_t format = SDL_GetWindowPixelFormat(playerWindow.window);
     if (!playerWindow.canvas.open(playerWindow.window)) {
         format == SDL_PIXELFORMAT_UNKNOWN ? giveUp("needs a TrueColor display, unlike", displayName())
                                           : giveUp("cannot draw", SDL_GetError());
     }
-    *display = {pictureSize, pictureSize, SDL_BITSPERPIXEL(format)};
+    XDPY* const display = XDPY_make(SDL_BITSPERPIXEL(format));
     if (desktop.fullScreen && !playerWindow.isForeign && !playerWindow.isFull) {
         playerWindow.toggleFullScreen();
     }
-    XDPY_dump.on = 0;
-    takeEvents();
+    playerWindow.takeEvents();
     return display;
 }
 
@@ -214,29 +172,20 @@ void XDPY_present(XDPY* display, const IMG* img) {
         XDPY_error();
         return;
     }
-    if (desktop.frameLimit != 0 && playerWindow.frames >= desktop.frameLimit && desktop.onLimit) {
-        desktop.onLimit();
+    if (desktop.onPresent) {
+        desktop.onPresent();
     }
-    ++playerWindow.frames;
     XDPY_dumpFrame(img);
-    if (copyTo(*img, playerWindow.frame)) {
-        playerWindow.redraw();
-    } else {
-        XDPY_error();
-    }
+    playerWindow.frame = Owned<IMG_delete>(IMG_clone(img));
+    playerWindow.redraw();
 }
 
 void XDPY_close(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
-        return;
+    if (XDPY_drop(handle)) {
+        playerWindow.canvas.close();
+        SDL_DestroyWindow(playerWindow.window);
+        playerWindow.window = nullptr;
     }
-    playerWindow.canvas.close();
-    SDL_DestroyWindow(playerWindow.window);
-    playerWindow.window = nullptr;
-    XDPY_current = nullptr;
-    delete *handle;
-    *handle = nullptr;
 }
 
 } // namespace velm

@@ -1,19 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The one window and what stands in it. The events act on it; the demo presents into it.
+// The one window, what stands in it and what happens to it. The demo presents into it.
 //
-//     playerWindow.say("volume 80 %");
 //     playerWindow.redraw();
+//     playerWindow.takeEvents();
 #pragma once
 
 #include "desktop/canvas.h"
-#include "desktop/layout.h"
-#include "image/img.h"
-
-#include <SDL.h>
-#include <cstdint>
-#include <string>
+#include "foundation/owned.h"
 
 namespace velm {
 
@@ -23,19 +18,16 @@ struct PlayerWindow {
     bool isHidden = false;        ///< minimised: nothing is drawn
     bool isFull = false;          ///< it fills the screen
     Canvas canvas;
-    IMG* frame = nullptr;       ///< the last one as it came; nullptr before
-    std::uint32_t frames = 0;   ///< presentations so far
-    bool showsHelp = false;     ///< the keys stand over the picture
-    std::string text;           ///< what was said last
-    std::int64_t textUntil = 0; ///< CLOCK_now() until which it stands over the picture
+    Owned<IMG_delete> frame; ///< the last one as it came; none before
 
-    /// Draws the last frame as the window stands now, and what is to stand over it.
+    /// Draws the last frame as the window stands now.
     void redraw();
 
-    /// Shows a line over the picture for a second or so.
-    void say(const std::string& line);
+    /// Takes all that has happened since the last call, and draws the window anew where it has to be. Keys
+    /// and pointer wait for the demo's polls; the program's own keys and what happens to the window act at
+    /// once.
+    void takeEvents();
 
-    void toggleHelp();
     void toggleFullScreen();
 
     /// Where the picture stands in the window now.

@@ -8,7 +8,7 @@
 //     SDL_Window* const window = foreignWindow(0x1200003);
 #pragma once
 
-#include "desktop/enlarge.h"
+#include "image/pixel_layout.h"
 
 #include <SDL.h>
 #include <cstdint>

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "foundation/memory.h"
 #include "headless/headless.h"
 #include "platform/clock.h"
 #include "platform/xdpy.h"
@@ -18,7 +17,6 @@ Headless headless;
 
 namespace {
 
-constexpr std::uint32_t windowSize = 256;
 constexpr std::uint32_t windowDepth = 24;
 
 /// The next entry that is due, or nullptr; entries are due once their presentation has been made.
@@ -61,14 +59,7 @@ void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
 }
 
 XDPY* XDPY_open() {
-    XDPY_current = allocateRecord<XDPY>();
-    if (XDPY_current == nullptr) {
-        XDPY_error();
-        return nullptr;
-    }
-    *XDPY_current = {.width = windowSize, .height = windowSize, .depth = windowDepth};
-    XDPY_dump.on = 0;
-    return XDPY_current;
+    return XDPY_make(windowDepth);
 }
 
 bool XDPY_isOpen() {
@@ -102,13 +93,7 @@ void XDPY_present(XDPY* display, const IMG* img) {
 }
 
 void XDPY_close(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
-        return;
-    }
-    XDPY_current = nullptr;
-    delete *handle;
-    *handle = nullptr;
+    XDPY_drop(handle);
 }
 
 void XKBD_poll(XKBD* keyboard) {
@@ -137,11 +122,7 @@ void XKBD_rest(XKBD*) {
 }
 
 XPTR* XPTR_new() {
-    XPTR* const pointer = XDPY_isOpen() ? allocateRecord<XPTR>() : nullptr;
-    if (pointer == nullptr) {
-        XPTR_error();
-    }
-    return pointer;
+    return XPTR_make();
 }
 
 void XPTR_poll(XPTR* pointer) {

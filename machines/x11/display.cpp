@@ -82,14 +82,9 @@ bool XDPY_isOpen() {
 }
 
 void XDPY_close(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
-        return;
+    if (XDPY_drop(handle)) {
+        x11Display.window = 0;
     }
-    x11Display.window = 0;
-    XDPY_current = nullptr;
-    delete *handle;
-    *handle = nullptr;
 }
 
 } // namespace velm

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "foundation/memory.h"
 #include "platform/xptr.h"
 #include "x11/events.h"
 
@@ -30,15 +29,6 @@ void hidePointer() {
     XDefineCursor(x11Display.connection, hiddenWindow, cursor);
 }
 
-/// Reports a missing record or window.
-bool isUsable(const XPTR* pointer) {
-    if (pointer == nullptr || !XDPY_isOpen()) {
-        XPTR_error();
-        return false;
-    }
-    return true;
-}
-
 /// Sets or clears a button's bit. The state is that before the event, so a button that was held is being let
 /// go.
 void applyButton(XPTR* pointer, const XButtonEvent& event) {
@@ -61,22 +51,16 @@ void forgetPointerEvents() {
 } // namespace
 
 XPTR* XPTR_new() {
-    if (!XDPY_isOpen()) {
-        XPTR_error();
-        return nullptr;
+    XPTR* const pointer = XPTR_make();
+    if (pointer != nullptr) {
+        XDPY_selectInput();
+        hidePointer();
     }
-    XPTR* pointer = allocateRecord<XPTR>();
-    if (pointer == nullptr) {
-        XPTR_error();
-        return nullptr;
-    }
-    XDPY_selectInput();
-    hidePointer();
     return pointer;
 }
 
 void XPTR_poll(XPTR* pointer) {
-    if (!isUsable(pointer)) {
+    if (!XPTR_isUsable(pointer)) {
         return;
     }
     x11TakeEvents();
@@ -94,7 +78,7 @@ void XPTR_poll(XPTR* pointer) {
 }
 
 void XPTR_query(XPTR* pointer) {
-    if (!isUsable(pointer)) {
+    if (!XPTR_isUsable(pointer)) {
         return;
     }
     Window root = 0;
@@ -119,7 +103,7 @@ void XPTR_query(XPTR* pointer) {
 
 std::int32_t XPTR_flush(XPTR* pointer) {
     // Without a record the events are discarded all the same.
-    isUsable(pointer);
+    XPTR_isUsable(pointer);
     if (XDPY_isOpen()) {
         x11TakeEvents();
         forgetPointerEvents();

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "foundation/memory.h"
 #include "x11/events.h"
 #include "x11/pixels.h"
 #include "x11/properties.h"
@@ -78,10 +77,8 @@ bool haveImage(const XDPY* display) {
 
 XDPY* XDPY_open() {
     x11Connect();
-    XDPY* const display = allocateRecord<XDPY>();
-    XDPY_current = display;
+    XDPY* const display = XDPY_make(rootDepth());
     if (display == nullptr) {
-        XDPY_error();
         return nullptr;
     }
     x11Display.window = XCreateSimpleWindow(x11Display.connection, x11Display.root, 0, 0, windowSize,
@@ -90,9 +87,6 @@ XDPY* XDPY_open() {
         XDPY_error();
         return nullptr;
     }
-    display->width = windowSize;
-    display->height = windowSize;
-    display->depth = rootDepth();
     x11ReceiveClose();
     x11Describe();
     XFlush(x11Display.connection);
@@ -100,7 +94,6 @@ XDPY* XDPY_open() {
     XRaiseWindow(x11Display.connection, x11Display.window);
     XFlush(x11Display.connection);
     XDPY_selectInput();
-    XDPY_dump.on = 0;
     XDPY_resize(display, windowSize, windowSize);
     XStoreName(x11Display.connection, x11Display.window, "VELM4030");
     XFlush(x11Display.connection);

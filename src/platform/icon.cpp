@@ -6,12 +6,18 @@
 
 namespace velm {
 
+namespace {
+constexpr std::int32_t channels = 4;
+}
+
+const char* ICON_bytes() {
+    // A PAM file is a header of text and then, to its end, the pixels.
+    return assets::icon.bytes + assets::icon.size - channels * ICON_size * ICON_size;
+}
+
 std::uint32_t ICON_pixel(std::int32_t index) {
-    // A PAM file is a header of text and then, to its end, red, green, blue and alpha of every pixel.
-    constexpr std::int32_t channels = 4;
-    const char* const pixels = assets::icon.bytes + assets::icon.size - channels * ICON_size * ICON_size;
-    const auto channel = [&](std::int32_t which) -> std::uint32_t {
-        return static_cast<unsigned char>(pixels[channels * index + which]);
+    const auto channel = [index](std::int32_t which) -> std::uint32_t {
+        return static_cast<unsigned char>(ICON_bytes()[channels * index + which]);
     };
     return channel(3) << 24 | channel(0) << 16 | channel(1) << 8 | channel(2);
 }

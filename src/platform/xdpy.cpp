@@ -4,6 +4,7 @@
 // What every implementation of the window shares.
 #include "platform/xdpy.h"
 
+#include "foundation/record.h"
 #include "foundation/report.h"
 #include "image/img.h"
 
@@ -15,6 +16,27 @@ const IDENTITY XDPY_identity = makeIdentity("XDPY", "20150214", "ZENDORAK", "XWI
 std::uint8_t XDPY_verbose = 0;
 XDPY_DUMP XDPY_dump{};
 XDPY* XDPY_current = nullptr;
+
+XDPY* XDPY_make(std::uint32_t depth) {
+    constexpr std::uint32_t windowSize = 256;
+    XDPY_dump.on = 0;
+    XDPY_current = newRecord<XDPY>(XDPY_error);
+    if (XDPY_current != nullptr) {
+        *XDPY_current = {.width = windowSize, .height = windowSize, .depth = depth};
+    }
+    return XDPY_current;
+}
+
+bool XDPY_drop(XDPY** handle) {
+    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
+        XDPY_error();
+        return false;
+    }
+    XDPY_current = nullptr;
+    delete *handle;
+    *handle = nullptr;
+    return true;
+}
 
 bool XDPY_accepts(const XDPY* display, const IMG* img) {
     return display != nullptr && img != nullptr && img->pixels != nullptr &&

@@ -74,6 +74,14 @@ void XDPY_dumpFrame(const IMG* img);
 /// True when `img` can be shown: it has pixels and the size of the open window.
 bool XDPY_accepts(const XDPY* display, const IMG* img);
 
+/// What every machine's XDPY_open begins with: a record of 256 by 256 pixels that is the current one, the
+/// dump off; nullptr (reported) without memory.
+XDPY* XDPY_make(std::uint32_t depth);
+
+/// What every machine's XDPY_close does with the record: the current one goes and the handle is nullptr;
+/// false (reported) for any other.
+bool XDPY_drop(XDPY** handle);
+
 /// Prints "XDPY error" while XDPY_verbose is set.
 void XDPY_error();
 

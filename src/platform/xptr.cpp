@@ -6,6 +6,7 @@
 
 #include "foundation/record.h"
 #include "foundation/report.h"
+#include "platform/xdpy.h"
 
 #include <algorithm>
 #include <iterator>
@@ -14,6 +15,22 @@ namespace velm {
 
 const IDENTITY XPTR_identity = makeIdentity("XPTR", "20150228", "XWINDOWS", "CODE", "ZENDORAK");
 std::uint8_t XPTR_verbose = 0;
+
+XPTR* XPTR_make() {
+    XPTR* const pointer = XDPY_isOpen() ? allocateRecord<XPTR>() : nullptr;
+    if (pointer == nullptr) {
+        XPTR_error();
+    }
+    return pointer;
+}
+
+bool XPTR_isUsable(const XPTR* pointer) {
+    if (pointer == nullptr || !XDPY_isOpen()) {
+        XPTR_error();
+        return false;
+    }
+    return true;
+}
 
 std::int32_t XPTR_equals(const XPTR* a, const XPTR* b) {
     if (a == nullptr || b == nullptr) {

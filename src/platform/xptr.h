@@ -55,6 +55,13 @@ const char* XPTR_name(const XPTR* pointer);
 /// Frees the record and stores nullptr in the handle.
 void XPTR_delete(XPTR** handle);
 
+/// What every machine's XPTR_new begins with: a record at (0, 0) for the open window, else nullptr
+/// (reported).
+XPTR* XPTR_make();
+
+/// True for a record whose window is open; reported otherwise.
+bool XPTR_isUsable(const XPTR* pointer);
+
 /// Prints "XPTR error" while XPTR_verbose is set.
 void XPTR_error();
 

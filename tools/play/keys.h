@@ -1,10 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What the player's help says about the keys: over the picture and after --help.
+// The player's own keys, and what its help says about all of them: over the picture and after --help.
+//
+//     if (!actOnKey(programme, "F12")) { ... } // the demo's
 #pragma once
 
+#include "demo/programme.h"
+
+#include <string>
+
 namespace velm {
+
+/// Does what a key of the player's own stands for, by SDL's name or the text that it writes; false for the
+/// demo's keys.
+bool actOnKey(PROGRAMME& programme, const std::string& key);
 
 /// Lines of at most 31 characters, as many as fit on a picture.
 inline constexpr const char* keysText = "Escape     fades out and leaves\n"

@@ -18,7 +18,6 @@ namespace velm {
 namespace {
 
 constexpr const char* firstSound = "auto";
-constexpr const char* noSound = "none";
 
 void listScenes() {
     constexpr int nameWidth = 16;
@@ -107,7 +106,7 @@ PlayOptions parseOptions(int argc, char** argv) {
     takeGain(
         *app.add_option("--gain", wanted.gain, "decibels by which the sound is raised (12; 0 as it is)"));
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
-    takeFrames(*app.add_option("--frames", wanted.frameLimit, "leaves after so many presentations"));
+    takeFrames(*app.add_option("--frames", options.frames, "leaves after so many presentations"));
     parseOrLeave(app, desktopProgram, argc, argv);
     if (list) {
         listScenes();

@@ -3,7 +3,6 @@
 //
 // A machine in a terminal: pictures of 64 x 32 coloured blanks on standard output, keys from standard input,
 // no pointer and no sound.
-#include "foundation/memory.h"
 #include "image/img.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
@@ -35,14 +34,8 @@ void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
 }
 
 XDPY* XDPY_open() {
-    XDPY_current = allocateRecord<XDPY>();
-    if (XDPY_current == nullptr) {
-        XDPY_error();
-        return nullptr;
-    }
-    *XDPY_current = {.width = 256, .height = 256, .depth = 24};
-    XDPY_dump.on = 0;
-    return XDPY_current;
+    constexpr std::uint32_t depth = 24;
+    return XDPY_make(depth);
 }
 
 bool XDPY_isOpen() {
@@ -78,13 +71,7 @@ void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
 }
 
 void XDPY_close(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
-        return;
-    }
-    XDPY_current = nullptr;
-    delete *handle;
-    *handle = nullptr;
+    XDPY_drop(handle);
 }
 
 void XKBD_poll(XKBD* keyboard) {
@@ -105,11 +92,7 @@ void XKBD_rest(XKBD*) {
 }
 
 XPTR* XPTR_new() {
-    XPTR* const pointer = XDPY_isOpen() ? allocateRecord<XPTR>() : nullptr;
-    if (pointer == nullptr) {
-        XPTR_error();
-    }
-    return pointer;
+    return XPTR_make();
 }
 
 void XPTR_poll(XPTR*) {}

@@ -1,9 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "play/caption.h"
+#include "play/overlay.h"
 
 #include "demo/assets.h"
+#include "desktop/desktop.h"
 #include "effects/lfont.h"
+#include "foundation/owned.h"
+#include "platform/clock.h"
+#include "play/keys.h"
 #include "vector/obj2d.h"
 #include "vector/vec2d.h"
 
@@ -18,7 +22,11 @@ constexpr std::int32_t cell = 8;
 constexpr std::int32_t lineHeight = 11;
 constexpr std::int32_t margin = 6;
 
-/// A pen of the caption's own: the demo's have a colour and a place that scenes rely on.
+bool showsHelp = false;
+std::string said;           ///< the last line
+std::int64_t saidUntil = 0; ///< CLOCK_now() until which it stands; 0 when it is gone
+
+/// A pen of its own: the demo's have a colour and a place that scenes rely on.
 LFONT* makePen() {
     LFONT* const pen = LFONT_new();
     if (pen != nullptr) {
@@ -40,9 +48,9 @@ void darken(IMG& picture, std::int32_t top, std::int32_t bottom) {
     }
 }
 
-} // namespace
-
-void drawCaption(IMG& picture, const std::string& text) {
+/// Darkens the picture behind the lines and draws them, in the middle of its height; a single line at its
+/// foot. Draws nothing from chance and touches nothing of the demo's.
+void writeOver(IMG& picture, const std::string& text) {
     static LFONT* const pen = makePen();
     if (pen == nullptr) {
         return;
@@ -54,6 +62,46 @@ void drawCaption(IMG& picture, const std::string& text) {
     pen->target = &picture;
     LFONT_place(pen, margin, top, 1);
     LFONT_drawText(pen, text.c_str());
+}
+
+/// What is to stand over the picture now.
+std::string textNow() {
+    return showsHelp ? keysText : CLOCK_now() < saidUntil ? said : "";
+}
+
+} // namespace
+
+void OVERLAY_say(const std::string& line) {
+    constexpr std::int64_t micros = 1500000;
+    said = line;
+    saidUntil = CLOCK_now() + micros;
+    desktopRedraw();
+}
+
+void OVERLAY_toggleHelp() {
+    showsHelp = !showsHelp;
+    desktopRedraw();
+}
+
+const IMG& OVERLAY_over(const IMG& frame) {
+    static Owned<IMG_delete> picture;
+    const std::string text = textNow();
+    if (text.empty()) {
+        return frame;
+    }
+    picture = Owned<IMG_delete>(IMG_clone(&frame));
+    if (picture == nullptr) {
+        return frame;
+    }
+    writeOver(*picture, text);
+    return *picture;
+}
+
+void OVERLAY_refresh() {
+    if (saidUntil != 0 && CLOCK_now() >= saidUntil) {
+        saidUntil = 0;
+        desktopRedraw();
+    }
 }
 
 } // namespace velm

@@ -1,76 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What the player computes: where the picture stands, how it is enlarged, and how long a frame lasts.
-#include "desktop/enlarge.h"
-#include "desktop/layout.h"
-#include "desktop/pace.h"
+// How long frames last when the sound device leads.
+#include "platform/pace.h"
 #include "support/images.h"
-#include "support/owned.h"
 
-#include <algorithm>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
-#include <vector>
 
 namespace velm {
 namespace {
-
-TEST(Layout, ThePictureIsAsLargeAsWholePixelsAllowAndCentred) {
-    EXPECT_EQ(layoutFor(256, 256, 256, 256), (Layout{1, 0, 0}));
-    EXPECT_EQ(layoutFor(256, 256, 1920, 1080), (Layout{4, 448, 28}));
-    EXPECT_EQ(layoutFor(256, 256, 1025, 2000), (Layout{4, 0, 488}));
-    EXPECT_EQ(layoutFor(256, 256, 1023, 2000), (Layout{3, 127, 616}));
-    EXPECT_EQ(layoutFor(256, 256, 200, 101), (Layout{1, -28, -78})) << "never smaller than it is";
-    EXPECT_EQ(scaleForScreen(256, 256, 1920, 1080), 3);
-    EXPECT_EQ(scaleForScreen(256, 256, 3840, 2160), 7);
-    EXPECT_EQ(scaleForScreen(256, 256, 320, 200), 1);
-}
-
-TEST(Layout, APlaceInTheWindowIsOneInThePictureAlsoOutside) {
-    const Layout layout{3, 10, 20};
-    const std::int32_t places[][4] = {{10, 20, 0, 0},  {12, 22, 0, 0},  {13, 23, 1, 1},
-                                      {9, 19, -1, -1}, {7, 17, -1, -1}, {6, 787, -2, 255}};
-    for (const auto& [windowX, windowY, x, y] : places) {
-        std::int32_t seenX = windowX;
-        std::int32_t seenY = windowY;
-        layout.toPicture(seenX, seenY);
-        EXPECT_EQ(seenX, x) << windowX;
-        EXPECT_EQ(seenY, y) << windowY;
-    }
-}
-
-TEST(Enlarge, EveryPixelBecomesASquareInTheScreensLayoutAndNothingElseChanges) {
-    test::Images random(4030);
-    const Owned<IMG_delete> frame(random.image(9, 8));
-    const PixelLayout layouts[] = {{1, 0xE0, 0x1C, 0x03},
-                                   {2, 0xF800, 0x07E0, 0x001F},
-                                   {3, 0x0000FF, 0x00FF00, 0xFF0000},
-                                   {4, 0xFF0000, 0x00FF00, 0x0000FF},
-                                   {4, 0x3FF00000, 0x000FFC00, 0x000003FF}};
-    const Part part{1, 2, 7, 5};
-    for (const PixelLayout& layout : layouts) {
-        for (std::int32_t scale = 1; scale <= 5; ++scale) {
-            const std::ptrdiff_t stride = part.width * scale * layout.bytes + 5;
-            constexpr char untouched = -1;
-            std::vector<char> to(static_cast<std::size_t>(stride * part.height * scale), untouched);
-            enlarge(*frame, part, scale, layout, to.data(), stride);
-            for (std::int32_t y = 0; y < part.height * scale; ++y) {
-                for (std::int32_t x = 0; x < part.width * scale; ++x) {
-                    const char* const seen = &to[static_cast<std::size_t>(y * stride + x * layout.bytes)];
-                    const std::uint32_t expected =
-                        layout.of(IMG_getPixel(frame, part.x + x / scale, part.y + y / scale));
-                    ASSERT_EQ(std::memcmp(seen, &expected, static_cast<std::size_t>(layout.bytes)), 0)
-                        << layout.bytes << " bytes, " << scale << " times, at " << x << ", " << y;
-                }
-                ASSERT_EQ(to[static_cast<std::size_t>((y + 1) * stride - 1)], untouched);
-            }
-        }
-    }
-    EXPECT_EQ(layouts[1].of(0xFF8040), 0xFC08U) << "fewer bits drop the low ones";
-    EXPECT_EQ(layouts[4].of(0xFF8001), 0x3FF80804U) << "more bits repeat the high ones";
-}
 
 /// A device that plays 44100 samples in a second of virtual time, by a clock that differs from the machine's,
 /// and takes them in bites; in front of it waits what it cannot hold.

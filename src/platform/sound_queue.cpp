@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "desktop/sound_queue.h"
+#include "platform/sound_queue.h"
 
 #include <algorithm>
 

