@@ -15,7 +15,6 @@
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace velm {
 
@@ -25,7 +24,7 @@ struct Desktop {
     bool fullScreen = false;   ///< instead of a window
     std::uint64_t foreign = 0; ///< the X11 window of another program to draw into; 0 for one of our own
     bool root = false;         ///< draw into the X11 root window, or the one that stands in for it
-    std::string sound;         ///< a name of desktopSounds(), noSound, or "" for the first that answers
+    std::string sound;         ///< one of desktopSounds, noSound, or "" for the first that answers
     std::int32_t volume = 100; ///< per cent, 0..100
     double gain = 0;           ///< decibels by which the sound is raised before that; it saturates
 
@@ -52,7 +51,7 @@ void desktopRedraw();
 void desktopToggleFullScreen();
 
 /// The sounds that SDL knows, as --sound has them, in the order in which they are tried.
-std::vector<std::string> desktopSounds();
+inline constexpr const char* desktopSounds[] = {"pipewire", "pulseaudio", "alsa", "oss"};
 
 /// What is in their place where there is none.
 inline constexpr const char* noSound = "none";

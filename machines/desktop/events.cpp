@@ -8,9 +8,8 @@
 #include "desktop/x11.h"
 #include "platform/clock.h"
 #include "platform/key_queue.h"
+#include "platform/pointer_events.h"
 #include "platform/xdpy.h"
-#include "platform/xkbd.h"
-#include "platform/xptr.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -22,11 +21,10 @@ namespace velm {
 namespace {
 
 KeyQueue keys;
-std::optional<SDL_Point> motion;            ///< the first that waits, in the picture
-std::optional<SDL_MouseButtonEvent> button; ///< likewise
-bool hasEntered = false;                    ///< the next motion is where the pointer came in
-bool isRepeat = false;                      ///< the text that follows is of a key that is held
-std::int64_t lastMotion = 0;                ///< CLOCK_now(); 0 while the pointer is parked, or has not moved
+PointerEvents pointerEvents;
+bool hasEntered = false;     ///< the next motion is where the pointer came in
+bool isRepeat = false;       ///< the text that follows is of a key that is held
+std::int64_t lastMotion = 0; ///< CLOCK_now(); 0 while the pointer is parked, or has not moved
 
 void pushPress(const char* text, std::int32_t keycode = 0) {
     PressedKey press{.keycode = keycode, .micros = CLOCK_now()};
@@ -64,7 +62,8 @@ void onMotion(const SDL_MouseMotionEvent& event) {
     if (std::exchange(hasEntered, false)) {
         return;
     }
-    motion = motion.value_or(playerWindow.inPicture({event.x, event.y}));
+    const SDL_Point place = playerWindow.inPicture({event.x, event.y});
+    pointerEvents.move(place.x, place.y);
     lastMotion = CLOCK_now();
 }
 
@@ -73,7 +72,7 @@ void parkPointer() {
     constexpr std::int64_t patience = 2000000;
     const IMG* const frame = desktopFrame();
     if (playerWindow.isFull && lastMotion != 0 && CLOCK_now() - lastMotion > patience && frame != nullptr) {
-        motion = motion.value_or(SDL_Point{frame->width, frame->height});
+        pointerEvents.move(frame->width, frame->height);
         lastMotion = 0;
     }
 }
@@ -118,25 +117,10 @@ void onInput(const SDL_Event& event) {
         return onMotion(event.motion);
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP:
-        button = button.value_or(event.button);
-        return;
+        return pointerEvents.press(event.button.button, event.button.state == SDL_PRESSED);
     default:
         return;
     }
-}
-
-/// Sets or clears the bit of one of the first three buttons.
-void applyButton(XPTR* pointer, const SDL_MouseButtonEvent& event) {
-    if (event.button < SDL_BUTTON_LEFT || event.button > SDL_BUTTON_RIGHT) {
-        return;
-    }
-    const std::int32_t bit = 1 << (event.button - SDL_BUTTON_LEFT);
-    pointer->buttons = event.state == SDL_PRESSED ? pointer->buttons | bit : pointer->buttons & ~bit;
-}
-
-void forgetPointer() {
-    motion.reset();
-    button.reset();
 }
 
 } // namespace
@@ -158,23 +142,14 @@ void PlayerWindow::takeEvents() {
     }
     parkPointer();
     if (isStale) {
-        redraw();
+        desktopRedraw();
     }
 }
 
 void XKBD_poll(XKBD* keyboard) {
-    if (keyboard == nullptr) {
-        XKBD_error();
-        std::exit(0);
-    }
-    if (!XDPY_isOpen()) {
-        XKBD_error();
-        return;
-    }
-    playerWindow.takeEvents();
-    if (const std::optional<PressedKey> press = takeKey(keys, CLOCK_now())) {
-        std::memcpy(keyboard->text, press->text, sizeof press->text);
-        keyboard->keycode = press->keycode;
+    if (XKBD_isUsable(keyboard)) {
+        playerWindow.takeEvents();
+        giveKey(keys, *keyboard);
     }
 }
 
@@ -195,20 +170,10 @@ XPTR* XPTR_new() {
 }
 
 void XPTR_poll(XPTR* pointer) {
-    if (!XPTR_isUsable(pointer)) {
-        return;
+    if (XPTR_isUsable(pointer)) {
+        playerWindow.takeEvents();
+        pointerEvents.give(*pointer);
     }
-    playerWindow.takeEvents();
-    // XPTR_firstMotionWins: one expects the latest position; the frame's first motion is taken and XPTR_flush
-    // drops the rest, so a fast pointer trails behind.
-    if (motion) {
-        pointer->x = motion->x;
-        pointer->y = motion->y;
-    }
-    if (button) {
-        applyButton(pointer, *button);
-    }
-    forgetPointer();
 }
 
 void XPTR_query(XPTR* pointer) {
@@ -230,7 +195,7 @@ std::int32_t XPTR_flush(XPTR* pointer) {
     XPTR_isUsable(pointer);
     if (XDPY_isOpen()) {
         playerWindow.takeEvents();
-        forgetPointer();
+        pointerEvents.forget();
     }
     return 0;
 }

@@ -19,9 +19,6 @@ namespace velm {
 namespace {
 
 constexpr std::int32_t theDevice = 0;
-/// Names and what SDL calls them, in the order in which they are tried.
-constexpr std::pair<const char*, const char*> sounds[] = {
-    {"pipewire", "pipewire"}, {"pulseaudio", "pulseaudio"}, {"alsa", "alsa"}, {"oss", "dsp"}};
 
 /// The thread may outlive everything else, so this is never taken down.
 SoundQueue& queue = *new SoundQueue;
@@ -34,9 +31,9 @@ void SDLCALL fill(void*, Uint8* bytes, int count) {
 }
 
 /// Opens SDL's default device of a sound; 0 without one.
-SDL_AudioDeviceID openSound(const char* driver) {
+SDL_AudioDeviceID openSound(std::string_view name) {
     constexpr std::uint16_t biteSamples = 1024;
-    if (SDL_AudioInit(driver) != 0) {
+    if (SDL_AudioInit(name == "oss" ? "dsp" : name.data()) != 0) {
         return 0;
     }
     SDL_AudioSpec wanted{};
@@ -73,12 +70,11 @@ void announce(const char* name) {
 
 /// Opens the first sound that is wanted and answers.
 SDL_AudioDeviceID openAny() {
-    for (const auto& [name, driver] : sounds) {
-        if (desktop.sound.empty() || desktop.sound == name) {
-            if (const SDL_AudioDeviceID device = openSound(driver); device != 0) {
-                announce(name);
-                return device;
-            }
+    for (const char* const name : desktopSounds) {
+        const bool isWanted = desktop.sound.empty() || desktop.sound == name;
+        if (const SDL_AudioDeviceID device = isWanted ? openSound(name) : 0; device != 0) {
+            announce(name);
+            return device;
         }
     }
     announce(noSound);
@@ -104,14 +100,6 @@ SDL_AudioDeviceID openAny() {
 }
 
 } // namespace
-
-std::vector<std::string> desktopSounds() {
-    std::vector<std::string> names;
-    for (const auto& [name, driver] : sounds) {
-        names.emplace_back(name);
-    }
-    return names;
-}
 
 void CLOCK_sleep(std::int32_t micros) {
     const std::int32_t correction = soundLeads ? pace.correction(queue.aheadMicros(CLOCK_now())) : 0;

@@ -93,28 +93,21 @@ const IMG* desktopFrame() {
 }
 
 void desktopRedraw() {
-    playerWindow.redraw();
-}
-
-void desktopToggleFullScreen() {
-    playerWindow.toggleFullScreen();
-}
-
-void PlayerWindow::redraw() {
-    if (window == nullptr || isHidden || frame == nullptr) {
+    const IMG* const frame = playerWindow.frame;
+    if (!XDPY_isOpen() || playerWindow.isHidden || frame == nullptr) {
         return;
     }
-    if (!canvas.draw(desktop.onDraw ? desktop.onDraw(*frame) : *frame, layout())) {
+    if (!playerWindow.canvas.draw(desktop.onDraw ? desktop.onDraw(*frame) : *frame, playerWindow.layout())) {
         XDPY_error();
     }
 }
 
-void PlayerWindow::toggleFullScreen() {
-    isFull = !isFull;
+void desktopToggleFullScreen() {
+    playerWindow.isFull = !playerWindow.isFull;
     if (isX11() && !hasManager()) {
-        fillWithoutManager(window, isFull);
+        fillWithoutManager(playerWindow.window, playerWindow.isFull);
     } else {
-        SDL_SetWindowFullscreen(window, isFull ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+        SDL_SetWindowFullscreen(playerWindow.window, playerWindow.isFull ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
     }
 }
 
@@ -144,7 +137,7 @@ XDPY* XDPY_open() {
     }
     XDPY* const display = XDPY_make(SDL_BITSPERPIXEL(format));
     if (desktop.fullScreen && !playerWindow.isForeign && !playerWindow.isFull) {
-        playerWindow.toggleFullScreen();
+        desktopToggleFullScreen();
     }
     playerWindow.takeEvents();
     return display;
@@ -177,7 +170,7 @@ void XDPY_present(XDPY* display, const IMG* img) {
     }
     XDPY_dumpFrame(img);
     playerWindow.frame = Owned<IMG_delete>(IMG_clone(img));
-    playerWindow.redraw();
+    desktopRedraw();
 }
 
 void XDPY_close(XDPY** handle) {

@@ -3,8 +3,8 @@
 //
 // The one window, what stands in it and what happens to it. The demo presents into it.
 //
-//     playerWindow.redraw();
 //     playerWindow.takeEvents();
+//     const SDL_Point place = playerWindow.inPicture({motion.x, motion.y});
 #pragma once
 
 #include "desktop/canvas.h"
@@ -20,15 +20,10 @@ struct PlayerWindow {
     Canvas canvas;
     Owned<IMG_delete> frame; ///< the last one as it came; none before
 
-    /// Draws the last frame as the window stands now.
-    void redraw();
-
     /// Takes all that has happened since the last call, and draws the window anew where it has to be. Keys
     /// and pointer wait for the demo's polls; the program's own keys and what happens to the window act at
     /// once.
     void takeEvents();
-
-    void toggleFullScreen();
 
     /// Where the picture stands in the window now.
     [[nodiscard]] Layout layout() const;

@@ -5,6 +5,7 @@
 #include "desktop/video.h"
 
 #include <SDL_syswm.h>
+#include <X11/Xatom.h>
 #include <cstdlib>
 #include <dlfcn.h>
 
@@ -21,7 +22,6 @@ Function load(const char* name) {
 /// The functions of the library that SDL has loaded.
 struct Xlib {
     decltype(&XOpenDisplay) openDisplay = load<decltype(&XOpenDisplay)>("XOpenDisplay");
-    decltype(&XCloseDisplay) closeDisplay = load<decltype(&XCloseDisplay)>("XCloseDisplay");
     decltype(&XDefaultRootWindow) root = load<decltype(&XDefaultRootWindow)>("XDefaultRootWindow");
     decltype(&XSetErrorHandler) onError = load<decltype(&XSetErrorHandler)>("XSetErrorHandler");
     decltype(&XSetIOErrorHandler) onLost = load<decltype(&XSetIOErrorHandler)>("XSetIOErrorHandler");
@@ -63,42 +63,36 @@ SDL_SysWMinfo infoOf(SDL_Window* window) {
     return info;
 }
 
-/// A short connection of our own, for what is asked before there is a window of SDL's.
-struct Connection {
-    Display* const display = xlib().openDisplay(nullptr);
-    Connection() {
-        if (display == nullptr) {
-            giveUp("lost the display", displayName());
-        }
+/// A connection of our own, for what is asked before there is a window of SDL's.
+Display* connection() {
+    static Display* const own = xlib().openDisplay(nullptr);
+    if (own == nullptr) {
+        giveUp("lost the display", displayName());
     }
-    ~Connection() { xlib().closeDisplay(display); }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
+    return own;
+}
 
-    [[nodiscard]] Window root() const { return xlib().root(display); }
+XWindowAttributes attributesOf(Display* display, Window window) {
+    XWindowAttributes attributes{};
+    xlib().attributes(display, window, &attributes); // all 0 of a window that is gone
+    return attributes;
+}
 
-    /// The window that stands in for the root, as this one's property says; 0 for none.
-    [[nodiscard]] Window standInOf(Window window) const {
-        constexpr long words = 1;
-        constexpr int wordFormat = 32;
-        Atom type = None;
-        int format = 0;
-        unsigned long count = 0;
-        unsigned long left = 0;
-        unsigned char* data = nullptr;
-        const Atom name = xlib().atom(display, "__SWM_VROOT", False);
-        Window found = 0;
-        if (xlib().property(display, window, name, 0, words, False, AnyPropertyType, &type, &format, &count,
-                            &left, &data) == Success &&
-            format == wordFormat && count == words) {
-            found = *reinterpret_cast<const Window*>(data);
-        }
-        if (data != nullptr) {
-            xlib().free(data);
-        }
-        return found;
+/// The window that stands in for the root, as this one's property says; 0 for none.
+Window standInOf(Window window) {
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char* data = nullptr;
+    const Atom name = xlib().atom(connection(), "__SWM_VROOT", False);
+    xlib().property(connection(), window, name, 0, 1, False, XA_WINDOW, &type, &format, &count, &left, &data);
+    const Window found = count == 1 ? *reinterpret_cast<const Window*>(data) : 0;
+    if (data != nullptr) {
+        xlib().free(data);
     }
-};
+    return found;
+}
 
 Window formerFocus = 0;
 int formerRevert = 0;
@@ -106,8 +100,8 @@ int formerRevert = 0;
 /// The program ends by exit() wherever it is.
 void giveKeyboardBack() {
     if (!isLost) {
-        const Connection connection;
-        xlib().setFocus(connection.display, formerFocus, formerRevert, CurrentTime);
+        xlib().setFocus(connection(), formerFocus, formerRevert, CurrentTime);
+        xlib().sync(connection(), False);
     }
 }
 
@@ -120,9 +114,7 @@ void watchX11() {
 }
 
 SDL_Window* foreignWindow(std::uint64_t number) {
-    XWindowAttributes attributes{};
-    const Connection connection;
-    if (xlib().attributes(connection.display, number, &attributes) == 0) {
+    if (attributesOf(connection(), number).root == 0) {
         return nullptr;
     }
     SDL_Window* const window = SDL_CreateWindowFrom(reinterpret_cast<void*>(number));
@@ -135,15 +127,14 @@ SDL_Window* foreignWindow(std::uint64_t number) {
 }
 
 std::uint64_t rootWindow() {
-    const Connection connection;
-    Window root = connection.root();
-    Window parent = 0;
+    Window found = xlib().root(connection());
     Window* children = nullptr;
     unsigned int count = 0;
-    xlib().tree(connection.display, root, &root, &parent, &children, &count);
-    Window found = root;
+    Window root = 0;
+    Window parent = 0;
+    xlib().tree(connection(), found, &root, &parent, &children, &count);
     for (unsigned int i = 0; i < count; ++i) {
-        const Window standIn = connection.standInOf(children[i]);
+        const Window standIn = standInOf(children[i]);
         found = standIn != 0 ? standIn : found;
     }
     if (children != nullptr) {
@@ -153,34 +144,32 @@ std::uint64_t rootWindow() {
 }
 
 std::optional<PixelLayout> pixelsOf(SDL_Window* window) {
-    const SDL_SysWMinfo info = infoOf(window);
-    XWindowAttributes attributes{};
-    xlib().attributes(info.info.x11.display, info.info.x11.window, &attributes);
+    const auto x11 = infoOf(window).info.x11;
+    const XWindowAttributes attributes = attributesOf(x11.display, x11.window);
     const auto mask = [](unsigned long channel) { return static_cast<std::uint32_t>(channel); };
     constexpr int leastBits = 25; // those below SDL knows, if they have masks at all
-    return attributes.depth < leastBits ? std::nullopt
-                                        : std::optional(PixelLayout(4, mask(attributes.visual->red_mask),
-                                                                    mask(attributes.visual->green_mask),
-                                                                    mask(attributes.visual->blue_mask)));
+    if (attributes.depth < leastBits) {
+        return std::nullopt;
+    }
+    const Visual& visual = *attributes.visual;
+    return PixelLayout(4, mask(visual.red_mask), mask(visual.green_mask), mask(visual.blue_mask));
 }
 
 bool putRows(SDL_Window* window, char* rows, SDL_Point size) {
-    const SDL_SysWMinfo info = infoOf(window);
-    Display* const display = info.info.x11.display;
+    const auto x11 = infoOf(window).info.x11;
     constexpr int bits = 32;
-    XWindowAttributes attributes{};
-    xlib().attributes(display, info.info.x11.window, &attributes);
+    const XWindowAttributes attributes = attributesOf(x11.display, x11.window);
     const auto width = static_cast<unsigned int>(size.x);
     const auto height = static_cast<unsigned int>(size.y);
     XImage* const image =
-        xlib().image(display, attributes.visual, static_cast<unsigned int>(attributes.depth), ZPixmap, 0,
+        xlib().image(x11.display, attributes.visual, static_cast<unsigned int>(attributes.depth), ZPixmap, 0,
                      rows, width, height, bits, 0);
     if (image == nullptr) {
         return false;
     }
-    xlib().put(display, info.info.x11.window, DefaultGCOfScreen(attributes.screen), image, 0, 0, 0, 0, width,
+    xlib().put(x11.display, x11.window, DefaultGCOfScreen(attributes.screen), image, 0, 0, 0, 0, width,
                height);
-    xlib().sync(display, False);
+    xlib().sync(x11.display, False);
     image->data = nullptr; // else it would be freed, too
     image->f.destroy_image(image);
     return true;
@@ -195,15 +184,12 @@ bool tellsLoss(SDL_Window* window, const SDL_Event& event) {
 }
 
 bool hasManager() {
-    XWindowAttributes attributes{};
-    const Connection connection;
-    return xlib().attributes(connection.display, connection.root(), &attributes) != 0 &&
-           (attributes.all_event_masks & SubstructureRedirectMask) != 0;
+    const Window root = xlib().root(connection());
+    return (attributesOf(connection(), root).all_event_masks & SubstructureRedirectMask) != 0;
 }
 
 void lendKeyboard() {
-    const Connection connection;
-    xlib().getFocus(connection.display, &formerFocus, &formerRevert);
+    xlib().getFocus(connection(), &formerFocus, &formerRevert);
     std::atexit(giveKeyboardBack);
 }
 

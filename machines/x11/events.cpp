@@ -26,17 +26,23 @@ bool isClose(const XClientMessageEvent& message) {
            static_cast<::Atom>(message.data.l[0]) == closeMessage.deleteWindow;
 }
 
+/// The state is that before the event: a button that was held is being let go.
+bool wasHeld(const XButtonEvent& event) {
+    const unsigned int mask = event.button <= Button5 ? Button1Mask << (event.button - Button1) : 0U;
+    return (event.state & mask) != 0;
+}
+
 void keepOfWindow(XEvent& event) {
     switch (event.type) {
     case KeyPress:
         pushKey(x11Events.keys, x11LookUp(event.xkey));
         break;
     case MotionNotify:
-        x11Events.motion = x11Events.motion.value_or(event.xmotion);
+        x11Events.pointer.move(event.xmotion.x, event.xmotion.y);
         break;
     case ButtonPress:
     case ButtonRelease:
-        x11Events.button = x11Events.button.value_or(event.xbutton);
+        x11Events.pointer.press(static_cast<std::int32_t>(event.xbutton.button), !wasHeld(event.xbutton));
         break;
     case ClientMessage:
         x11Events.keys.closeAsked = x11Events.keys.closeAsked || isClose(event.xclient);

@@ -9,17 +9,16 @@
 #pragma once
 
 #include "platform/key_queue.h"
+#include "platform/pointer_events.h"
 #include "x11/display.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace velm {
 
 struct X11_EVENTS {
-    KeyQueue keys;                      ///< every key press and the close button, for XKBD_poll
-    std::optional<XMotionEvent> motion; ///< the first one since XPTR took one or flushed
-    std::optional<XButtonEvent> button; ///< the same for presses and releases
+    KeyQueue keys;         ///< every key press and the close button, for XKBD_poll
+    PointerEvents pointer; ///< motions, presses and releases, for XPTR_poll
 };
 
 extern X11_EVENTS x11Events;

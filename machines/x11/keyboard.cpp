@@ -44,18 +44,9 @@ PressedKey x11LookUp(XKeyEvent& event) {
 }
 
 void XKBD_poll(XKBD* keyboard) {
-    if (keyboard == nullptr) {
-        XKBD_error();
-        std::exit(0);
-    }
-    if (!XDPY_isOpen()) {
-        XKBD_error();
-        return;
-    }
-    x11TakeEvents();
-    if (const std::optional<PressedKey> press = takeKey(x11Events.keys, CLOCK_now())) {
-        std::copy(std::begin(press->text), std::end(press->text), keyboard->text);
-        keyboard->keycode = press->keycode;
+    if (XKBD_isUsable(keyboard)) {
+        x11TakeEvents();
+        giveKey(x11Events.keys, *keyboard);
     }
 }
 

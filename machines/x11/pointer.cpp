@@ -29,25 +29,6 @@ void hidePointer() {
     XDefineCursor(x11Display.connection, hiddenWindow, cursor);
 }
 
-/// Sets or clears a button's bit. The state is that before the event, so a button that was held is being let
-/// go.
-void applyButton(XPTR* pointer, const XButtonEvent& event) {
-    if (event.button < Button1 || event.button > Button3) {
-        return;
-    }
-    const unsigned int button = event.button - Button1;
-    if ((event.state & buttonMasks[button]) != 0) {
-        pointer->buttons &= ~(1 << button);
-    } else {
-        pointer->buttons |= 1 << button;
-    }
-}
-
-void forgetPointerEvents() {
-    x11Events.motion.reset();
-    x11Events.button.reset();
-}
-
 } // namespace
 
 XPTR* XPTR_new() {
@@ -64,16 +45,7 @@ void XPTR_poll(XPTR* pointer) {
         return;
     }
     x11TakeEvents();
-    // XPTR_firstMotionWins: one expects the latest position; the frame's first motion is taken and XPTR_flush
-    // drops the rest, so a fast pointer trails behind.
-    if (x11Events.motion) {
-        pointer->x = x11Events.motion->x;
-        pointer->y = x11Events.motion->y;
-    }
-    if (x11Events.button) {
-        applyButton(pointer, *x11Events.button);
-    }
-    forgetPointerEvents();
+    x11Events.pointer.give(*pointer);
     hidePointer();
 }
 
@@ -106,7 +78,7 @@ std::int32_t XPTR_flush(XPTR* pointer) {
     XPTR_isUsable(pointer);
     if (XDPY_isOpen()) {
         x11TakeEvents();
-        forgetPointerEvents();
+        x11Events.pointer.forget();
     }
     return 0;
 }

@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/key_queue.h"
 
+#include "platform/clock.h"
+
+#include <algorithm>
+#include <iterator>
+
 namespace velm {
 
 namespace {
@@ -57,6 +62,13 @@ std::optional<PressedKey> takeKey(KeyQueue& queue, std::int64_t now) {
     const bool isOverdue =
         turn < queue.count && now - queue.presses[slot(queue, turn)].micros >= KeyQueue::patience;
     return takeOut(queue, isOverdue ? turn : 0);
+}
+
+void giveKey(KeyQueue& queue, XKBD& keyboard) {
+    if (const std::optional<PressedKey> press = takeKey(queue, CLOCK_now())) {
+        std::copy(std::begin(press->text), std::end(press->text), keyboard.text);
+        keyboard.keycode = press->keycode;
+    }
 }
 
 bool wantsToLeave(const KeyQueue& queue) {

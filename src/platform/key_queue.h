@@ -9,6 +9,8 @@
 //     if (const std::optional<PressedKey> press = takeKey(keys, CLOCK_now())) { ... }
 #pragma once
 
+#include "platform/xkbd.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -42,6 +44,9 @@ void pushKey(KeyQueue& queue, const PressedKey& press);
 
 /// Takes the press whose turn it is at the time `now`, if any waits.
 std::optional<PressedKey> takeKey(KeyQueue& queue, std::int64_t now);
+
+/// What a machine's XKBD_poll ends with: stores the press whose turn it is, if any waits, in the record.
+void giveKey(KeyQueue& queue, XKBD& keyboard);
 
 /// True while an Escape or the close button waits, whatever waits before it.
 bool wantsToLeave(const KeyQueue& queue);

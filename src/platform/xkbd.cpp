@@ -43,6 +43,18 @@ XKBD* XKBD_new() {
     return keyboardOfProcess;
 }
 
+bool XKBD_isUsable(const XKBD* keyboard) {
+    if (keyboard == nullptr) {
+        XKBD_error();
+        std::exit(0);
+    }
+    if (!XDPY_isOpen()) {
+        XKBD_error();
+        return false;
+    }
+    return true;
+}
+
 const char* XKBD_getName(const XKBD* keyboard) {
     if (keyboard == nullptr) {
         XKBD_error();

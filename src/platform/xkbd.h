@@ -50,6 +50,10 @@ std::int32_t XKBD_flush(const XKBD* keyboard);
 /// Frees the text and the record and stores nullptr in the handle.
 void XKBD_delete(XKBD** handle);
 
+/// What a machine's XKBD_poll begins with: true for a record while a window is open. A missing record is
+/// reported and ends the program with status 0, a missing window is reported.
+bool XKBD_isUsable(const XKBD* keyboard);
+
 /// Prints "XKBD error" while XKBD_verbose is set.
 void XKBD_error();
 

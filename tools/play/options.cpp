@@ -44,8 +44,8 @@ PROGRAMME programmeOf(const std::vector<std::string>& names, bool isMixed) {
 }
 
 std::vector<std::string> soundNames() {
-    std::vector<std::string> names = desktopSounds();
-    names.insert(names.begin(), firstSound);
+    std::vector<std::string> names = {firstSound};
+    names.insert(names.end(), std::begin(desktopSounds), std::end(desktopSounds));
     names.emplace_back(noSound);
     return names;
 }
