@@ -29,16 +29,6 @@ void Canvas::close() {
     *this = {};
 }
 
-SDL_Point Canvas::size() const {
-    SDL_Point size{};
-    if (renderer != nullptr) {
-        SDL_GetRendererOutputSize(renderer, &size.x, &size.y);
-    } else {
-        SDL_GetWindowSize(window, &size.x, &size.y);
-    }
-    return size;
-}
-
 bool Canvas::draw(const IMG& frame, const Layout& layout) {
     isFresh = isFresh || layout != last;
     last = layout;
@@ -58,18 +48,17 @@ bool Canvas::drawSurface(const IMG& frame, const Layout& layout) {
         SDL_FillRect(surface, nullptr, 0);
     }
     const SDL_PixelFormat& format = *surface->format;
-    const Part part = enlarge(frame, layout,
-                              {static_cast<char*>(surface->pixels),
-                               surface->w,
-                               surface->h,
-                               surface->pitch,
-                               {format.BytesPerPixel, format.Rmask, format.Gmask, format.Bmask}});
+    const PixelLayout surfacePixels(format.BytesPerPixel, format.Rmask, format.Gmask, format.Bmask);
+    const Part part =
+        enlarge(frame, layout,
+                {static_cast<char*>(surface->pixels), surface->w, surface->h, surface->pitch, surfacePixels});
     const SDL_Rect place{part.x, part.y, part.width, part.height};
     return (isFresh ? SDL_UpdateWindowSurface(window) : SDL_UpdateWindowSurfaceRects(window, &place, 1)) == 0;
 }
 
 bool Canvas::drawRows(const IMG& frame, const Layout& layout) {
-    const SDL_Point whole = size();
+    SDL_Point whole{};
+    SDL_GetWindowSizeInPixels(window, &whole.x, &whole.y);
     const std::int32_t pitch = whole.x * pixels->bytes;
     if (isFresh) {
         rows.assign(static_cast<std::size_t>(pitch) * static_cast<std::size_t>(whole.y), '\0');

@@ -6,7 +6,7 @@
 // Screens of a layout that SDL has no memory for, those of 30 bits, get the rows by Xlib.
 //
 //     canvas.open(window);
-//     canvas.draw(frame, layoutFor(256, 256, canvas.size().x, canvas.size().y));
+//     canvas.draw(frame, layoutFor(256, 256, 1920, 1080));
 #pragma once
 
 #include "platform/enlarge.h"
@@ -24,9 +24,6 @@ public:
 
     /// Lets go of the window, which is about to be destroyed.
     void close();
-
-    /// The window's size in pixels of the screen.
-    [[nodiscard]] SDL_Point size() const;
 
     /// Shows the frame at its place, black around; false when SDL cannot.
     bool draw(const IMG& frame, const Layout& layout);

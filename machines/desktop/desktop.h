@@ -28,15 +28,15 @@ struct Desktop {
     std::int32_t volume = 100; ///< per cent, 0..100
     double gain = 0;           ///< decibels by which the sound is raised before that; it saturates
 
-    std::function<void()> onPresent; ///< before each presentation
-    std::function<void()> onRest;    ///< now and then while the demo is paused
+    std::function<void()> onPresent = [] {}; ///< before each presentation
+    std::function<void()> onRest = [] {};    ///< now and then while the demo is paused
     /// A key press comes here first: true keeps it from the demo. Keys have SDL's names ("F11",
     /// "Alt+Return"), those that write are the text that they write ("h", "+").
-    std::function<bool(const std::string& key)> onKey;
+    std::function<bool(const std::string& key)> onKey = [](const std::string&) { return false; };
     /// What is drawn for a frame: itself, or another one of its size.
-    std::function<const IMG&(const IMG& frame)> onDraw;
+    std::function<const IMG&(const IMG& frame)> onDraw = [](const IMG& frame) -> const IMG& { return frame; };
     /// A sound was taken, or noSound. A thread of its own calls it.
-    std::function<void(const std::string& sound)> onSound;
+    std::function<void(const std::string& sound)> onSound = [](const std::string&) {};
 };
 
 extern Desktop desktop;

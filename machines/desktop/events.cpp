@@ -32,17 +32,12 @@ void pushPress(const char* text, std::int32_t keycode = 0) {
     pushKey(keys, press);
 }
 
-/// True for a key that is the program's own.
-bool isTaken(const std::string& key) {
-    return desktop.onKey && desktop.onKey(key);
-}
-
 void onKey(const SDL_Keysym& key) {
     constexpr std::int32_t keycodeUp = 98;
     constexpr std::int32_t keycodeDown = 104;
     const char* const name = SDL_GetKeyName(key.sym);
     const bool writes = std::strlen(name) == 1; // then the text follows
-    if (writes || isTaken(((key.mod & KMOD_ALT) != 0 ? "Alt+" : "") + std::string(name))) {
+    if (writes || desktop.onKey(((key.mod & KMOD_ALT) != 0 ? "Alt+" : "") + std::string(name))) {
         return;
     }
     switch (key.sym) {
@@ -83,16 +78,11 @@ bool onWindow(const SDL_WindowEvent& event) {
     case SDL_WINDOWEVENT_ENTER:
         hasEntered = true;
         return false;
-    case SDL_WINDOWEVENT_HIDDEN:
-    case SDL_WINDOWEVENT_MINIMIZED:
-        playerWindow.isHidden = true;
-        return false;
     case SDL_WINDOWEVENT_SHOWN:
     case SDL_WINDOWEVENT_RESTORED:
     case SDL_WINDOWEVENT_MAXIMIZED:
     case SDL_WINDOWEVENT_SIZE_CHANGED:
     case SDL_WINDOWEVENT_EXPOSED:
-        playerWindow.isHidden = (SDL_GetWindowFlags(playerWindow.window) & SDL_WINDOW_MINIMIZED) != 0;
         playerWindow.canvas.forget();
         return true;
     default:
@@ -109,7 +99,7 @@ void onInput(const SDL_Event& event) {
         }
         return;
     case SDL_TEXTINPUT:
-        if (!isRepeat && !isTaken(event.text.text)) {
+        if (!isRepeat && !desktop.onKey(event.text.text)) {
             pushPress(event.text.text);
         }
         return;
@@ -156,9 +146,7 @@ void XKBD_poll(XKBD* keyboard) {
 void XKBD_rest(XKBD*) {
     constexpr int microsPerMilli = 1000;
     SDL_Delay(XKBD_longestRest / microsPerMilli);
-    if (desktop.onRest) {
-        desktop.onRest();
-    }
+    desktop.onRest();
 }
 
 XPTR* XPTR_new() {

@@ -62,22 +62,16 @@ void quietAlsa() {
     }
 }
 
-void announce(const char* name) {
-    if (desktop.onSound) {
-        desktop.onSound(name);
-    }
-}
-
 /// Opens the first sound that is wanted and answers.
 SDL_AudioDeviceID openAny() {
     for (const char* const name : desktopSounds) {
         const bool isWanted = desktop.sound.empty() || desktop.sound == name;
         if (const SDL_AudioDeviceID device = isWanted ? openSound(name) : 0; device != 0) {
-            announce(name);
+            desktop.onSound(name);
             return device;
         }
     }
-    announce(noSound);
+    desktop.onSound(noSound);
     return 0;
 }
 
@@ -109,7 +103,7 @@ void CLOCK_sleep(std::int32_t micros) {
 
 std::int32_t DSP_open(const char*) {
     if (desktop.sound == noSound) {
-        announce(noSound);
+        desktop.onSound(noSound);
         return -1;
     }
     static const bool started = [] {

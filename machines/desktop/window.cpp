@@ -86,6 +86,17 @@ void openForeign() {
     }
 }
 
+/// A minimised window is not drawn.
+bool isHidden(SDL_Window* window) {
+    return (SDL_GetWindowFlags(window) & (SDL_WINDOW_MINIMIZED | SDL_WINDOW_HIDDEN)) != 0;
+}
+
+SDL_Point sizeInPixels(SDL_Window* window) {
+    SDL_Point size{};
+    SDL_GetWindowSizeInPixels(window, &size.x, &size.y);
+    return size;
+}
+
 } // namespace
 
 const IMG* desktopFrame() {
@@ -93,11 +104,10 @@ const IMG* desktopFrame() {
 }
 
 void desktopRedraw() {
-    const IMG* const frame = playerWindow.frame;
-    if (!XDPY_isOpen() || playerWindow.isHidden || frame == nullptr) {
+    if (!XDPY_isOpen() || playerWindow.frame == nullptr || isHidden(playerWindow.window)) {
         return;
     }
-    if (!playerWindow.canvas.draw(desktop.onDraw ? desktop.onDraw(*frame) : *frame, playerWindow.layout())) {
+    if (!playerWindow.canvas.draw(desktop.onDraw(*playerWindow.frame), playerWindow.layout())) {
         XDPY_error();
     }
 }
@@ -112,7 +122,7 @@ void desktopToggleFullScreen() {
 }
 
 Layout PlayerWindow::layout() const {
-    const SDL_Point size = canvas.size();
+    const SDL_Point size = sizeInPixels(window);
     const std::int32_t width = frame != nullptr ? frame->width : pictureSize;
     const std::int32_t height = frame != nullptr ? frame->height : pictureSize;
     return layoutFor(width, height, size.x, size.y);
@@ -121,7 +131,7 @@ Layout PlayerWindow::layout() const {
 SDL_Point PlayerWindow::inPicture(SDL_Point place) const {
     SDL_Point own{};
     SDL_GetWindowSize(window, &own.x, &own.y);
-    const SDL_Point size = canvas.size(); // larger than its own where a desktop magnifies
+    const SDL_Point size = sizeInPixels(window); // larger than its own where a desktop magnifies
     SDL_Point picture{place.x * size.x / std::max(own.x, 1), place.y * size.y / std::max(own.y, 1)};
     layout().toPicture(picture.x, picture.y);
     return picture;
@@ -165,9 +175,7 @@ void XDPY_present(XDPY* display, const IMG* img) {
         XDPY_error();
         return;
     }
-    if (desktop.onPresent) {
-        desktop.onPresent();
-    }
+    desktop.onPresent();
     XDPY_dumpFrame(img);
     playerWindow.frame = Owned<IMG_delete>(IMG_clone(img));
     desktopRedraw();

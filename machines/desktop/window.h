@@ -15,7 +15,6 @@ namespace velm {
 struct PlayerWindow {
     SDL_Window* window = nullptr; ///< nullptr while none is open
     bool isForeign = false;       ///< another program's, whose input is none of ours
-    bool isHidden = false;        ///< minimised: nothing is drawn
     bool isFull = false;          ///< it fills the screen
     Canvas canvas;
     Owned<IMG_delete> frame; ///< the last one as it came; none before

@@ -5,7 +5,6 @@
 #include "desktop/video.h"
 
 #include <SDL_syswm.h>
-#include <X11/Xatom.h>
 #include <cstdlib>
 #include <dlfcn.h>
 
@@ -13,30 +12,32 @@ namespace velm {
 
 namespace {
 
-template <typename Function>
-Function load(const char* name) {
-    [[maybe_unused]] static void* const library = dlopen("libX11.so.6", RTLD_LAZY | RTLD_GLOBAL);
-    return reinterpret_cast<Function>(dlsym(RTLD_DEFAULT, name));
-}
+/// A function of the library that SDL has loaded, of the type of the variable that it is stored in.
+struct Loaded {
+    const char* name;
+    template <typename Function>
+    operator Function*() const {
+        [[maybe_unused]] static void* const library = dlopen("libX11.so.6", RTLD_LAZY | RTLD_GLOBAL);
+        return reinterpret_cast<Function*>(dlsym(RTLD_DEFAULT, name));
+    }
+};
 
-/// The functions of the library that SDL has loaded.
 struct Xlib {
-    decltype(&XOpenDisplay) openDisplay = load<decltype(&XOpenDisplay)>("XOpenDisplay");
-    decltype(&XDefaultRootWindow) root = load<decltype(&XDefaultRootWindow)>("XDefaultRootWindow");
-    decltype(&XSetErrorHandler) onError = load<decltype(&XSetErrorHandler)>("XSetErrorHandler");
-    decltype(&XSetIOErrorHandler) onLost = load<decltype(&XSetIOErrorHandler)>("XSetIOErrorHandler");
-    decltype(&XGetWindowAttributes) attributes =
-        load<decltype(&XGetWindowAttributes)>("XGetWindowAttributes");
-    decltype(&XSelectInput) select = load<decltype(&XSelectInput)>("XSelectInput");
-    decltype(&XQueryTree) tree = load<decltype(&XQueryTree)>("XQueryTree");
-    decltype(&XInternAtom) atom = load<decltype(&XInternAtom)>("XInternAtom");
-    decltype(&XGetWindowProperty) property = load<decltype(&XGetWindowProperty)>("XGetWindowProperty");
-    decltype(&XCreateImage) image = load<decltype(&XCreateImage)>("XCreateImage");
-    decltype(&XPutImage) put = load<decltype(&XPutImage)>("XPutImage");
-    decltype(&XSync) sync = load<decltype(&XSync)>("XSync");
-    decltype(&XFree) free = load<decltype(&XFree)>("XFree");
-    decltype(&XGetInputFocus) getFocus = load<decltype(&XGetInputFocus)>("XGetInputFocus");
-    decltype(&XSetInputFocus) setFocus = load<decltype(&XSetInputFocus)>("XSetInputFocus");
+    decltype(&XOpenDisplay) openDisplay = Loaded{"XOpenDisplay"};
+    decltype(&XDefaultRootWindow) root = Loaded{"XDefaultRootWindow"};
+    decltype(&XSetErrorHandler) onError = Loaded{"XSetErrorHandler"};
+    decltype(&XSetIOErrorHandler) onLost = Loaded{"XSetIOErrorHandler"};
+    decltype(&XGetWindowAttributes) attributes = Loaded{"XGetWindowAttributes"};
+    decltype(&XSelectInput) select = Loaded{"XSelectInput"};
+    decltype(&XQueryTree) tree = Loaded{"XQueryTree"};
+    decltype(&XInternAtom) atom = Loaded{"XInternAtom"};
+    decltype(&XGetWindowProperty) property = Loaded{"XGetWindowProperty"};
+    decltype(&XCreateImage) image = Loaded{"XCreateImage"};
+    decltype(&XPutImage) put = Loaded{"XPutImage"};
+    decltype(&XSync) sync = Loaded{"XSync"};
+    decltype(&XFree) free = Loaded{"XFree"};
+    decltype(&XGetInputFocus) getFocus = Loaded{"XGetInputFocus"};
+    decltype(&XSetInputFocus) setFocus = Loaded{"XSetInputFocus"};
 };
 
 const Xlib& xlib() {
@@ -86,8 +87,10 @@ Window standInOf(Window window) {
     unsigned long left = 0;
     unsigned char* data = nullptr;
     const Atom name = xlib().atom(connection(), "__SWM_VROOT", False);
-    xlib().property(connection(), window, name, 0, 1, False, XA_WINDOW, &type, &format, &count, &left, &data);
-    const Window found = count == 1 ? *reinterpret_cast<const Window*>(data) : 0;
+    xlib().property(connection(), window, name, 0, 1, False, AnyPropertyType, &type, &format, &count, &left,
+                    &data);
+    constexpr int wordFormat = 32;
+    const Window found = count == 1 && format == wordFormat ? *reinterpret_cast<const Window*>(data) : 0;
     if (data != nullptr) {
         xlib().free(data);
     }

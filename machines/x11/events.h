@@ -5,7 +5,7 @@
 // pointer will read is kept, and everything else is dropped.
 //
 //     x11TakeEvents();
-//     const std::optional<PressedKey> press = takeKey(x11Events.keys, CLOCK_now());
+//     giveKey(x11Events.keys, *keyboard);
 #pragma once
 
 #include "platform/key_queue.h"

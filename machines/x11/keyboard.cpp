@@ -8,9 +8,6 @@
 
 #include <X11/Xutil.h>
 #include <X11/keysym.h>
-#include <algorithm>
-#include <cstdlib>
-#include <iterator>
 
 namespace velm {
 

@@ -13,7 +13,6 @@
 
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <poll.h>
 #include <thread>
 #include <unistd.h>
@@ -75,9 +74,8 @@ void XDPY_close(XDPY** handle) {
 }
 
 void XKBD_poll(XKBD* keyboard) {
-    if (keyboard == nullptr) {
-        XKBD_error();
-        std::exit(0);
+    if (!XKBD_isUsable(keyboard)) {
+        return;
     }
     pollfd input{STDIN_FILENO, POLLIN, 0};
     constexpr std::int32_t anyKeycode = 1;
