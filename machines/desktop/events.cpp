@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace velm {
@@ -28,7 +29,7 @@ std::int64_t lastMotion = 0; ///< CLOCK_now(); 0 while the pointer is parked, or
 
 void pushPress(const char* text, std::int32_t keycode = 0) {
     PressedKey press{.keycode = keycode, .micros = CLOCK_now()};
-    std::strncpy(press.text, text, sizeof press.text - 1);
+    std::string_view(text).copy(press.text, sizeof press.text - 1);
     pushKey(keys, press);
 }
 
