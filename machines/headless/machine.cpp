@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/memory.h"
 #include "headless/headless.h"
+#include "image/img.h"
 #include "platform/clock.h"
 #include "platform/xdpy.h"
 #include "platform/xkbd.h"

@@ -9,7 +9,8 @@
 #pragma once
 
 #include "platform/key_queue.h"
-#include "x11/display.h"
+
+#include <X11/Xlib.h>
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/memory.h"
+#include "platform/xdpy.h"
 #include "platform/xptr.h"
+#include "x11/display.h"
 #include "x11/events.h"
 
 #include <iterator>

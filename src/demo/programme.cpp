@@ -3,6 +3,7 @@
 #include "demo/programme.h"
 
 #include "demo/scenes/frames.h"
+#include "demo/state.h"
 #include "image/rgb888.h"
 
 #include <algorithm>

@@ -9,6 +9,7 @@
 
 #include "demo/scenes/curves.h"
 #include "effects/lfont.h"
+#include "vector/vec2d.h"
 
 #include <cstdint>
 #include <limits>
