@@ -13,6 +13,7 @@
 //     void VELM4030_sceneSky() { play({}, 600, acts); }
 #pragma once
 
+#include "demo/scenes/curves.h"
 #include "demo/scenes/frames.h"
 #include "foundation/memory.h"
 #include "foundation/owned.h"
@@ -53,10 +54,11 @@ struct Act {
     void (*enter)(Cast& cast) = nullptr; ///< called before its first frame
 };
 
-/// An act of every cast with a scroll text.
-template <typename Cast>
-void playScrollText(Cast&, std::int32_t) {
-    drawScrollText();
+/// An act of every cast with a scroll text, `scroll`: it comes and goes with a scene of so many frames.
+template <std::int32_t frames, typename Cast>
+void playScrollText(Cast& cast, std::int32_t frame) {
+    constexpr std::int32_t slope = 40;
+    cast.scroll.draw(curveStay(frame, 0, frames, slope));
 }
 
 /// Plays a scene: in every frame the acts whose time it is, in the table's order, then the pointer and the
@@ -64,6 +66,8 @@ void playScrollText(Cast&, std::int32_t) {
 template <typename Cast, std::size_t count>
 void play(const SceneLook& look, std::int32_t frames, const Act<Cast> (&acts)[count]) {
     setLook(look);
+    // Nothing of the scene before is seen, nor of the start-up picture.
+    IMG_fill(demo.screen, look.clearMode == ClearMode::background ? demo.background : 0);
     if (isStocked()) {
         LFONT_setColour(demo.textMedium, 0xFFFFFF); // the bobbing letters have left the overlay in a hue
         const std::int64_t refused = refusedAllocations;

@@ -207,11 +207,16 @@ void drawInInk(City&, std::int32_t) {
     }
 }
 
-constexpr Act<City> acts[] = {{0, frames, drawSky},        {skyBegins, frames, drawLine},
-                              {0, frames, drawTowers},     {lightsBegin, rainEnds, lightWindow},
-                              {0, frames, drawHorizon},    {0, frames, mirrorCity},
-                              {0, frames, drawRain},       {0, frames, drawWords},
-                              {0, frames, playScrollText}, {melts, frames, melt},
+constexpr Act<City> acts[] = {{0, frames, drawSky},
+                              {skyBegins, frames, drawLine},
+                              {0, frames, drawTowers},
+                              {lightsBegin, rainEnds, lightWindow},
+                              {0, frames, drawHorizon},
+                              {0, frames, mirrorCity},
+                              {0, frames, drawRain},
+                              {0, frames, drawWords},
+                              {0, frames, playScrollText<frames>},
+                              {melts, frames, melt},
                               {0, frames, drawInInk}};
 
 } // namespace

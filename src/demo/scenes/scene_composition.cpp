@@ -286,12 +286,18 @@ void inkOverlay(Composition&, std::int32_t) {
     LFONT_setColour(demo.textMedium, ink());
 }
 
-constexpr Act<Composition> acts[] = {{0, frames, placeLines},     {0, frames, drawBars},
-                                     {0, frames, drawDots},       {0, frames, drawFields},
-                                     {0, frames, drawOutlook},    {0, frames, drawFooting},
-                                     {0, frames, drawLines},      {0, frames, drawFigure},
-                                     {0, frames, drawWords},      {glassBegins, glassEnds, drawGlass},
-                                     {0, frames, playScrollText}, {0, frames, inkOverlay}};
+constexpr Act<Composition> acts[] = {{0, frames, placeLines},
+                                     {0, frames, drawBars},
+                                     {0, frames, drawDots},
+                                     {0, frames, drawFields},
+                                     {0, frames, drawOutlook},
+                                     {0, frames, drawFooting},
+                                     {0, frames, drawLines},
+                                     {0, frames, drawFigure},
+                                     {0, frames, drawWords},
+                                     {glassBegins, glassEnds, drawGlass},
+                                     {0, frames, playScrollText<frames>},
+                                     {0, frames, inkOverlay}};
 
 } // namespace
 

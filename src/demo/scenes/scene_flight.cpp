@@ -174,7 +174,7 @@ constexpr Act<Flight> acts[] = {{0, frames, fly},
                                 {arrival - 59, frames, drawShapes},
                                 {0, frames, drawCurve},
                                 {0, frames, showLight},
-                                {0, frames, playScrollText},
+                                {0, frames, playScrollText<frames>},
                                 {0, frames, drawCaptions}};
 
 } // namespace

@@ -138,7 +138,7 @@ void drawWord(Journey& journey, std::int32_t frame) {
 
 constexpr Act<Journey> acts[] = {{0, frames, drawLand},          {0, frames, drawSky},
                                  {0, leapsBegin, drawTitle},     {leapsBegin, leapsEnd + slope, drawLeap},
-                                 {wordBegins, frames, drawWord}, {0, frames, playScrollText}};
+                                 {wordBegins, frames, drawWord}, {0, frames, playScrollText<frames>}};
 
 } // namespace
 

@@ -195,7 +195,7 @@ constexpr Act<Pond> acts[] = {{0, frames, hop},
                               {ribbonBegin, ribbonEnd, drawRibbon},
                               {0, frames, drawWater},
                               {bandsBegin, bandsEnd, drawBands},
-                              {0, frames, playScrollText},
+                              {0, frames, playScrollText<frames>},
                               {0, frames, drawWord}};
 
 } // namespace

@@ -330,7 +330,7 @@ constexpr Act<Theatre> acts[] = {{twist.begins, twist.ends, drawColumn},
                                  {0, frames, drawBeams},
                                  {0, frames, drawProscenium},
                                  {0, frames, drawTitles},
-                                 {0, frames, playScrollText}};
+                                 {0, frames, playScrollText<frames>}};
 
 } // namespace
 

@@ -187,7 +187,7 @@ void drawWord(Shaft& shaft, std::int32_t frame) {
 
 constexpr Act<Shaft> acts[] = {{galaxyBegins, frames, drawGalaxy}, {0, tunnelEnds, drawTunnel},
                                {0, doorsPassed, drawDoors},        {windsBegin, frames, drawDust},
-                               {wordBegins, wordEnds, drawWord},   {0, frames, playScrollText}};
+                               {wordBegins, wordEnds, drawWord},   {0, frames, playScrollText<frames>}};
 
 } // namespace
 
