@@ -38,15 +38,15 @@ protected:
 };
 
 TEST_F(ScenesTest, TheCompositionIsDrawnOnTheBackgroundInItsComplement) {
-    const auto lightPixels = [] { // of the presented frame 90, when its lines stand alone
+    const auto lightPixels = [] { // of the presented frame 42, when its lines stand alone
         std::int64_t light = 0;
-        const std::uint32_t wanted = headless.frames + 90;
+        const std::uint32_t wanted = headless.frames + 42;
         headless.onFrame = [&light, wanted](const IMG& frame) {
             if (headless.frames == wanted) {
                 light = std::count(frame.pixels, frame.pixels + 256 * 128, 0xFFFFFFU);
             }
         };
-        runFor(90, VELM4030_sceneExtra5);
+        runFor(42, VELM4030_sceneExtra5);
         return light;
     };
     const std::int64_t onBlack = lightPixels();
