@@ -189,7 +189,7 @@ std::int32_t galleryDelay(const Pane& pane) {
 
 std::int32_t galleryHue(const Pane& pane) {
     const std::int32_t ground = 96 * (pane.x / frameSize + pane.y / frameSize * 4);
-    return pane.area > galleryGround ? ground : ground + 600 + 90 * (pane.area % 3);
+    return pane.area > galleryGround ? ground : ground + 700 + 60 * (pane.area % 3);
 }
 
 /// Words in outlines: every stroke is a band, whose inside is cut out after all bands of the letter.
@@ -223,11 +223,43 @@ std::int32_t wordsHue(const Pane& pane) {
 }
 
 constexpr Plate plates[plateCount] = {
-    {"A ROSE OF GLASS", drawRose, roseDelay, roseHue, 800, 6, 10, 130},
-    {"LETTERS WITH SIDES", drawLetters, lettersDelay, lettersHue, 900, 4, 8, 150},
-    {"A MAZE OF SLASHES", drawMaze, mazeDelay, mazeHue, 600, 5, 14, 150},
-    {"SIXTEEN THINGS", drawGallery, galleryDelay, galleryHue, 1500, 6, 9, 120},
-    {"", drawWords, wordsDelay, wordsHue, 900, 8, 14, 110}};
+    {"A ROSE OF GLASS",
+     drawRose,
+     roseDelay,
+     roseHue,
+     {0x1838D0, 0xD01848, 0xFFB838, 0x7020A0},
+     800,
+     6,
+     10,
+     130},
+    {"LETTERS WITH SIDES",
+     drawLetters,
+     lettersDelay,
+     lettersHue,
+     {0x0858A8, 0x20D8C0, 0xFFF0A0, 0xFF5840},
+     900,
+     4,
+     8,
+     150},
+    {"A MAZE OF SLASHES",
+     drawMaze,
+     mazeDelay,
+     mazeHue,
+     {0x2810A0, 0x9820E0, 0xFF48A0, 0x20C8FF},
+     600,
+     5,
+     14,
+     150},
+    {"SIXTEEN THINGS",
+     drawGallery,
+     galleryDelay,
+     galleryHue,
+     {0x18C0A0, 0xFFE860, 0xFF4868, 0x6848F0},
+     1500,
+     6,
+     9,
+     120},
+    {"", drawWords, wordsDelay, wordsHue, {0xFF1048, 0xFFE000, 0x00E880, 0x2848FF}, 900, 8, 14, 70}};
 
 } // namespace
 

@@ -22,11 +22,14 @@ struct Pane {
 };
 
 struct Plate {
+    static constexpr std::int32_t colourCount = 4;
+
     std::string_view title;
     void (*draw)(IMG* canvas, std::int32_t weight); ///< the strokes that a weight of 0..256 tells
     std::int32_t (*delay)(const Pane& pane);        ///< frames from the last stroke on; below 0: never
-    std::int32_t (*hue)(const Pane& pane);          ///< palette entry, 0 or more
-    std::int32_t flow, stretch, speed, ripple;      ///< as in FILL
+    std::int32_t (*hue)(const Pane& pane);     ///< entry of the plate's ring of hueCount colours, 0 or more
+    std::uint32_t colours[colourCount];        ///< which lead into each other round that ring
+    std::int32_t flow, stretch, speed, ripple; ///< as in FILL
 };
 
 inline constexpr std::int32_t plateCount = 5;

@@ -30,9 +30,10 @@ constexpr std::uint32_t fresh = 0xE0F4FF; // outlines before there is colour
 
 /// A plate at work: its outlines, and the colour between them.
 struct Easel {
-    Owned<FILL_delete> fill{FILL_new(), [](FILL& made) {
+    Owned<SAMPLE_delete> palette{SAMPLE_new(), [](SAMPLE& made) { SAMPLE_setLength(&made, hueCount); }};
+    Owned<FILL_delete> fill{FILL_new(), [this](FILL& made) {
                                 FILL_setSize(&made, settings.windowWidth, settings.windowHeight);
-                                made.palette = demo.hueRamp;
+                                made.palette = palette;
                             }};
     Picture canvas{newWindowPicture()};
     Pane panes[1024] = {};
@@ -84,8 +85,20 @@ void findPanes(Easel& easel) {
     }
 }
 
+/// Leads the colours into each other, and the last one into the first.
+void mixPalette(SAMPLE& palette, const Plate& plate) {
+    constexpr std::int32_t part = hueCount / Plate::colourCount;
+    for (std::int32_t i = 0; i < palette.length; ++i) {
+        const std::int32_t k = i / part % Plate::colourCount;
+        const std::uint32_t colour = curveMix(plate.colours[k], plate.colours[(k + 1) % Plate::colourCount],
+                                              i % part * curveFull / part);
+        SAMPLE_set(&palette, i, static_cast<std::int32_t>(colour));
+    }
+}
+
 /// All outlines stand: the panes are known, and dry.
 void beginColour(Easel& easel, const Plate& plate) {
+    mixPalette(*easel.palette, plate);
     findPanes(easel);
     FILL& fill = *easel.fill;
     FILL_begin(&fill, easel.canvas);
