@@ -5,6 +5,10 @@
 #include "image/img.h"
 #include "image/rgb888.h"
 
+#include <algorithm>
+#include <functional>
+#include <numeric>
+
 namespace velm {
 
 namespace {
@@ -25,21 +29,33 @@ void thicken(IMG& sheet) {
     }
 }
 
+/// Calls draw(x) for every pixel of a row that is not black. Most are: a run of them is passed in one go.
+template <typename Draw>
+void forEachLit(const std::uint32_t* row, std::int32_t width, Draw draw) {
+    constexpr std::int32_t run = 16;
+    for (std::int32_t left = 0; left < width; left += run) {
+        const std::int32_t right = std::min(left + run, width);
+        if (std::accumulate(row + left, row + right, 0U, std::bit_or()) != 0) {
+            for (std::int32_t x = left; x < right; ++x) {
+                if (row[x] != 0) {
+                    draw(x);
+                }
+            }
+        }
+    }
+}
+
 /// The sheet `steps` steps away: the picture's middle stays where it is.
 void printAway(const IMG& sheet, std::int32_t steps, std::int32_t weight, IMG& target) {
     constexpr std::int32_t stepsToEnd = 64; // where it would be a point
-    constexpr std::int32_t one = 1 << 16;
-    const std::int32_t pitch = one * stepsToEnd / (stepsToEnd - steps); // of the sheet, from pixel to pixel
-    const std::int32_t leftmost = steps * sheet.width / (2 * stepsToEnd);
-    const std::int32_t topmost = steps * sheet.height / (2 * stepsToEnd);
-    for (std::int32_t y = topmost; y < sheet.height - topmost; ++y) {
-        const std::uint32_t* const from = rowOf(sheet, ((y - topmost) * pitch) >> 16);
-        std::uint32_t* const to = rowOf(target, y);
-        for (std::int32_t x = leftmost, at = 0; x < sheet.width - leftmost; ++x, at += pitch) {
-            if (const std::uint32_t colour = from[at >> 16]; colour != 0) {
-                to[x] = RGB888_dim(colour, weight);
-            }
-        }
+    const auto carried = [steps](std::int32_t at, std::int32_t centre) {
+        return centre + (at - centre) * (stepsToEnd - steps) / stepsToEnd;
+    };
+    for (std::int32_t y = 0; y < sheet.height; ++y) {
+        const std::uint32_t* const from = rowOf(sheet, y);
+        std::uint32_t* const to = rowOf(target, carried(y, sheet.height / 2));
+        forEachLit(from, sheet.width,
+                   [&](std::int32_t x) { to[carried(x, sheet.width / 2)] = RGB888_dim(from[x], weight); });
     }
 }
 
