@@ -4,11 +4,8 @@
 
 #include "demo/scenes/beat.h"
 #include "demo/scenes/frames.h"
-<<<<<<< HEAD
 #include "demo/state.h"
-=======
 #include "foundation/wrap.h"
->>>>>>> show
 #include "image/rgb888.h"
 
 #include <algorithm>
