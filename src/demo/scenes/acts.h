@@ -47,6 +47,18 @@ inline Owned<SINEDOTS_delete> makeDotLine(std::int32_t stepY) {
     });
 }
 
+/// Stars that stand still where chance might have put them: steps without a common measure scatter the dots.
+inline Owned<SINEDOTS_delete> makeStars(std::int32_t count) {
+    return Owned<SINEDOTS_delete>(SINEDOTS_new(), [count](SINEDOTS& made) {
+        constexpr SINEDOTS_AXES steps[SINEDOTS_waveCount] = {{389, 277, 0}, {733, 577, 0}, {151, 911, 0}};
+        SINEDOTS_setCount(&made, count);
+        for (std::int32_t k = 0; k < SINEDOTS_waveCount; ++k) {
+            made.step[k] = steps[k];
+            made.speed[k] = {};
+        }
+    });
+}
+
 template <typename Cast>
 struct Act {
     std::int32_t begin, end; ///< it draws from frame `begin` up to and without frame `end`
