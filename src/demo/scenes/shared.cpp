@@ -91,7 +91,7 @@ ScrollText::ScrollText(std::int32_t y) {
     VELM4030_scrollSetup();
     VELM4030_placeScroll(y);
     bars = Owned<IMG_delete>(IMG_clone(demo.rasterTarget));
-    if (demo.scroller != nullptr && demo.scroller->cursor != nullptr) {
+    if (demo.scroller != nullptr && demo.scroller->cursor != nullptr && demo.scroller->text != nullptr) {
         goToProse(*demo.scroller);
     }
 }
