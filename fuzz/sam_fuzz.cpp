@@ -4,6 +4,7 @@
 // Feeds the readers of sample files through a file in memory. The first two bytes choose reader, width and
 // order.
 #include "audio/sam.h"
+#include "audio/sample.h"
 
 #include <cstdlib>
 #include <string>

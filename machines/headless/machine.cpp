@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "headless/headless.h"
+#include "image/img.h"
 #include "platform/clock.h"
 #include "platform/xdpy.h"
 #include "platform/xkbd.h"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "x11/display.h"
 
+#include "platform/xdpy.h"
+
 #include <cstdio>
 #include <cstdlib>
 

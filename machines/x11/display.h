@@ -8,10 +8,7 @@
 //     x11GiveUp("lost the display", ":0");
 #pragma once
 
-#include "platform/xdpy.h"
-
 #include <X11/Xlib.h>
-#include <X11/Xutil.h>
 
 namespace velm {
 

@@ -5,6 +5,8 @@
 // this side waits for it as long as a viewer would.
 #include "platform/dsp.h"
 
+#include "platform/key_queue.h"
+#include "platform/xdpy.h"
 #include "x11/display.h"
 #include "x11/events.h"
 #include "x11/oss_thread.h"

@@ -3,9 +3,9 @@
 #include "x11/events.h"
 
 #include "platform/clock.h"
+#include "x11/display.h"
 #include "x11/keyboard.h"
 
-#include <algorithm>
 #include <poll.h>
 
 namespace velm {

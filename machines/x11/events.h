@@ -10,8 +10,8 @@
 
 #include "platform/key_queue.h"
 #include "platform/pointer_events.h"
-#include "x11/display.h"
 
+#include <X11/Xlib.h>
 #include <cstdint>
 
 namespace velm {

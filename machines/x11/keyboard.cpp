@@ -3,7 +3,9 @@
 #include "x11/keyboard.h"
 
 #include "platform/clock.h"
+#include "platform/xdpy.h"
 #include "platform/xkbd.h"
+#include "x11/display.h"
 #include "x11/events.h"
 
 #include <X11/Xutil.h>

@@ -5,7 +5,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <sys/ioctl.h>
-#include <sys/soundcard.h>
+#include <sys/soundcard.h> // IWYU pragma: keep
 #include <unistd.h>
 
 namespace velm {

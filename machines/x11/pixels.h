@@ -10,7 +10,7 @@
 #include "image/img.h"
 
 #include <X11/Xlib.h>
-#include <X11/Xutil.h>
+#include <X11/Xutil.h> // IWYU pragma: keep
 
 namespace velm {
 

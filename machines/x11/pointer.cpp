@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "platform/xdpy.h"
 #include "platform/xptr.h"
+#include "x11/display.h"
 #include "x11/events.h"
 
 #include <iterator>

@@ -6,6 +6,7 @@
 #include "x11/display.h"
 
 #include <X11/Xatom.h>
+#include <X11/Xutil.h>
 #include <array>
 #include <unistd.h>
 

@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "image/img.h"
+#include "platform/xdpy.h"
+#include "x11/display.h"
 #include "x11/events.h"
 #include "x11/pixels.h"
 #include "x11/properties.h"

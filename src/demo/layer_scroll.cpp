@@ -6,6 +6,7 @@
 #include "demo/assets.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "foundation/asset.h"
 #include "foundation/chance.h"
 
 namespace velm {

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "demo/scenes.h"
+#include "demo/scenes/table.h"
 #include "demo/velm4030.h"
 #include "foundation/chance.h"
+#include "foundation/identity.h"
 
 namespace velm {
 

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "demo/programme.h"
 
+#include "demo/scenes/beat.h"
 #include "demo/scenes/frames.h"
+#include "demo/state.h"
+#include "foundation/wrap.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -13,16 +16,17 @@ namespace velm {
 
 namespace {
 
-/// A part of the tour, and its frames where the scene would go on for too long, be it in the dark.
+/// A part of the tour, and the frames that its scene has or gets: fewer where it would go on for too long.
 struct Stop {
     std::string_view scene;
-    std::int32_t frames = 0;
+    std::int32_t frames;
 };
 
 constexpr Stop tour[] = {
-    {"extra-4"},       {"extra-10"},     {"default", 900}, {"extra-2"},  {"extra-5"}, {"interlude-b"},
-    {"extra-11", 725}, {"particles"},    {"extra-7"},      {"extra-12"}, {"extra-3"}, {"interlude-a"},
-    {"extra-9"},       {"extra-8", 740}, {"extra-1", 750}, {"extra-6"},
+    {"extra-4", 900},  {"extra-10", 750},    {"default", 900},  {"extra-2", 900},
+    {"extra-5", 750},  {"interlude-b", 501}, {"extra-11", 750}, {"particles", 900},
+    {"extra-7", 1000}, {"extra-12", 750},    {"extra-3", 750},  {"interlude-a", 750},
+    {"extra-9", 1500}, {"extra-8", 750},     {"extra-1", 750},  {"extra-6", 1000},
 };
 
 const Stop* stopOf(const SCENE& scene) {
@@ -51,30 +55,43 @@ Order orderOf(const PROGRAMME& programme, std::int32_t round) {
 }
 
 constexpr std::uint32_t fadeStep = 0x111111;
+constexpr std::int32_t mostFadeFrames = 15;
 
 /// The frames in which a picture fades until nothing is left but, perhaps, the pointer: 15 from white, none
 /// from black.
 std::int32_t framesToBlack(const IMG& img) {
     constexpr std::int64_t pointerArea = 16 * 16;
-    constexpr std::uint32_t most = 15;
     const std::span pixels(img.pixels,
                            static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height));
-    std::uint32_t frames = 0;
-    while (frames < most && std::ranges::count_if(pixels, [frames](std::uint32_t pixel) {
-                                return RGB888_sub(pixel, frames * fadeStep) != 0;
-                            }) > pointerArea) {
+    std::int32_t frames = 0;
+    while (frames < mostFadeFrames &&
+           std::ranges::count_if(pixels, [frames](std::uint32_t pixel) {
+               return RGB888_sub(pixel, static_cast<std::uint32_t>(frames) * fadeStep) != 0;
+           }) > pointerArea) {
         ++frames;
     }
-    return static_cast<std::int32_t>(frames);
+    return frames;
 }
 
-/// Takes the picture that is shown to black, in frames of the usual pace, while the music goes on.
+/// How many of `most` (> 0) frames a part plays for the fade after it to end with a bar of the music, so that
+/// every part begins on one.
+std::int32_t framesUpToBar(std::int32_t most) {
+    const std::int32_t bar = framesOfBar();
+    const std::int32_t over = positiveModulo(framesIntoBar() + most + mostFadeFrames, bar);
+    return most > over ? most - over : most;
+}
+
+/// Takes the picture that is shown to black, in frames of the usual pace, while the music goes on to its next
+/// bar.
 void fade(const IMG* shown) {
     if (shown != demo.screen) {
         IMG_copy(shown, demo.screen);
     }
     setLook({.fadeOn = 0, .clearMode = ClearMode::fade}); // what is on the screen stays there
-    runFrames(framesToBlack(*demo.screen), [](std::int32_t) { IMG_subColour(demo.screen, fadeStep); });
+    const std::int32_t upToBar = positiveModulo(-framesIntoBar(), framesOfBar());
+    const std::int32_t frames = upToBar <= mostFadeFrames ? upToBar : framesToBlack(*demo.screen);
+    runFrames(std::max(frames, framesToBlack(*demo.screen)),
+              [](std::int32_t) { IMG_subColour(demo.screen, fadeStep); });
     IMG_fill(demo.screen, 0); // a key may have ended it early
 }
 
@@ -163,7 +180,8 @@ void PROGRAMME_playPart(PROGRAMME& programme) {
     const bool isOneOfSeveral = programme.count > 1;
     ++programme.next;
     programme.isPlaying = true;
-    demo.framesLeft = isOneOfSeveral ? PROGRAMME_length(*scene) : 0;
+    const std::int32_t frames = PROGRAMME_length(*scene);
+    demo.framesLeft = isOneOfSeveral && frames > 0 ? framesUpToBar(frames) : 0;
     scene->run();
     demo.framesLeft = 0;
     programme.isPlaying = false;

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 //
 // PROGRAMME, an order of scenes that plays for ever: the tour of all of them, the few that a viewer names, or
-// a mix. Several scenes follow each other through a fade of 15 frames at most, and those that are long, or
-// that wait for Space, get a length. A scene on its own is left as it is.
+// a mix. Several scenes follow each other through a fade of 15 frames at most, and each begins on a bar of
+// the music: it ends up to a bar before its time for that, or long before where it is long or waits for
+// Space. A scene on its own is left as it is.
 //
 //     PROGRAMME programme;
 //     PROGRAMME_appendTour(programme);
@@ -40,7 +41,7 @@ void PROGRAMME_shuffle(PROGRAMME& programme, std::uint32_t seed);
 /// The scene at a place, any number, also below 0: the order has no beginning. nullptr when it is empty.
 const SCENE* PROGRAMME_at(const PROGRAMME& programme, std::int32_t place);
 
-/// The frames that a scene gets among several; 0 for as long as it lasts by itself.
+/// The most frames that a scene gets among several; 0 for as long as it lasts by itself.
 std::int32_t PROGRAMME_length(const SCENE& scene);
 
 /// Ends the part that runs, and a pause with it, and goes on with the next or the previous one. Said more

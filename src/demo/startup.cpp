@@ -8,6 +8,7 @@
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "effects/partixel.h"
+#include "foundation/asset.h"
 #include "foundation/chance.h"
 #include "image/imgfx.h"
 

@@ -8,7 +8,6 @@
 #include "foundation/chance.h"
 #include "image/rgb888.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 namespace velm {

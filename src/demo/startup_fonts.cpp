@@ -6,7 +6,9 @@
 #include "demo/assets.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "foundation/asset.h"
 #include "image/imgfx.h"
+#include "vector/vec2d.h"
 
 namespace velm {
 

@@ -8,6 +8,7 @@
 //     settings.scrollOn ^= 1;
 #pragma once
 
+// IWYU pragma: begin_exports
 #include "audio/music.h"
 #include "audio/sample.h"
 #include "demo/fps.h"
@@ -33,6 +34,7 @@
 #include "vector/obj2d.h"
 #include "vector/seg2d.h"
 #include "vector/vec2d.h"
+// IWYU pragma: end_exports
 
 #include <array>
 #include <cstdint>

@@ -11,7 +11,6 @@
 #include "foundation/list.h"
 #include "vector/obj2d.h"
 #include "vector/seg2d.h"
-#include "vector/vec2d.h"
 
 #include <cstdint>
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/lradial.h"
 
+#include "audio/sample.h"
 #include "effects/palette.h"
 #include "foundation/chance.h"
 #include "foundation/random.h"

@@ -12,8 +12,6 @@
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 
-#include <algorithm>
-
 namespace velm {
 
 const IDENTITY LRAIN_identity = makeIdentity("LRAIN", "20150702", "C", "ZENDORAK", "CODE");

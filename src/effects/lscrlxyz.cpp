@@ -11,6 +11,8 @@
 #include "foundation/wrap.h"
 #include "image/img.h"
 #include "image/rgb888.h"
+#include "vector/obj2d.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -14,6 +14,7 @@
 #include "effects/line_text.h"
 #include "foundation/fixed.h"
 #include "foundation/identity.h"
+#include "foundation/list.h"
 
 #include <cstdint>
 

@@ -10,6 +10,7 @@
 #include "foundation/wrap.h"
 #include "image/img.h"
 #include "image/rgb888.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 

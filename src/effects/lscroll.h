@@ -13,6 +13,7 @@
 #include "effects/line_text.h"
 #include "foundation/fixed.h"
 #include "foundation/identity.h"
+#include "foundation/list.h"
 #include "foundation/sine.h"
 
 #include <cstdint>

@@ -4,6 +4,7 @@
 
 #include "foundation/report.h"
 #include "image/clip.h"
+#include "image/img.h"
 #include "image/line.h"
 #include "image/rgb888.h"
 

@@ -3,6 +3,7 @@
 //
 // The filters of IMGFX: every pixel of one image is made of a pixel of another and of its neighbours.
 #include "image/clip.h"
+#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 

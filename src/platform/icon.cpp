@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/icon.h"
 
+#include "foundation/asset.h"
 #include "platform/icon_file.h"
 
 namespace velm {

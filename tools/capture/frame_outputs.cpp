@@ -4,6 +4,7 @@
 
 #include "capture/console.h"
 #include "capture/temporary_file.h"
+#include "image/img.h"
 
 #include <filesystem>
 #include <zlib.h>

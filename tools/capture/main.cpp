@@ -7,8 +7,10 @@
 #include "capture/recorder.h"
 #include "capture/signals.h"
 #include "demo/programme.h"
+#include "demo/scenes.h"
 #include "demo/velm4030.h"
 #include "headless/headless.h"
+#include "image/img.h"
 
 #include <cstdlib>
 #include <fcntl.h>

@@ -9,7 +9,7 @@
 
 #include "demo/scenes.h"
 
-#include <CLI/CLI.hpp>
+#include <CLI/CLI.hpp> // IWYU pragma: export
 #include <charconv>
 #include <functional>
 #include <optional>

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "foundation/list.h"
 #include "paint/contact_sheets.h"
 
+#include "foundation/list.h"
+#include "foundation/owned.h"
 #include "foundation/sine.h"
+#include "image/img.h"
 #include "paint/files.h"
+#include "paint/paint.h"
 #include "paint/shading.h"
 #include "vector/obj2d.h"
 #include "vector/vec2d.h"

@@ -3,6 +3,7 @@
 //
 // Two columns of sixteen cells with the hexadecimal digits. The first two cells are the last digits, E and F,
 // so that the decimal ones start where the rolling strip looks for them.
+#include "image/img.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 #include "paint/strokes.h"

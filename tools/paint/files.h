@@ -7,6 +7,7 @@
 //     bool written = writeColour(directory + "/strip.ppm", "strip", *paintStrip());
 #pragma once
 
+#include "image/img.h"
 #include "paint/paint.h"
 
 namespace velm::paint {

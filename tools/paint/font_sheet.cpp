@@ -3,6 +3,7 @@
 //
 // The glyph sheet: the 16 x 16 letters written with a broad pen, pictures in the control codes, lines that
 // join in the codes from 128, then arrows, shades and notes, and from 160 the letters of western Europe.
+#include "image/img.h"
 #include "paint/glyph_art.h"
 #include "paint/paint.h"
 #include "paint/strokes.h"

@@ -5,8 +5,9 @@
 // places inside it.
 #include "paint/icon.h"
 
+#include "foundation/owned.h"
+#include "image/img.h"
 #include "image/rgb888.h"
-#include "paint/files.h"
 #include "paint/files.h"
 #include "paint/shading.h"
 #include "paint/strokes.h"

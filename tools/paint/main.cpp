@@ -8,6 +8,7 @@
 #include "paint/contact_sheets.h"
 #include "paint/files.h"
 #include "paint/icon.h"
+#include "paint/paint.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The small marks: the logo, the mask of the wide picture, the colour strip and the pointer.
+#include "foundation/owned.h"
+#include "image/img.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 #include "paint/strokes.h"

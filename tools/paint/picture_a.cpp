@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Picture A: a banded sun goes down behind a wireframe range, and a grid runs from the horizon to the viewer.
+#include "image/img.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 

@@ -3,6 +3,7 @@
 //
 // Picture B: a banded planet with its ring and a moon, before a nebula.
 #include "foundation/sine.h"
+#include "image/img.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 

@@ -4,6 +4,7 @@
 // The wide picture: a city of lines on a bay at night, an aurora above it, its lights in the water below. Its
 // right edge continues at its left one: colours and waves complete whole turns, and no tower stands across.
 #include "foundation/sine.h"
+#include "image/img.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 

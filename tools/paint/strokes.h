@@ -7,7 +7,7 @@
 //     "2B 24 51 91 C4 CB, 27 C7" // a capital A: its outline, then its bar
 #pragma once
 
-#include "paint/paint.h"
+#include "image/img.h"
 
 #include <string_view>
 #include <vector>

@@ -13,6 +13,7 @@
 //     void VELM4030_sceneSky() { play({}, 600, acts); }
 #pragma once
 
+#include "demo/scenes/curves.h"
 #include "demo/scenes/frames.h"
 #include "foundation/memory.h"
 #include "foundation/owned.h"
@@ -46,6 +47,18 @@ inline Owned<SINEDOTS_delete> makeDotLine(std::int32_t stepY) {
     });
 }
 
+/// Stars that stand still where chance might have put them: steps without a common measure scatter the dots.
+inline Owned<SINEDOTS_delete> makeStars(std::int32_t count) {
+    return Owned<SINEDOTS_delete>(SINEDOTS_new(), [count](SINEDOTS& made) {
+        constexpr SINEDOTS_AXES steps[SINEDOTS_waveCount] = {{389, 277, 0}, {733, 577, 0}, {151, 911, 0}};
+        SINEDOTS_setCount(&made, count);
+        for (std::int32_t k = 0; k < SINEDOTS_waveCount; ++k) {
+            made.step[k] = steps[k];
+            made.speed[k] = {};
+        }
+    });
+}
+
 template <typename Cast>
 struct Act {
     std::int32_t begin, end; ///< it draws from frame `begin` up to and without frame `end`
@@ -53,10 +66,11 @@ struct Act {
     void (*enter)(Cast& cast) = nullptr; ///< called before its first frame
 };
 
-/// An act of every cast with a scroll text.
-template <typename Cast>
-void playScrollText(Cast&, std::int32_t) {
-    drawScrollText();
+/// An act of every cast with a scroll text, `scroll`: it comes and goes with a scene of so many frames.
+template <std::int32_t frames, typename Cast>
+void playScrollText(Cast& cast, std::int32_t frame) {
+    constexpr std::int32_t slope = 40;
+    cast.scroll.draw(curveStay(frame, 0, frames, slope));
 }
 
 /// Plays a scene: in every frame the acts whose time it is, in the table's order, then the pointer and the
@@ -64,6 +78,8 @@ void playScrollText(Cast&, std::int32_t) {
 template <typename Cast, std::size_t count>
 void play(const SceneLook& look, std::int32_t frames, const Act<Cast> (&acts)[count]) {
     setLook(look);
+    // Nothing of the scene before is seen, nor of the start-up picture.
+    IMG_fill(demo.screen, look.clearMode == ClearMode::background ? demo.background : 0);
     if (isStocked()) {
         LFONT_setColour(demo.textMedium, 0xFFFFFF); // the bobbing letters have left the overlay in a hue
         const std::int64_t refused = refusedAllocations;

@@ -22,6 +22,38 @@ void drawCaption(LFONT* pen, const Caption& caption) {
     }
 }
 
+void drawBoldCaption(LFONT* pen, const Caption& caption) {
+    if (caption.weight <= 0) {
+        return;
+    }
+    const auto drawAt = [&](std::int32_t dx, std::int32_t dy, std::uint32_t colour) {
+        Caption moved = caption;
+        moved.x += dx;
+        moved.y += dy;
+        moved.colour = colour;
+        drawCaption(pen, moved);
+    };
+    constexpr std::int32_t width = 2; // of a stroke, pixels
+    for (std::int32_t k = -1; k <= width; ++k) {
+        for (const std::int32_t edge : {-1, width}) {
+            drawAt(k, edge, 0);
+            drawAt(edge, k, 0);
+        }
+    }
+    for (std::int32_t k = 0; k < width * width; ++k) {
+        drawAt(k % width, k / width, caption.colour);
+    }
+}
+
+void typeBoldCaption(LFONT* pen, Caption caption, std::int32_t frame, std::int32_t begin, std::int32_t end) {
+    constexpr std::int32_t framesOfLetter = 2;
+    caption.typed = (frame - begin) / framesOfLetter;
+    caption.first = std::max(frame - end, 0);
+    if (caption.first < std::min(caption.typed, static_cast<std::int32_t>(caption.text.size()))) {
+        drawBoldCaption(pen, caption);
+    }
+}
+
 KeptPen::KeptPen(LFONT* kept) : pen(kept) {
     if (pen == nullptr) {
         return;

@@ -9,6 +9,7 @@
 
 #include "demo/scenes/curves.h"
 #include "effects/lfont.h"
+#include "vector/vec2d.h"
 
 #include <cstdint>
 #include <limits>
@@ -30,6 +31,14 @@ struct Caption {
 
 /// Writes the caption with the small or the medium pen.
 void drawCaption(LFONT* pen, const Caption& caption);
+
+/// The same in strokes twice as wide, with a dark edge: it stays legible over anything. At a scale of 1 the
+/// strokes of the small pen take two pixels.
+void drawBoldCaption(LFONT* pen, const Caption& caption);
+
+/// The same, typed from frame `begin` on, a letter in two frames, and taken away from frame `end` on, a
+/// letter a frame.
+void typeBoldCaption(LFONT* pen, Caption caption, std::int32_t frame, std::int32_t begin, std::int32_t end);
 
 /// For as long as it lives a pen may be changed: afterwards it stands as before, and writes all glyphs in the
 /// colour of the first that has one. nullptr is no pen.

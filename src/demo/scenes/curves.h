@@ -41,6 +41,12 @@ constexpr std::int32_t curveBetween(std::int32_t from, std::int32_t to, std::int
     return from + (to - from) * weight / curveFull;
 }
 
+/// 256 doubled `octaves` / 256 times, without a kink from one doubling to the next; octaves 0..5632.
+constexpr std::int32_t curveDoubled(std::int32_t octaves) {
+    const std::int32_t part = octaves & 255;
+    return (256 + part * (168 + 88 * part / 256) / 256) << (octaves >> 8);
+}
+
 /// A colour on its way, in the same sense.
 constexpr std::uint32_t curveMix(std::uint32_t from, std::uint32_t to, std::int32_t weight) {
     return RGB888_mix(from, to, static_cast<std::uint32_t>(std::clamp(weight, 0, curveFull)));

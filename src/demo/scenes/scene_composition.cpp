@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: MIT
 //
 // Extra scene 5, the composition: thick lines divide the ground, panes of colour swing into the fields like
-// doors, and through one field after the other something moves. The lines breathe, glass tumbles over them,
-// and all of it leaves as it came. The ground is the background, the lines are its complement.
+// doors, and through one field after the other something moves: bars, a drawing, dots, the city, the four
+// letters. On every bar of the music the lines slide into another order; glass tumbles over it, a polished
+// floor mirrors it, and all of it leaves as it came. The ground is the background, the lines are its
+// complement.
 #include "demo/scenes/acts.h"
+#include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
+#include "demo/scenes/composition_lines.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/polished_floor.h"
 #include "effects/rect.h"
 #include "foundation/sine.h"
 
@@ -14,31 +19,18 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace velm {
 
 namespace {
 
 constexpr std::int32_t frames = 750;
-constexpr std::int32_t panesBegin = 90;
-constexpr std::int32_t windowsBegin = 190;
-constexpr std::int32_t breathBegins = 260;
-constexpr std::int32_t glassBegins = 410;
+constexpr std::int32_t panesBegin = barFrames / 2;
+constexpr std::int32_t windowsBegin = barFrames;
+constexpr std::int32_t glassBegins = 4 * barFrames;
 constexpr std::int32_t glassEnds = glassBegins + 256; // whole half-turns of every pane of glass
-constexpr std::int32_t leaves = 650;
-constexpr std::int32_t thickness = 5; // of the lines, pixels
-constexpr std::int32_t streamY = 206; // row about which the scroll text waves
-
-/// Where a line of the composition stands, and how it breathes.
-struct Bar {
-    std::int32_t at;    ///< pixels
-    std::int32_t reach; ///< pixels
-    std::int32_t speed; ///< 1/1024 turns a frame
-};
-
-// The window's edges count as lines that nobody sees.
-constexpr std::array<Bar, 5> uprights = {{{-4, 0, 0}, {60, 9, 5}, {158, 12, 4}, {216, 7, 7}, {255, 0, 0}}};
-constexpr std::array<Bar, 5> levels = {{{-4, 0, 0}, {34, 6, 6}, {106, 10, 5}, {166, 4, 8}, {255, 0, 0}}};
+constexpr std::int32_t streamY = 208;                 // row about which the scroll text waves
 
 /// A pane between two upright and two level lines, which swings in about one of its sides.
 struct Field {
@@ -52,16 +44,13 @@ constexpr std::uint32_t red = 0xF01810;
 constexpr std::uint32_t blue = 0x1030D8;
 constexpr std::uint32_t yellow = 0xFFD000;
 constexpr std::uint32_t grey = 0x808890;
+constexpr std::uint32_t darkGround = 0x080810; // on either background
 
 constexpr std::array<Field, 5> fields = {{{1, 1, red, 0, true},
-                                          {0, 2, blue, 24, false},
-                                          {3, 0, yellow, 48, false},
-                                          {3, 2, red, 66, false},
-                                          {0, 0, grey, 84, true}}};
-
-std::uint32_t ink() {
-    return demo.background ^ 0xFFFFFF;
-}
+                                          {0, 2, blue, 12, false},
+                                          {3, 0, yellow, 24, false},
+                                          {2, 0, blue, 34, true},
+                                          {0, 0, grey, 44, true}}};
 
 void prepareGlass(RECT& glass) {
     constexpr std::int32_t count = 9;
@@ -69,7 +58,7 @@ void prepareGlass(RECT& glass) {
     RECT_setCount(&glass, count);
     glass.face = RECT_FACE::pane;
     glass.mix = RECT_MIX::average;
-    glass.height = 180;
+    glass.height = 170;
     for (std::int32_t i = 0; i < glass.count; ++i) {
         RECT_PANE& pane = glass.panes[i];
         pane.flip = SINE_quarter;
@@ -91,82 +80,40 @@ constexpr std::int32_t viewHeight = 96;
 
 struct Composition {
     ScrollText scroll{streamY};
+    Lines lines;
     Owned<RECT_delete> glass{RECT_new(), prepareGlass};
     Owned<RASTER_delete> bars{RASTER_new(), prepareBars};     ///< seen through one field
     Owned<SINEDOTS_delete> dots = makeDots(SINE_tableLength); ///< and through another
     Picture barView{IMG_newSized(viewWidth, viewHeight)};     ///< the bars, straight
+    Picture dotView{IMG_newSized(viewWidth * 2, viewHeight)}; ///< room for the dots' field
     Picture swayView{IMG_newSized(viewWidth, viewHeight)};    ///< the bars, bent
-    Picture dotView{IMG_newSized(viewWidth - 16, viewHeight - 36)};
     Owned<DISTX_delete> sway{DISTX_new(), [this](DISTX& made) {
                                  made.source = barView;
                                  made.amplitude = 24;
                                  made.wave.speed = 14;
                                  made.wave.offsetStep = 12;
-                             }};                   ///< bends the bars by rows
-    std::array<std::int32_t, uprights.size()> x{}; ///< where the lines stand in this frame
-    std::array<std::int32_t, levels.size()> y{};
+                             }}; ///< bends the bars by rows
+    PolishedFloor floor;
 };
-
-/// The lines' places: still at first, breathing later.
-void placeLines(Composition& composition, std::int32_t frame) {
-    const std::int32_t breath = curveStay(frame, breathBegins, leaves, 80);
-    const auto place = [=](const Bar& bar, std::int32_t phase) {
-        return bar.at + SINE_scaled((bar.reach * breath) >> 8, (frame - breathBegins) * bar.speed + phase);
-    };
-    for (std::size_t i = 0; i < uprights.size(); ++i) {
-        composition.x[i] = place(uprights[i], 0);
-        composition.y[i] = place(levels[i], SINE_quarter);
-    }
-}
-
-/// What lies between two upright and two level lines.
-struct View {
-    std::int32_t left, top, right, bottom; ///< pixels; right and bottom belong to the lines
-};
-
-View viewOf(const Composition& composition, std::size_t column, std::size_t row) {
-    return {composition.x[column] + thickness, composition.y[row] + thickness, composition.x[column + 1],
-            composition.y[row + 1]};
-}
-
-/// A line grows from one edge and leaves through the other; every second one goes the opposite way, with a
-/// negative length. The uprights end on the lowest level.
-void drawLines(Composition& composition, std::int32_t frame) {
-    IMG* const screen = demo.screen;
-    for (std::size_t i = 1; i + 1 < uprights.size(); ++i) {
-        const auto order = static_cast<std::int32_t>(i);
-        const std::int32_t in = curveEase(frame, 12 * order, 12 * order + 50);
-        const std::int32_t out = curveEase(frame, leaves + 30 + 8 * order, leaves + 30 + 8 * order + 40);
-        const std::int32_t from = curveBetween(0, screen->width, out);
-        const std::int32_t length = curveBetween(0, screen->width, in) - from;
-        const std::int32_t foot = composition.y[levels.size() - 2];
-        const std::int32_t upFrom = curveBetween(0, foot, out);
-        const std::int32_t upLength = curveBetween(0, foot, in) - upFrom;
-        const bool flips = i % 2 == 0;
-        RECT_drawPane(screen, flips ? screen->width - from : from, composition.y[i], flips ? -length : length,
-                      thickness, ink(), RECT_MIX::set);
-        RECT_drawPane(screen, composition.x[i], flips ? foot - upFrom : upFrom, thickness,
-                      flips ? -upLength : upLength, ink(), RECT_MIX::set);
-    }
-}
 
 /// A pane swings in from the far side of its hinge, where its width is negative, over the neighbour. Averaged
 /// twice, it is glass of three quarters of its colour.
 void drawField(Composition& composition, const Field& field, std::int32_t frame) {
     const std::int32_t in = curveEase(frame, panesBegin + field.begins, panesBegin + field.begins + 70);
     const std::int32_t out =
-        curveEase(frame, leaves - 30 + field.begins / 2, leaves - 30 + field.begins / 2 + 60);
+        curveEase(frame, Lines::leaves - 30 + field.begins / 2, Lines::leaves - 30 + field.begins / 2 + 60);
     if (in == 0 || out == curveFull) {
         return;
     }
-    const View view = viewOf(composition, field.column, field.row);
-    // From lying on the neighbour (half a turn) over edge-on to closed, and edge-on again to leave.
-    const std::int32_t swing = curveBetween(400, 0, in) + curveBetween(0, SINE_quarter, out);
+    const View view = composition.lines.view(field.column, field.row);
+    // From edge-on over lying on the neighbour and edge-on again to closed, and once more edge-on to leave.
+    const std::int32_t swing = curveBetween(3 * SINE_quarter, 0, in) + curveBetween(0, SINE_quarter, out);
     const std::int32_t seen = SINE_cosineScaled(view.right - view.left + 1, swing);
+    const std::uint32_t colour =
+        curveMix(field.colour, 0xFFFFFF, beatWeight(20, frame < Lines::wholeBegins ? 1 : 4) / 7);
     for (std::int32_t coat = 0; coat < 2; ++coat) {
         RECT_drawPane(demo.screen, field.hingesRight ? view.right : view.left, view.top,
-                      field.hingesRight ? -seen : seen, view.bottom - view.top, field.colour,
-                      RECT_MIX::average);
+                      field.hingesRight ? -seen : seen, view.bottom - view.top, colour, RECT_MIX::average);
     }
 }
 
@@ -179,7 +126,7 @@ void showView(const IMG* picture, const View& view, std::int32_t weight) {
 
 /// Raster bars that sway, upper left of the middle.
 void drawBars(Composition& composition, std::int32_t frame) {
-    const std::int32_t weight = curveStay(frame, windowsBegin, leaves + 20, 40);
+    const std::int32_t weight = curveStay(frame, windowsBegin, Lines::leaves + 20, 40);
     if (weight == 0) {
         return;
     }
@@ -189,21 +136,27 @@ void drawBars(Composition& composition, std::int32_t frame) {
     RASTER_drawVertical(composition.bars, composition.barView);
     DISTX_draw(composition.sway, composition.swayView);
     DISTX_advance(composition.sway);
-    showView(composition.swayView, viewOf(composition, 0, 1), weight);
+    showView(composition.swayView, composition.lines.view(0, 1), weight);
 }
 
-/// A figure of dots in the ink's colour, below the middle.
+/// A figure of dots in the ink's colour, below the middle; it fits its field, whatever that measures.
 void drawDots(Composition& composition, std::int32_t frame) {
-    const std::int32_t weight = curveStay(frame, windowsBegin + 30, leaves + 30, 40);
-    if (weight == 0) {
+    constexpr std::int32_t margin = 3;
+    const std::int32_t weight = curveStay(frame, windowsBegin + 22, Lines::leaves + 20, 40);
+    const View view = composition.lines.view(1, 2);
+    const std::int32_t width = view.right - view.left - 2 * margin;
+    const std::int32_t height = (((view.bottom - view.top) * weight) >> 8) - 2 * margin;
+    if (weight == 0 || width <= 0 || height <= 0) {
         return;
     }
-    IMG_fill(composition.dotView, 0);
+    IMG fitted{.width = width, .height = height, .pixels = composition.dotView->pixels};
+    IMG_fill(&fitted, 0);
     // 0 is transparent, so that black ink is nearly black.
-    composition.dots->colour = ink() == 0 ? 0x101010 : ink();
+    composition.dots->colour = Lines::ink() == 0 ? 0x101010 : Lines::ink();
     SINEDOTS_advance(composition.dots);
-    SINEDOTS_draw(composition.dots, composition.dotView);
-    showView(composition.dotView, viewOf(composition, 1, 2), weight);
+    SINEDOTS_draw(composition.dots, &fitted);
+    IMG_blit(&fitted, demo.screen, 0, 0, view.left + margin, (view.top + view.bottom - height) / 2, width,
+             height);
 }
 
 /// All panes that have come and not yet gone.
@@ -215,62 +168,95 @@ void drawFields(Composition& composition, std::int32_t frame) {
 
 /// The world outside, through the two right fields: the panorama, swinging to and fro.
 void drawOutlook(Composition& composition, std::int32_t frame) {
-    const std::int32_t weight = curveStay(frame, windowsBegin + 60, leaves + 10, 40);
+    constexpr std::int32_t skyline = 66; // row of the panorama that the field's middle shows
+    const std::int32_t weight = curveStay(frame, windowsBegin + 44, Lines::leaves + 10, 40);
     if (weight == 0) {
         return;
     }
     const IMG* const panorama = demo.pictureWide;
-    const std::int32_t left = composition.x[2] + thickness;
-    const std::int32_t top = composition.y[1] + thickness;
-    const std::int32_t width = demo.screen->width - left;
-    const std::int32_t height = ((composition.y[2] - top) * weight) >> 8;
-    const std::int32_t level = (top + composition.y[2]) / 2;
+    const View view = composition.lines.view(2, 1, Lines::count - 1);
+    const std::int32_t width = view.right - view.left;
+    const std::int32_t height = ((view.bottom - view.top) * weight) >> 8;
+    const std::int32_t top = (view.top + view.bottom - height) / 2;
     const std::int32_t spare = std::max(panorama->width - width, 0) / 2;
-    RECT_drawPane(demo.screen, left, level - height / 2, width, height, 0, RECT_MIX::set);
-    IMG_blit(panorama, demo.screen, spare + SINE_scaled(spare, 2 * frame), 30, left, level - height / 2,
-             width, height);
+    RECT_drawPane(demo.screen, view.left, top, width, height, 0, RECT_MIX::set);
+    IMG_blit(panorama, demo.screen, spare + SINE_scaled(spare, 2 * frame), skyline - height / 2, view.left,
+             top, width, height);
 }
 
-/// The ground of the scroll text is dark on either background, so that all hues can be read on it.
-void drawFooting(Composition& composition, std::int32_t frame) {
-    const std::int32_t height = demo.screen->height - composition.y[levels.size() - 2];
-    const std::int32_t weight = curveStay(frame, 20, frames - 10, 60);
-    RECT_drawPane(demo.screen, 0, demo.screen->height, demo.screen->width, -((height * weight) >> 8),
-                  0x080810, RECT_MIX::set);
+/// Draws the bobbing letters in the middle of a dark field, in pale hues, of which blue can be read there,
+/// too.
+void drawLettersIn(const View& field) {
+    constexpr std::int32_t wordWidth = 64;
+    constexpr std::int32_t belowLine = 19; // what is left below the line that they bounce on
+    constexpr std::int32_t paleness = 96;  // of 256
+    const std::int32_t x = std::exchange(settings.lettersX, (field.left + field.right - wordWidth) / 2);
+    const std::int32_t y = std::exchange(settings.lettersY, field.bottom - belowLine);
+    const KeptPen kept(demo.textMedium);
+    VELM4030_logoLettersLayer();
+    settings.lettersX = x;
+    settings.lettersY = y;
+    for (std::int32_t row = field.top; row < field.bottom; ++row) {
+        std::uint32_t* const pixels = demo.screen->pixels + row * demo.screen->width;
+        std::transform(pixels + field.left, pixels + field.right, pixels + field.left,
+                       [](std::uint32_t pixel) {
+                           return pixel == darkGround ? pixel : curveMix(pixel, 0xFFFFFF, paleness);
+                       });
+    }
 }
 
-/// A drawing that turns in the red field.
+/// The letters' field, below the outlook. Its shutter covers what it does not yet show.
+void drawLetters(Composition& composition, std::int32_t frame) {
+    const std::int32_t weight = curveStay(frame, windowsBegin + 66, Lines::leaves + 30, 40);
+    if (weight == 0) {
+        return;
+    }
+    const View field = composition.lines.view(2, 2, Lines::count - 1);
+    const std::int32_t width = field.right - field.left;
+    const std::int32_t height = field.bottom - field.top;
+    const std::int32_t shut = (height * (curveFull - weight)) >> 9; // on either side of the shutter
+    RECT_drawPane(demo.screen, field.left, field.top, width, height, darkGround, RECT_MIX::set);
+    drawLettersIn(field);
+    RECT_drawPane(demo.screen, field.left, field.top, width, shut, demo.background, RECT_MIX::set);
+    RECT_drawPane(demo.screen, field.left, field.bottom, width, -shut, demo.background, RECT_MIX::set);
+}
+
+/// A drawing that turns in the red field, another one in every bar, and a larger one while it has room. Its
+/// lines are two pixels wide.
 void drawFigure(Composition& composition, std::int32_t frame) {
-    constexpr std::int32_t framesPerFigure = 77;
-    const std::int32_t weight = curveStay(frame, windowsBegin, leaves, 50);
+    const std::int32_t weight = curveStay(frame, windowsBegin + 24, Lines::leaves, 40);
     if (weight == 0) {
         return;
     }
     LFONT* const figure = demo.textLarge;
     const KeptPen kept(figure);
-    LFONT_place(figure, (composition.x[1] + composition.x[2]) / 2 + 2,
-                (composition.y[1] + composition.y[2]) / 2 + 2, 3);
-    figure->angle = 5 * frame;
-    figure->character = 1 + (frame / framesPerFigure) % std::max(demo.fontLarge->count - 1, 1);
+    const View view = composition.lines.view(1, 1);
+    const bool hasRoom = frame >= Lines::ordersBegin && frame < Lines::secondOrder;
+    figure->character = 1 + (frame / barFrames) % std::max(demo.fontLarge->count - 1, 1);
     LFONT_setColour(figure, curveMix(red, 0xFFFFFF, weight));
-    LFONT_drawChar(figure);
+    for (const std::int32_t bold : {0, 1}) {
+        LFONT_place(figure, (view.left + view.right) / 2 + bold, (view.top + view.bottom) / 2,
+                    hasRoom ? 4 : 3);
+        figure->angle = 5 * frame;
+        LFONT_drawChar(figure);
+    }
 }
 
-/// A word for every part of the scene, which comes down to its line and goes up again.
+/// A word for every part of the scene, which comes down to its field and goes up again.
 void drawWords(Composition& composition, std::int32_t frame) {
-    constexpr std::int32_t cell = 16;
-    constexpr std::array<std::string_view, 4> words = {"LINES", "PANES", "LIFE", "GLASS"};
-    constexpr std::array<std::int32_t, 5> begins = {50, panesBegin + 50, windowsBegin + 50, glassBegins,
-                                                    leaves};
+    constexpr std::array<std::string_view, 6> words = {"LINES", "PANES", "LIFE", "ORDER", "GLASS", "WHOLE"};
+    constexpr std::array<std::int32_t, 7> begins = {
+        4,           panesBegin + 20,    windowsBegin + 66, Lines::ordersBegin,
+        glassBegins, Lines::wholeBegins, Lines::leaves};
+    const View view = composition.lines.view(1, 0);
     for (std::size_t i = 0; i < words.size(); ++i) {
         if (frame >= begins[i] && frame < begins[i + 1]) {
-            const std::int32_t arrive = curveFull - curveEase(frame, begins[i], begins[i] + 24);
-            const std::int32_t depart = curveEase(frame, begins[i + 1] - 20, begins[i + 1]);
-            const std::int32_t left = composition.x[1] + thickness + 6;
+            const std::int32_t arrive = curveFull - curveEase(frame, begins[i], begins[i] + 18);
+            const std::int32_t depart = curveEase(frame, begins[i + 1] - 14, begins[i + 1]);
             drawCaption(demo.textMedium, {.text = words[i],
-                                          .x = left + static_cast<std::int32_t>(words[i].size()) * cell / 2,
-                                          .y = composition.y[1] - 24 - ((arrive + depart) >> 3),
-                                          .colour = ink()});
+                                          .x = (view.left + view.right) / 2,
+                                          .y = (view.top + view.bottom) / 2 - 7 - ((arrive + depart) >> 3),
+                                          .colour = Lines::ink()});
         }
     }
 }
@@ -283,15 +269,24 @@ void drawGlass(Composition& composition, std::int32_t) {
 
 /// The overlay is to be seen on either background.
 void inkOverlay(Composition&, std::int32_t) {
-    LFONT_setColour(demo.textMedium, ink());
+    LFONT_setColour(demo.textMedium, Lines::ink());
 }
 
-constexpr Act<Composition> acts[] = {{0, frames, placeLines},     {0, frames, drawBars},
-                                     {0, frames, drawDots},       {0, frames, drawFields},
-                                     {0, frames, drawOutlook},    {0, frames, drawFooting},
-                                     {0, frames, drawLines},      {0, frames, drawFigure},
-                                     {0, frames, drawWords},      {glassBegins, glassEnds, drawGlass},
-                                     {0, frames, playScrollText}, {0, frames, inkOverlay}};
+constexpr Act<Composition> acts[] = {
+    {0, frames, [](Composition& composition, std::int32_t frame) { composition.lines.place(frame); }},
+    {0, frames, drawBars},
+    {0, frames, drawDots},
+    {0, frames, drawFields},
+    {0, frames, drawOutlook},
+    {windowsBegin, frames, drawLetters},
+    {0, frames, [](Composition& composition, std::int32_t frame) { composition.lines.draw(frame); }},
+    {0, frames, drawFigure},
+    {0, frames, drawWords},
+    {glassBegins, glassEnds, drawGlass},
+    {0, frames,
+     [](Composition& composition, std::int32_t) { composition.floor.draw(composition.lines.foot()); }},
+    {0, frames, playScrollText<frames>},
+    {0, frames, inkOverlay}};
 
 } // namespace
 

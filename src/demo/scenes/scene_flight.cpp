@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Extra scene 12, the flight: stars drift, become streaks, and a tunnel of hoops that bends like a snake
-// comes out of the distance. Its light blooms. At full speed the sky rolls, then polygons drift where stars
-// were, a curve of dots swims between them, and everything falls back into the dark.
+// Extra scene 12, the flight: a world by night under an aurora falls behind, stars become streaks, and a
+// tunnel of hoops that bends like a snake comes out of the distance. At its end there is a point of light: it
+// grows into another world, crystals pass by, and the flight levels out above its horizon. There the sky
+// lights up, curtain by curtain, and a ribbon of dots dances in it until night falls.
 #include "demo/scenes/acts.h"
+#include "demo/scenes/aurora.h"
+#include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/globe.h"
 #include "effects/circle.h"
 #include "effects/lstar.h"
 #include "foundation/sine.h"
@@ -15,74 +19,192 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace velm {
 
 namespace {
 
 constexpr std::int32_t frames = 750;
+constexpr std::int32_t scrollY = 206;     // over the ground
+constexpr std::int32_t skyHeight = 176;   // of what dances in the sky, pixels
 constexpr std::int32_t tunnelSway = 6500; // of its bends, pixels at a depth of 1
 
-constexpr std::int32_t tunnelBegin = 110, tunnelEnd = 520;
-constexpr std::int32_t arrival = 480; // the brakes: streaks give way to polygons
-constexpr std::int32_t ending = 690;
+constexpr std::int32_t takeOff = 40;
+constexpr std::int32_t leftBehind = 140;
+constexpr std::int32_t tunnelBegin = barFrames - 24, tunnelEnd = 5 * barFrames + 20;
+constexpr std::int32_t sighted = 4 * barFrames; // the other world, a point
+constexpr std::int32_t brakes = 5 * barFrames;
+constexpr std::int32_t levelled = 6 * barFrames + 20; // above its horizon: the sky lights up
+constexpr std::int32_t climax = 7 * barFrames;
+constexpr std::int32_t nightfall = 665;
 
-/// How fast the flight is, 0..256: it starts slowly, runs at full speed, and brakes twice.
+/// How fast the flight is, 0..256: it starts slowly, runs at full speed, and brakes.
 std::int32_t speedAt(std::int32_t frame) {
-    const std::int32_t faster = 64 + curveEase(frame, 60, 330) * 192 / 256;
-    return faster - curveEase(frame, arrival - 60, arrival + 40) * 180 / 256 -
-           curveEase(frame, ending, frames) * 72 / 256;
+    return 12 + curveEase(frame, takeOff, 270) * 244 / 256 -
+           curveEase(frame, brakes - 40, levelled) * 240 / 256;
 }
 
-Owned<LSTAR_delete> makeSky(std::int32_t count) {
+/// A hue between green, blue and violet.
+std::int32_t coolHue(std::int32_t angle) {
+    return 440 + SINE_scaled(250, angle);
+}
+
+Owned<LSTAR_delete> makeStars(std::int32_t count) {
     return Owned<LSTAR_delete>(LSTAR_new(), [count](LSTAR& sky) {
         LSTAR_setCount(&sky, count);
         sky.colours = demo.hueRamp;
-        sky.turn = 2;
+        sky.hueSpan = 200;
     });
 }
 
-/// A hump of dark violet and one of dark green, smooth between black.
-void prepareAurora(RASTER& aurora) {
-    constexpr std::int32_t lines = 512;
-    colourRaster(aurora, lines, [](std::int32_t i) {
-        return curveHue(i < lines / 2 ? 640 : 120, std::max(SINE_scaled(64, 4 * i), 0));
+/// The air of the night, from the zenith down to a horizon; below it is black.
+void prepareAir(RASTER& air) {
+    constexpr std::int32_t horizon = 216;
+    colourRaster(air, 256, [](std::int32_t i) {
+        const std::uint32_t zenith = 0x02030C, low = 0x0C2440;
+        return curveMix(zenith, low, curveRise(i, 40, horizon));
     });
-    aurora.speed = 3 << 15; // 1.5 lines a frame
+    air.speed = 0;
 }
 
 struct Flight {
-    ScrollText scroll;
-    Owned<LSTAR_delete> sky = makeSky(420);
-    Owned<LSTAR_delete> shapes = makeSky(36); ///< the same kind of sky, drawn as polygons
+    ScrollText scroll{scrollY};
+    Owned<LSTAR_delete> stars = makeStars(420);
+    Owned<LSTAR_delete> crystals = makeStars(30); ///< the same kind of sky, drawn as polygons
     Owned<SINEDOTS_delete> curve = makeDotLine(3);
-    Owned<RASTER_delete> aurora{RASTER_new(), prepareAurora}; ///< bands of dark light behind it all
-    Picture light{newWindowPicture()};                        ///< streaks, hoops and curve with their trails
-    Picture bloom{newWindowPicture()};                        ///< the same, spread
-    std::int32_t way = 0;                                     ///< flown so far, in hoop distances / 256
+    Owned<RASTER_delete> air{RASTER_new(), prepareAir};
+    Owned<RASTER_delete> night{RASTER_new()}; ///< black lines
+    Owned<RASTER_delete> rays = makeRays();
+    Towns towns;
+    Picture light{newWindowPicture()}; ///< streaks, hoops and crystals with their trails
+    Picture bloom{newWindowPicture()}; ///< the same, spread
+    Picture ribbon{IMG_newSized(settings.windowWidth, skyHeight)}; ///< the curve with its trail
+    std::int32_t way = 0;                                          ///< flown so far, in hoop distances / 256
+    std::int32_t roll = 0; ///< the world below has turned by so much, 1/4096 turns
 };
 
 /// Moves the viewer on.
 void fly(Flight& flight, std::int32_t frame) {
-    flight.way += speedAt(frame) / 2;
+    constexpr std::int32_t framesOfHoop = 8; // from hoop to hoop at full speed
+    flight.way += speedAt(frame) / framesOfHoop;
+    flight.roll += 3 + speedAt(frame) / 32;
+    RASTER_advance(flight.air);
+    RASTER_advance(flight.rays);
+}
+
+/// The world that is left, then the one that is reached: a point, a ball, a horizon.
+Globe globeAt(std::int32_t frame) {
+    constexpr std::int32_t ground = 330, below = 530; // radius and middle of a world under one's feet
+    if (frame < sighted) {
+        const std::int32_t left = curveEase(frame, takeOff, leftBehind);
+        return {.x = middle, .y = below + left / 2, .radius = ground, .weight = curveRise(frame, 0, 30)};
+    }
+    const std::int32_t near = curveEase(frame, sighted, levelled);
+    constexpr std::int32_t point = 3;           // the first radius
+    constexpr std::int32_t doublings = 27 * 64; // of it, times 256
+    const std::int32_t size = curveDoubled(near * doublings / curveFull);
+    return {.x = middle,
+            .y = curveBetween(middle, below, curveEase(frame, brakes + 30, levelled + 10)),
+            .radius = std::min(point * size / 256, ground),
+            .air = 0xC070E0,
+            .land = 0x120818,
+            .day = 0xFFB0C8,
+            .sun = curveFull - curveEase(frame, brakes + 20, levelled),
+            .weight = curveRise(frame, sighted, sighted + 60)};
+}
+
+bool isGlobeSeen(std::int32_t frame) {
+    return frame < leftBehind || frame >= sighted;
+}
+
+void drawAir(Flight& flight, std::int32_t frame) {
+    const std::int32_t weight = curveRise(frame, 0, 30) - curveEase(frame, takeOff, leftBehind) +
+                                curveEase(frame, brakes + 30, levelled);
+    if (settings.rastersOn != 0) {
+        RASTER_drawBlend(flight.air, demo.screen, static_cast<std::uint32_t>(weight));
+    }
+}
+
+/// One curtain over the world that is left, three above the one that is reached.
+void drawAurora(Flight& flight, std::int32_t frame) {
+    if (settings.rastersOn == 0) {
+        return;
+    }
+    const std::int32_t sinking = curveEase(frame, takeOff, leftBehind);
+    const std::int32_t pulse = 144 + beatWeight(45) / 10; // the middle one glows up on the bar
+    const Curtain curtains[] = {{.y = 150 + sinking / 2,
+                                 .height = 110,
+                                 .reach = 26,
+                                 .fold = 3 * frame,
+                                 .weight = (curveRise(frame, 4, 40) - sinking) * 3 / 4},
+                                {.y = 118,
+                                 .height = 96,
+                                 .reach = 24,
+                                 .fold = 2 * frame + 300,
+                                 .foot = 0x8050F0,
+                                 .head = 0xC03090,
+                                 .weight = curveEase(frame, levelled - 60, levelled) * 5 / 8},
+                                {.y = 150,
+                                 .height = 120,
+                                 .reach = 30,
+                                 .fold = 700 - 3 * frame,
+                                 .foot = 0x30F0A0,
+                                 .head = 0x5040D0,
+                                 .weight = curveEase(frame, levelled - 20, climax - 30) * pulse / curveFull},
+                                {.y = 178,
+                                 .height = 70,
+                                 .reach = 14,
+                                 .fold = 4 * frame,
+                                 .foot = 0x60FFC0,
+                                 .head = 0x2080C0,
+                                 .weight = curveEase(frame, levelled + 20, climax) / 2}};
+    for (const Curtain& curtain : curtains) {
+        drawCurtain(*flight.rays, curtain, demo.screen);
+    }
+}
+
+/// The curve dances in the sky alone.
+void drawRibbon(Flight& flight, std::int32_t frame) {
+    constexpr std::uint32_t fade = 0x141414;
+    IMG_subColour(flight.ribbon, fade);
+    const std::int32_t weight = curveStay(frame, levelled, frames, 50) * 5 / 8;
+    flight.curve->colour = curveHue(coolHue(4 * frame), weight);
+    SINEDOTS_advance(flight.curve);
+    SINEDOTS_drawAdd(flight.curve, flight.ribbon);
+    IMGFX_addBlit(flight.ribbon, demo.screen, 0, 0, 0, 0, flight.ribbon->width, flight.ribbon->height);
+}
+
+void drawWorld(Flight& flight, std::int32_t frame) {
+    if (isGlobeSeen(frame)) {
+        const Globe globe = globeAt(frame);
+        drawGlobe(globe, demo.screen);
+        drawTowns(flight.towns, globe, flight.roll / 4, demo.screen);
+    }
 }
 
 /// How far the tunnel lies off its straight line, `place` hoop distances / 256 from its beginning.
 std::int32_t windAcross(std::int32_t place) {
-    return SINE_scaled(tunnelSway, place * 40 >> 8);
+    return SINE_scaled(tunnelSway, place * 32 >> 8);
 }
 
 std::int32_t windDown(std::int32_t place) {
-    return SINE_scaled(tunnelSway, (place * 28 >> 8) + 200);
+    return SINE_scaled(tunnelSway, (place * 23 >> 8) + 200);
 }
 
-/// One hoop, `depth` in front of the viewer, who is in the middle of the tunnel.
-void drawHoop(const Flight& flight, std::int32_t depth, std::int32_t index, std::int32_t weight) {
+/// One hoop, `depth` in front of the viewer, who is in the middle of the tunnel; it bends by `bend`, a
+/// weight.
+void drawHoop(const Flight& flight, std::int32_t depth, std::int32_t index, std::int32_t bend,
+              std::int32_t weight) {
     constexpr std::int32_t near = 24;
     constexpr std::int32_t radius = 5200; // at a depth of 1
-    const std::int32_t x = middle + (windAcross(index << 8) - windAcross(flight.way)) / (depth + near);
-    const std::int32_t y = middle + (windDown(index << 8) - windDown(flight.way)) / (depth + near);
-    const std::uint32_t colour = curveHue(48 * index, weight);
+    const std::int32_t away = (depth + near) * curveFull / std::max(bend, 1);
+    const std::int32_t x = middle + (windAcross(index << 8) - windAcross(flight.way)) / away;
+    const std::int32_t y = middle + (windDown(index << 8) - windDown(flight.way)) / away;
+    constexpr std::int32_t hoopsOfGate = 6; // one in so many is a gate, lighter
+    const std::uint32_t hue = curveHue(coolHue(40 * index));
+    const std::uint32_t ink = index % hoopsOfGate == 0 ? curveMix(hue, 0xFFFFFF, 90) : hue;
+    const std::uint32_t colour = curveDim(ink, weight);
     const std::int32_t size = radius / (depth + near);
     CIRCLE_addRing(flight.light, x, y, size, colour);
     CIRCLE_addRing(flight.light, x, y, size - 1, curveDim(colour, 128));
@@ -91,96 +213,94 @@ void drawHoop(const Flight& flight, std::int32_t depth, std::int32_t index, std:
 /// The hoops from the farthest to the nearest, each at its whole distance from the way flown.
 void drawTunnel(Flight& flight, std::int32_t frame) {
     constexpr std::int32_t hoops = 26;
+    constexpr std::int32_t hoopLight = 172;
     constexpr std::int32_t distance = 16; // depth from hoop to hoop
-    const std::int32_t shown = curveStay(frame, tunnelBegin, tunnelEnd, 90);
+    const std::int32_t shown = curveStay(frame, tunnelBegin, tunnelEnd, 60) * hoopLight / curveFull;
     if (shown == 0) {
         return;
     }
+    const std::int32_t bend = curveFull - curveEase(frame, sighted - 60, brakes - 20);
     const std::int32_t first = flight.way >> 8;
     for (std::int32_t k = hoops; k > 0; --k) {
         const std::int32_t depth = k * distance - ((flight.way & 255) * distance >> 8) - distance / 2;
         const std::int32_t weight = (hoops - k) * (hoops - k) * curveFull / (hoops * hoops);
-        drawHoop(flight, depth, first + k, weight * shown >> 8);
+        drawHoop(flight, depth, first + k, bend, weight * shown >> 8);
     }
 }
 
 void drawStars(Flight& flight, std::int32_t frame) {
     const std::int32_t speed = speedAt(frame);
-    flight.sky->speed = 6 * speed;
-    flight.sky->trail = 3 + speed / 64;
-    flight.sky->turn = curveRise(frame, 240, 330) / 64 - curveRise(frame, arrival - 60, arrival) / 86;
-    flight.sky->hue = 4 * frame;
-    LSTAR_advance(flight.sky);
-    LSTAR_draw(flight.sky, flight.light);
+    flight.stars->speed = 5 * speed;
+    flight.stars->trail = 3 + speed / 64;
+    flight.stars->turn = speed / 100;
+    flight.stars->hue = coolHue(2 * frame) - 100;
+    LSTAR_advance(flight.stars);
+    LSTAR_draw(flight.stars, flight.light);
 }
 
-/// Flying backwards at the end, the polygons shrink into the distance.
-void drawShapes(Flight& flight, std::int32_t frame) {
-    LSTAR& shapes = *flight.shapes;
-    shapes.speed = 500 - 8 * curveEase(frame, ending - 30, frames);
-    shapes.corners = 5 + std::clamp(frame - arrival, 0, 199) / 50;
-    shapes.skip = (shapes.corners - 1) / 2;
-    shapes.hue = 3 * frame;
-    LSTAR_advance(&shapes);
-    LSTAR_drawPolygons(&shapes, flight.light);
+/// Star polygons pass by while the flight brakes; they grow out of nothing and shrink away.
+void drawCrystals(Flight& flight, std::int32_t frame) {
+    LSTAR& crystals = *flight.crystals;
+    crystals.speed = 500;
+    crystals.size = curveStay(frame, brakes - 60, levelled, 50) * 7;
+    crystals.corners = 5 + std::clamp(frame - brakes, 0, 149) / 50;
+    crystals.skip = (crystals.corners - 1) / 2;
+    crystals.hue = coolHue(3 * frame);
+    LSTAR_advance(&crystals);
+    LSTAR_drawPolygons(&crystals, flight.light);
 }
 
-void drawCurve(Flight& flight, std::int32_t frame) {
-    const std::int32_t weight = curveStay(frame, arrival, ending + 30, 60) / 2;
-    if (weight > 0) {
-        flight.curve->colour = curveHue(5 * frame, weight);
-        SINEDOTS_advance(flight.curve);
-        SINEDOTS_drawAdd(flight.curve, flight.light);
-    }
-}
-
-/// Lays the light over the aurora, with a bloom around whatever is bright.
+/// Lays the light over the picture, with a bloom around whatever is bright; none of it shines through a
+/// world.
 void showLight(Flight& flight, std::int32_t frame) {
     constexpr std::uint32_t fade = 0x2C2C2C;
-    constexpr std::int32_t bloomShift = 2;
-    if (settings.rastersOn != 0) {
-        RASTER_advance(flight.aurora);
-        RASTER_drawBlend(flight.aurora, demo.screen,
-                         static_cast<std::uint32_t>(curveStay(frame, 20, frames - 20, 120)));
+    constexpr std::int32_t bloomShift = 3;
+    if (isGlobeSeen(frame)) {
+        const Globe globe = globeAt(frame);
+        CIRCLE_drawDisc(flight.light, globe.x, globe.y, globe.radius, 0);
     }
     IMGFX_glare8(flight.light, flight.bloom, bloomShift);
     IMGFX_addBlit(flight.bloom, demo.screen, 0, 0, 0, 0, flight.bloom->width, flight.bloom->height);
-    const std::int32_t curtain = std::min(curveRise(frame, ending, frames - 5), 255);
-    IMG_subColour(demo.screen, static_cast<std::uint32_t>(curtain) * 0x010101U);
     IMGFX_blur(flight.light, flight.bloom);
-    IMG_copy(flight.bloom, flight.light);
+    std::swap(flight.light, flight.bloom);
     IMG_subColour(flight.light, fade);
+}
+
+void drawNightfall(Flight& flight, std::int32_t frame) {
+    const std::int32_t dark = curveEase(frame, nightfall, frames - 6);
+    RASTER_drawBlend(flight.night, demo.screen, static_cast<std::uint32_t>(dark));
 }
 
 void drawCaptions(Flight&, std::int32_t frame) {
     constexpr struct {
         std::string_view text;
-        std::int32_t begin;
-    } captions[] = {{"LIGHTS OFF", 14}, {"HOLD ON", 90}, {"NO ROAD HERE", 500}, {"ONLY SHAPES", 580}};
-    constexpr std::int32_t shown = 74;
-    const std::uint32_t light = RGB888_brighten(RGB888_average(curveHue(4 * frame), 0xFFFFFF), 60);
-    for (const auto& caption : captions) {
-        drawCaption(demo.textSmall, {.text = caption.text,
-                                     .y = 48,
-                                     .scale = 2,
-                                     .colour = light,
-                                     .weight = curveStay(frame, caption.begin, caption.begin + shown, 20)});
+        std::int32_t begin, end;
+    } captions[] = {
+        {"LIGHTS OFF", 8, 70}, {"HOLD ON", 92, 165}, {"LOOK AHEAD", 400, 470}, {"ANOTHER SKY", 580, 690}};
+    for (const auto& line : captions) {
+        const std::uint32_t colour = RGB888_average(curveHue(coolHue(4 * frame)), 0xFFFFFF);
+        typeBoldCaption(demo.textSmall, {.text = line.text, .y = 36, .scale = 2, .colour = colour}, frame,
+                        line.begin, line.end);
     }
 }
 
 constexpr Act<Flight> acts[] = {{0, frames, fly},
-                                {0, frames, drawTunnel},
+                                {0, frames, drawAir},
+                                {0, frames, drawAurora},
+                                {levelled, frames, drawRibbon},
+                                {0, frames, drawWorld},
+                                {0, tunnelEnd, drawTunnel},
                                 {0, frames, drawStars},
-                                {arrival - 59, frames, drawShapes},
-                                {0, frames, drawCurve},
+                                {brakes - 59, levelled, drawCrystals},
                                 {0, frames, showLight},
-                                {0, frames, playScrollText},
+                                {nightfall, frames, drawNightfall},
+                                {0, frames, playScrollText<frames>},
                                 {0, frames, drawCaptions}};
 
 } // namespace
 
 void VELM4030_sceneExtra12() {
-    play({.fadeStep = 0x202020}, frames, acts);
+    play({}, frames, acts);
 }
 
 } // namespace velm

@@ -1,18 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Extra scene 8, the mosaic: drawings and words are drawn stroke by stroke, then colour springs up in their
-// cells and floods them and the spaces between, one mosaic after the other. Words out of the depth open and
-// close it.
+// Extra scene 8, the mosaic: outlines are drawn stroke by stroke, then colour springs up in every pane
+// between them, and runs dry while the next plate is drawn over it. The last plate asks to stay inside the
+// lines; there the lines give way, and the colour takes the whole picture.
 #include "demo/scenes/acts.h"
+#include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
+#include "demo/scenes/mosaic_plates.h"
 #include "effects/fill.h"
-#include "effects/line_text.h"
-#include "effects/wordzoom.h"
-#include "foundation/sine.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace velm {
@@ -20,318 +19,214 @@ namespace velm {
 namespace {
 
 constexpr std::int32_t frames = 750;
-constexpr std::uint32_t wall = 0xFFFFFF;
-constexpr std::int32_t oneInSixteen = 1 << 12; // in 16.16
-constexpr std::int32_t firstMosaic = 84;       // frame of its first stroke
-constexpr std::int32_t mosaicFrames = 142;     // from one mosaic's first stroke to the next one's
-constexpr std::int32_t drawFrames = 34;        // strokes
-constexpr std::int32_t drainFrom = 118;        // the colour runs dry
-constexpr std::int32_t mosaics = 4;
-constexpr std::int32_t closing = firstMosaic + mosaics * mosaicFrames - 30;
+constexpr std::int32_t plateFrames = 3 * barFrames / 2; // from one plate's first stroke to the next one's
+constexpr std::int32_t drawFrames = 30;                 // strokes
+constexpr std::int32_t drainFrames = 40;                // the colour runs dry, over the next plate's strokes
+constexpr std::int32_t lastPlate = (plateCount - 1) * plateFrames;
+constexpr std::int32_t outbreak = lastPlate + barFrames; // the lines give way
+constexpr std::int32_t leave = frames - 72;
 
-/// A drawing on the canvas, by its name among the drawings, about its middle.
-struct Figure {
-    std::string_view name;
-    std::int32_t x, y, scale;
+constexpr std::uint32_t fresh = 0xE0F4FF; // outlines before there is colour
+
+/// A plate at work: its outlines, and the colour between them.
+struct Easel {
+    Owned<SAMPLE_delete> palette{SAMPLE_new(), [](SAMPLE& made) { SAMPLE_setLength(&made, hueCount); }};
+    Owned<FILL_delete> fill{FILL_new(), [this](FILL& made) {
+                                FILL_setSize(&made, settings.windowWidth, settings.windowHeight);
+                                made.palette = palette;
+                            }};
+    Picture canvas{newWindowPicture()};
+    Pane panes[1024] = {};
+    std::int32_t paneCount = 0;
 };
 
-/// The drawing of that name, or nullptr.
-const OBJ2D* drawingOf(std::string_view name) {
-    for (std::int32_t i = 0; i < demo.fontLarge->count; ++i) {
-        const auto* const obj = static_cast<const OBJ2D*>(LIST_get(demo.fontLarge, i));
-        if (obj != nullptr && obj->name != nullptr && obj->name == name) {
-            return obj;
-        }
+/// Two by turns: while one dries, the next is drawn.
+struct Studio {
+    Easel easels[2];
+};
+
+/// The pane that these spans fill. The widest spans would do for a bowl; the one nearest to the mean is
+/// inside of a ring, too.
+Pane paneOf(const FILL_SPAN* spans, std::int32_t count) {
+    std::int64_t area = 0;
+    std::int64_t sumX = 0;
+    std::int64_t sumY = 0;
+    const auto middleOf = [](const FILL_SPAN& span) { return (span.left + span.right) / 2; };
+    for (std::int32_t i = 0; i < count; ++i) {
+        const std::int64_t width = spans[i].right - spans[i].left + 1;
+        area += width;
+        sumX += width * middleOf(spans[i]);
+        sumY += width * spans[i].row;
     }
-    return nullptr;
-}
-
-/// Calls draw(a, b) with the ends of every stroke of a figure as it stands on the canvas.
-template <typename Draw>
-void forEachStrokeOf(const Figure& figure, Draw draw) {
-    forEachStroke(drawingOf(figure.name), [&](const VEC2D& a, const VEC2D& b) {
-        draw(VEC2D{figure.x + a.x * figure.scale, figure.y + a.y * figure.scale, 0},
-             VEC2D{figure.x + b.x * figure.scale, figure.y + b.y * figure.scale, 0});
-    });
-}
-
-/// Calls draw(a, b) with the ends of every stroke of a word, about the middle of the row. It is the small
-/// font, whose strokes are single lines: each becomes one side of a body.
-template <typename Draw>
-void forEachStrokeOf(std::string_view word, std::int32_t y, std::int32_t scale, Draw draw) {
-    constexpr std::int32_t cell = 8;
-    std::int32_t left = middle - cell * scale * static_cast<std::int32_t>(word.size() - 1) / 2;
-    for (const char letter : word) {
-        forEachStroke(glyphOf(demo.fontSmall, static_cast<std::uint8_t>(letter)), [&](VEC2D a, VEC2D b) {
-            draw(VEC2D{left + a.x * scale, y + a.y * scale, 0},
-                 VEC2D{left + b.x * scale, y + b.y * scale, 0});
+    const auto distanceOf = [&](const FILL_SPAN& span) {
+        const std::int64_t dx = middleOf(span) - sumX / area;
+        const std::int64_t dy = span.row - sumY / area;
+        return dx * dx + dy * dy;
+    };
+    const FILL_SPAN& nearest =
+        *std::min_element(spans, spans + count, [&](const FILL_SPAN& a, const FILL_SPAN& b) {
+            return distanceOf(a) < distanceOf(b);
         });
-        left += cell * scale;
-    }
+    return {middleOf(nearest), nearest.row, static_cast<std::int32_t>(area)};
 }
 
-/// Where the strokes of a letter lead when it gets a body.
-constexpr VEC2D depth{14, 18, 0};
-
-/// Calls draw(a, b) with the edges of the sides that a stroke gets when it becomes a body.
-template <typename Draw>
-void forEachEdge(const VEC2D& a, const VEC2D& b, Draw draw) {
-    VEC2D farA = a;
-    VEC2D farB = b;
-    VEC2D_add(&depth, &farA);
-    VEC2D_add(&depth, &farB);
-    draw(a, b);
-    draw(a, farA);
-    draw(b, farB);
-    draw(farA, farB);
-}
-
-constexpr std::string_view upperWord = "VELM";
-constexpr std::string_view lowerWord = "4030";
-constexpr std::int32_t letterScale = 7;
-constexpr std::int32_t upperY = 56; // the middle of the letters' cells
-constexpr std::int32_t lowerY = 164;
-constexpr Figure window{"mystic rose", middle, middle, 15}; // twelve corners, each joined to each
-
-/// A maze of slashes, a bit for each of 16 by 16: set, it leans to the right.
-constexpr std::uint16_t slashes[16] = {0xE86A, 0xD897, 0x7D4A, 0xCFE4, 0xB73E, 0xDBC2, 0xCEAC, 0xE974,
-                                       0xA83A, 0xE77E, 0x860C, 0x122F, 0xA997, 0x2113, 0xC4D7, 0xEEDC};
-constexpr std::int32_t slashSize = 16;
-
-/// Sixteen figures in four rows.
-constexpr std::string_view gallery[16] = {"heart",    "cat",      "flower",   "gem",    "rocket", "web",
-                                          "robot",    "iris",     "globe",    "clover", "leaf",   "cogwheel",
-                                          "hexagram", "pinwheel", "carousel", "fir"};
-Figure pictureOf(std::int32_t i) {
-    return {gallery[i], 32 + i % 4 * 64, 32 + i / 4 * 64, 3};
-}
-
-/// Calls draw(a, b) with every stroke of a mosaic, in the order in which they are drawn.
-template <typename Draw>
-void forEachStrokeIn(std::int32_t mosaic, Draw draw) {
-    const auto drawEdges = [&draw](const VEC2D& a, const VEC2D& b) { forEachEdge(a, b, draw); };
-    switch (mosaic) {
-    case 0:
-        forEachStrokeOf(window, draw);
-        break;
-    case 1:
-        forEachStrokeOf(upperWord, upperY, letterScale, drawEdges);
-        forEachStrokeOf(lowerWord, lowerY, letterScale, drawEdges);
-        break;
-    case 2:
-        for (std::int32_t i = 0; i < 256; ++i) {
-            const std::int32_t left = i % 16 * slashSize;
-            const std::int32_t top = i / 16 * slashSize;
-            const bool leansRight = (slashes[i / 16] >> (i % 16) & 1) != 0;
-            draw(VEC2D{left, leansRight ? top + slashSize : top, 0},
-                 VEC2D{left + slashSize, leansRight ? top : top + slashSize, 0});
-        }
-        break;
-    default:
-        for (std::int32_t line = 0; line <= 4; ++line) {
-            const std::int32_t at = std::min(64 * line, 255);
-            draw(VEC2D{0, at, 0}, VEC2D{255, at, 0});
-            draw(VEC2D{at, 0, 0}, VEC2D{at, 255, 0});
-        }
-        for (std::int32_t i = 0; i < 16; ++i) {
-            forEachStrokeOf(pictureOf(i), draw);
-        }
-        break;
-    }
-}
-
-/// Draws the share of a mosaic that a weight tells on the canvas.
-void drawStrokes(IMG* canvas, std::int32_t mosaic, std::int32_t weight) {
-    std::int32_t count = 0;
-    forEachStrokeIn(mosaic, [&count](const VEC2D&, const VEC2D&) { ++count; });
-    const std::int32_t shown = count * weight / curveFull;
-    std::int32_t n = 0;
-    forEachStrokeIn(mosaic, [&](VEC2D a, VEC2D b) {
-        if (n++ < shown) {
-            a.colour = wall;
-            const SEG2D stroke{&a, &b};
-            SEG2D_draw(&stroke, canvas);
-        }
-    });
-}
-
-/// A hue for a direction: sides of a body that face the same way look alike.
-std::int32_t hueOfSide(const VEC2D& a, const VEC2D& b) {
-    const std::int32_t dx = b.x - a.x;
-    const std::int32_t dy = b.y - a.y;
-    return dx == 0 ? 1000 : dy == 0 ? 640 : (dx > 0) == (dy > 0) ? 820 : 1200;
-}
-
-/// Ring by ring from the middle, every pane in the hue of its ring; the sky around it comes last.
-void pourWindow(FILL* fill, std::int32_t age) {
-    constexpr std::int32_t panes = 24;
-    const std::int32_t radius = 3 * age;
-    for (std::int32_t i = 0; i < panes && radius < 112; ++i) {
-        const std::int32_t angle = (2 * i + 1) * SINE_tableLength / (2 * panes);
-        FILL_pour(fill, middle + SINE_scaled(radius, angle), middle - SINE_cosineScaled(radius, angle),
-                  13 * radius + 200 * (i % 2));
-    }
-    if (age == 44) {
-        for (const std::int32_t corner : {0, 255}) {
-            FILL_pour(fill, corner, 0, 700);
-            FILL_pour(fill, corner, 255, 700);
+/// Finds every pane by filling it, so that each has one spring, inside of it.
+void findPanes(Easel& easel) {
+    FILL& fill = *easel.fill;
+    FILL_begin(&fill, easel.canvas);
+    fill.flow = fill.width * fill.height; // to the end
+    easel.paneCount = 0;
+    for (std::int32_t i = 0; i < fill.flow && easel.paneCount < std::ssize(easel.panes); ++i) {
+        const std::int32_t first = fill.count;
+        if (FILL_pour(&fill, i % fill.width, i / fill.width, 0)) {
+            FILL_advance(&fill);
+            easel.panes[easel.paneCount++] = paneOf(fill.spans + first, fill.count - first);
         }
     }
 }
 
-/// A side after the other, then the ground.
-void pourLetters(FILL* fill, std::int32_t age) {
-    std::int32_t n = 0;
-    const auto pourSide = [&](const VEC2D& a, const VEC2D& b) {
-        if (n++ == age) {
-            FILL_pour(fill, (a.x + b.x + depth.x) / 2, (a.y + b.y + depth.y) / 2, hueOfSide(a, b));
-        }
-    };
-    forEachStrokeOf(upperWord, upperY, letterScale, pourSide);
-    n /= 2;
-    forEachStrokeOf(lowerWord, lowerY, letterScale, pourSide);
-    if (age == 30) {
-        FILL_pour(fill, 0, 0, 300);
-        FILL_pour(fill, 255, 255, 300);
+/// Leads the colours into each other, and the last one into the first.
+void mixPalette(SAMPLE& palette, const Plate& plate) {
+    constexpr std::int32_t part = hueCount / Plate::colourCount;
+    for (std::int32_t i = 0; i < palette.length; ++i) {
+        const std::int32_t k = i / part % Plate::colourCount;
+        const std::uint32_t colour = curveMix(plate.colours[k], plate.colours[(k + 1) % Plate::colourCount],
+                                              i % part * curveFull / part);
+        SAMPLE_set(&palette, i, static_cast<std::int32_t>(colour));
     }
 }
 
-/// Sources here and there between the slashes, where never a wall is; in the end all corridors have one.
-void pourMaze(FILL* fill, std::int32_t age) {
-    constexpr std::int32_t interval = 3;
-    constexpr std::int32_t scatter = 77; // goes through all 256 places
-    const auto pourAt = [fill](std::int32_t n) {
-        const std::int32_t place = scatter * n & 255;
-        FILL_pour(fill, place % 16 * slashSize + slashSize / 2, place / 16 * slashSize, 6 * place);
-    };
-    if (age < 40 && age % interval == 0) {
-        pourAt(age / interval);
-    }
-    for (std::int32_t n = 4 * (age - 40); age >= 40 && n < 4 * (age - 39); ++n) {
-        pourAt(n);
-    }
+/// All outlines stand: the panes are known, and dry.
+void beginColour(Easel& easel, const Plate& plate) {
+    mixPalette(*easel.palette, plate);
+    findPanes(easel);
+    FILL& fill = *easel.fill;
+    FILL_begin(&fill, easel.canvas);
+    fill.phase = 0;
+    fill.flow = plate.flow;
+    fill.stretch = plate.stretch;
+    fill.speed = plate.speed;
+    fill.ripple = plate.ripple;
 }
 
-/// Picture by picture along the diagonals: the ground of each from a corner, its inside in other hues.
-void pourGallery(FILL* fill, std::int32_t age) {
-    for (std::int32_t i = 0; i < 16; ++i) {
-        const Figure figure = pictureOf(i);
-        const std::int32_t since = age - 4 * (i % 4 + i / 4);
-        if (since == 0) {
-            FILL_pour(fill, figure.x - 28, figure.y - 28, 96 * i);
-        }
-        for (std::int32_t k = 0; since == 5 && k < 25; ++k) {
-            FILL_pour(fill, figure.x + 8 * (k % 5) - 15, figure.y + 8 * (k / 5) - 15,
-                      96 * i + 500 + 90 * (k % 3));
+/// Draws, and later pours, frame `age` of a plate.
+void workAt(Easel& easel, const Plate& plate, std::int32_t age) {
+    if (age == 0) {
+        IMG_fill(easel.canvas, 0);
+        FILL_begin(easel.fill, easel.canvas);
+    }
+    if (age <= drawFrames) {
+        plate.draw(easel.canvas, curveRise(age + 1, 0, drawFrames));
+    }
+    if (age == drawFrames) {
+        beginColour(easel, plate);
+    }
+    for (std::int32_t i = 0; age >= drawFrames && i < easel.paneCount; ++i) {
+        const Pane& pane = easel.panes[i];
+        if (plate.delay(pane) == age - drawFrames) {
+            FILL_pour(easel.fill, pane.x, pane.y, plate.hue(pane));
         }
     }
 }
 
-/// How a mosaic is filled: its seeds, and how the colour flows.
-struct Mosaic {
-    std::string_view title;
-    void (*pour)(FILL* fill, std::int32_t age); ///< called for each frame from the last stroke on
-    std::int32_t flow, stretch, speed, ripple;  ///< as in FILL
-};
-constexpr Mosaic mosaicsInOrder[mosaics] = {{"A ROSE OF GLASS", pourWindow, 800, 6, 10, 130},
-                                            {"LETTERS WITH SIDES", pourLetters, 700, 4, 8, 150},
-                                            {"A MAZE OF SLASHES", pourMaze, 420, 5, 14, 150},
-                                            {"SIXTEEN THINGS", pourGallery, 1500, 6, 9, 120}};
+/// The outlines let the colour out: each of their pixels becomes a spring.
+void breakOut(Easel& easel, const Plate& plate) {
+    constexpr std::int32_t torrent = 2000; // spans a frame
+    IMG& canvas = *easel.canvas;
+    for (std::int32_t y = 0; y < canvas.height; ++y) {
+        for (std::int32_t x = 0; x < canvas.width; ++x) {
+            if (std::uint32_t& pixel = canvas.pixels[x + std::int64_t{y} * canvas.width]; pixel != 0) {
+                pixel = 0;
+                FILL_pour(easel.fill, x, y, plate.hue({x, y, 1}) + hueCount / 2);
+            }
+        }
+    }
+    easel.fill->flow = torrent;
+}
 
-/// The outlines are light on the dark, and dark between the colours.
+/// Lets the colour run dry from its springs on, so that a weight tells how much of its area is gone.
+void drain(FILL& fill, std::int32_t weight) {
+    constexpr std::int32_t agesTold = 1024; // what is older goes with the oldest of these
+    std::int32_t areaOf[agesTold] = {};
+    std::int64_t total = 0;
+    for (std::int32_t i = 0; weight > 0 && i < fill.count; ++i) {
+        const FILL_SPAN& span = fill.spans[i];
+        areaOf[std::min(span.age, agesTold - 1)] += span.right - span.left + 1;
+        total += span.right - span.left + 1;
+    }
+    std::int64_t gone = total * weight / curveFull;
+    fill.drained = 0;
+    while (fill.drained < agesTold && gone > 0) {
+        gone -= areaOf[fill.drained++];
+    }
+    if (weight >= curveFull) {
+        fill.drained = fill.width * fill.height; // no age is beyond
+    }
+}
+
+/// Outlines of two pixels, light on the dark, and dark between the colours.
 void paintWalls(const IMG& canvas, std::uint32_t colour) {
     const std::int32_t width = std::min(canvas.width, demo.screen->width);
-    for (std::int32_t y = 0; y < std::min(canvas.height, demo.screen->height); ++y) {
+    for (std::int32_t y = 1; y < std::min(canvas.height, demo.screen->height); ++y) {
         const std::uint32_t* const from = canvas.pixels + std::int64_t{y} * canvas.width;
+        const std::uint32_t* const above = from - canvas.width;
         std::uint32_t* const to = demo.screen->pixels + std::int64_t{y} * demo.screen->width;
         for (std::int32_t x = 0; x < width; ++x) {
-            to[x] = from[x] != 0 ? colour : to[x];
+            to[x] = (from[x] | above[x]) != 0 ? colour : to[x];
         }
     }
 }
 
-/// The title on a plate at the lower edge: it is typed, and taken back from its end when the colour runs dry.
-void drawTitle(std::string_view title, std::int32_t age) {
+void showEasel(Easel& easel, std::int32_t age) {
+    FILL_advance(easel.fill);
+    easel.fill->phase += beatWeight(16, 4) / 16; // a surge on every beat
+    FILL_draw(easel.fill, demo.screen);
+    const std::int32_t dark = curveRise(age, drawFrames, drawFrames + 40);
+    paintWalls(*easel.canvas, curveMix(fresh, 0x000000, dark));
+}
+
+/// One plate after the other; the one before runs dry below.
+void playPlates(Studio& studio, std::int32_t frame) {
+    const std::int32_t number = std::min(frame / plateFrames, plateCount - 1);
+    const std::int32_t age = frame - number * plateFrames;
+    Easel& before = studio.easels[(number + 1) % 2];
+    if (number > 0 && age < drainFrames) {
+        drain(*before.fill, curveRise(age, 0, drainFrames));
+        showEasel(before, plateFrames + age);
+    }
+    Easel& easel = studio.easels[number % 2];
+    if (frame < outbreak) {
+        workAt(easel, plateAt(number), age);
+    } else if (frame == outbreak) {
+        breakOut(easel, plateAt(number));
+    }
+    drain(*easel.fill, curveRise(frame, leave, frames - 2));
+    showEasel(easel, age);
+}
+
+/// A caption on a plate at the lower edge: typed, and taken back from its end.
+void drawTitle(std::string_view title, std::int32_t age, std::int32_t end) {
     constexpr std::int32_t cell = 8;
-    constexpr std::int32_t y = 246;
+    constexpr std::int32_t y = 244;
     const auto length = static_cast<std::int32_t>(title.size());
-    const std::int32_t typed = std::clamp(std::min(age, drainFrom - age), 0, length);
+    const std::int32_t typed = std::clamp(std::min(age, end - age), 0, length);
     if (typed > 0) {
-        IMG_fillRect(demo.screen, middle - (length + 1) * cell / 2, y - cell, (typed + 1) * cell, 2 * cell,
-                     0);
-        drawCaption(demo.textSmall, {.text = title, .y = y, .colour = 0xD0F0FF, .typed = typed});
+        IMG_fillRect(demo.screen, middle - (length + 1) * cell / 2, y - cell, (typed + 1) * cell + 1,
+                     2 * cell, 0);
+        for (std::int32_t x = middle; x <= middle + 1; ++x) { // bold
+            drawCaption(demo.textSmall, {.text = title, .x = x, .y = y, .colour = fresh, .typed = typed});
+        }
     }
 }
 
-void prepareFill(FILL& fill) {
-    FILL_setSize(&fill, settings.windowWidth, settings.windowHeight);
-    fill.palette = demo.hueRamp;
-}
-
-void prepareZoom(WORDZOOM& zoom) {
-    zoom.glyphs = demo.fontMedium;
-    zoom.palette = demo.hueRamp;
-    zoom.loop = 0;
-    zoom.hue = 256;
-    zoom.growth = oneInSixteen * 5 / 4;
-    zoom.interval = 22;
-    WORDZOOM_setText(&zoom, "STAY INSIDE THE LINES");
-}
-
-struct Studio {
-    Owned<FILL_delete> fill{FILL_new(), prepareFill};
-    Owned<WORDZOOM_delete> zoom{WORDZOOM_new(), prepareZoom};
-    Picture canvas{newWindowPicture()}; ///< the outlines
-};
-
-void beginMosaic(const Studio& studio, const Mosaic& mosaic) {
-    IMG_fill(studio.canvas, 0);
-    FILL_begin(studio.fill, studio.canvas);
-    studio.fill->flow = mosaic.flow;
-    studio.fill->stretch = mosaic.stretch;
-    studio.fill->speed = mosaic.speed;
-    studio.fill->ripple = mosaic.ripple;
-}
-
-/// One mosaic after the other.
-void playMosaics(Studio& studio, std::int32_t frame) {
-    const std::int32_t number = (frame - firstMosaic) / mosaicFrames;
-    const std::int32_t age = (frame - firstMosaic) % mosaicFrames;
-    FILL& fill = *studio.fill;
-    if (age == 0) {
-        beginMosaic(studio, mosaicsInOrder[number]);
+void playTitles(Studio&, std::int32_t frame) {
+    if (frame < lastPlate) {
+        drawTitle(plateAt(frame / plateFrames).title, frame % plateFrames, plateFrames);
     }
-    if (age < drawFrames) {
-        drawStrokes(studio.canvas, number, curveRise(age + 1, 0, drawFrames));
-    } else {
-        mosaicsInOrder[number].pour(&fill, age - drawFrames);
-    }
-    FILL_advance(&fill);
-    const std::int32_t oldest = fill.count > 0 ? fill.spans[fill.count - 1].age + 1 : 0;
-    fill.drained = curveBetween(0, oldest, curveRise(age, drainFrom, mosaicFrames - 2));
-    FILL_draw(&fill, demo.screen);
-    const std::int32_t dark = std::max(curveRise(age, drawFrames, drawFrames + 50) * 7 / 8,
-                                       curveRise(age, drainFrom, drainFrom + 20));
-    paintWalls(*studio.canvas, curveMix(0xD0F0FF, 0x000000, dark));
-    drawTitle(mosaicsInOrder[number].title, age);
+    drawTitle("OR RATHER DO NOT", frame - outbreak, frames - 30 - outbreak);
 }
 
-void playWords(Studio& studio, std::int32_t) {
-    WORDZOOM_advance(studio.zoom);
-    WORDZOOM_draw(studio.zoom, demo.screen);
-}
-
-void beginClosing(Studio& studio) {
-    WORDZOOM* const zoom = studio.zoom;
-    zoom->growth = oneInSixteen * 3 / 2;
-    zoom->interval = 18;
-    zoom->hue = 1300;
-    WORDZOOM_setText(zoom, "OR RATHER DO NOT");
-}
-
-constexpr Act<Studio> acts[] = {{firstMosaic, firstMosaic + mosaics* mosaicFrames, playMosaics},
-                                {0, closing, playWords},
-                                {closing, frames, playWords, beginClosing}};
+constexpr Act<Studio> acts[] = {{0, frames, playPlates}, {0, frames, playTitles}};
 
 } // namespace
 

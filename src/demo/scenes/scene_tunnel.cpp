@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Extra scene 4, the tunnel: two doors swing open, the way behind them becomes a winding tunnel of neon
-// frames, a word hops through it, and at its end the logo comes out of glittering dust.
+// Extra scene 4, the tunnel: two doors swing open, and within a bar the viewer is through. The way behind
+// them is a tunnel of neon frames, thick with dust, which begins to wind while a word hops through it. The
+// frames go out, their dust flies on, and out of it comes the logo; it stands for three bars, then bursts.
 #include "demo/scenes/acts.h"
+#include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/tunnel_dust.h"
 #include "effects/flashpix.h"
 #include "effects/rect.h"
 #include "foundation/sine.h"
@@ -15,17 +18,17 @@ namespace velm {
 namespace {
 
 constexpr std::int32_t frames = 900;
-constexpr std::int32_t doorsOpen = 50;
-constexpr std::int32_t doorsPassed = 190;
-constexpr std::int32_t windsBegin = 230;
-constexpr std::int32_t wordBegins = 270;
-constexpr std::int32_t glassBegins = 400;
-constexpr std::int32_t wordEnds = 560;
-constexpr std::int32_t galaxyBegins = wordEnds - 40;
-constexpr std::int32_t tunnelEnds = 660;
-constexpr std::int32_t logoBegins = 600;
-constexpr std::int32_t logoEnds = 830;
-constexpr std::int32_t middleY = 96; // of doors and tunnel; the scroll text has the rows below
+constexpr std::int32_t doorsOpen = 24;
+constexpr std::int32_t doorsPassed = barFrames;
+constexpr std::int32_t windsBegin = 120;
+constexpr std::int32_t wordBegins = 2 * barFrames;
+constexpr std::int32_t glassBegins = 3 * barFrames;
+constexpr std::int32_t wordEnds = 5 * barFrames;
+constexpr std::int32_t logoBegins = wordEnds + 20;
+constexpr std::int32_t tunnelEnds = 6 * barFrames + 20;
+constexpr std::int32_t logoBursts = 9 * barFrames;
+constexpr std::int32_t allGone = frames - 9; // the galaxy and the last dust
+constexpr std::int32_t middleY = 96;         // of doors and tunnel; the scroll text has the rows below
 constexpr std::int32_t doorWidth = 60;
 constexpr std::int32_t doorHeight = 150;
 constexpr std::int32_t wordY = 136;   // line about which the word hops
@@ -37,7 +40,7 @@ void colourTunnel(RECT& tunnel) {
     constexpr std::int32_t hues = 560;
     for (std::int32_t i = 0; i < tunnel.count; ++i) {
         const std::int32_t there = std::min(i, tunnel.count - i);
-        tunnel.panes[i].colour = curveHue(cyan + 2 * there * hues / tunnel.count);
+        tunnel.panes[i].colour = curveMix(curveHue(cyan + 2 * there * hues / tunnel.count), 0xFFFFFF, 48);
     }
 }
 
@@ -55,7 +58,7 @@ void prepareTunnel(RECT& tunnel) {
 }
 
 void prepareDust(FLASHPIX& dust) {
-    constexpr std::int32_t sparks = 8000;
+    constexpr std::int32_t sparks = 14000;
     constexpr std::int32_t logoY = 32;
     dust.hues = demo.hueRamp;
     dust.hue = 200;
@@ -81,6 +84,7 @@ void prepareWord(LOGOFLY& word) {
 struct Shaft {
     ScrollText scroll{streamY};
     Owned<RECT_delete> tunnel{RECT_new(), prepareTunnel};
+    TunnelDust motes{tunnel};
     Owned<FLASHPIX_delete> dust{FLASHPIX_new(), prepareDust};
     Owned<SINEDOTS_delete> galaxy = makeDots(6000);
     Owned<LOGOFLY_delete> word{LOGOFLY_new(), prepareWord};
@@ -102,10 +106,23 @@ void drawLeaf(std::int32_t hinge, std::int32_t top, std::int32_t width, std::int
     }
 }
 
+/// The doorway's neon, again and again on the wall, ever fainter.
+void drawEchoes(std::int32_t width, std::int32_t height, std::int32_t frame, std::int32_t weight) {
+    constexpr std::int32_t echoes = 7;
+    constexpr std::int32_t apart = 18;
+    for (std::int32_t i = 0; i < echoes; ++i) {
+        const std::int32_t out = i * apart + frame % apart;
+        const std::int32_t left = curveFull * (echoes * apart - out) / (echoes * apart);
+        RECT_drawFrame(demo.screen, middle - width - out, middleY - height / 2 - out, 2 * (width + out),
+                       height + 2 * out, 1, curveHue(256 + 4 * (frame - out), (weight * left) >> 9),
+                       RECT_MIX::add);
+    }
+}
+
 /// The wall with its doorway, which the viewer walks through: it grows until it is wider than the window.
 void drawDoors(Shaft&, std::int32_t frame) {
     const std::int32_t weight = curveRise(frame, 0, doorsOpen);
-    const std::int32_t walk = curveEase(frame, doorsOpen + 40, doorsPassed);
+    const std::int32_t walk = curveEase(frame, doorsOpen + 16, doorsPassed);
     const std::int32_t zoom = curveFull + 2 * ((walk * walk) >> 8);
     const std::int32_t width = (doorWidth * zoom) >> 8;
     const std::int32_t height = (doorHeight * zoom) >> 8;
@@ -117,47 +134,108 @@ void drawDoors(Shaft&, std::int32_t frame) {
     RECT_drawPane(screen, right, 0, screen->width - right, screen->height, 0, RECT_MIX::set);
     RECT_drawPane(screen, left, top, 2 * width, -screen->height, 0, RECT_MIX::set);
     RECT_drawPane(screen, left, top + height, 2 * width, screen->height, 0, RECT_MIX::set);
+    drawEchoes(width, height, frame, weight);
     RECT_drawFrame(screen, left - 3, top - 3, 2 * width + 6, height + 6, 2, curveHue(256 + frame, weight),
                    RECT_MIX::add);
-    const std::int32_t swing = 2 * curveEase(frame, doorsOpen, doorsOpen + 100);
+    const std::int32_t swing = 2 * curveEase(frame, doorsOpen, doorsPassed - 16);
     drawLeaf(left, top, width, height, swing, weight);
     drawLeaf(right, top, -width, height, swing, weight);
 }
 
-/// Straight ahead first, then winding, twisting and ever faster; it slows down when it ends.
-void drawTunnel(Shaft& shaft, std::int32_t frame) {
-    RECT& tunnel = *shaft.tunnel;
+/// Straight ahead first, then winding, twisting and ever faster, with a lurch on every bar. It is never so
+/// fast that its frames seem to run backwards.
+void moveTunnel(RECT& tunnel, std::int32_t frame) {
     const std::int32_t winding = curveEase(frame, windsBegin, windsBegin + 170);
-    const std::int32_t slowing = curveEase(frame, wordEnds, tunnelEnds);
-    tunnel.speed =
-        curveBetween(curveBetween(24, 150, curveEase(frame, doorsOpen, doorsOpen + 300)), 20, slowing);
+    const std::int32_t faster = curveEase(frame, doorsOpen, glassBegins);
+    tunnel.speed = curveBetween(20, 66, faster) + curveBetween(0, 30, beatWeight(40));
     tunnel.twist = curveBetween(0, 11, winding);
     tunnel.turnSpeed = frame >= glassBegins ? 3 : 0;
     tunnel.reach = curveBetween(0, 110, winding);
-    tunnel.face = frame >= glassBegins ? RECT_FACE::both : RECT_FACE::frame;
-    tunnel.brightness = curveStay(frame, doorsOpen, tunnelEnds, 70);
     RECT_advance(&tunnel);
-    RECT_draw(&tunnel, demo.screen);
 }
 
-/// Few stars at first, all of them for the logo, and none in the end.
+/// The tunnel's frames once, a little ahead of where they are.
+void drawSlice(RECT& tunnel, std::int32_t ahead, RECT_FACE face, std::int32_t brightness) {
+    if (brightness > 0) {
+        tunnel.face = face;
+        tunnel.brightness = brightness;
+        tunnel.travel += ahead;
+        RECT_draw(&tunnel, demo.screen);
+        tunnel.travel -= ahead;
+    }
+}
+
+/// Each frame is three, close together, so that it is deep like that of a door; the foremost one gets glass.
+void drawTunnel(Shaft& shaft, std::int32_t frame) {
+    constexpr std::int32_t apart = 9; // 1/256 steps of the way
+    constexpr std::int32_t behind = 80;
+    constexpr std::int32_t foremost = 200;
+    RECT& tunnel = *shaft.tunnel;
+    moveTunnel(tunnel, frame);
+    const std::int32_t weight = curveStay(frame, doorsOpen, tunnelEnds, 70);
+    const std::int32_t glass = (foremost * curveEase(frame, glassBegins, glassBegins + 60)) >> 8;
+    drawSlice(tunnel, 0, RECT_FACE::frame, (behind * weight) >> 8);
+    drawSlice(tunnel, apart, RECT_FACE::frame, (behind * weight) >> 8);
+    drawSlice(tunnel, 2 * apart, RECT_FACE::frame, ((foremost - glass) * weight) >> 8);
+    drawSlice(tunnel, 2 * apart, RECT_FACE::both, (glass * weight) >> 8);
+}
+
+/// The tunnel's dust flies on when the frames have gone out.
+void drawMotes(Shaft& shaft, std::int32_t frame) {
+    if (frame >= tunnelEnds) {
+        moveTunnel(*shaft.tunnel, frame);
+    }
+    const std::int32_t present = curveStay(frame, doorsOpen, allGone, 60);
+    const std::int32_t behind =
+        curveEase(frame, logoBegins, tunnelEnds) - curveEase(frame, logoBursts, logoBursts + 30);
+    const std::int32_t weight = curveBetween(present, present / 3, behind);
+    shaft.motes.draw(*shaft.tunnel, demo.screen, weight);
+}
+
+/// The sparks fly apart, the outer ones faster; what does not make a whole pixel is rounded by turns.
+void burst(FLASHPIX& dust, std::int32_t frame) {
+    constexpr std::int32_t pull = 9; // 1/256 of the way from the middle a frame
+    for (std::int32_t i = 0; i < dust.count; ++i) {
+        const std::int32_t turn = (i * 97 + frame * 57) & 255;
+        FLASHPIX_SPARK& spark = dust.sparks[i];
+        spark.x += ((spark.x - middle) * pull + turn) >> 8;
+        spark.y += ((spark.y - middleY) * pull + turn) >> 8;
+    }
+}
+
+/// Few sparks at first, all of them for the logo, which bobs, shines and puffs on the bar, and none in the
+/// end.
 void drawDust(Shaft& shaft, std::int32_t frame) {
-    shaft.dust->lit =
-        frame < logoEnds ? curveBetween(8, curveFull, curveEase(frame, logoBegins - 80, logoBegins + 40)) : 0;
-    shaft.dust->inShape = curveBetween(0, 250, curveEase(frame, logoBegins, logoBegins + 90)) -
-                          curveBetween(0, 250, curveEase(frame, logoEnds - 50, logoEnds - 10));
-    FLASHPIX_advance(shaft.dust);
-    FLASHPIX_draw(shaft.dust, demo.screen);
+    FLASHPIX& dust = *shaft.dust;
+    dust.lit = frame < logoBursts
+                   ? curveBetween(4, curveFull, curveEase(frame, logoBegins - 20, logoBegins + 60))
+                   : 0;
+    dust.inShape = curveBetween(0, 250, curveEase(frame, logoBegins, logoBegins + 50)) *
+                   curveBetween(curveFull, 140, beatWeight(24)) / curveFull;
+    dust.brightness = (curveRise(frame, 0, 20) * curveBetween(200, curveFull, beatWeight(40))) >> 8;
+    if (frame >= logoBursts - 50) { // what bursts shines for longer
+        dust.shortest = 40;
+        dust.longest = 80;
+    }
+    dust.y = frame >= logoBegins ? SINE_scaled(6, 11 * (frame - logoBegins)) : 0;
+    FLASHPIX_advance(&dust);
+    if (frame >= logoBursts) {
+        burst(dust, frame);
+    }
+    FLASHPIX_draw(&dust, demo.screen);
 }
 
 void drawGalaxy(Shaft& shaft, std::int32_t frame) {
-    shaft.galaxy->colour = curveDim(0x100C28, curveStay(frame, galaxyBegins, frames, 60));
+    constexpr std::uint32_t faint = 0x0C0A20;
+    constexpr std::uint32_t bright = 0x241C48;
+    shaft.galaxy->colour = curveDim(curveMix(faint, bright, curveEase(frame, logoBursts, logoBursts + 30)),
+                                    curveStay(frame, logoBegins, allGone, 40));
     SINEDOTS_advance(shaft.galaxy);
     SINEDOTS_drawAdd(shaft.galaxy, demo.screen);
 }
 
-/// The word rises into the tunnel and leaves through the top: two pixels bold, in a dark rim that keeps it
-/// apart from the tunnel.
+/// The word comes in from the right and leaves to the left, in a dark rim that keeps it apart from the
+/// tunnel.
 void drawWord(Shaft& shaft, std::int32_t frame) {
     constexpr std::int32_t cell = 16;
     constexpr std::int32_t letters = 10;
@@ -173,21 +251,20 @@ void drawWord(Shaft& shaft, std::int32_t frame) {
         LOGOFLY_draw(word);
     };
     LOGOFLY_advance(word);
-    for (const std::int32_t rim : {-1, 0, 1, 2}) {
+    for (const std::int32_t rim : {-1, 0, 1}) {
         for (const std::int32_t above : {-1, 0, 1}) {
             write(x + rim, wordY + above, 0);
         }
     }
     const std::uint32_t colour =
         curveDim(curveMix(curveHue(frame * 4), 0xFFFFFF, 160), curveStay(frame, wordBegins, wordEnds, 40));
-    for (const std::int32_t bold : {0, 1}) {
-        write(x + bold, wordY, colour);
-    }
+    write(x, wordY, colour);
 }
 
-constexpr Act<Shaft> acts[] = {{galaxyBegins, frames, drawGalaxy}, {0, tunnelEnds, drawTunnel},
-                               {0, doorsPassed, drawDoors},        {windsBegin, frames, drawDust},
-                               {wordBegins, wordEnds, drawWord},   {0, frames, playScrollText}};
+constexpr Act<Shaft> acts[] = {
+    {logoBegins, allGone, drawGalaxy},  {0, tunnelEnds, drawTunnel}, {0, allGone, drawMotes},
+    {0, doorsPassed, drawDoors},        {0, frames, drawDust},       {wordBegins, wordEnds, drawWord},
+    {0, frames, playScrollText<frames>}};
 
 } // namespace
 

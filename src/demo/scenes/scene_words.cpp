@@ -2,16 +2,17 @@
 // SPDX-License-Identifier: MIT
 //
 // Extra scene 7, a play of words that are what they say, in line text alone: a point goes for a walk and is a
-// line, the line dances, bites its tail, stands up, lets go, turns every way at once, and is a point again.
+// line, the line dances, bites its tail, stands up, lets go, becomes a world, and is a point again. Around it
+// a field of points is born out of the first one, ripples with the bars, and falls back into it.
 #include "demo/scenes/acts.h"
+#include "demo/scenes/beat.h"
+#include "demo/scenes/bold_ink.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
-#include "effects/lscrlxyz.h"
-#include "effects/lscroll.h"
+#include "demo/scenes/point_field.h"
+#include "demo/scenes/words_cast.h"
 #include "foundation/sine.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <string_view>
 
@@ -20,112 +21,25 @@ namespace velm {
 namespace {
 
 constexpr std::int32_t frames = 1000;
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
-constexpr std::int32_t lineCount = 5; // one in the middle, two above, two below
-constexpr std::int32_t rowCount = 5;
-constexpr std::int32_t hoopCount = 3;
 
 constexpr std::uint32_t ink = 0xC0FFE0;
 
-// When the parts begin and end; each ends while the next one begins.
-constexpr std::int32_t lineBegin = 96;
-constexpr std::int32_t ringBegin = 330;
-constexpr std::int32_t lineEnd = ringBegin + 24;
-constexpr std::int32_t cylinderBegin = 500;
-constexpr std::int32_t ringEnd = cylinderBegin + 16;
-constexpr std::int32_t screwBegin = 660;
-constexpr std::int32_t cylinderEnd = screwBegin + 16;
-constexpr std::int32_t hoopsBegin = 800;
-constexpr std::int32_t screwEnd = hoopsBegin + 16;
-constexpr std::int32_t pointBegin = 925;
-constexpr std::int32_t hoopsEnd = pointBegin + 25;
+// When the parts begin, on bars and their halves; each lasts into the next one.
+constexpr std::int32_t overlap = 16;
+constexpr std::int32_t lineBegin = barFrames;
+constexpr std::int32_t waveBegin = 2 * barFrames;
+constexpr std::int32_t ringBegin = 7 * barFrames / 2;
+constexpr std::int32_t cylinderBegin = 5 * barFrames;
+constexpr std::int32_t screwBegin = 13 * barFrames / 2;
+constexpr std::int32_t worldBegin = 8 * barFrames;
+constexpr std::int32_t pointBegin = 10 * barFrames;
 constexpr std::int32_t pointEnd = frames - 8;
 
-using Line = Owned<LSCROLL_delete>;
-using Body = Owned<LSCRLXYZ_delete>;
-
-void prepareScroll(LSCROLL& scroll, const char* text, std::int32_t speed) {
-    scroll.glyphs = demo.fontMedium;
-    scroll.palette = demo.hueRamp;
-    scroll.speed = speed;
-    scroll.hue = scroll.lift.phase = scroll.swing.phase = 0;
-    LSCROLL_setText(&scroll, text);
-}
-
-/// Line `i` from the top: the one in the middle is read, those beside it are smaller and slower, as if they
-/// were farther away.
-Line makeLine(std::int32_t i) {
-    // It begins with the point in the middle of the screen, where the point has waited, and with room after
-    // it.
-    constexpr const char* told =
-        "         .          A POINT WENT FOR A WALK: A LINE.  THE LINE BEGAN TO DANCE: A WAVE.  ";
-    constexpr const char* murmured =
-        "                                                A LINE - "
-        "A LINE - A LINE - A LINE - A LINE ~ A WAVE ~ A WAVE ~ A WAVE ~ A WAVE ~ ";
-    const std::int32_t away = std::abs(i - lineCount / 2);
-    return Line(LSCROLL_new(), [=](LSCROLL& line) {
-        prepareScroll(line, away == 0 ? told : murmured, 9 * one / 2 - away * one);
-        const std::int32_t y = middle + (i - lineCount / 2) * (44 - 6 * away);
-        LSCROLL_setLine(&line, -16, y, 272, y);
-        line.scale = one - away * one / 4;
-        line.fade = 0;
-        line.hueStep = 20;
-        line.lift.phase = 80 * i;
-    });
-}
-
-/// A ring of letters around the screen's middle, which join up.
-Line makeRing(const char* text, std::int32_t radius, std::int32_t speed) {
-    return Line(LSCROLL_new(), [=](LSCROLL& ring) {
-        prepareScroll(ring, text, speed);
-        LSCROLL_setCurve(&ring, {middle, middle, radius, radius, 1, 1, 0});
-        LSCROLL_fit(&ring);
-        ring.lift.offsetStep = 4 * SINE_tableLength / std::max(1, ring.text.length);
-        ring.hueStep = hueCount / std::max(1, ring.text.length);
-    });
-}
-
-Body makeBody(const char* text, LSCRLXYZ_SHAPE shape, std::int32_t radius, std::int32_t speed) {
-    return Body(LSCRLXYZ_new(), [=](LSCRLXYZ& body) {
-        body.glyphs = demo.fontMedium;
-        body.palette = demo.hueRamp;
-        body.shape = shape;
-        body.radius = radius;
-        body.speed = speed;
-        body.turns = 4; // of the screw; nothing to the others
-        body.angle = {0, 0, 0};
-        body.spin = {0, 0, 0};
-        body.hue = 0;
-        LSCRLXYZ_setText(&body, text);
-        body.hueStep = hueCount / std::max(1, body.text.length);
-        LSCRLXYZ_fit(&body);
-    });
-}
-
-/// Row `i` of the cylinder; every second one runs the other way.
-Body makeRow(std::int32_t i) {
-    constexpr const char* texts[rowCount] = {"* * * * * * * * * * * ",
-                                             "THE CIRCLE STOOD UP:  ", "A CYLINDER * A TOWER *",
-                                             "OF TURNING LETTERS :  ", "- = - = - = - = - = - "};
-    return makeBody(texts[i], LSCRLXYZ_SHAPE::cylinder, 84, i % 2 == 0 ? one : -one);
-}
-
-Body makeHoop(std::int32_t i) {
-    constexpr const char* texts[hoopCount] = {"THEN EVERYTHING TURNED AT ONCE * ",
-                                              "ROUND ITSELF * ROUND ITSELF * ",
-                                              "AND GREW SMALL * AND SMALLER * "};
-    return makeBody(texts[i], LSCRLXYZ_SHAPE::cylinder, 100 - 24 * i, one);
-}
-
-/// What the words are written with.
 struct Play {
-    Line lines[lineCount] = {makeLine(0), makeLine(1), makeLine(2), makeLine(3), makeLine(4)};
-    Line ring = makeRing("THE WAVE BIT ITS OWN TAIL: A CIRCLE  *  ", 96, one);
-    Line innerRing = makeRing("ROUND AND ROUND AND ", 48, -3 * one / 2);
-    Body rows[rowCount] = {makeRow(0), makeRow(1), makeRow(2), makeRow(3), makeRow(4)};
-    Body screw = makeBody("THE TOWER LET GO:  A SPRING   *   UP AND DOWN   *   A SPRING   *   ",
-                          LSCRLXYZ_SHAPE::screw, 84, 3 * one / 2);
-    Body hoops[hoopCount] = {makeHoop(0), makeHoop(1), makeHoop(2)};
+    WordsCast words;
+    Picture sheet{newWindowPicture()}; ///< what comes to the screen in bold
+    std::int32_t depth = 0;            ///< of the sheet's bodies, as in printBold, as the act wants it
+    std::int32_t shownDepth = 0;       ///< on its way there, a step a frame
 };
 
 /// The number and the name of a figure, as under a plate in an old book.
@@ -135,162 +49,165 @@ void drawFigureNames(Play&, std::int32_t frame) {
         std::string_view text;
     };
     constexpr Name names[] = {
-        {20, lineBegin, "FIG. 0   A POINT"},
-        {lineBegin, 220, "FIG. 1   A LINE"},
-        {220, ringBegin, "FIG. 2   A WAVE"},
+        {12, lineBegin, "FIG. 0   A POINT"},
+        {lineBegin, waveBegin, "FIG. 1   A LINE"},
+        {waveBegin, ringBegin, "FIG. 2   A WAVE"},
         {ringBegin, cylinderBegin, "FIG. 3   A CIRCLE"},
         {cylinderBegin, screwBegin, "FIG. 4   A CYLINDER"},
-        {screwBegin, hoopsBegin, "FIG. 5   A SPRING"},
-        {hoopsBegin, pointBegin, "FIG. 6   EVERYTHING"},
+        {screwBegin, worldBegin, "FIG. 5   A SPRING"},
+        {worldBegin, pointBegin, "FIG. 6   A WORLD"},
         {pointBegin, frames - 20, "FIG. 0   A POINT"},
     };
     for (const Name& name : names) {
-        drawCaption(demo.textSmall, {.text = name.text,
-                                     .x = middle - 4,
-                                     .y = 246,
-                                     .colour = ink,
-                                     .weight = curveStay(frame, name.begin, name.end, 12) / 2,
-                                     .typed = frame - name.begin});
-    }
-}
-
-/// What the point says, typed.
-void say(std::string_view text, std::int32_t y, std::int32_t typed, std::int32_t weight) {
-    drawCaption(demo.textMedium, {.text = text, .y = y, .colour = ink, .weight = weight, .typed = typed});
-}
-
-/// The point itself, and rings of points that run away from it and fade.
-void drawPoint(std::int32_t frame, std::int32_t weight) {
-    constexpr std::int32_t pingFrames = 48;
-    constexpr std::int32_t pingPoints = 24;
-    LFONT* const pen = demo.textMedium;
-    const KeptPen kept(pen);
-    const auto put = [pen](std::int32_t x, std::int32_t y) {
-        constexpr std::int32_t glyphX = 7; // where the full stop is in its cell
-        constexpr std::int32_t glyphY = 10;
-        LFONT_place(pen, x - glyphX, y - glyphY, 1);
-        LFONT_drawChar(pen);
-    };
-    pen->character = '.';
-    for (std::int32_t age = frame % (pingFrames / 2); age < pingFrames && age <= frame;
-         age += pingFrames / 2) {
-        LFONT_setColour(pen, curveDim(0x80E0FF, weight * (pingFrames - age) / (2 * pingFrames)));
-        for (std::int32_t i = 0; i < pingPoints; ++i) {
-            const std::int32_t angle = i * SINE_tableLength / pingPoints + 2 * frame;
-            put(middle + SINE_scaled(2 * age, angle), middle + SINE_cosineScaled(age / 2, angle));
+        const std::int32_t weight = curveStay(frame, name.begin, name.end, 8);
+        for (std::int32_t x = middle - 4; x < middle - 2; ++x) { // bold
+            drawCaption(demo.textSmall, {.text = name.text,
+                                         .x = x,
+                                         .y = 247,
+                                         .colour = ink,
+                                         .weight = weight,
+                                         .typed = frame - name.begin});
         }
     }
-    LFONT_setColour(pen, curveDim(0xFFFFFF, weight));
-    for (std::int32_t x = -1; x <= 1; ++x) {
-        put(middle + x, middle);
-        put(middle, middle + x);
-    }
 }
 
-void playPoint(Play&, std::int32_t frame) {
-    const std::int32_t weight = curveStay(frame, 0, lineBegin + 16, 16);
-    say("FIRST THERE WAS", 88, frame / 2, weight);
-    say("A POINT", 152, (frame - 36) / 2, weight);
-    if (frame < lineBegin) { // then it goes away
-        drawPoint(frame, curveRise(frame, 0, 16));
-    }
+/// What is told of the point, typed on the sheet.
+void say(Play& play, const Caption& caption) {
+    const KeptPen kept(demo.textMedium);
+    demo.textMedium->target = play.sheet;
+    drawCaption(demo.textMedium, caption);
 }
 
-/// The lines come in, then begin to swing higher and higher, and draw earlier moments of their waves behind.
+/// The field comes out of the point, falls back into it with the world, and rests far out in the end.
+void playField(Play&, std::int32_t frame) {
+    const std::int32_t fallen = curveEase(frame, pointBegin - 40, pointBegin);
+    drawField(frame, {.x = middle,
+                      .y = centreY,
+                      .out = curveEase(frame, 0, 60) - fallen + curveEase(frame, pointBegin, pointBegin + 60),
+                      .weight = curveStay(frame, -1, pointEnd, 24)});
+}
+
+void playPoint(Play& play, std::int32_t frame) {
+    const std::int32_t weight = curveStay(frame, -1, lineBegin + overlap, 12);
+    play.depth = 6;
+    say(play, {.text = "FIRST THERE WAS", .y = 44, .colour = ink, .weight = weight, .typed = frame});
+    say(play, {.text = "A POINT",
+               .y = 168,
+               .scale = 2,
+               .colour = ink,
+               .weight = weight,
+               .typed = (frame - 20) / 2});
+    const std::int32_t walked = 7 * std::max(0, frame - lineBegin); // as fast as the line that follows it
+    drawPoint(frame, middle - walked, centreY, curveFull);
+}
+
+/// The lines come in, then begin to swing higher and higher.
 void playLines(Play& play, std::int32_t frame) {
-    constexpr std::int32_t danceBegin = 200;
-    constexpr std::int32_t danceRamp = 90;
-    constexpr std::int32_t moments = 3;
-    const std::int32_t weight = curveFull - curveRise(frame, ringBegin, lineEnd);
-    const std::int32_t dance = curveEase(frame, danceBegin, danceBegin + danceRamp);
-    for (std::int32_t i = 0; i < lineCount; ++i) {
-        LSCROLL& line = *play.lines[i];
-        const std::int32_t away = std::abs(i - lineCount / 2);
+    const std::int32_t weight = curveStay(frame, lineBegin, ringBegin + overlap, overlap);
+    const std::int32_t dance = curveEase(frame, waveBegin, waveBegin + 60);
+    play.depth = 6;
+    for (std::int32_t i = 0; i < WordsCast::lineCount; ++i) {
+        LSCROLL& line = *play.words.lines[i];
+        const bool isTold = i == WordsCast::lineCount / 2;
         LSCROLL_advance(&line);
-        line.liftHeight = curveBetween(0, 64 - 12 * away, dance);
-        line.swingAngle = curveBetween(0, 90, dance);
-        const std::int32_t phase = line.lift.phase;
-        for (std::int32_t k = 0; k <= (away == 0 ? moments : 0); ++k) {
-            line.light = (k == 0 ? weight : weight * dance / curveFull >> (k + 1)) >> away;
-            line.lift.phase = phase - 28 * k;
-            LSCROLL_draw(&line, demo.screen);
-        }
-        line.lift.phase = phase;
+        line.light =
+            isTold ? weight : std::min(weight, curveRise(frame, lineBegin + overlap, lineBegin + 50)) / 2;
+        line.liftHeight = curveBetween(0, isTold ? 34 : 16, dance);
+        line.swingAngle = curveBetween(0, isTold ? 92 : 48, dance);
+        LSCROLL_draw(&line, play.sheet);
     }
 }
 
 void playRings(Play& play, std::int32_t frame) {
-    const std::int32_t calm = curveEase(frame, ringBegin, ringBegin + 70);
-    play.ring->liftHeight = curveBetween(60, 7, calm);
-    play.ring->swingAngle = curveBetween(200, 20, calm);
-    play.innerRing->liftHeight = curveBetween(40, 4, calm);
-    play.innerRing->swingAngle = 0;
-    for (LSCROLL* const ring : {play.ring.get(), play.innerRing.get()}) {
-        ring->light = curveStay(frame, ringBegin, ringEnd, 24);
+    const std::int32_t calm = curveEase(frame, ringBegin, ringBegin + 50);
+    play.depth = 7;
+    play.words.ring->liftHeight = curveBetween(20, 5, calm);
+    play.words.ring->swingAngle = curveBetween(200, 12, calm);
+    play.words.innerRing->liftHeight = curveBetween(28, 3, calm);
+    play.words.innerRing->swingAngle = 0;
+    for (LSCROLL* const ring : {play.words.ring.get(), play.words.innerRing.get()}) {
+        ring->light = curveStay(frame, ringBegin, cylinderBegin + overlap, 20);
         LSCROLL_advance(ring);
-        LSCROLL_draw(ring, demo.screen);
+        LSCROLL_draw(ring, play.sheet);
     }
 }
 
 /// Seen from above it is a circle still; then it stands up, row by row.
 void playCylinder(Play& play, std::int32_t frame) {
-    const std::int32_t weight = curveStay(frame, cylinderBegin, cylinderEnd, 20);
-    const std::int32_t up = curveEase(frame, cylinderBegin + 10, cylinderBegin + 90);
-    for (std::int32_t i = 0; i < rowCount; ++i) {
-        LSCRLXYZ& row = *play.rows[i];
-        row.light = weight;
-        row.across = curveBetween(0, (i - rowCount / 2) * 32, up);
-        row.radius = curveBetween(96, 84, up);
-        row.angle.x = curveBetween(SINE_quarter, 0, up) + SINE_scaled(34, 7 * frame);
-        row.angle.z = SINE_scaled(curveBetween(0, 60, up), 5 * frame);
+    const std::int32_t up = curveEase(frame, cylinderBegin, cylinderBegin + 60);
+    play.depth = 2;
+    for (std::int32_t i = 0; i < WordsCast::rowCount; ++i) {
+        LSCRLXYZ& row = *play.words.rows[i];
+        row.light = curveStay(frame, cylinderBegin, screwBegin + overlap, overlap);
+        row.across = curveBetween(0, (i - WordsCast::rowCount / 2) * 40, up);
+        row.angle.x = curveBetween(SINE_quarter, 0, up) + SINE_scaled(30, 7 * frame);
+        row.angle.z = SINE_scaled(curveBetween(0, 36, up), 5 * frame);
         LSCRLXYZ_advance(&row);
-        LSCRLXYZ_draw(&row, demo.screen);
+        LSCRLXYZ_draw(&row, play.sheet);
     }
 }
 
-/// The spring bounces: it is long and short by turns.
+/// The spring bounces: it is long and short by turns, twice a bar.
 void playScrew(Play& play, std::int32_t frame) {
-    LSCRLXYZ& screw = *play.screw;
-    const std::int32_t swing = SINE_scaled(16, 22 * (frame - screwBegin));
-    screw.light = curveStay(frame, screwBegin, screwEnd, 20);
-    screw.rise = curveBetween(32, 40 + swing, curveRise(frame, screwBegin, screwBegin + 30));
-    screw.angle.x = 24 + SINE_scaled(30, 6 * frame);
-    screw.angle.z = SINE_scaled(70, 4 * frame);
-    screw.spin.y = 6;
+    LSCRLXYZ& screw = *play.words.screw;
+    const std::int32_t since = frame - screwBegin;
+    play.depth = 2;
+    screw.light = curveStay(frame, screwBegin, worldBegin + overlap, overlap);
+    screw.rise = 52 + SINE_cosineScaled(10, 2 * since * SINE_tableLength / barFrames);
+    screw.angle.x = 30 + SINE_scaled(20, 6 * frame);
+    screw.angle.z = SINE_scaled(36, 4 * frame);
     LSCRLXYZ_advance(&screw);
-    LSCRLXYZ_draw(&screw, demo.screen);
+    LSCRLXYZ_draw(&screw, play.sheet);
 }
 
-/// Three hoops in three planes, and in the end all of them fall into a point.
-void playHoops(Play& play, std::int32_t frame) {
-    constexpr LSCRLXYZ_AXES spins[hoopCount] = {{7, 5, 0}, {-6, 4, 5}, {5, -8, -3}};
-    const std::int32_t weight = curveStay(frame, hoopsBegin, hoopsEnd, 20);
-    const std::int32_t fall = curveEase(frame, pointBegin - 45, pointBegin + 15);
-    for (std::int32_t i = 0; i < hoopCount; ++i) {
-        LSCRLXYZ& hoop = *play.hoops[i];
-        hoop.light = weight;
-        hoop.radius = std::max(1, curveBetween(104 - 26 * i, 1, fall));
-        LSCRLXYZ_fit(&hoop);
-        hoop.spin = spins[i];
-        LSCRLXYZ_advance(&hoop);
-        LSCRLXYZ_draw(&hoop, demo.screen);
+/// The world grows out of the spring, and in the end falls into a point.
+void playWorld(Play& play, std::int32_t frame) {
+    const std::int32_t size = std::min(curveEase(frame, worldBegin, worldBegin + 45),
+                                       curveFull - curveEase(frame, pointBegin - 40, pointBegin + 10));
+    play.depth = 2;
+    for (std::int32_t i = 0; i < WordsCast::circleCount; ++i) {
+        LSCRLXYZ& circle = *play.words.world[i];
+        circle.light = curveStay(frame, worldBegin, pointBegin + overlap, overlap);
+        circle.radius = std::max(1, circleRadius(i) * size / curveFull);
+        circle.across = circleHeight(i) * size / curveFull;
+        circle.angle.x = SINE_scaled(110, 6 * (frame - worldBegin));
+        circle.angle.z = SINE_scaled(90, 8 * (frame - worldBegin));
+        LSCRLXYZ_fit(&circle);
+        LSCRLXYZ_advance(&circle);
+        LSCRLXYZ_draw(&circle, play.sheet);
     }
 }
 
-void playEnd(Play&, std::int32_t frame) {
+void playEnd(Play& play, std::int32_t frame) {
     const std::int32_t weight = curveStay(frame, pointBegin, pointEnd, 20);
     const std::int32_t since = frame - pointBegin;
-    drawPoint(since, weight);
-    say("AND THAT", 88, (since - 8) / 2, weight);
-    say("WAS THE POINT", 152, (since - 24) / 2, weight);
+    play.depth = 6;
+    drawPoint(since, middle, centreY, curveFull - curveRise(frame, pointEnd - 20, pointEnd));
+    say(play, {.text = "AND THAT WAS", .y = 44, .colour = ink, .weight = weight, .typed = since});
+    say(play, {.text = "A POINT",
+               .y = 168,
+               .scale = 2,
+               .colour = ink,
+               .weight = weight,
+               .typed = (since - 14) / 2});
+}
+
+void printSheet(Play& play, std::int32_t) {
+    play.shownDepth += std::clamp(play.depth - play.shownDepth, -1, 1);
+    printBold(play.sheet, play.shownDepth, demo.screen);
 }
 
 // The first frame of a part has no light yet.
-constexpr Act<Play> acts[] = {
-    {0, lineBegin + 16, playPoint},        {lineBegin, lineEnd, playLines},
-    {ringBegin + 1, ringEnd, playRings},   {cylinderBegin + 1, cylinderEnd, playCylinder},
-    {screwBegin + 1, screwEnd, playScrew}, {hoopsBegin + 1, hoopsEnd, playHoops},
-    {pointBegin + 1, pointEnd, playEnd},   {0, frames, drawFigureNames}};
+constexpr Act<Play> acts[] = {{0, frames, playField},
+                              {0, lineBegin + 20, playPoint},
+                              {lineBegin, ringBegin + overlap, playLines},
+                              {ringBegin + 1, cylinderBegin + overlap, playRings},
+                              {cylinderBegin + 1, screwBegin + overlap, playCylinder},
+                              {screwBegin + 1, worldBegin + overlap, playScrew},
+                              {worldBegin + 1, pointBegin + overlap, playWorld},
+                              {pointBegin + 1, pointEnd, playEnd},
+                              {0, frames, printSheet},
+                              {0, frames, drawFigureNames}};
 
 } // namespace
 

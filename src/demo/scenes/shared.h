@@ -6,6 +6,8 @@
 #pragma once
 
 #include "demo/velm4030.h"
+#include "foundation/owned.h"
+#include "image/img.h"
 
 #include <cstdint>
 
@@ -22,13 +24,21 @@ void dropShared();
 void drawScrollText();
 
 /// The bars and the scroll text, made where they are missing; the text waves about another row for as long as
-/// this lives.
+/// this lives. It begins with the next line of prose: a scene is too short for the ornaments and the keys
+/// before it.
 class ScrollText {
 public:
     explicit ScrollText(std::int32_t y = VELM4030_scrollY);
     ~ScrollText() { VELM4030_placeScroll(VELM4030_scrollY); }
+
+    /// The bars and the text, darker from a weight of 256 down to black at 0.
+    void draw(std::int32_t weight);
+
     ScrollText(const ScrollText&) = delete;
     ScrollText& operator=(const ScrollText&) = delete;
+
+private:
+    Owned<IMG_delete> bars; ///< keeps them while they are darkened
 };
 
 } // namespace velm
