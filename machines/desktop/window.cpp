@@ -177,7 +177,12 @@ void XDPY_present(XDPY* display, const IMG* img) {
     }
     desktop.onPresent();
     XDPY_dumpFrame(img);
-    playerWindow.frame = Owned<IMG_delete>(IMG_clone(img));
+    IMG* const frame = playerWindow.frame;
+    if (frame != nullptr && frame->width == img->width && frame->height == img->height) {
+        IMG_copy(img, frame);
+    } else {
+        playerWindow.frame = Owned<IMG_delete>(IMG_clone(img));
+    }
     desktopRedraw();
 }
 
