@@ -12,6 +12,9 @@
 
 #include <SDL.h>
 #include <chrono>
+#include <condition_variable>
+#include <cstdlib>
+#include <mutex>
 #include <thread>
 
 namespace velm {
@@ -75,22 +78,47 @@ SDL_AudioDeviceID openAny() {
     return 0;
 }
 
-/// Keeps a device open, and opens it again when it is lost.
-[[noreturn]] void keepSound() {
-    using namespace std::chrono_literals;
+using namespace std::chrono_literals;
+
+/// How the program and the thread of the sound part. The thread may outlive everything else.
+struct Parting {
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool isAsked = false; ///< the program ends
+    bool isDone = false;  ///< the thread has closed the device
+};
+Parting& parting = *new Parting;
+
+/// True as soon as the program ends; else waits for so long.
+bool endsWithin(std::chrono::milliseconds time) {
+    std::unique_lock lock(parting.mutex);
+    return parting.changed.wait_for(lock, time, [] { return parting.isAsked; });
+}
+
+/// Keeps a device open, and opens it again when it is lost, until the program ends.
+void keepSound() {
     quietAlsa();
-    for (;;) {
+    do {
         if (const SDL_AudioDeviceID device = openAny(); device != 0) {
             queue.clear();
             SDL_PauseAudioDevice(device, 0);
-            while (SDL_GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED) {
-                std::this_thread::sleep_for(100ms);
+            while (SDL_GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED && !endsWithin(100ms)) {
             }
             SDL_CloseAudioDevice(device);
             SDL_AudioQuit();
         }
-        std::this_thread::sleep_for(1s);
-    }
+    } while (!endsWithin(1s));
+    const std::lock_guard lock(parting.mutex);
+    parting.isDone = true;
+    parting.changed.notify_all();
+}
+
+/// The sound libraries must not be taken down under the thread; one whose server hangs is left alone.
+void partFromSound() {
+    std::unique_lock lock(parting.mutex);
+    parting.isAsked = true;
+    parting.changed.notify_all();
+    parting.changed.wait_for(lock, 500ms, [] { return parting.isDone; });
 }
 
 } // namespace
@@ -109,6 +137,7 @@ std::int32_t DSP_open(const char*) {
     static const bool started = [] {
         SDL_setenv("PIPEWIRE_DEBUG", "0", 0); // it complains on standard error where it does not run
         std::thread(keepSound).detach();
+        std::atexit(partFromSound);
         return true;
     }();
     return started ? theDevice : -1;
