@@ -41,7 +41,7 @@ void describeProcess() {
 void describeIcon() {
     std::array<unsigned long, 2 + ICON_size * ICON_size> words{ICON_size, ICON_size};
     for (std::int32_t i = 0; i < ICON_size * ICON_size; ++i) {
-        words[static_cast<std::size_t>(2 + i)] = ICON_pixel(i);
+        words[2 + static_cast<std::size_t>(i)] = ICON_pixel(i);
     }
     setWords("_NET_WM_ICON", XA_CARDINAL, words.data(), words.size());
 }

@@ -60,7 +60,7 @@ constexpr std::int32_t mostFadeFrames = 15;
 /// The frames in which a picture fades until nothing is left but, perhaps, the pointer: 15 from white, none
 /// from black.
 std::int32_t framesToBlack(const IMG& img) {
-    constexpr std::int64_t pointerArea = 16 * 16;
+    constexpr std::int64_t pointerArea = std::int64_t{16} * 16;
     const std::span pixels(img.pixels,
                            static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height));
     std::int32_t frames = 0;

@@ -5,15 +5,17 @@
 #include "foundation/asset.h"
 #include "platform/icon_file.h"
 
+#include <cstddef>
+
 namespace velm {
 
 namespace {
-constexpr std::int32_t channels = 4;
+constexpr std::ptrdiff_t channels = 4;
 }
 
 const char* ICON_bytes() {
     // A PAM file is a header of text and then, to its end, the pixels.
-    return assets::icon.bytes + assets::icon.size - channels * ICON_size * ICON_size;
+    return assets::icon.bytes + assets::icon.size - channels * ICON_size * std::ptrdiff_t{ICON_size};
 }
 
 std::uint32_t ICON_pixel(std::int32_t index) {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The program's chance against the generator of the GNU C library, whose numbers it has drawn from the first day on.
+// The program's chance against the generator of the GNU C library, whose numbers it has drawn from the first
+// day on.
 #include "foundation/chance.h"
 
 #include <cstdlib>

@@ -125,7 +125,8 @@ TEST(Play, AManagerFillsTheScreenHidesResizesAndCloses) {
     EXPECT_TRUE(eventually([&] {
         return stage.session.placeOf(stage.window) == Session::Place{0, 0, 1280, 1050};
     }));
-    // Four times as wide and high, the picture is enlarged in a part of a processor, busy as the machine may be.
+    // Four times as wide and high, the picture is enlarged in a part of a processor, busy as the machine may
+    // be.
     const double before = stage.player->processorSeconds();
     const double begin = secondsNow();
     ASSERT_EQ(std::system("sleep 2"), 0);

@@ -73,16 +73,18 @@ void Film::finish(std::int64_t micros) {
         return;
     }
     if (!ffmpeg.wait()) {
-        fail("ffmpeg could not encode the film");
-    } else if (!soundtrack->finish(shownFrames * samplesPerSecond / framesPerSecond)) {
-        fail(std::strerror(errno));
-    } else if (!join()) {
-        fail("ffmpeg could not join the film's sound");
-    } else if (!film.takeName()) {
-        fail(std::strerror(errno));
-    } else {
-        status = OutputState::whole;
+        return fail("ffmpeg could not encode the film");
     }
+    if (!soundtrack->finish(shownFrames * samplesPerSecond / framesPerSecond)) {
+        return fail(std::strerror(errno));
+    }
+    if (!join()) {
+        return fail("ffmpeg could not join the film's sound");
+    }
+    if (!film.takeName()) {
+        return fail(std::strerror(errno));
+    }
+    status = OutputState::whole;
 }
 
 bool Film::join() {

@@ -43,9 +43,9 @@ void addFormat(Fields& header) {
     header.number(1, 2); // PCM
     header.number(1, 2); // mono
     header.number(rate, 4);
-    header.number(rate * bytesPerSample, 4);
+    header.number(std::uint64_t{rate} * bytesPerSample, 4);
     header.number(bytesPerSample, 2);
-    header.number(8 * bytesPerSample, 2);
+    header.number(std::uint64_t{8} * bytesPerSample, 2);
 }
 
 /// The sizes of 64 bits, or as much room for them.

@@ -44,7 +44,7 @@ void typeBoldCaption(LFONT* pen, Caption caption, std::int32_t frame, std::int32
 /// colour of the first that has one. nullptr is no pen.
 class KeptPen {
 public:
-    explicit KeptPen(LFONT* pen);
+    explicit KeptPen(LFONT* kept);
     ~KeptPen();
     KeptPen(const KeptPen&) = delete;
     KeptPen& operator=(const KeptPen&) = delete;

@@ -38,7 +38,7 @@ std::int32_t liftOf(const ReadableLetter& letter) {
 void drawBold(char character, std::int32_t x, std::int32_t y) {
     for (std::int32_t i = 0; i < stroke * stroke; ++i) {
         LFONT_place(demo.textMedium, x + i % stroke, y + i / stroke, 1);
-        demo.textMedium->character = character;
+        demo.textMedium->character = static_cast<unsigned char>(character);
         LFONT_drawChar(demo.textMedium);
     }
 }

@@ -45,7 +45,7 @@ inline constexpr std::size_t landmark = towerCount - 1; ///< the tower that is s
 inline constexpr std::int32_t mastHeight = 16;          ///< of the landmark, pixels
 
 struct Towers {
-    Towers(RANDOM* random, const TowerPlan& plan);
+    Towers(RANDOM* random, const TowerPlan& wanted);
 
     TowerPlan plan;
     std::array<Window, mostWindows> windows{};

@@ -19,7 +19,8 @@ constexpr std::int32_t sharp = 4 * step; // at this distance a frame has its siz
 
 /// Small as a rule, at most `reach` either way.
 std::int32_t scatter(std::int32_t reach) {
-    return chance() % (reach + 1) - chance() % (reach + 1);
+    const std::int32_t there = chance() % (reach + 1);
+    return there - chance() % (reach + 1);
 }
 
 /// Anywhere on a line of so many pixels, from its middle.
