@@ -14,10 +14,10 @@ namespace velm {
 /// Width and height in pixels.
 inline constexpr std::int32_t ICON_size = 48;
 
-/// The pixel of an index, row by row: 0xAARRGGBB, not multiplied by its alpha.
 /// The pixels row by row, each the bytes red, green, blue and alpha.
 const char* ICON_bytes();
 
+/// The pixel of an index, row by row: 0xAARRGGBB, not multiplied by its alpha.
 std::uint32_t ICON_pixel(std::int32_t index);
 
 } // namespace velm

@@ -10,13 +10,13 @@
 namespace velm {
 
 // What the schedule plays. Each run is set up anew.
-void VELM4030_sceneDefault(); ///< 3000 frames
-void VELM4030_sceneDefaultSetup();
-void VELM4030_sceneDefaultCleanup();
-void VELM4030_sceneInterludeA(); ///< 750 frames
-void VELM4030_sceneInterludeASetup();
-void VELM4030_sceneInterludeB(); ///< 501 frames
-void VELM4030_sceneInterludeBSetup();
+void VELM4030_sceneDefault();         ///< 3000 frames
+void VELM4030_sceneDefaultSetup();    ///< draws its dots, its fade and its figure
+void VELM4030_sceneDefaultCleanup();  ///< deletes the dots
+void VELM4030_sceneInterludeA();      ///< 750 frames
+void VELM4030_sceneInterludeASetup(); ///< makes the ball the first time, and places it
+void VELM4030_sceneInterludeB();      ///< 501 frames
+void VELM4030_sceneInterludeBSetup(); ///< makes the mesh the first time, and draws its waves
 
 // What the schedule leaves out.
 void VELM4030_sceneExtra1();    ///< until Space
