@@ -43,7 +43,8 @@ Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster) {
                      part.height * layout.scale};
     const bool isOurs = raster.pixels.isOurs();
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width));
-    const std::size_t rowBytes = static_cast<std::size_t>(place.width * raster.pixels.bytes);
+    const std::size_t rowBytes =
+        static_cast<std::size_t>(place.width) * static_cast<std::size_t>(raster.pixels.bytes);
     char* to = raster.first + place.y * raster.pitch + std::ptrdiff_t{place.x} * raster.pixels.bytes;
     for (std::int32_t y = part.y; y < part.y + part.height; ++y) {
         const std::uint32_t* const row = frame.pixels + std::int64_t{y} * frame.width + part.x;

@@ -103,7 +103,11 @@ void requireApart(const CaptureOptions& options) {
         const std::string parent = target.has_parent_path() ? target.parent_path().string() : ".";
         if (!folder.empty() && NumberedPictures::mayWrite(target.filename().string()) &&
             identityOf(parent) == identityOf(folder)) {
-            throw CLI::ValidationError("'" + path + "' is a picture of the folder '" + folder + "'");
+            throw CLI::ValidationError(std::string("'")
+                                           .append(path)
+                                           .append("' is a picture of the folder '")
+                                           .append(folder)
+                                           .append("'"));
         }
     }
 }
