@@ -17,6 +17,7 @@ namespace {
 /// Starts a program with `input` as its standard input: 0 or an error's number.
 int spawn(pid_t& child, std::vector<std::string>& words, int input, const std::vector<int>& descriptors) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }
