@@ -96,23 +96,30 @@ public:
         }));
     }
 
-    /// The number of the captured frame that the window shows at `scale` from (left, top) on, black around; 0
-    /// for none.
-    [[nodiscard]] std::size_t shown(int scale, int left, int top) const {
+    /// What a viewer sees of the window.
+    struct View {
+        Session::Place place;
+        std::vector<unsigned long> pixels;
+    };
+    [[nodiscard]] View look() const {
         const Session::Place place = session.placeOf(window);
-        const auto pixels = session.screen(place.x, place.y, static_cast<unsigned int>(place.width),
-                                           static_cast<unsigned int>(place.height));
-        const auto seen = [&](int x, int y) { return pixels[static_cast<std::size_t>(y * place.width + x)]; };
+        return {place, session.screen(place.x, place.y, static_cast<unsigned int>(place.width),
+                                      static_cast<unsigned int>(place.height))};
+    }
+
+    /// The number of the captured frame that stands at `scale` from (left, top) on, black around; 0 for none.
+    [[nodiscard]] std::size_t frameIn(const View& view, int scale, int left, int top) const {
         const auto matches = [&](const Frame& frame) {
-            for (int y = 0; y < place.height; ++y) {
-                for (int x = 0; x < place.width; ++x) {
+            for (int y = 0; y < view.place.height; ++y) {
+                for (int x = 0; x < view.place.width; ++x) {
                     const bool inside = x >= left && y >= top && x < left + pictureSize * scale &&
                                         y < top + pictureSize * scale;
                     const std::size_t at =
                         inside
                             ? static_cast<std::size_t>((y - top) / scale * pictureSize + (x - left) / scale)
                             : 0;
-                    if (seen(x, y) != (inside ? onScreen(depth, frame[at]) : 0)) {
+                    if (view.pixels[static_cast<std::size_t>(y * view.place.width + x)] !=
+                        (inside ? onScreen(depth, frame[at]) : 0)) {
                         return false;
                     }
                 }
@@ -124,12 +131,16 @@ public:
         return found == frames.end() ? 0 : static_cast<std::size_t>(found - frames.begin()) + 1;
     }
 
-    /// The same of a player that runs: it is stopped while it is looked at.
+    [[nodiscard]] std::size_t shown(int scale, int left, int top) const {
+        return frameIn(look(), scale, left, top);
+    }
+
+    /// The same of a player that runs: it stands still while it is looked at, no longer.
     [[nodiscard]] bool runsAt(int scale, int left, int top) const {
         player->signal(SIGSTOP);
-        const bool found = shown(scale, left, top) != 0;
+        const View view = look();
         player->signal(SIGCONT);
-        return found;
+        return frameIn(view, scale, left, top) != 0;
     }
 
     /// Waits for the server: it reads the player's connection and the viewer's in the order that it likes.
