@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# The Debian 12 packages that the project needs, by purpose. Sourced by run.sh, test.sh, .ci/run and package.sh.
+# The Debian 12 packages that the project needs, by purpose. Sourced by run.sh, test.sh, .ci/run, package.sh
+# and bench/peers.sh.
 # shellcheck disable=SC2034
 build_packages=(g++ cmake ninja-build libx11-dev)
 tool_packages=(libcli11-dev libsdl2-dev zlib1g-dev)
@@ -12,3 +13,6 @@ test_packages=("${package_packages[@]}" "${player_packages[@]}" libgtest-dev lib
     ffmpeg netpbm openbox pulseaudio pulseaudio-utils libpulsedsp sox weston xdotool xvfb)
 lint_packages=(clang clang-format clang-tidy iwyu libclang-rt-14-dev libbenchmark-dev appstream desktop-file-utils doxygen
     graphviz lintian man-db mandoc)
+# The JACK that STK would bring by itself would put the one out that sound servers use.
+peer_packages=("${build_packages[@]}" pkgconf libcairo2-dev libjack-jackd2-dev libnetpbm-dev libopencv-core-dev
+    libopencv-imgproc-dev libpixman-1-dev libsdl2-dev libstb-dev libstk-dev libvolk2-dev)
