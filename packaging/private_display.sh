@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# packaging/private_display.sh PROGRAM ARGUMENT...: runs the program on an Xvfb of its own, which ends with it. A random
+# packaging/private_display.sh PROGRAM ARGUMENT...: runs the program on an Xvfb of its own, which ends with it, of 640x480
+# pixels or as many as VELM_SCREEN says. A random
 # cookie that this user alone can read opens the display.
 set -euo pipefail
 
@@ -15,7 +16,7 @@ trap 'rm -f "$authority"' EXIT
 } >"$authority"
 export XAUTHORITY=$authority
 
-exec 3< <(exec env -u LD_PRELOAD Xvfb -displayfd 1 -screen 0 640x480x24 -nolisten tcp -auth "$authority" 2>/dev/null)
+exec 3< <(exec env -u LD_PRELOAD Xvfb -displayfd 1 -screen 0 "${VELM_SCREEN:-640x480}x24" -nolisten tcp -auth "$authority" 2>/dev/null)
 server=$!
 read -r display <&3 || {
     echo 'Xvfb did not start.' >&2

@@ -45,8 +45,8 @@ Cost costOf(std::vector<double> taken, std::int64_t pixels) {
     return {taken.front(), taken[taken.size() / 2], taken.front() / static_cast<double>(pixels)};
 }
 
-/// The costs of all contenders, who take turns in every round. One run that does not count brings each one's
-/// own memory back to him first.
+/// The costs of all contenders, who take turns in every round. A run that does not count brings back what the
+/// others have driven out of the caches; one that lasts long does so itself.
 std::vector<Cost> takeTurns(const std::vector<Contender>& contenders, std::int64_t pixels) {
     std::vector<std::int32_t> times;
     for (const Contender& contender : contenders) {
@@ -74,10 +74,17 @@ Row& rowOf(Table& table, const std::string& work, const std::string& peer) {
     return found != table.rows.end() ? *found : table.rows.emplace_back(Row{work, peer, "", {}, {}});
 }
 
-std::string text(const char* format, double a, double b) {
-    std::array<char, 64> line{};
-    std::snprintf(line.data(), line.size(), format, a, b);
-    return line.data();
+std::string number(double value, int decimals) {
+    std::array<char, 32> digits{};
+    std::snprintf(digits.data(), digits.size(), "%.*f", decimals, value);
+    return digits.data();
+}
+
+/// Ours to theirs: of the minima and, in brackets, of the medians.
+std::string ratioOf(Cost ours, Cost theirs) {
+    constexpr int decimals = 2;
+    return number(ours.least / theirs.least, decimals) + " (" +
+           number(ours.median / theirs.median, decimals) + ")";
 }
 
 /// Prints the last of a row's measurements.
@@ -85,19 +92,18 @@ void reportMeasured(Size size, const Row& row) {
     constexpr double millisecond = 1e6;
     const Cost ours = row.ours.back();
     const Cost theirs = row.theirs.back();
-    std::fprintf(stderr,
-                 "%6.2f (%.2f)  %-18s %4d x %-4d  %-20s  ours %9.3f (%.3f) ms, theirs %9.3f (%.3f) ms, %s\n",
-                 ours.least / theirs.least, ours.median / theirs.median, row.work.c_str(), size.width,
-                 size.height, row.peer.c_str(), ours.least / millisecond, ours.median / millisecond,
-                 theirs.least / millisecond, theirs.median / millisecond, row.agreement.c_str());
+    std::fprintf(stderr, "%14s  %-18s %4d x %-4d  %-20s  ours %9.3f (%.3f) ms, theirs %9.3f (%.3f) ms  %s\n",
+                 ratioOf(ours, theirs).c_str(), row.work.c_str(), size.width, size.height, row.peer.c_str(),
+                 ours.least / millisecond, ours.median / millisecond, theirs.least / millisecond,
+                 theirs.median / millisecond, row.agreement.c_str());
 }
 
 /// The cost at every size, smallest first.
 std::string overSizes(const std::vector<Cost>& costs) {
     std::string all;
     for (const Cost& cost : costs) {
-        all +=
-            (all.empty() ? "" : " · ") + text(cost.leastOfPixel < 10 ? "%.3f" : "%.1f", cost.leastOfPixel, 0);
+        const int decimals = cost.leastOfPixel < 1 ? 3 : cost.leastOfPixel < 10 ? 2 : 1;
+        all += (all.empty() ? "" : " · ") + number(cost.leastOfPixel, decimals);
     }
     return all;
 }
@@ -138,12 +144,9 @@ void printTable(const Table& table) {
     for (const Row& row : table.rows) {
         std::printf("|");
         for (std::size_t i = 0; i < row.ours.size(); ++i) {
-            const Cost ours = row.ours[i];
-            const Cost theirs = row.theirs[i];
-            std::printf(" %-11s |",
-                        text("%.2f (%.2f)", ours.least / theirs.least, ours.median / theirs.median).c_str());
+            std::printf(" %-11s |", ratioOf(row.ours[i], row.theirs[i]).c_str());
         }
-        std::printf(" %-26s | %-18s | %-22s | %-22s | %-10s |\n", row.work.c_str(), row.peer.c_str(),
+        std::printf(" %-17s | %-19s | %-20s | %-20s | %-13s |\n", row.work.c_str(), row.peer.c_str(),
                     overSizes(row.ours).c_str(), overSizes(row.theirs).c_str(), row.agreement.c_str());
     }
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The same work, done by us and by our peers in turns, and the table of what it took. Everybody works on
-// memory of his own, gets what he needs before the clock runs, and is warm when it does.
+// The same work, done by us and by our peers in turns, and the table of what it took. Each has memory
+// of its own, gets what it needs before the clock runs, and is warm when it does.
 //
 //     compare(table, "additive blit", {{"ours", [&] { IMGFX_addBlit(...); }, {}},
 //                                      {"pixman", [&] { pixman_image_composite32(...); },
@@ -35,6 +35,7 @@ struct Agreement {
     bool holds;
 };
 
+/// One who does the work.
 struct Contender {
     std::string name;
     std::function<void()> run;           ///< does the work once

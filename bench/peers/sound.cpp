@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Samples, as many as a picture has pixels: STK's table sine, in its own double precision, and volk's
-// additions, in single precision, as wide as our integers.
+// arithmetic in single precision, as wide as our integers.
 #include "audio/sound.h"
 
 #include "audio/sample.h"
@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <cstring>
 #include <stk/SineWave.h>
 #include <volk/volk.h>
@@ -75,13 +74,13 @@ void sine(Table& table) {
     stk::SineWave wave;
     wave.setFrequency(frequency);
     stk::StkFrames frames(static_cast<unsigned>(table.size.pixels()), 1);
-    const auto begin = [&] {
+    const auto fromTheStart = [&] {
         wave.reset();
         wave.tick(frames);
     };
     compare(table, "table sine",
             {{"ours", [&] { SOUND_sine(ours, frequency); }, {}},
-             {"STK", begin, [&] { return samplesAgree(*ours, &frames[0], fullScale, 2); }}});
+             {"STK", fromTheStart, [&] { return samplesAgree(*ours, &frames[0], fullScale, 2); }}});
 }
 
 void adding(Table& table) {
