@@ -5,7 +5,8 @@
 #include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
-#include "image/rgb888.h"
+#include "foundation/wide.h"
+#include "image/pixel_bytes.h"
 
 #include <algorithm>
 
@@ -120,10 +121,11 @@ void IMG_andMask(const IMG* mask, IMG* dst) {
         IMG_error();
         return;
     }
-    const std::int64_t count = std::min(pixelCount(mask), pixelCount(dst));
-    for (std::int64_t i = 0; i < count; ++i) {
-        dst->pixels[i] &= mask->pixels[i];
-    }
+    runWide([from = mask->pixels, to = dst->pixels, count = std::min(pixelCount(mask), pixelCount(dst))] {
+        for (std::int64_t i = 0; i < count; ++i) {
+            to[i] &= from[i];
+        }
+    });
 }
 
 void IMG_addColour(IMG* img, std::uint32_t colour) {
@@ -131,8 +133,9 @@ void IMG_addColour(IMG* img, std::uint32_t colour) {
         IMG_error();
         return;
     }
-    std::transform(img->pixels, img->pixels + pixelCount(img), img->pixels,
-                   [colour](std::uint32_t p) { return RGB888_add(p, colour); });
+    runWide([colour, pixels = img->pixels, count = pixelCount(img)] {
+        combineBytes(colour, pixels, count, byteSum);
+    });
 }
 
 void IMG_subColour(IMG* img, std::uint32_t colour) {
@@ -140,8 +143,9 @@ void IMG_subColour(IMG* img, std::uint32_t colour) {
         IMG_error();
         return;
     }
-    std::transform(img->pixels, img->pixels + pixelCount(img), img->pixels,
-                   [colour](std::uint32_t p) { return RGB888_sub(p, colour); });
+    runWide([colour, pixels = img->pixels, count = pixelCount(img)] {
+        combineBytes(colour, pixels, count, byteRest);
+    });
 }
 
 std::int32_t IMG_equal(const IMG* a, const IMG* b) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The transparent copies of IMG: rectangles, and rows and columns that wrap around the edge.
+#include "foundation/wide.h"
 #include "foundation/wrap.h"
 #include "image/clip.h"
 #include "image/img.h"
@@ -12,9 +13,20 @@ namespace velm {
 
 namespace {
 
-/// Copies count pixels that lie `fromStep` and `toStep` words apart, leaving out those that are 0.
+/// Copies pixels, leaving out those that are 0.
+constexpr auto copyRow = [](const std::uint32_t* from, std::uint32_t* to, std::int32_t count) {
+    for (std::int32_t i = 0; i < count; ++i) {
+        to[i] = from[i] != 0 ? from[i] : to[i];
+    }
+};
+
+/// The same for pixels that lie `fromStep` and `toStep` words apart.
 void copyVisible(const std::uint32_t* from, std::int64_t fromStep, std::uint32_t* to, std::int64_t toStep,
                  std::int32_t count) {
+    if (fromStep == 1 && toStep == 1) {
+        runWide([=] { copyRow(from, to, count); });
+        return;
+    }
     for (std::int32_t i = 0; i < count; ++i) {
         if (const std::uint32_t pixel = from[i * fromStep]; pixel != 0) {
             to[i * toStep] = pixel;
@@ -51,11 +63,7 @@ void IMG_blit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, st
         return;
     }
     if (BlitArea area{srcX, srcY, dstX, dstY, w, h}; clipBlit(*src, *dst, area)) {
-        forEachRow(*src, *dst, area, [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
-            for (std::int32_t i = 0; i < n; ++i) {
-                to[i] = from[i] != 0 ? from[i] : to[i];
-            }
-        });
+        runWide([=] { forEachRow(*src, *dst, area, copyRow); });
     }
 }
 

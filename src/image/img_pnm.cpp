@@ -3,6 +3,7 @@
 //
 // The netpbm formats of IMG: P1 to P6 decoded from memory, P6 written to a file.
 #include "foundation/text.h"
+#include "foundation/wide.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 
@@ -26,6 +27,9 @@ struct Input {
     [[nodiscard]] bool hasSize() const { return size != unknownSize; }
     [[nodiscard]] bool atEnd() const { return hasSize() ? position >= size : bytes[position] == '\0'; }
     [[nodiscard]] std::uint8_t peek() const { return static_cast<std::uint8_t>(bytes[position]); }
+    [[nodiscard]] const std::uint8_t* here() const {
+        return reinterpret_cast<const std::uint8_t*>(bytes + position);
+    }
     std::uint8_t take() { return static_cast<std::uint8_t>(bytes[position++]); }
 };
 
@@ -184,20 +188,26 @@ bool decodeTextColour(Input& input, std::uint32_t* pixels, std::int64_t count) {
     return true;
 }
 
-void decodeBinary(Input& input, char type, std::uint32_t* pixels, std::int64_t count) {
-    std::uint8_t bits = 0;
+void decodeBitmap(const std::uint8_t* samples, std::uint32_t* pixels, std::int64_t count) {
     for (std::int64_t i = 0; i < count; ++i) {
-        if (type == '4') {
-            bits = i % 8 == 0 ? input.take() : static_cast<std::uint8_t>(bits << 1);
-            pixels[i] = (bits & 0x80U) != 0 ? 0xFFFFFF : 0x000000;
-        } else if (type == '5') {
-            pixels[i] = input.take() * 0x010101U;
-        } else {
-            const std::uint8_t red = input.take();
-            const std::uint8_t green = input.take();
-            pixels[i] = RGB888_fromBytes(red, green, input.take());
-        }
+        pixels[i] = ((samples[i / 8] << (i % 8)) & 0x80) != 0 ? 0xFFFFFF : 0x000000;
     }
+}
+
+void decodeGrey(const std::uint8_t* samples, std::uint32_t* pixels, std::int64_t count) {
+    runWide([=] {
+        for (std::int64_t i = 0; i < count; ++i) {
+            pixels[i] = samples[i] * 0x010101U;
+        }
+    });
+}
+
+void decodeColour(const std::uint8_t* samples, std::uint32_t* pixels, std::int64_t count) {
+    runWide([=] {
+        for (std::int64_t i = 0; i < count; ++i) {
+            pixels[i] = RGB888_fromBytes(samples[3 * i], samples[3 * i + 1], samples[3 * i + 2]);
+        }
+    });
 }
 
 bool decodeSamples(Input& input, const Header& header, std::uint32_t* pixels, std::int64_t count) {
@@ -208,8 +218,14 @@ bool decodeSamples(Input& input, const Header& header, std::uint32_t* pixels, st
         return decodeTextGrey(input, pixels, count);
     case '3':
         return decodeTextColour(input, pixels, count);
+    case '4':
+        decodeBitmap(input.here(), pixels, count);
+        return true;
+    case '5':
+        decodeGrey(input.here(), pixels, count);
+        return true;
     default:
-        decodeBinary(input, header.type, pixels, count);
+        decodeColour(input.here(), pixels, count);
         return true;
     }
 }

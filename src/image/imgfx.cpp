@@ -3,9 +3,11 @@
 #include "image/imgfx.h"
 
 #include "foundation/report.h"
+#include "foundation/wide.h"
 #include "image/clip.h"
 #include "image/img.h"
 #include "image/line.h"
+#include "image/pixel_bytes.h"
 #include "image/rgb888.h"
 
 #include <algorithm>
@@ -25,7 +27,7 @@ void combine(const IMG* src, IMG* dst, BlitArea area, Row row) {
         return;
     }
     if (clipBlit(*src, *dst, area)) {
-        forEachRow(*src, *dst, area, row);
+        runWide([=] { forEachRow(*src, *dst, area, row); });
     }
 }
 
@@ -55,9 +57,7 @@ void IMGFX_addBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t src
                    std::int32_t dstY, std::int32_t w, std::int32_t h) {
     combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
             [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
-                for (std::int32_t i = 0; i < n; ++i) {
-                    to[i] = RGB888_add(from[i], to[i]);
-                }
+                combineBytes(from, to, n, byteSum);
             });
 }
 
@@ -80,8 +80,9 @@ void IMGFX_invert(IMG* img) {
         IMGFX_error();
         return;
     }
-    std::uint32_t* const end = img->pixels + std::int64_t{img->width} * img->height;
-    std::transform(img->pixels, end, img->pixels, [](std::uint32_t p) { return ~p & 0xFFFFFFU; });
+    runWide([pixels = img->pixels, count = std::int64_t{img->width} * img->height] {
+        std::transform(pixels, pixels + count, pixels, [](std::uint32_t p) { return ~p & 0xFFFFFFU; });
+    });
 }
 
 void IMGFX_addPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour) {

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: MIT
 //
 // The filters of IMGFX: every pixel of one image is made of a pixel of another and of its neighbours.
+#include "foundation/wide.h"
 #include "image/clip.h"
 #include "image/img.h"
 #include "image/imgfx.h"
-#include "image/rgb888.h"
+#include "image/pixel_bytes.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
+#include <span>
 
 namespace velm {
 
@@ -15,6 +19,8 @@ namespace {
 
 constexpr std::uint32_t redBlueLanes = 0xFF00FF;
 constexpr std::uint32_t greenLane = 0x00FF00;
+constexpr std::uint32_t evenBytes = 0xFF00FF00; // green and what lies above red
+constexpr std::uint32_t allBytes = 0xFFFFFFFF;
 
 /// True when `src` can be filtered into `dst`; else it reports.
 bool canFilter(const IMG* src, const IMG* dst) {
@@ -25,42 +31,73 @@ bool canFilter(const IMG* src, const IMG* dst) {
     return true;
 }
 
-/// Stores tap(at) in every pixel that src and dst share, or reports. at(dx, dy) is the source pixel that far
-/// away, black outside. Where no tap can fall outside, `at` is a plain read.
-template <typename Tap>
-void filterPixels(const IMG* src, IMG* dst, std::int32_t reachX, std::int32_t reachY, Tap tap) {
+/// The pixels from `first` on of row y; what lies outside the image is black.
+void readRow(const IMG& img, std::int64_t first, std::int64_t y, std::span<std::uint32_t> to) {
+    const auto size = static_cast<std::int64_t>(to.size());
+    const bool hasRow = y >= 0 && y < img.height;
+    const std::int64_t begin = hasRow ? std::clamp<std::int64_t>(-first, 0, size) : size;
+    const std::int64_t end = std::clamp<std::int64_t>(img.width - first, begin, size);
+    std::fill(to.begin(), to.begin() + begin, 0);
+    if (begin < end) {
+        std::copy_n(img.pixels + y * img.width + first + begin, end - begin, to.begin() + begin);
+    }
+    std::fill(to.begin() + end, to.end(), 0);
+}
+
+constexpr std::int32_t filterBlock = 256; ///< pixels that are filtered at a time
+
+/// Calls filter(y, destination row, pixels) for the rows and pixels that src and dst share, or reports.
+template <typename Filter>
+void filterRows(const IMG* src, IMG* dst, Filter filter) {
     if (!canFilter(src, dst)) {
         return;
     }
-    const std::int64_t stride = src->width;
-    const std::int32_t height = std::min(src->height, dst->height);
-    const std::int32_t width = std::min(src->width, dst->width);
-    for (std::int32_t y = 0; y < height; ++y) {
-        const bool inside = y >= reachY && y < src->height - reachY;
-        const std::int32_t innerBegin = inside ? std::min(reachX, width) : width;
-        const std::int32_t innerEnd = std::max(innerBegin, std::min(width, src->width - reachX));
-        std::uint32_t* const to = dst->pixels + std::int64_t{y} * dst->width;
-        const auto atEdge = [&](std::int32_t x) {
-            return tap([=](std::int32_t dx, std::int32_t dy) { return IMG_getPixel(src, x + dx, y + dy); });
-        };
-        for (std::int32_t x = 0; x < innerBegin; ++x) {
-            to[x] = atEdge(x);
+    runWide([=, width = std::min(src->width, dst->width), height = std::min(src->height, dst->height)] {
+        for (std::int64_t y = 0; y < height; ++y) {
+            filter(y, dst->pixels + y * dst->width, width);
         }
-        const std::uint32_t* const from = src->pixels + y * stride;
-        for (std::int32_t x = innerBegin; x < innerEnd; ++x) {
-            to[x] = tap([=](std::int32_t dx, std::int32_t dy) { return from[x + dx + dy * stride]; });
-        }
-        for (std::int32_t x = innerEnd; x < width; ++x) {
-            to[x] = atEdge(x);
-        }
+    });
+}
+
+/// Asks for the memory of the block after x, so that it is there when its turn comes.
+void expectBlock(const std::uint32_t* row, std::int64_t x, std::int64_t width) {
+    constexpr std::int64_t cacheLine = 16; // pixels
+    for (std::int64_t i = x + filterBlock; i < std::min(x + 2 * filterBlock, width); i += cacheLine) {
+        __builtin_prefetch(row + i);
     }
 }
 
-/// sum(lanes) >> 3 per channel. Red and blue share a word: a sum of eight channels needs 11 bits of the 16
-/// that each has.
+/// Stores tap(at) in every pixel that src and dst share, or reports. at(dx, dy) is the source pixel that far
+/// away, black outside. What is read is a copy of a block and of the pixels around it: a store that lies a
+/// whole page away from a load would hold it up.
+template <std::int32_t reachX, std::int32_t reachY, typename Tap>
+void filterPixels(const IMG* src, IMG* dst, Tap tap) {
+    filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
+        std::uint32_t around[2 * reachY + 1][filterBlock + 2 * reachX];
+        for (std::int64_t x = 0; x < width; x += filterBlock) {
+            const std::int64_t count = std::min<std::int64_t>(filterBlock, width - x);
+            expectBlock(src->pixels + y * src->width, x, width);
+            expectBlock(to, x, width);
+            for (std::int32_t dy = -reachY; dy <= reachY; ++dy) {
+                readRow(*src, x - reachX, y + dy,
+                        std::span(around[reachY + dy], static_cast<std::size_t>(count + 2 * reachX)));
+            }
+            for (std::int64_t i = 0; i < count; ++i) {
+                to[x + i] = tap([&around, i](std::int32_t dx, std::int32_t dy) {
+                    return around[reachY + dy][reachX + i + dx];
+                });
+            }
+        }
+    });
+}
+
+/// sum(bytes of the pixels) >> 3 per channel, at most eight pixels. A sum of every other byte has room: 11
+/// bits of 16. Taken from the sum of all bytes it leaves that of red and blue, however far the carries went.
 template <typename Sum>
 std::uint32_t eighthOf(Sum sum) {
-    return ((sum(redBlueLanes) >> 3) & redBlueLanes) | ((sum(greenLane) >> 3) & greenLane);
+    const std::uint32_t green = sum(evenBytes);
+    const std::uint32_t redBlue = sum(allBytes) - green;
+    return ((redBlue >> 3) & redBlueLanes) | ((green >> 3) & greenLane);
 }
 
 /// What a shifted neighbour keeps: only the bits that its own channel shifted down.
@@ -68,10 +105,76 @@ constexpr std::uint32_t keptBits(std::uint32_t shift) {
     return (0xFFU >> shift) * 0x010101U;
 }
 
-/// The three channels of a pixel 21 bits apart, so that 2^13 of them can be added up.
-constexpr std::uint64_t spread(std::uint32_t pixel) {
-    return (std::uint64_t{pixel & 0xFF0000U} << 26) | (std::uint64_t{pixel & 0x00FF00U} << 13) |
-           (pixel & 0x0000FFU);
+/// The channels of a block's pixels, a word each.
+using Channels = std::array<std::uint32_t, filterBlock * pixelBytes>;
+
+/// The channels of `count` pixels from `first` on of row y.
+void readChannels(const IMG& img, std::int64_t first, std::int64_t y, std::int64_t count, Channels& to) {
+    std::uint32_t pixels[filterBlock];
+    readRow(img, first, y, std::span(pixels, static_cast<std::size_t>(count)));
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(pixels);
+    for (std::int64_t k = 0; k < count * pixelBytes; ++k) {
+        to[static_cast<std::size_t>(k)] = bytes[k];
+    }
+}
+
+/// Two channels in one number, which is added up as they are: what one borrows from the other it gives back.
+std::uint64_t pairAt(const Channels& channels, std::int64_t pair) {
+    std::uint64_t both = 0;
+    std::memcpy(&both, &channels[static_cast<std::size_t>(2 * pair)], sizeof both);
+    return both;
+}
+
+void setPair(Channels& channels, std::int64_t pair, std::uint64_t both) {
+    std::memcpy(&channels[static_cast<std::size_t>(2 * pair)], &both, sizeof both);
+}
+
+/// The sums of 2 * radius + 1 pixels, channel by channel, as they slide along a row.
+class SlidingSums {
+public:
+    SlidingSums(const IMG& img, std::int64_t row, std::int64_t radius) : source(img), y(row), reach(radius) {
+        for (std::int64_t x = 0; x < std::min<std::int64_t>(reach, img.width); x += filterBlock) {
+            const std::int64_t count = std::min<std::int64_t>(filterBlock, reach - x);
+            Channels entering;
+            readChannels(source, x, y, count, entering);
+            for (std::int64_t i = 0; i < count; ++i) {
+                first += pairAt(entering, 2 * i);
+                second += pairAt(entering, 2 * i + 1);
+            }
+        }
+    }
+
+    /// The sums around `count` pixels from x on, block after block: each is the one before, plus what comes
+    /// in, less what goes.
+    void slide(std::int64_t x, std::int64_t count, Channels& sums) {
+        Channels leaving;
+        readChannels(source, x + reach, y, count, sums);
+        readChannels(source, x - reach - 1, y, count, leaving);
+        for (std::int64_t i = 0; i < 2 * count; i += 2) {
+            first += pairAt(sums, i) - pairAt(leaving, i);
+            second += pairAt(sums, i + 1) - pairAt(leaving, i + 1);
+            setPair(sums, i, first);
+            setPair(sums, i + 1, second);
+        }
+    }
+
+private:
+    const IMG& source;
+    std::int64_t y, reach;
+    std::uint64_t first = 0, second = 0;
+};
+
+/// sum / taps, rounded down: the sum and a half times the reciprocal. The half keeps the quotient, at most
+/// 255, off the whole numbers by more than the rounding of a float.
+void storeMeans(const Channels& sums, float reciprocal, std::uint32_t* to, std::int64_t count) {
+    auto* const bytes = reinterpret_cast<std::uint8_t*>(to);
+    forEachBlock(count, [&sums, bytes, reciprocal](std::int64_t first, std::int64_t size) {
+        for (std::int64_t k = 0; k < size; ++k) {
+            const auto sum = static_cast<std::int32_t>(sums[static_cast<std::size_t>(first + k)]);
+            const auto mean = static_cast<std::int32_t>((static_cast<float>(sum) + 0.5F) * reciprocal);
+            bytes[first + k] = static_cast<std::uint8_t>(mean) & keptBytes[static_cast<std::size_t>(k)];
+        }
+    });
 }
 
 } // namespace
@@ -79,19 +182,19 @@ constexpr std::uint64_t spread(std::uint32_t pixel) {
 void IMGFX_blur(const IMG* src, IMG* dst) {
     // IMGFX_blurDarkensEdges: one expects the edge pixels to repeat outside; what lies there counts as black,
     // and the demo's blurred frames have dark sides.
-    filterPixels(src, dst, 2, 0, [](auto at) {
-        return eighthOf([&](std::uint32_t lanes) {
-            return (at(-2, 0) & lanes) + (at(-1, 0) & lanes) + 4 * (at(0, 0) & lanes) + (at(1, 0) & lanes) +
-                   (at(2, 0) & lanes);
+    filterPixels<2, 0>(src, dst, [](auto at) {
+        return eighthOf([&](std::uint32_t bytes) {
+            return (at(-2, 0) & bytes) + (at(-1, 0) & bytes) + 4 * (at(0, 0) & bytes) + (at(1, 0) & bytes) +
+                   (at(2, 0) & bytes);
         });
     });
 }
 
 void IMGFX_blur7(const IMG* src, IMG* dst) {
-    filterPixels(src, dst, 3, 0, [](auto at) {
-        return eighthOf([&](std::uint32_t lanes) {
-            return (at(-3, 0) & lanes) + (at(-2, 0) & lanes) + (at(-1, 0) & lanes) + 2 * (at(0, 0) & lanes) +
-                   (at(1, 0) & lanes) + (at(2, 0) & lanes) + (at(3, 0) & lanes);
+    filterPixels<3, 0>(src, dst, [](auto at) {
+        return eighthOf([&](std::uint32_t bytes) {
+            return (at(-3, 0) & bytes) + (at(-2, 0) & bytes) + (at(-1, 0) & bytes) + 2 * (at(0, 0) & bytes) +
+                   (at(1, 0) & bytes) + (at(2, 0) & bytes) + (at(3, 0) & bytes);
         });
     });
 }
@@ -101,43 +204,43 @@ void IMGFX_blurRadius(const IMG* src, IMG* dst, std::int32_t radius) {
         IMGFX_error();
         return;
     }
-    if (!canFilter(src, dst)) {
-        return;
-    }
-    // sum / taps as a multiplication by the reciprocal, rounded up in 32 fraction bits: exact, because
-    // sum * taps stays below 2^32.
-    const std::uint64_t taps = 2 * static_cast<std::uint64_t>(radius) + 1;
-    const std::uint64_t reciprocal = ((std::uint64_t{1} << 32) + taps - 1) / taps;
-    const auto mean = [reciprocal](std::uint64_t sums, std::uint32_t lane) {
-        return static_cast<std::uint32_t>((((sums >> lane) & 0x1FFFFF) * reciprocal) >> 32);
-    };
-    const std::int32_t width = std::min(src->width, dst->width);
-    for (std::int32_t y = 0; y < std::min(src->height, dst->height); ++y) {
-        const std::uint32_t* const from = src->pixels + std::int64_t{y} * src->width;
-        std::uint32_t* const to = dst->pixels + std::int64_t{y} * dst->width;
-        std::uint64_t sums = 0;
-        for (std::int32_t x = 0; x < std::min(radius, src->width); ++x) {
-            sums += spread(from[x]);
+    filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
+        const float reciprocal = 1.0F / static_cast<float>(2 * radius + 1);
+        SlidingSums sliding(*src, y, radius);
+        for (std::int64_t x = 0; x < width; x += filterBlock) {
+            const std::int64_t count = std::min<std::int64_t>(filterBlock, width - x);
+            expectBlock(src->pixels + y * src->width, x, width);
+            expectBlock(to, x, width);
+            Channels sums;
+            sliding.slide(x, count, sums);
+            storeMeans(sums, reciprocal, to + x, count);
         }
-        for (std::int32_t x = 0; x < width; ++x) {
-            sums += x + radius < src->width ? spread(from[x + radius]) : 0;
-            to[x] = mean(sums, 42) << 16 | mean(sums, 21) << 8 | mean(sums, 0);
-            sums -= x >= radius ? spread(from[x - radius]) : 0;
-        }
-    }
+    });
 }
 
 void IMGFX_glare(const IMG* src, IMG* dst, std::int32_t shift) {
     const std::uint32_t bits = static_cast<std::uint32_t>(shift) & 31U;
-    filterPixels(src, dst, 1, 0, [bits, kept = keptBits(bits)](auto at) {
-        const std::uint32_t left = RGB888_add(at(0, 0), (at(-1, 0) >> bits) & kept);
-        return RGB888_add(left, (at(1, 0) >> bits) & kept);
+    const auto dimmed = [bits, kept = keptBits(bits)](std::uint32_t pixel) { return (pixel >> bits) & kept; };
+    filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
+        const std::uint32_t* const from = src->pixels + y * src->width;
+        for (std::int64_t x = 0; x < width; x += filterBlock) {
+            const std::int64_t count = std::min<std::int64_t>(filterBlock, width - x);
+            std::uint32_t around[filterBlock + 2]; // from the pixel on the left of the block on
+            around[0] = x > 0 ? dimmed(from[x - 1]) : 0;
+            for (std::int64_t i = 0; i < count; ++i) {
+                around[i + 1] = dimmed(from[x + i]);
+                to[x + i] = from[x + i];
+            }
+            around[count + 1] = x + count < src->width ? dimmed(from[x + count]) : 0;
+            combineBytes(around, to + x, count, byteSum);
+            combineBytes(around + 2, to + x, count, byteSum);
+        }
     });
 }
 
 void IMGFX_glare8(const IMG* src, IMG* dst, std::int32_t shift) {
     const std::uint32_t bits = static_cast<std::uint32_t>(shift) & 31U;
-    filterPixels(src, dst, 1, 1, [bits, kept = keptBits(bits)](auto at) {
+    filterPixels<1, 1>(src, dst, [bits, kept = keptBits(bits)](auto at) {
         // Nine channels need 12 bits of the 16 that each has.
         std::uint32_t redBlue = at(0, 0) & redBlueLanes;
         std::uint32_t green = at(0, 0) & greenLane;

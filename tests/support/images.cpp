@@ -2,10 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "support/images.h"
 
+#include "foundation/wide.h"
+
 #include <algorithm>
 #include <cstdio>
 
 namespace velm::test {
+
+namespace {
+
+const bool thisProcessorIsWide = wideRegisters;
+
+} // namespace
+
+Images::Images(std::uint32_t seed) : isLong(seed % 8 == 5), engine(seed) {
+    wideRegisters = thisProcessorIsWide && (seed >> 3 & 1) == 0;
+}
 
 std::uint32_t Images::pixel() {
     constexpr std::uint32_t corners[] = {0x000000, 0x000000, 0xFFFFFF, 0xFF0000,
@@ -15,8 +27,13 @@ std::uint32_t Images::pixel() {
 }
 
 IMG* Images::image() {
-    const std::int32_t width = number(0, 40);
-    return image(width, number(0, 40));
+    constexpr std::int32_t shortest = 40;
+    const std::int32_t width = number(0, isLong ? 600 : shortest);
+    IMG* img = image(width, number(0, isLong ? 3 : shortest));
+    for (std::int32_t i = 0; i < img->width * img->height; i += number(1, 40)) {
+        img->pixels[i] |= 0xA5000000;
+    }
+    return img;
 }
 
 IMG* Images::image(std::int32_t width, std::int32_t height) {

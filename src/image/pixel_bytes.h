@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+//
+// What saturates is quickest byte by byte, many at a time: the rules for one channel, and the loops that
+// apply them to rows of pixels. The result's top bytes are 0, as everywhere.
+//
+//     combineBytes(from, to, width, byteSum); // to[i] = RGB888_add(from[i], to[i])
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+
+namespace velm {
+
+/// min(255, a + b): as much of b as a leaves room for.
+constexpr std::uint8_t byteSum(std::uint8_t a, std::uint8_t b) {
+    const auto room = static_cast<std::uint8_t>(~a);
+    return static_cast<std::uint8_t>(a + (b < room ? b : room));
+}
+
+/// max(0, b - a): b without as much of a as it has.
+constexpr std::uint8_t byteRest(std::uint8_t a, std::uint8_t b) {
+    return static_cast<std::uint8_t>(b - (a < b ? a : b));
+}
+
+/// So many pixels are taken at a time: a loop of a known length, over which the top bytes' mask repeats.
+inline constexpr std::int64_t pixelBlock = 64;
+inline constexpr std::int64_t pixelBytes = sizeof(std::uint32_t);
+using PixelBlock = std::array<std::uint8_t, pixelBlock * pixelBytes>;
+
+/// The bytes of a block of one colour.
+constexpr PixelBlock blockOf(std::uint32_t colour) {
+    std::array<std::uint32_t, pixelBlock> pixels{};
+    pixels.fill(colour);
+    return std::bit_cast<PixelBlock>(pixels);
+}
+
+inline constexpr PixelBlock keptBytes = blockOf(0xFFFFFF); ///< all but the top ones
+
+/// Calls change(first byte, count) for the bytes of `pixels` pixels, a block at a time and then the rest.
+template <typename Change>
+void forEachBlock(std::int64_t pixels, Change change) {
+    constexpr std::int64_t blockBytes = pixelBlock * pixelBytes;
+    const std::int64_t whole = pixels / pixelBlock * blockBytes;
+    for (std::int64_t first = 0; first < whole; first += blockBytes) {
+        change(first, blockBytes);
+    }
+    change(whole, pixels * pixelBytes - whole);
+}
+
+/// to[i] = rule(from[i], to[i]) for each channel of `count` pixels, in order: the two may overlap.
+template <typename Rule>
+void combineBytes(const std::uint32_t* from, std::uint32_t* to, std::int64_t count, Rule rule) {
+    const auto* const a = reinterpret_cast<const std::uint8_t*>(from);
+    auto* const b = reinterpret_cast<std::uint8_t*>(to);
+    forEachBlock(count, [=](std::int64_t first, std::int64_t bytes) {
+        for (std::int64_t k = 0; k < bytes; ++k) {
+            b[first + k] = rule(a[first + k], b[first + k]) & keptBytes[static_cast<std::size_t>(k)];
+        }
+    });
+}
+
+/// to[i] = rule(colour, to[i]) for each channel of `count` pixels.
+template <typename Rule>
+void combineBytes(std::uint32_t colour, std::uint32_t* to, std::int64_t count, Rule rule) {
+    const PixelBlock a = blockOf(colour);
+    auto* const b = reinterpret_cast<std::uint8_t*>(to);
+    forEachBlock(count, [&a, b, rule](std::int64_t first, std::int64_t bytes) {
+        for (std::int64_t k = 0; k < bytes; ++k) {
+            const auto at = static_cast<std::size_t>(k);
+            b[first + k] = rule(a[at], b[first + k]) & keptBytes[at];
+        }
+    });
+}
+
+} // namespace velm
