@@ -4,10 +4,13 @@
 // The arithmetic of SAMPLE: every value of a sample, or every pair of two. Products and sums wrap at 32 bits,
 // quotients truncate towards 0, shifts round down. The loops are plain, so that the compiler vectorises them.
 #include "audio/sample.h"
+#include "foundation/wide.h"
 #include "foundation/wrap.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
+#include <numeric>
 
 namespace velm {
 
@@ -26,7 +29,9 @@ void change(SAMPLE* sample, Operation operation) {
         SAMPLE_error();
         return;
     }
-    std::transform(sample->data, sample->data + sample->length, sample->data, operation);
+    runWide([data = sample->data, length = sample->length, operation] {
+        std::transform(data, data + length, data, operation);
+    });
 }
 
 /// a[i] = operation(a[i], b[i]) as far as both reach; reported when one has no data.
@@ -36,14 +41,33 @@ void combine(SAMPLE* a, const SAMPLE* b, Operation operation) {
         SAMPLE_error();
         return;
     }
-    std::transform(a->data, a->data + std::min(a->length, b->length), b->data, a->data, operation);
+    runWide([to = a->data, from = b->data, length = std::min(a->length, b->length), operation] {
+        std::transform(to, to + length, from, to, operation);
+    });
 }
 
-/// value / divisor for any divisor but 0 and -1. A double holds both exactly, and its quotient is closer to
-/// the true one than that is to the next whole number, so truncating it is exact and, unlike an integer
-/// division, quick in bulk.
-std::int32_t quotient(std::int32_t value, std::int32_t divisor) {
-    return static_cast<std::int32_t>(static_cast<double>(value) / static_cast<double>(divisor));
+/// Divides by any number but 0 and -1, quickly in bulk. The value, half a unit farther from 0, times the
+/// reciprocal: the half keeps the product off the whole numbers by more than a double's rounding, so
+/// truncating it is exact.
+struct Divider {
+    double reciprocal;
+
+    explicit Divider(std::int32_t divisor) : reciprocal(1.0 / static_cast<double>(divisor)) {}
+
+    std::int32_t quotient(std::int32_t value) const {
+        const auto exact = static_cast<double>(value);
+        return static_cast<std::int32_t>((exact + std::copysign(0.5, exact)) * reciprocal);
+    }
+};
+
+/// operation(...operation(first, second)..., last) of a sample that has values.
+template <typename Operation>
+std::int32_t reduce(const SAMPLE& sample, Operation operation) {
+    std::int32_t result = 0;
+    runWide([=, &result, data = sample.data, length = sample.length] {
+        result = std::accumulate(data + 1, data + length, data[0], operation);
+    });
+    return result;
 }
 
 bool hasValues(const SAMPLE* sample) {
@@ -69,7 +93,9 @@ void SAMPLE_mixScaled(SAMPLE* a, const SAMPLE* b, std::int32_t n, std::int32_t d
         combine(a, b, [n](std::int32_t x, std::int32_t y) { return wrapSub(x, wrapMul(y, n)); });
         return;
     }
-    combine(a, b, [n, d](std::int32_t x, std::int32_t y) { return wrapAdd(x, quotient(wrapMul(y, n), d)); });
+    combine(a, b, [n, divider = Divider(d)](std::int32_t x, std::int32_t y) {
+        return wrapAdd(x, divider.quotient(wrapMul(y, n)));
+    });
 }
 
 void SAMPLE_mixFixed(SAMPLE* a, const SAMPLE* b, std::int32_t f) {
@@ -90,7 +116,7 @@ void SAMPLE_divide(SAMPLE* sample, std::int32_t divisor) {
         SAMPLE_scale(sample, -1);
         return;
     }
-    change(sample, [divisor](std::int32_t value) { return quotient(value, divisor); });
+    change(sample, [divider = Divider(divisor)](std::int32_t value) { return divider.quotient(value); });
 }
 
 void SAMPLE_shiftRight(SAMPLE* sample, std::int32_t count) {
@@ -114,11 +140,7 @@ std::int32_t SAMPLE_min(const SAMPLE* sample) {
         SAMPLE_error();
         return 0;
     }
-    std::int32_t least = sample->data[0];
-    for (std::int32_t i = 1; i < sample->length; ++i) {
-        least = std::min(least, sample->data[i]);
-    }
-    return least;
+    return reduce(*sample, [](std::int32_t x, std::int32_t y) { return std::min(x, y); });
 }
 
 std::int32_t SAMPLE_max(const SAMPLE* sample) {
@@ -126,11 +148,7 @@ std::int32_t SAMPLE_max(const SAMPLE* sample) {
         SAMPLE_error();
         return 0;
     }
-    std::int32_t most = sample->data[0];
-    for (std::int32_t i = 1; i < sample->length; ++i) {
-        most = std::max(most, sample->data[i]);
-    }
-    return most;
+    return reduce(*sample, [](std::int32_t x, std::int32_t y) { return std::max(x, y); });
 }
 
 void SAMPLE_normalize(SAMPLE* sample, std::int32_t peak) {

@@ -6,10 +6,12 @@
 
 #include "foundation/chance.h"
 #include "foundation/report.h"
+#include "foundation/wide.h"
 #include "foundation/wrap.h"
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace velm {
 
@@ -108,10 +110,12 @@ void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
     const std::int32_t bias = steep ? height / 2 - height + width - 1 : width - width / 2;
     const double slope = double{height} / width;
     const double offset = (bias + 0.5) / width;
-    for (std::int32_t i = 1; i <= width; ++i) {
-        const auto moved = static_cast<std::int32_t>(i * slope + offset);
-        data[i] = wrapMul(data[i], start + sign * moved) >> fractionBits;
-    }
+    runWide([=] {
+        for (std::int32_t i = 1; i <= width; ++i) {
+            const auto moved = static_cast<std::int32_t>(i * slope + offset);
+            data[i] = wrapMul(data[i], start + sign * moved) >> fractionBits;
+        }
+    });
 }
 
 /// Multiplies by a gain that starts at `gain` and moves by 32768 over the whole sample, in direction `sign`.
@@ -143,12 +147,17 @@ void SOUND_sine(SAMPLE* sample, std::int32_t frequency) {
         SOUND_error();
         return;
     }
-    // A whole number of hertz moves the phase by whole entries, so it needs no fraction.
-    std::int32_t phase = 0;
-    for (std::int32_t i = 0; i < sample->length; ++i) {
-        sample->data[i] = table->data[phase];
-        phase += frequency;
-        phase -= phase >= SAMPLE_rate ? SAMPLE_rate : 0;
+    // A whole number of hertz moves the phase by whole entries, so it needs no fraction, and comes back to 0
+    // after a whole number of values: from there on the wave is a copy of itself.
+    const std::int32_t period = SAMPLE_rate / std::gcd(frequency, SAMPLE_rate);
+    const std::int32_t fresh = std::min(sample->length, period);
+    for (std::int32_t i = 0, phase = 0; i < fresh; phase -= SAMPLE_rate) {
+        for (; i < fresh && phase < SAMPLE_rate; phase += frequency) {
+            sample->data[i++] = table->data[phase];
+        }
+    }
+    for (std::int32_t done = fresh; done < sample->length; done += period) {
+        std::copy_n(sample->data, std::min(period, sample->length - done), sample->data + done);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "audio/samples.h"
 
 #include <algorithm>
+#include <string>
 
 namespace velm::test {
 namespace {
@@ -92,15 +93,46 @@ TEST(Sample, ArithmeticWrapsTruncatesAndStopsAtTheShorter) {
     EXPECT_EQ(values(s), (List{0, 0, 0, 0}));
 }
 
-TEST(Sample, DivisionTruncatesForEveryValue) {
-    Images engine(1);
-    for (int round = 0; round < 16000; ++round) {
-        const List pair = randomValues(engine, 2);
-        const Sample s({pair[0]});
-        if (pair[1] != 0) {
-            SAMPLE_divide(s, pair[1]);
-            ASSERT_EQ(s->data[0], static_cast<std::int32_t>(std::int64_t{pair[0]} / pair[1]));
-        }
+/// Expects the operation to store rule(a[i], b[i]), modulo 2^32, as far as both samples reach, and no more.
+template <typename Operation, typename Rule>
+void compareArithmetic(const List& a, const List& b, Operation operation, Rule rule) {
+    const Sample actual(a);
+    const Sample other(b);
+    List expected = a;
+    for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i) {
+        const std::int64_t result = rule(std::int64_t{a[i]}, std::int64_t{b[i]});
+        expected[i] = static_cast<std::int32_t>(static_cast<std::uint32_t>(result));
+    }
+    operation(actual, other);
+    ASSERT_EQ(values(actual), expected);
+}
+
+TEST(Sample, ArithmeticEqualsThePlainRule) {
+    for (std::uint32_t seed = 1; seed <= 1000 && !HasFatalFailure(); ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        Images engine(seed);
+        const auto draw = [&engine] { return randomValues(engine, engine.number(0, 70)); };
+        const List a = draw();
+        const List b = draw();
+        const std::int32_t n = randomValues(engine, 1)[0];
+        const std::int32_t d = engine.number(0, 1) == 0 ? engine.number(1, 9) : engine.number(INT32_MIN, -1);
+        const auto low = [](std::int64_t product) {
+            return std::int64_t{static_cast<std::int32_t>(static_cast<std::uint32_t>(product))};
+        };
+        using Value = std::int64_t;
+        compareArithmetic(a, b, SAMPLE_add, [](Value x, Value y) { return x + y; });
+        compareArithmetic(a, b, SAMPLE_multiply, [](Value x, Value y) { return x * y; });
+        compareArithmetic(
+            a, b, [=](SAMPLE* to, SAMPLE* from) { SAMPLE_mixScaled(to, from, n, d); },
+            [=](Value x, Value y) { return x + low(y * n) / d; });
+        compareArithmetic(
+            a, b, [=](SAMPLE* to, SAMPLE* from) { SAMPLE_mixFixed(to, from, n); },
+            [=](Value x, Value y) { return x + (low(y * n) >> 16); });
+        compareArithmetic(
+            a, a, [=](SAMPLE* to, SAMPLE*) { SAMPLE_divide(to, d); }, [=](Value x, Value) { return x / d; });
+        compareArithmetic(
+            a, a, [=](SAMPLE* to, SAMPLE*) { SAMPLE_shiftRight(to, n & 31); },
+            [=](Value x, Value) { return x >> (n & 31); });
     }
 }
 
