@@ -8,7 +8,7 @@ build_packages=(g++ cmake ninja-build libx11-dev)
 tool_packages=(libcli11-dev libdeflate-dev libsdl2-dev pkg-config zlib1g-dev)
 player_packages=("${build_packages[@]}" "${tool_packages[@]}")
 package_packages=("${build_packages[@]}" "${tool_packages[@]}" dpkg-dev file)
-test_packages=("${package_packages[@]}" "${player_packages[@]}" libgtest-dev libgmock-dev libxfixes-dev libxss-dev
-    ffmpeg netpbm openbox pulseaudio pulseaudio-utils libpulsedsp sox weston xdotool xvfb)
-lint_packages=(clang clang-format clang-tidy iwyu libclang-rt-14-dev libbenchmark-dev appstream desktop-file-utils doxygen
+test_packages=("${package_packages[@]}" "${player_packages[@]}" clang libclang-rt-14-dev llvm libgtest-dev libgmock-dev
+    libxfixes-dev libxss-dev ffmpeg netpbm openbox pulseaudio pulseaudio-utils libpulsedsp sox weston xdotool xvfb)
+lint_packages=(clang-format clang-tidy iwyu libbenchmark-dev appstream desktop-file-utils doxygen
     graphviz lintian man-db mandoc)

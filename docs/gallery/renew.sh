@@ -20,14 +20,14 @@ take() {
 take default 1420
 take interlude-a 500
 take interlude-b 300
-take extra-1 260 --keys 60:d,80:d,100:d,120:d
+take extra-1 260
 take extra-2 560
 take extra-3 410
 take extra-4 410
 take extra-5 480
 take extra-6 210
-take extra-7 460
-take extra-8 230
+take extra-7 800
+take extra-8 690
 take extra-9 690
 take extra-10 560
 take extra-11 520
@@ -45,11 +45,13 @@ film() {
     done
 }
 
-# Seven seconds of the three scenes of the schedule, 15 frames a second.
+# Ten seconds of five scenes that do not flash, 15 frames a second.
 mkdir "$work/film"
 filmed=0
-film default 1180 90
-film interlude-a 400 60
-film interlude-b 200 60
+film extra-4 360 60
+film default 1180 60
+film extra-10 530 60
+film particles 470 60
+film extra-9 660 60
 ffmpeg -v error -y -framerate 15 -i "$work/film/%05d.ppm" \
     -vf 'split[a][b];[a]palettegen=stats_mode=single[p];[b][p]paletteuse=new=1:dither=bayer:bayer_scale=4' demo.gif

@@ -32,9 +32,13 @@ void Canvas::close() {
 bool Canvas::draw(const IMG& frame, const Layout& layout) {
     isFresh = isFresh || layout != last;
     last = layout;
+    if (isFresh) {
+        former.clear();
+    }
     const bool drawn = renderer != nullptr ? drawTexture(frame, layout)
                        : pixels            ? drawRows(frame, layout)
                                            : drawSurface(frame, layout);
+    former.assign(frame.pixels, frame.pixels + std::int64_t{frame.width} * frame.height);
     isFresh = !drawn;
     return drawn;
 }
@@ -49,9 +53,9 @@ bool Canvas::drawSurface(const IMG& frame, const Layout& layout) {
     }
     const SDL_PixelFormat& format = *surface->format;
     const PixelLayout surfacePixels(format.BytesPerPixel, format.Rmask, format.Gmask, format.Bmask);
-    const Part part =
-        enlarge(frame, layout,
-                {static_cast<char*>(surface->pixels), surface->w, surface->h, surface->pitch, surfacePixels});
+    const Part part = enlarge(
+        frame, layout,
+        {static_cast<char*>(surface->pixels), surface->w, surface->h, surface->pitch, surfacePixels}, former);
     const SDL_Rect place{part.x, part.y, part.width, part.height};
     return (isFresh ? SDL_UpdateWindowSurface(window) : SDL_UpdateWindowSurfaceRects(window, &place, 1)) == 0;
 }
@@ -63,7 +67,7 @@ bool Canvas::drawRows(const IMG& frame, const Layout& layout) {
     if (isFresh) {
         rows.assign(static_cast<std::size_t>(pitch) * static_cast<std::size_t>(whole.y), '\0');
     }
-    enlarge(frame, layout, {rows.data(), whole.x, whole.y, pitch, *pixels});
+    enlarge(frame, layout, {rows.data(), whole.x, whole.y, pitch, *pixels}, former);
     return putRows(window, rows.data(), whole);
 }
 

@@ -41,7 +41,8 @@ private:
     SDL_Texture* texture = nullptr;    ///< of the frames' size
     std::optional<PixelLayout> pixels; ///< of a screen that SDL has no surface for
     std::vector<char> rows;            ///< of its window
-    Layout last;                       ///< where the frame before stands
+    std::vector<std::uint32_t> former; ///< the pixels of the frame before; empty where none stands
+    Layout last;                       ///< where it stands
     bool isFresh = true;               ///< all of the window has to be painted
 };
 

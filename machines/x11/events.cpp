@@ -28,8 +28,8 @@ bool isClose(const XClientMessageEvent& message) {
 
 /// The state is that before the event: a button that was held is being let go.
 bool wasHeld(const XButtonEvent& event) {
-    const unsigned int mask = event.button <= Button5 ? Button1Mask << (event.button - Button1) : 0U;
-    return (event.state & mask) != 0;
+    constexpr unsigned int maskOfFirst = Button1Mask;
+    return event.button <= Button5 && (event.state & maskOfFirst << (event.button - Button1)) != 0;
 }
 
 void keepOfWindow(XEvent& event) {

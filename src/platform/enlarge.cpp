@@ -37,7 +37,8 @@ Part partThatFits(const IMG& frame, const Layout& layout, const Raster& raster) 
 
 } // namespace
 
-Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster) {
+Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster,
+             std::span<const std::uint32_t> former) {
     const Part part = partThatFits(frame, layout, raster);
     const Part place{std::max(layout.left, 0), std::max(layout.top, 0), part.width * layout.scale,
                      part.height * layout.scale};
@@ -46,8 +47,12 @@ Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster) {
     const std::size_t rowBytes =
         static_cast<std::size_t>(place.width) * static_cast<std::size_t>(raster.pixels.bytes);
     char* to = raster.first + place.y * raster.pitch + std::ptrdiff_t{place.x} * raster.pixels.bytes;
-    for (std::int32_t y = part.y; y < part.y + part.height; ++y) {
-        const std::uint32_t* const row = frame.pixels + std::int64_t{y} * frame.width + part.x;
+    for (std::int32_t y = part.y; y < part.y + part.height; ++y, to += layout.scale * raster.pitch) {
+        const std::int64_t first = std::int64_t{y} * frame.width + part.x;
+        const std::uint32_t* const row = frame.pixels + first;
+        if (!former.empty() && std::equal(row, row + part.width, former.begin() + first)) {
+            continue;
+        }
         std::copy(row, row + part.width, pixels.begin());
         if (!isOurs) {
             std::transform(row, row + part.width, pixels.begin(),
@@ -57,7 +62,6 @@ Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster) {
         for (std::int32_t copy = 1; copy < layout.scale; ++copy) {
             std::memcpy(to + copy * raster.pitch, to, rowBytes);
         }
-        to += layout.scale * raster.pitch;
     }
     return place;
 }

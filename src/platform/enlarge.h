@@ -13,6 +13,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace velm {
 
@@ -30,7 +31,10 @@ struct Part {
 };
 
 /// Writes what fits of a frame where its layout has it, and returns the part of the raster that it takes;
-/// nothing else of it changes. One row is spread out, and its copies are copied.
-Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster);
+/// nothing else of it changes. One row is spread out, and its copies are copied. Where the raster holds an
+/// earlier frame of the same size and layout, rows equal to those of `former`, its pixels, are left as they
+/// are.
+Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster,
+             std::span<const std::uint32_t> former = {});
 
 } // namespace velm

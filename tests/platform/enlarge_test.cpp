@@ -80,5 +80,34 @@ TEST(Enlarge, EveryPixelBecomesASquareInTheScreensLayoutAndNothingElseChanges) {
     EXPECT_EQ(layouts[4].of(0xFF8001), 0x3FF80804U) << "more bits repeat the high ones";
 }
 
+TEST(Enlarge, ARowAsItWasStaysAndEveryOtherIsDrawn) {
+    test::Images random(4031);
+    const Owned<IMG_delete> before(random.image(9, 8));
+    const Owned<IMG_delete> after(IMG_clone(before));
+    after->pixels[9 * 2 + 1] = 0x102030;
+    after->pixels[9 * 7 + 8] = 0x405060;
+    const std::span former(before->pixels, 9 * 8);
+    const Layout layouts[] = {{1, -1, -2}, {3, 2, 1}};
+    for (const Layout& layout : layouts) {
+        constexpr std::int32_t width = 31;
+        constexpr std::int32_t height = 26;
+        constexpr std::uint32_t untouched = 0x777777;
+        std::vector<std::uint32_t> pixels(width * height, untouched);
+        const Raster raster{reinterpret_cast<char*>(pixels.data()), width, height, width * 4,
+                            PixelLayout(4, 0xFF0000, 0x00FF00, 0x0000FF)};
+        enlarge(*before, layout, raster);
+        std::vector<std::uint32_t> whole = pixels;
+        enlarge(*after, layout,
+                {reinterpret_cast<char*>(whole.data()), width, height, width * 4, raster.pixels});
+        enlarge(*after, layout, raster, former);
+        EXPECT_EQ(pixels, whole) << layout.scale;
+        std::fill(pixels.begin(), pixels.end(), untouched);
+        enlarge(*after, layout, raster, former);
+        const auto drawn = static_cast<std::int32_t>(pixels.size()) -
+                           static_cast<std::int32_t>(std::count(pixels.begin(), pixels.end(), untouched));
+        EXPECT_EQ(drawn, layout.scale == 1 ? 2 * 8 : 2 * 3 * 9 * 3) << "two rows";
+    }
+}
+
 } // namespace
 } // namespace velm

@@ -20,7 +20,9 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
+#include <string_view>
 
 namespace velm::test {
 
@@ -47,6 +49,25 @@ inline const std::vector<Frame>& captured() {
     return all;
 }
 
+inline std::size_t checksum(const std::vector<unsigned long>& pixels) {
+    return std::hash<std::string_view>()(
+        {reinterpret_cast<const char*>(pixels.data()), pixels.size() * sizeof pixels[0]});
+}
+
+/// The numbers of the captured frames past the logo by the checksums of what a screen of a depth shows.
+inline const std::map<std::size_t, std::size_t>& numbersAt(const std::string& depth) {
+    static std::map<std::string, std::map<std::size_t, std::size_t>> all;
+    std::map<std::size_t, std::size_t>& numbers = all[depth];
+    const std::size_t first = numbers.empty() ? startFrames : captured().size();
+    for (std::size_t i = first; i < captured().size(); ++i) {
+        std::vector<unsigned long> shown(framePixels);
+        std::ranges::transform(captured()[i], shown.begin(),
+                               [&depth](std::uint32_t pixel) { return onScreen(depth, pixel); });
+        numbers.emplace(checksum(shown), i + 1);
+    }
+    return numbers;
+}
+
 /// A player on a server, and what a viewer sees of it.
 class Stage {
 public:
@@ -65,10 +86,8 @@ public:
     void start(std::vector<std::string> arguments) {
         std::ofstream(spyLog, std::ios::trunc);
         arguments.insert(arguments.begin(), {VELM_PLAYER, "schedule"});
-        Environment environment = {{"DISPLAY", server.display()},
-                                   {"LD_PRELOAD", VELM_X11_SPY},
-                                   {"VELM_SPY", spyLog},
-                                   {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+        Environment environment = {
+            {"DISPLAY", server.display()}, {"LD_PRELOAD", VELM_X11_SPY}, {"VELM_SPY", spyLog}};
         environment.insert(environment.end(), more.begin(), more.end());
         player = std::make_unique<Child>(arguments, environment);
         ASSERT_TRUE(eventually([this] { return puts() > startFrames + 3; }, 60)) << player->errors();
@@ -109,26 +128,26 @@ public:
 
     /// The number of the captured frame that stands at `scale` from (left, top) on, black around; 0 for none.
     [[nodiscard]] std::size_t frameIn(const View& view, int scale, int left, int top) const {
-        const auto matches = [&](const Frame& frame) {
-            for (int y = 0; y < view.place.height; ++y) {
-                for (int x = 0; x < view.place.width; ++x) {
-                    const bool inside = x >= left && y >= top && x < left + pictureSize * scale &&
-                                        y < top + pictureSize * scale;
-                    const std::size_t at =
-                        inside
-                            ? static_cast<std::size_t>((y - top) / scale * pictureSize + (x - left) / scale)
-                            : 0;
-                    if (view.pixels[static_cast<std::size_t>(y * view.place.width + x)] !=
-                        (inside ? onScreen(depth, frame[at]) : 0)) {
-                        return false;
-                    }
+        std::vector<unsigned long> picture(framePixels);
+        for (int y = 0; y < view.place.height; ++y) {
+            for (int x = 0; x < view.place.width; ++x) {
+                const unsigned long pixel = view.pixels[static_cast<std::size_t>(y * view.place.width + x)];
+                const int column = x - left;
+                const int row = y - top;
+                const bool isInside =
+                    std::min(column, row) >= 0 && std::max(column, row) < pictureSize * scale;
+                unsigned long& seen = picture[static_cast<std::size_t>(
+                    isInside ? row / scale * pictureSize + column / scale : 0)];
+                if (isInside && row % scale == 0 && column % scale == 0) {
+                    seen = pixel;
+                } else if (pixel != (isInside ? seen : 0)) {
+                    return 0;
                 }
             }
-            return true;
-        };
-        const auto& frames = captured();
-        const auto found = std::find_if(frames.begin() + startFrames, frames.end(), matches);
-        return found == frames.end() ? 0 : static_cast<std::size_t>(found - frames.begin()) + 1;
+        }
+        const auto& numbers = numbersAt(depth);
+        const auto found = numbers.find(checksum(picture));
+        return found == numbers.end() ? 0 : found->second;
     }
 
     [[nodiscard]] std::size_t shown(int scale, int left, int top) const {
@@ -145,7 +164,8 @@ public:
 
     /// Waits for the server: it reads the player's connection and the viewer's in the order that it likes.
     void expectShown(int scale, int left, int top) const {
-        EXPECT_TRUE(eventually([&] { return shown(scale, left, top) != 0; }, 5)) << "not a frame of the demo";
+        EXPECT_TRUE(eventually([&] { return shown(scale, left, top) != 0; }, 20))
+            << "not a frame of the demo";
     }
 
     std::string depth;

@@ -27,6 +27,7 @@ namespace velm::test {
 struct Put {
     std::uint32_t brightest; ///< the largest of its pixels
     double milliseconds;     ///< since the process began
+    double worked;           ///< those of them in which it had a processor
 };
 
 /// The finished program, started on a server of its own with the spy preloaded.
@@ -38,10 +39,7 @@ protected:
     void TearDown() override { std::filesystem::remove(spyLog); }
 
     [[nodiscard]] Environment environment() const {
-        Environment all = {{"DISPLAY", server.display()},
-                           {"LD_PRELOAD", VELM_X11_SPY},
-                           {"VELM_SPY", spyLog},
-                           {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+        Environment all = {{"DISPLAY", server.display()}, {"LD_PRELOAD", VELM_X11_SPY}, {"VELM_SPY", spyLog}};
         all.insert(all.end(), additions.begin(), additions.end());
         return all;
     }
@@ -52,8 +50,9 @@ protected:
         std::vector<Put> all;
         std::string word;
         double milliseconds = 0;
-        while (log >> word >> milliseconds) {
-            all.push_back({static_cast<std::uint32_t>(std::stoul(word, nullptr, 16)), milliseconds});
+        double worked = 0;
+        while (log >> word >> milliseconds >> worked) {
+            all.push_back({static_cast<std::uint32_t>(std::stoul(word, nullptr, 16)), milliseconds, worked});
         }
         return all;
     }

@@ -7,7 +7,6 @@ namespace velm::test {
 Environment SoundServer::withDisplay() const {
     Environment environment = pulse;
     environment.emplace_back("DISPLAY", server.display());
-    environment.emplace_back("ASAN_OPTIONS", "verify_asan_link_order=0");
     return environment;
 }
 

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Preloaded into the demo: writes a line to the file that VELM_SPY names for every picture sent to the
-// server, the largest of its pixels (of 32 bits) in hexadecimal and the milliseconds since the process began.
+// server, the largest of its pixels (of 32 bits) in hexadecimal, the milliseconds since the process began, and
+// those in which it had a processor.
 #include <X11/Xlib.h>
 #include <algorithm>
 #include <cstdint>
@@ -13,19 +14,14 @@
 
 namespace {
 
-double processMilliseconds() {
-    static const double begin = [] {
-        timespec now{};
-        clock_gettime(CLOCK_MONOTONIC, &now);
-        return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-    }();
+double milliseconds(clockid_t clock) {
     timespec now{};
-    clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6 - begin;
+    clock_gettime(clock, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
-/// Starts the clock when the library is loaded.
-const double loaded = processMilliseconds();
+/// When the library was loaded.
+const double begin = milliseconds(CLOCK_MONOTONIC);
 
 void note(const XImage* image, unsigned int width, unsigned int height) {
     static std::FILE* const log = std::fopen(std::getenv("VELM_SPY"), "a");
@@ -38,7 +34,8 @@ void note(const XImage* image, unsigned int width, unsigned int height) {
         const auto* const pixels = reinterpret_cast<const std::uint32_t*>(image->data);
         brightest = *std::max_element(pixels, pixels + width * height);
     }
-    std::fprintf(log, "%06x %.1f\n", brightest, processMilliseconds() - loaded);
+    std::fprintf(log, "%06x %.1f %.1f\n", brightest, milliseconds(CLOCK_MONOTONIC) - begin,
+                 milliseconds(CLOCK_PROCESS_CPUTIME_ID));
     std::fflush(log);
 }
 
