@@ -6,7 +6,7 @@
 # and bench/peers.sh.
 # shellcheck disable=SC2034
 build_packages=(g++ cmake ninja-build libx11-dev)
-tool_packages=(libcli11-dev libsdl2-dev zlib1g-dev)
+tool_packages=(libcli11-dev libdeflate-dev libsdl2-dev pkg-config zlib1g-dev)
 player_packages=("${build_packages[@]}" "${tool_packages[@]}")
 package_packages=("${build_packages[@]}" "${tool_packages[@]}" dpkg-dev file)
 test_packages=("${package_packages[@]}" "${player_packages[@]}" clang libclang-rt-14-dev llvm libgtest-dev libgmock-dev

@@ -8,6 +8,8 @@
 #include "vector/seg2d.h"
 #include "vector/vec2d.h"
 
+#include <span>
+
 namespace velm {
 
 const IDENTITY OBJ2D_identity = makeIdentity("OBJ2D", "20150506", "CODE", "ZENDORAK", "C");
@@ -109,9 +111,9 @@ void OBJ2D_setColour(OBJ2D* obj, std::uint32_t colour) {
         return;
     }
     obj->colour = colour;
-    for (std::int32_t i = 0; i < obj->points->count; ++i) {
-        if (VEC2D* point = pointAt(*obj, i); point != nullptr) {
-            point->colour = colour;
+    for (void* const item : std::span(obj->points->items, static_cast<std::size_t>(obj->points->count))) {
+        if (item != nullptr) {
+            static_cast<VEC2D*>(item)->colour = colour;
         }
     }
 }

@@ -7,6 +7,7 @@
 //     file.write(lowByteFirst<std::uint32_t>(pixels));
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -17,6 +18,10 @@ namespace velm {
 
 template <typename Word>
 std::vector<std::byte> lowByteFirst(std::span<const Word> words) {
+    if constexpr (std::endian::native == std::endian::little) {
+        const auto bytes = std::as_bytes(words);
+        return {bytes.begin(), bytes.end()};
+    }
     constexpr int bitsPerByte = 8;
     std::vector<std::byte> bytes(words.size() * sizeof(Word));
     std::byte* next = bytes.data();

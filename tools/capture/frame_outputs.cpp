@@ -7,15 +7,14 @@
 #include "image/img.h"
 
 #include <filesystem>
-#include <zlib.h>
+#include <libdeflate.h>
 
 namespace velm {
 
 void Checksums::frame(const Frame& frame) {
-    const auto* const start = reinterpret_cast<const Bytef*>(frame.bytes.data());
-    const uLong sum = crc32(0, start, static_cast<uInt>(frame.bytes.size()));
+    const std::uint32_t sum = libdeflate_crc32(0, frame.bytes.data(), frame.bytes.size());
     char line[32];
-    const int length = std::snprintf(line, sizeof line, "%u %08lx\n", frame.number, sum);
+    const int length = std::snprintf(line, sizeof line, "%u %08x\n", frame.number, sum);
     file.write(std::as_bytes(std::span(line, static_cast<std::size_t>(length))));
 }
 
