@@ -54,7 +54,7 @@ export PULSE_SERVER=unix:$place/native
 device=$(dpkg -L libpulsedsp | grep -m 1 '/libpulsedsp\.so$')
 
 uptime
-echo '| | of a processor | wake-ups a second | resident | bytes a frame |'
+echo '| program | of a processor | wake-ups a second | resident | bytes a frame |'
 echo '|---|---:|---:|---:|---:|'
 measure 'velm4030, silent' "$build/velm4030"
 measure 'velm4030' env LD_PRELOAD="$device" "$build/velm4030"
