@@ -97,7 +97,7 @@ bool ARCHPATH_advance(ARCHPATH* path) {
 }
 
 void ARCHPATH_draw(const ARCHPATH* path, IMG* target) {
-    if (path == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (path == nullptr || !hasPixels(target)) {
         ARCHPATH_error();
         return;
     }

@@ -27,7 +27,7 @@ constexpr std::int32_t leastReach = 16;
 constexpr std::int32_t reachRange = 32;
 
 bool isPicture(const IMG* img) {
-    return img != nullptr && img->pixels != nullptr && img->width > 0 && img->height > 0;
+    return hasPixels(img) && img->width > 0 && img->height > 0;
 }
 
 /// The lowest bit of one number decides which way, the others how fast.
@@ -56,7 +56,7 @@ std::int32_t firstColumn(const BACKMOVE& back, std::int32_t y, std::int32_t row)
 /// row is a few runs, from the first column to the picture's edge and then from its other edge on.
 template <typename Touch>
 void paint(const BACKMOVE* back, IMG* target, Touch touch) {
-    if (back == nullptr || !isPicture(back->picture) || target == nullptr || target->pixels == nullptr ||
+    if (back == nullptr || !isPicture(back->picture) || !hasPixels(target) ||
         target->pixels == back->picture->pixels) {
         BACKMOVE_error();
         return;

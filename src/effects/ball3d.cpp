@@ -121,7 +121,7 @@ BALL3D* BALL3D_new() {
 }
 
 void BALL3D_draw(const BALL3D* ball) {
-    if (ball == nullptr || ball->target == nullptr || ball->target->pixels == nullptr) {
+    if (ball == nullptr || !hasPixels(ball->target)) {
         BALL3D_error();
         return;
     }

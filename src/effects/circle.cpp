@@ -55,7 +55,7 @@ void bounce(std::int32_t& place, std::int32_t& speed, std::int32_t size) {
 /// Calls ring(body, radius in pixels) for every nested ring of every circle, the widest first, or reports.
 template <typename Ring>
 void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ring ring) {
-    if (circle == nullptr || circle->bodies == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (circle == nullptr || circle->bodies == nullptr || !hasPixels(target)) {
         CIRCLE_error();
         return;
     }

@@ -52,7 +52,7 @@ void paintSpan(IMG& img, std::int64_t y, std::int64_t x1, std::int64_t x2, Touch
 
 /// True when there is something to draw; a missing image is reported.
 bool canPaint(const IMG* img, std::int32_t x, std::int32_t y, std::int32_t radius) {
-    if (img == nullptr || img->pixels == nullptr) {
+    if (!hasPixels(img)) {
         CIRCLE_error();
         return false;
     }

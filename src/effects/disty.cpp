@@ -14,8 +14,7 @@ std::uint8_t DISTY_verbose = 0;
 namespace {
 
 bool canDraw(const DISTY* dist, const IMG* target) {
-    return dist != nullptr && dist->source != nullptr && dist->source->pixels != nullptr &&
-           target != nullptr && target->pixels != nullptr;
+    return dist != nullptr && hasPixels(dist->source) && hasPixels(target);
 }
 
 } // namespace

@@ -29,7 +29,7 @@ constexpr std::int32_t mostHue = 0x7FFF;
 constexpr std::int32_t mostAge = 0xFFFF;
 
 bool fits(const FILL& fill, const IMG* img) {
-    return img != nullptr && img->pixels != nullptr && img->width <= fill.width && img->height <= fill.height;
+    return hasPixels(img) && img->width <= fill.width && img->height <= fill.height;
 }
 
 bool contains(const IMG& img, std::int32_t x, std::int32_t y) {
@@ -266,7 +266,7 @@ bool FILL_isDone(const FILL* fill) {
 }
 
 void FILL_draw(const FILL* fill, IMG* target) {
-    if (fill == nullptr || fill->map == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (fill == nullptr || fill->map == nullptr || !hasPixels(target)) {
         FILL_error();
         return;
     }

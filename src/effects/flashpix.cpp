@@ -129,7 +129,7 @@ void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count) {
 }
 
 void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
-    if (flash == nullptr || (shape != nullptr && shape->pixels == nullptr)) {
+    if (flash == nullptr || (shape != nullptr && !hasPixels(shape))) {
         FLASHPIX_error();
         return;
     }
@@ -185,7 +185,7 @@ void FLASHPIX_advance(FLASHPIX* flash) {
 }
 
 void FLASHPIX_draw(const FLASHPIX* flash, IMG* target) {
-    if (flash == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (flash == nullptr || !hasPixels(target)) {
         FLASHPIX_error();
         return;
     }

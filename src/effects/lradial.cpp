@@ -108,7 +108,7 @@ void LRADIAL_advance(LRADIAL* rays) {
 }
 
 void LRADIAL_draw(const LRADIAL* rays, IMG* target) {
-    if (rays == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (rays == nullptr || !hasPixels(target)) {
         LRADIAL_error();
         return;
     }

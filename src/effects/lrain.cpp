@@ -145,7 +145,7 @@ void LRAIN_advance(LRAIN* rain) {
 }
 
 void LRAIN_draw(const LRAIN* rain, IMG* target) {
-    if (rain == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (rain == nullptr || !hasPixels(target)) {
         LRAIN_error();
         return;
     }

@@ -198,7 +198,7 @@ void LSCRLXYZ_advance(LSCRLXYZ* scroll) {
 }
 
 void LSCRLXYZ_draw(const LSCRLXYZ* scroll, IMG* target) {
-    if (scroll == nullptr || scroll->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (scroll == nullptr || scroll->glyphs == nullptr || !hasPixels(target)) {
         LSCRLXYZ_error();
         return;
     }

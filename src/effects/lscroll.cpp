@@ -208,7 +208,7 @@ void LSCROLL_advance(LSCROLL* scroll) {
 }
 
 void LSCROLL_draw(const LSCROLL* scroll, IMG* target) {
-    if (scroll == nullptr || scroll->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (scroll == nullptr || scroll->glyphs == nullptr || !hasPixels(target)) {
         LSCROLL_error();
         return;
     }

@@ -89,7 +89,7 @@ std::array<Point, mostCorners> cornersOf(const LSTAR& sky, std::int32_t index, s
 }
 
 bool canDraw(const LSTAR* sky, const IMG* target) {
-    return sky != nullptr && sky->stars != nullptr && target != nullptr && target->pixels != nullptr;
+    return sky != nullptr && sky->stars != nullptr && hasPixels(target);
 }
 
 } // namespace

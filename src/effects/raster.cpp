@@ -34,7 +34,7 @@ bool hasColours(const RASTER* raster) {
 /// Calls paint(line, colour) for `lines` lines of the target, or reports.
 template <typename Paint>
 void paintLines(const RASTER* raster, const IMG* target, std::int32_t IMG::*lines, Paint paint) {
-    if (!hasColours(raster) || target == nullptr || target->pixels == nullptr) {
+    if (!hasColours(raster) || !hasPixels(target)) {
         RASTER_error();
         return;
     }

@@ -191,7 +191,7 @@ void RECT_advance(RECT* rect) {
 }
 
 void RECT_draw(const RECT* rect, IMG* target) {
-    if (rect == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (rect == nullptr || !hasPixels(target)) {
         RECT_error();
         return;
     }

@@ -121,7 +121,7 @@ void frameCorners(IMG* target, const Corners& corners, std::uint32_t colour, REC
 }
 
 bool canDraw(const IMG* target) {
-    if (target == nullptr || target->pixels == nullptr) {
+    if (!hasPixels(target)) {
         RECT_error();
         return false;
     }

@@ -103,7 +103,7 @@ private:
 };
 
 bool canDraw(const SINEDOTS* dots, const IMG* target) {
-    return dots != nullptr && dots->dots != nullptr && target != nullptr && target->pixels != nullptr;
+    return dots != nullptr && dots->dots != nullptr && hasPixels(target);
 }
 
 /// `times` saturating additions of a colour are one of this colour.

@@ -105,7 +105,7 @@ void SINELINE_advance(SINELINE* line) {
 }
 
 void SINELINE_draw(const SINELINE* line, IMG* target) {
-    if (line == nullptr || line->corners < leastCorners || target == nullptr || target->pixels == nullptr) {
+    if (line == nullptr || line->corners < leastCorners || !hasPixels(target)) {
         SINELINE_error();
         return;
     }

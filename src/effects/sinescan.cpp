@@ -161,8 +161,8 @@ void SINESCAN_advance(SINESCAN* scan) {
 }
 
 void SINESCAN_draw(const SINESCAN* scan, IMG* target) {
-    if (scan == nullptr || target == nullptr || target->pixels == nullptr || scan->source == nullptr ||
-        scan->source->pixels == nullptr || scan->source->width < 1 || scan->source->height < 1) {
+    if (scan == nullptr || !hasPixels(target) || !hasPixels(scan->source) || scan->source->width < 1 ||
+        scan->source->height < 1) {
         SINESCAN_error();
         return;
     }

@@ -218,7 +218,7 @@ bool WORDZOOM_isDone(const WORDZOOM* zoom) {
 }
 
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {
-    if (zoom == nullptr || zoom->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (zoom == nullptr || zoom->glyphs == nullptr || !hasPixels(target)) {
         WORDZOOM_error();
         return;
     }

@@ -25,6 +25,11 @@ struct IMG {
     std::uint32_t* pixels = nullptr; ///< owned, width * height words; all 0 after creation and resizing
 };
 
+/// True when there is an image to draw into or to copy from.
+[[nodiscard]] inline bool hasPixels(const IMG* img) {
+    return img != nullptr && img->pixels != nullptr;
+}
+
 extern const IDENTITY IMG_identity;
 extern std::uint8_t IMG_verbose;
 

@@ -39,8 +39,7 @@ bool XDPY_drop(XDPY** handle) {
 }
 
 bool XDPY_accepts(const XDPY* display, const IMG* img) {
-    return display != nullptr && img != nullptr && img->pixels != nullptr &&
-           static_cast<std::uint32_t>(img->width) == display->width &&
+    return display != nullptr && hasPixels(img) && static_cast<std::uint32_t>(img->width) == display->width &&
            static_cast<std::uint32_t>(img->height) == display->height && XDPY_isOpen();
 }
 

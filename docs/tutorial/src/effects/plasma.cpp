@@ -77,7 +77,7 @@ void PLASMA_advance(PLASMA* plasma) {
 }
 
 void PLASMA_draw(const PLASMA* plasma, IMG* target) {
-    if (plasma == nullptr || target == nullptr || target->pixels == nullptr) {
+    if (plasma == nullptr || !hasPixels(target)) {
         PLASMA_error();
         return;
     }
