@@ -54,18 +54,15 @@ ARCHPATH_POSE poseOf(const ARCHPATH& path) {
 } // namespace
 
 ARCHPATH* ARCHPATH_new() {
-    ARCHPATH* path = newRecord<ARCHPATH>(ARCHPATH_error);
-    if (path == nullptr) {
-        return nullptr;
-    }
-    path->random = RANDOM_new();
-    if (path->random == nullptr) {
-        ARCHPATH_error();
-        ARCHPATH_delete(&path);
-        return nullptr;
-    }
-    ARCHPATH_randomize(path);
-    return path;
+    return newRecord<ARCHPATH>(ARCHPATH_error, ARCHPATH_delete, [](ARCHPATH& path) {
+        path.random = RANDOM_new();
+        if (path.random == nullptr) {
+            ARCHPATH_error();
+            return false;
+        }
+        ARCHPATH_randomize(&path);
+        return true;
+    });
 }
 
 void ARCHPATH_randomize(ARCHPATH* path) {

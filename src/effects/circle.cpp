@@ -73,14 +73,10 @@ void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ri
 } // namespace
 
 CIRCLE* CIRCLE_new() {
-    CIRCLE* circle = newRecord<CIRCLE>(CIRCLE_error);
-    if (circle != nullptr) {
-        CIRCLE_setCount(circle, circle->count);
-        if (circle->bodies == nullptr) {
-            CIRCLE_delete(&circle);
-        }
-    }
-    return circle;
+    return newRecord<CIRCLE>(CIRCLE_error, CIRCLE_delete, [](CIRCLE& circle) {
+        CIRCLE_setCount(&circle, circle.count);
+        return circle.bodies != nullptr;
+    });
 }
 
 void CIRCLE_setCount(CIRCLE* circle, std::int32_t count) {

@@ -143,14 +143,10 @@ std::uint32_t colourAt(const FILL& fill, std::int32_t hue, std::int32_t age) {
 } // namespace
 
 FILL* FILL_new() {
-    FILL* fill = newRecord<FILL>(FILL_error);
-    if (fill != nullptr) {
-        FILL_setSize(fill, fill->width, fill->height);
-        if (fill->spans == nullptr) {
-            FILL_delete(&fill);
-        }
-    }
-    return fill;
+    return newRecord<FILL>(FILL_error, FILL_delete, [](FILL& fill) {
+        FILL_setSize(&fill, fill.width, fill.height);
+        return fill.spans != nullptr;
+    });
 }
 
 void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height) {

@@ -107,19 +107,15 @@ std::int32_t litPixels(const IMG& img) {
 } // namespace
 
 FLASHPIX* FLASHPIX_new() {
-    FLASHPIX* flash = newRecord<FLASHPIX>(FLASHPIX_error);
-    if (flash == nullptr) {
-        return nullptr;
-    }
-    flash->random = RANDOM_new();
-    flash->sparks = flash->random == nullptr ? nullptr : allocateArray<FLASHPIX_SPARK>(flash->count);
-    if (flash->sparks == nullptr) {
-        FLASHPIX_error();
-        FLASHPIX_delete(&flash);
-        return nullptr;
-    }
-    FLASHPIX_randomize(flash);
-    return flash;
+    return newRecord<FLASHPIX>(FLASHPIX_error, FLASHPIX_delete, [](FLASHPIX& flash) {
+        flash.random = RANDOM_new();
+        if (flash.random == nullptr) {
+            FLASHPIX_error();
+            return false;
+        }
+        FLASHPIX_setCount(&flash, flash.count);
+        return flash.sparks != nullptr;
+    });
 }
 
 void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count) {

@@ -89,21 +89,18 @@ void deleteGlyphs(LFONT& pen) {
 } // namespace
 
 LFONT* LFONT_new() {
-    LFONT* pen = newRecord<LFONT>(LFONT_error);
-    if (pen == nullptr) {
-        return nullptr;
-    }
-    pen->position = VEC2D_new();
-    pen->spacing = VEC2D_new();
-    pen->scale = VEC2D_new();
-    if (!isPen(pen)) {
-        LFONT_error();
-        LFONT_delete(&pen);
-        return nullptr;
-    }
-    pen->spacing->x = pen->spacing->y = 16;
-    pen->scale->x = pen->scale->y = 1;
-    return pen;
+    return newRecord<LFONT>(LFONT_error, LFONT_delete, [](LFONT& pen) {
+        pen.position = VEC2D_new();
+        pen.spacing = VEC2D_new();
+        pen.scale = VEC2D_new();
+        if (!isPen(&pen)) {
+            LFONT_error();
+            return false;
+        }
+        pen.spacing->x = pen.spacing->y = 16;
+        pen.scale->x = pen.scale->y = 1;
+        return true;
+    });
 }
 
 void LFONT_place(LFONT* pen, std::int32_t x, std::int32_t y, std::int32_t scale) {

@@ -32,17 +32,14 @@ std::uint32_t colourOf(const LRADIAL& rays, std::int32_t index) {
 } // namespace
 
 LRADIAL* LRADIAL_new() {
-    LRADIAL* rays = newRecord<LRADIAL>(LRADIAL_error);
-    if (rays == nullptr) {
-        return nullptr;
-    }
-    LRADIAL_setCount(rays, rays->count);
-    if (rays->lengths == nullptr) {
-        LRADIAL_delete(&rays);
-        return nullptr;
-    }
-    LRADIAL_randomize(rays);
-    return rays;
+    return newRecord<LRADIAL>(LRADIAL_error, LRADIAL_delete, [](LRADIAL& rays) {
+        LRADIAL_setCount(&rays, rays.count);
+        if (rays.lengths == nullptr) {
+            return false;
+        }
+        LRADIAL_randomize(&rays);
+        return true;
+    });
 }
 
 void LRADIAL_setCount(LRADIAL* rays, std::int32_t count) {

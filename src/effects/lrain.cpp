@@ -87,19 +87,15 @@ void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
 } // namespace
 
 LRAIN* LRAIN_new() {
-    LRAIN* rain = newRecord<LRAIN>(LRAIN_error);
-    if (rain == nullptr) {
-        return nullptr;
-    }
-    rain->random = RANDOM_new();
-    rain->drops = rain->random == nullptr ? nullptr : allocateArray<LRAIN_DROP>(rain->count);
-    if (rain->drops == nullptr) {
-        LRAIN_error();
-        LRAIN_delete(&rain);
-        return nullptr;
-    }
-    LRAIN_randomize(rain);
-    return rain;
+    return newRecord<LRAIN>(LRAIN_error, LRAIN_delete, [](LRAIN& rain) {
+        rain.random = RANDOM_new();
+        if (rain.random == nullptr) {
+            LRAIN_error();
+            return false;
+        }
+        LRAIN_setCount(&rain, rain.count);
+        return rain.drops != nullptr;
+    });
 }
 
 void LRAIN_setCount(LRAIN* rain, std::int32_t count) {

@@ -60,7 +60,7 @@ std::int32_t walk(std::int32_t corners, Corner corner, Visit visit) {
         const Place to = corner(i);
         const std::int64_t dx = to.x - from.x;
         const std::int64_t dy = to.y - from.y;
-        const std::int64_t length = rootOf(dx * dx + dy * dy);
+        const std::int32_t length = rootOf(dx * dx + dy * dy);
         for (; along < length && count < mostStations; along += fixedOne) {
             visit(LSCROLL_STATION{static_cast<std::int32_t>(from.x + dx * along / length),
                                   static_cast<std::int32_t>(from.y + dy * along / length), angleOf(dx, dy)});
@@ -136,17 +136,14 @@ std::int32_t lightAt(const LSCROLL& scroll, std::int64_t along) {
 } // namespace
 
 LSCROLL* LSCROLL_new() {
-    LSCROLL* scroll = newRecord<LSCROLL>(LSCROLL_error);
-    if (scroll == nullptr) {
-        return nullptr;
-    }
-    LSCROLL_setLine(scroll, 0, scroll->length / 2, scroll->length, scroll->length / 2);
-    if (scroll->stations == nullptr) {
-        LSCROLL_delete(&scroll);
-        return nullptr;
-    }
-    LSCROLL_randomize(scroll);
-    return scroll;
+    return newRecord<LSCROLL>(LSCROLL_error, LSCROLL_delete, [](LSCROLL& scroll) {
+        LSCROLL_setLine(&scroll, 0, scroll.length / 2, scroll.length, scroll.length / 2);
+        if (scroll.stations == nullptr) {
+            return false;
+        }
+        LSCROLL_randomize(&scroll);
+        return true;
+    });
 }
 
 void LSCROLL_setText(LSCROLL* scroll, const char* text) {

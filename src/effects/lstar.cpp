@@ -95,14 +95,10 @@ bool canDraw(const LSTAR* sky, const IMG* target) {
 } // namespace
 
 LSTAR* LSTAR_new() {
-    LSTAR* sky = newRecord<LSTAR>(LSTAR_error);
-    if (sky != nullptr) {
-        LSTAR_setCount(sky, sky->count);
-        if (sky->stars == nullptr) {
-            LSTAR_delete(&sky);
-        }
-    }
-    return sky;
+    return newRecord<LSTAR>(LSTAR_error, LSTAR_delete, [](LSTAR& sky) {
+        LSTAR_setCount(&sky, sky.count);
+        return sky.stars != nullptr;
+    });
 }
 
 void LSTAR_setCount(LSTAR* sky, std::int32_t count) {

@@ -77,18 +77,14 @@ void touch(const char* path, const char* mode) {
 } // namespace
 
 RASTER* RASTER_new() {
-    RASTER* raster = newRecord<RASTER>(RASTER_error);
-    if (raster == nullptr) {
-        return nullptr;
-    }
-    raster->colours = allocateColours(raster->count);
-    if (raster->colours == nullptr) {
-        RASTER_error();
-        RASTER_delete(&raster);
-        return nullptr;
-    }
-    raster->speed = chance() % speedRange + fixedOne;
-    return raster;
+    return newRecord<RASTER>(RASTER_error, RASTER_delete, [](RASTER& raster) {
+        RASTER_setCount(&raster, raster.count);
+        if (raster.colours == nullptr) {
+            return false;
+        }
+        raster.speed = chance() % speedRange + fixedOne;
+        return true;
+    });
 }
 
 RASTER* RASTER_load(const char* path) {

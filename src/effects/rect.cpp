@@ -150,14 +150,10 @@ void drawNest(const RECT& rect, IMG* target) {
 } // namespace
 
 RECT* RECT_new() {
-    RECT* rect = newRecord<RECT>(RECT_error);
-    if (rect != nullptr) {
-        RECT_setCount(rect, rect->count);
-        if (rect->panes == nullptr) {
-            RECT_delete(&rect);
-        }
-    }
-    return rect;
+    return newRecord<RECT>(RECT_error, RECT_delete, [](RECT& rect) {
+        RECT_setCount(&rect, rect.count);
+        return rect.panes != nullptr;
+    });
 }
 
 void RECT_setCount(RECT* rect, std::int32_t count) {

@@ -118,17 +118,14 @@ std::uint32_t colourTimes(std::uint32_t colour, std::int64_t times) {
 } // namespace
 
 SINEDOTS* SINEDOTS_new() {
-    SINEDOTS* dots = newRecord<SINEDOTS>(SINEDOTS_error);
-    if (dots == nullptr) {
-        return nullptr;
-    }
-    SINEDOTS_setCount(dots, dots->count);
-    if (dots->dots == nullptr) {
-        SINEDOTS_delete(&dots);
-        return nullptr;
-    }
-    SINEDOTS_randomize(dots);
-    return dots;
+    return newRecord<SINEDOTS>(SINEDOTS_error, SINEDOTS_delete, [](SINEDOTS& dots) {
+        SINEDOTS_setCount(&dots, dots.count);
+        if (dots.dots == nullptr) {
+            return false;
+        }
+        SINEDOTS_randomize(&dots);
+        return true;
+    });
 }
 
 void SINEDOTS_setCount(SINEDOTS* dots, std::int32_t count) {

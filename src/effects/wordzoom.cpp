@@ -147,18 +147,15 @@ void drawFlight(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, IMG* target
 } // namespace
 
 WORDZOOM* WORDZOOM_new() {
-    WORDZOOM* zoom = newRecord<WORDZOOM>(WORDZOOM_error);
-    if (zoom == nullptr) {
-        return nullptr;
-    }
-    zoom->random = RANDOM_new();
-    if (zoom->random == nullptr) {
-        WORDZOOM_error();
-        WORDZOOM_delete(&zoom);
-        return nullptr;
-    }
-    WORDZOOM_randomize(zoom);
-    return zoom;
+    return newRecord<WORDZOOM>(WORDZOOM_error, WORDZOOM_delete, [](WORDZOOM& zoom) {
+        zoom.random = RANDOM_new();
+        if (zoom.random == nullptr) {
+            WORDZOOM_error();
+            return false;
+        }
+        WORDZOOM_randomize(&zoom);
+        return true;
+    });
 }
 
 void WORDZOOM_setText(WORDZOOM* zoom, const char* text) {

@@ -52,23 +52,20 @@ VEC2D posed(const OBJ2D& obj, const VEC2D& end) {
 } // namespace
 
 OBJ2D* OBJ2D_new() {
-    OBJ2D* obj = newRecord<OBJ2D>(OBJ2D_error);
-    if (obj == nullptr) {
-        return nullptr;
-    }
-    obj->position = VEC2D_new();
-    obj->size = VEC2D_new();
-    obj->scale = VEC2D_new();
-    obj->points = LIST_new();
-    obj->segments = LIST_new();
-    if (!isWhole(obj)) {
-        OBJ2D_error();
-        OBJ2D_delete(&obj);
-        return nullptr;
-    }
-    obj->size->x = obj->size->y = cellSize;
-    obj->scale->x = obj->scale->y = 1;
-    return obj;
+    return newRecord<OBJ2D>(OBJ2D_error, OBJ2D_delete, [](OBJ2D& obj) {
+        obj.position = VEC2D_new();
+        obj.size = VEC2D_new();
+        obj.scale = VEC2D_new();
+        obj.points = LIST_new();
+        obj.segments = LIST_new();
+        if (!isWhole(&obj)) {
+            OBJ2D_error();
+            return false;
+        }
+        obj.size->x = obj.size->y = cellSize;
+        obj.scale->x = obj.scale->y = 1;
+        return true;
+    });
 }
 
 void OBJ2D_addSegment(OBJ2D* obj, SEG2D* segment) {

@@ -21,20 +21,17 @@ bool isWhole(const SEG2D* segment) {
 } // namespace
 
 SEG2D* SEG2D_new() {
-    SEG2D* segment = newRecord<SEG2D>(SEG2D_error);
-    if (segment == nullptr) {
-        return nullptr;
-    }
-    segment->a = VEC2D_new();
-    segment->b = VEC2D_new();
-    if (!isWhole(segment)) {
-        SEG2D_error();
-        SEG2D_delete(&segment);
-        return nullptr;
-    }
-    segment->b->x = 1;
-    segment->b->y = 1;
-    return segment;
+    return newRecord<SEG2D>(SEG2D_error, SEG2D_delete, [](SEG2D& segment) {
+        segment.a = VEC2D_new();
+        segment.b = VEC2D_new();
+        if (!isWhole(&segment)) {
+            SEG2D_error();
+            return false;
+        }
+        segment.b->x = 1;
+        segment.b->y = 1;
+        return true;
+    });
 }
 
 void SEG2D_translate(SEG2D* segment, const VEC2D* offset) {
