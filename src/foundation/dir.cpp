@@ -17,23 +17,6 @@ std::uint8_t DIR_verbose = 0;
 
 namespace {
 
-/// Appends a copy of a name, because the stream reuses its own; false when memory runs out.
-bool appendName(LIST* names, const char* name) {
-    const std::size_t size = std::strlen(name) + 1;
-    char* const copy = allocateArray<char>(static_cast<std::int64_t>(size));
-    if (copy == nullptr) {
-        return false;
-    }
-    std::memcpy(copy, name, size);
-    const std::int32_t before = names->count;
-    LIST_append(names, copy);
-    if (names->count == before) {
-        delete[] copy;
-        return false;
-    }
-    return true;
-}
-
 /// Drops the names after the first `count`.
 void dropNames(LIST* names, std::int32_t count) {
     while (names->count > count) {
@@ -44,15 +27,32 @@ void dropNames(LIST* names, std::int32_t count) {
 } // namespace
 
 DIR* DIR_new() {
-    DIR* dir = newRecord<DIR>(DIR_error);
-    if (dir != nullptr) {
-        dir->names = LIST_new();
-        if (dir->names == nullptr) {
+    return newRecord<DIR>(DIR_error, DIR_delete, [](DIR& dir) {
+        dir.names = LIST_new();
+        if (dir.names == nullptr) {
             DIR_error();
-            DIR_delete(&dir);
+            return false;
         }
+        return true;
+    });
+}
+
+bool DIR_append(DIR* dir, const char* name) {
+    const std::size_t size = std::strlen(name) + 1;
+    char* const copy = dir == nullptr ? nullptr : allocateArray<char>(static_cast<std::int64_t>(size));
+    if (copy == nullptr) {
+        DIR_error();
+        return false;
     }
-    return dir;
+    std::memcpy(copy, name, size);
+    const std::int32_t before = dir->names->count;
+    LIST_append(dir->names, copy);
+    if (dir->names->count == before) {
+        delete[] copy;
+        DIR_error();
+        return false;
+    }
+    return true;
 }
 
 std::int32_t DIR_read(DIR* dir, const char* path) {
@@ -64,10 +64,9 @@ std::int32_t DIR_read(DIR* dir, const char* path) {
     }
     const std::int32_t before = dir->names->count;
     while (const dirent* const entry = readdir(stream)) {
-        if (!appendName(dir->names, entry->d_name)) {
+        if (!DIR_append(dir, entry->d_name)) {
             dropNames(dir->names, before);
             closedir(stream);
-            DIR_error();
             return 0;
         }
     }
