@@ -27,6 +27,16 @@ XDPY* XDPY_make(std::uint32_t depth) {
     return XDPY_current;
 }
 
+bool XDPY_setSize(XDPY* display, std::int32_t width, std::int32_t height) {
+    if (display == nullptr || width < 0 || height < 0) {
+        XDPY_error();
+        return false;
+    }
+    display->width = static_cast<std::uint32_t>(width);
+    display->height = static_cast<std::uint32_t>(height);
+    return true;
+}
+
 bool XDPY_drop(XDPY** handle) {
     if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
         XDPY_error();
