@@ -111,9 +111,10 @@ void drawField(Composition& composition, const Field& field, std::int32_t frame)
     const std::int32_t seen = SINE_cosineScaled(view.right - view.left + 1, swing);
     const std::uint32_t colour =
         curveMix(field.colour, 0xFFFFFF, beatWeight(20, frame < Lines::wholeBegins ? 1 : 4) / 7);
+    const RECT_BOX pane{field.hingesRight ? view.right : view.left, view.top,
+                        field.hingesRight ? -seen : seen, view.bottom - view.top};
     for (std::int32_t coat = 0; coat < 2; ++coat) {
-        RECT_drawPane(demo.screen, field.hingesRight ? view.right : view.left, view.top,
-                      field.hingesRight ? -seen : seen, view.bottom - view.top, colour, RECT_MIX::average);
+        RECT_drawPane(demo.screen, pane, colour, RECT_MIX::average);
     }
 }
 
@@ -179,7 +180,7 @@ void drawOutlook(Composition& composition, std::int32_t frame) {
     const std::int32_t height = ((view.bottom - view.top) * weight) >> 8;
     const std::int32_t top = (view.top + view.bottom - height) / 2;
     const std::int32_t spare = std::max(panorama->width - width, 0) / 2;
-    RECT_drawPane(demo.screen, view.left, top, width, height, 0, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {view.left, top, width, height}, 0, RECT_MIX::set);
     IMG_blit(panorama, demo.screen, spare + SINE_scaled(spare, 2 * frame), skyline - height / 2, view.left,
              top, width, height);
 }
@@ -215,10 +216,10 @@ void drawLetters(Composition& composition, std::int32_t frame) {
     const std::int32_t width = field.right - field.left;
     const std::int32_t height = field.bottom - field.top;
     const std::int32_t shut = (height * (curveFull - weight)) >> 9; // on either side of the shutter
-    RECT_drawPane(demo.screen, field.left, field.top, width, height, darkGround, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {field.left, field.top, width, height}, darkGround, RECT_MIX::set);
     drawLettersIn(field);
-    RECT_drawPane(demo.screen, field.left, field.top, width, shut, demo.background, RECT_MIX::set);
-    RECT_drawPane(demo.screen, field.left, field.bottom, width, -shut, demo.background, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {field.left, field.top, width, shut}, demo.background, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {field.left, field.bottom, width, -shut}, demo.background, RECT_MIX::set);
 }
 
 /// A drawing that turns in the red field, another one in every bar, and a larger one while it has room. Its

@@ -251,8 +251,9 @@ void drawBow(Theatre&, std::int32_t frame) {
     constexpr std::int32_t height = 54;
     const std::int32_t begins = wave.opening.ends;
     const std::int32_t unrolled = curveBetween(0, height, curveEase(frame, begins, begins + 16));
-    RECT_drawPane(demo.screen, middle - width / 2, top, width, unrolled, 0x0C0410, RECT_MIX::set);
-    RECT_drawFrame(demo.screen, middle - width / 2, top, width, unrolled, 2, 0xC89838, RECT_MIX::set);
+    const RECT_BOX scroll{middle - width / 2, top, width, unrolled};
+    RECT_drawPane(demo.screen, scroll, 0x0C0410, RECT_MIX::set);
+    RECT_drawFrame(demo.screen, scroll, 2, 0xC89838, RECT_MIX::set);
     if (unrolled < height) {
         return;
     }

@@ -164,7 +164,8 @@ void drawFloor() {
         const std::uint32_t wood = curveMix(0x180C14, 0x50301C, curveRise(y, back, stageHeight));
         IMG_fillRect(demo.screen, 0, y, demo.screen->width, 1, wood);
         for (std::int32_t i = -10; i <= 10; ++i) {
-            RECT_drawPane(demo.screen, middle + i * board * depth / 92, y, 1, 1, 0x100810, RECT_MIX::average);
+            RECT_drawPane(demo.screen, {middle + i * board * depth / 92, y, 1, 1}, 0x100810,
+                          RECT_MIX::average);
         }
     }
 }
@@ -197,8 +198,9 @@ void drawHall(const House& house, std::int32_t frame, std::int32_t footlights) {
     IMG_blit(house.hall, demo.screen, 0, 0, 0, 0, house.hall->width, house.hall->height);
     for (std::int32_t inset = 0; inset < 6; ++inset) {
         const std::int32_t shine = 196 + SINE_scaled(60, 11 * frame - 90 * inset);
-        RECT_drawFrame(demo.screen, inset, inset, demo.screen->width - 2 * inset, stageHeight - 2 * inset, 1,
-                       curveDim(frameColours[static_cast<std::size_t>(inset)], shine), RECT_MIX::set);
+        const RECT_BOX box{inset, inset, demo.screen->width - 2 * inset, stageHeight - 2 * inset};
+        RECT_drawFrame(demo.screen, box, 1, curveDim(frameColours[static_cast<std::size_t>(inset)], shine),
+                       RECT_MIX::set);
     }
     // A wave of light runs along the footlights.
     constexpr std::int32_t lamps = 16;
@@ -207,10 +209,10 @@ void drawHall(const House& house, std::int32_t frame, std::int32_t footlights) {
             std::min(148 + SINE_scaled(108, 11 * frame - 128 * i) + footlights, curveFull);
         const std::uint32_t colour = curveDim(0xFFC860, light);
         for (std::int32_t halo = 1; halo <= 3; ++halo) {
-            RECT_drawPane(demo.screen, 8 + 16 * i - 3 * halo, stageHeight + 3 - 2 * halo, 6 * halo, 4 * halo,
-                          curveDim(colour, 60 / halo), RECT_MIX::add);
+            const RECT_BOX glow{8 + 16 * i - 3 * halo, stageHeight + 3 - 2 * halo, 6 * halo, 4 * halo};
+            RECT_drawPane(demo.screen, glow, curveDim(colour, 60 / halo), RECT_MIX::add);
         }
-        RECT_drawPane(demo.screen, 6 + 16 * i, stageHeight + 2, 4, 2, colour, RECT_MIX::set);
+        RECT_drawPane(demo.screen, {6 + 16 * i, stageHeight + 2, 4, 2}, colour, RECT_MIX::set);
     }
 }
 
