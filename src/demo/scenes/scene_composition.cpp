@@ -11,6 +11,7 @@
 #include "demo/scenes/caption.h"
 #include "demo/scenes/composition_lines.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/letters.h"
 #include "demo/scenes/polished_floor.h"
 #include "effects/rect.h"
 #include "foundation/sine.h"
@@ -19,7 +20,6 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
-#include <utility>
 
 namespace velm {
 
@@ -188,15 +188,9 @@ void drawOutlook(Composition& composition, std::int32_t frame) {
 /// Draws the bobbing letters in the middle of a dark field, in pale hues, of which blue can be read there,
 /// too.
 void drawLettersIn(const View& field) {
-    constexpr std::int32_t wordWidth = 64;
     constexpr std::int32_t belowLine = 19; // what is left below the line that they bounce on
     constexpr std::int32_t paleness = 96;  // of 256
-    const std::int32_t x = std::exchange(settings.lettersX, (field.left + field.right - wordWidth) / 2);
-    const std::int32_t y = std::exchange(settings.lettersY, field.bottom - belowLine);
-    const KeptPen kept(demo.textMedium);
-    VELM4030_logoLettersLayer();
-    settings.lettersX = x;
-    settings.lettersY = y;
+    drawLettersAt((field.left + field.right - lettersWidth) / 2, field.bottom - belowLine);
     for (std::int32_t row = field.top; row < field.bottom; ++row) {
         std::uint32_t* const pixels = demo.screen->pixels + row * demo.screen->width;
         std::transform(pixels + field.left, pixels + field.right, pixels + field.left,

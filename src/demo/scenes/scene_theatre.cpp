@@ -8,6 +8,7 @@
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/letters.h"
 #include "demo/scenes/theatre_house.h"
 #include "demo/scenes/theatre_props.h"
 #include "effects/rect.h"
@@ -257,14 +258,7 @@ void drawBow(Theatre&, std::int32_t frame) {
     if (unrolled < height) {
         return;
     }
-    const KeptPen kept(demo.textMedium);
-    const std::int32_t x = settings.lettersX;
-    const std::int32_t y = settings.lettersY;
-    settings.lettersX = middle - 32; // half of four letters
-    settings.lettersY = top + 36;
-    VELM4030_logoLettersLayer();
-    settings.lettersX = x;
-    settings.lettersY = y;
+    drawLettersAt(middle - lettersWidth / 2, top + 36);
 }
 
 /// In from the dark, and out into it.
