@@ -192,7 +192,7 @@ void drawWorld(Portholes& show, std::int32_t frame) {
         }
     }
     IMG_andMask(show.mask, show.view);
-    IMG_blit(show.view, demo.screen, 0, 0, 0, 0, show.view->width, show.view->height);
+    IMG_draw(show.view, demo.screen);
 }
 
 /// A neon tube around every hole: one bright ring between dim ones, which glow up with the beat.

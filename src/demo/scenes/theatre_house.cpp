@@ -4,6 +4,7 @@
 
 #include "demo/scenes/curves.h"
 #include "effects/rect.h"
+#include "foundation/root.h"
 #include "foundation/sine.h"
 
 #include <algorithm>
@@ -195,7 +196,7 @@ void drawBeam(std::int32_t fromX, std::int32_t toX, std::uint32_t colour) {
 void drawHall(const House& house, std::int32_t frame, std::int32_t footlights) {
     constexpr std::array<std::uint32_t, 6> frameColours = {0x402808, 0x906018, 0xE0B048,
                                                            0xFFE898, 0xB08028, 0x402808};
-    IMG_blit(house.hall, demo.screen, 0, 0, 0, 0, house.hall->width, house.hall->height);
+    IMG_draw(house.hall, demo.screen);
     for (std::int32_t inset = 0; inset < 6; ++inset) {
         const std::int32_t shine = 196 + SINE_scaled(60, 11 * frame - 90 * inset);
         const RECT_BOX box{inset, inset, demo.screen->width - 2 * inset, stageHeight - 2 * inset};
@@ -225,14 +226,9 @@ void drawAudience(std::int32_t frame, std::int32_t jump) {
         const std::int32_t crown = 238 + i * 7 % 5 - (i % 2 == 0 ? jump : jump / 2);
         for (std::int32_t y = crown; y < demo.screen->height; ++y) {
             const std::int32_t down = y - crown;
-            std::int32_t reach = 3; // the neck
-            while (down < 2 * head && reach * reach > down * (2 * head - down)) {
-                --reach;
-            }
-            while (down < 2 * head && (reach + 1) * (reach + 1) <= down * (2 * head - down)) {
-                ++reach;
-            }
-            reach = down > 2 * head - 2 ? std::min(4 + (down - 2 * head + 2) * 2, 10) : reach;
+            const bool isHead = down <= 2 * head - 2;
+            const std::int32_t reach =
+                isHead ? rootOf(down * (2 * head - down)) : std::min(4 + (down - 2 * head + 2) * 2, 10);
             IMG_fillRect(demo.screen, x - reach, y, 2 * reach + 1, 1, down < 2 ? 0x703044 : 0x0C0408);
         }
     }
