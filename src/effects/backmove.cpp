@@ -67,7 +67,7 @@ void paint(const BACKMOVE* back, IMG* target, Touch touch) {
     std::uint32_t* to = target->pixels;
     for (std::int32_t y = 0; y < target->height; ++y) {
         const auto row = static_cast<std::int32_t>(reduced(top + y, picture.height));
-        const std::uint32_t* const from = picture.pixels + std::int64_t{row} * picture.width;
+        const std::uint32_t* const from = rowOf(picture, row);
         std::int32_t column = firstColumn(*back, y, row);
         for (std::int32_t left = target->width; left > 0;) {
             const std::int32_t run = std::min(left, picture.width - column);

@@ -70,7 +70,7 @@ void drawRing(const BALL3D& ball, const Ring& ring) {
     if (y < 0 || y >= ball.target->height) {
         return;
     }
-    std::uint32_t* const row = ball.target->pixels + std::int64_t{y} * ball.target->width;
+    std::uint32_t* const row = rowOf(*ball.target, y);
     std::int32_t across[ringPoints + 1];
     for (std::int32_t v = 0; v < ringPoints; ++v) {
         across[v] = scaled(SINE_entry(v + SINE_quarter), ring.radius);

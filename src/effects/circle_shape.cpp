@@ -44,7 +44,7 @@ void paintSpan(IMG& img, std::int64_t y, std::int64_t x1, std::int64_t x2, Touch
     if (y < 0 || y >= img.height) {
         return;
     }
-    std::uint32_t* const row = img.pixels + y * img.width;
+    std::uint32_t* const row = rowOf(img, y);
     for (std::int64_t x = left; x <= right; ++x) {
         touch(row[x]);
     }

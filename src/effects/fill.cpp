@@ -103,12 +103,9 @@ struct ColourArea {
     std::uint32_t from, to;
     std::int32_t taken;
 
-    [[nodiscard]] bool isFree(std::int32_t x, std::int32_t row) const {
-        return img.pixels[x + std::int64_t{row} * img.width] == from;
-    }
+    [[nodiscard]] bool isFree(std::int32_t x, std::int32_t row) const { return rowOf(img, row)[x] == from; }
     void take(const FILL_SPAN& span) {
-        std::fill_n(img.pixels + span.left + std::int64_t{span.row} * img.width, span.right - span.left + 1,
-                    to);
+        std::fill_n(rowOf(img, span.row) + span.left, span.right - span.left + 1, to);
         taken += span.right - span.left + 1;
     }
 };
@@ -270,7 +267,7 @@ void FILL_draw(const FILL* fill, IMG* target) {
     std::uint32_t colour = 0;
     for (std::int32_t y = 0; y < std::min(fill->height, target->height); ++y) {
         const std::uint32_t* const words = fill->map + std::int64_t{y} * fill->width;
-        std::uint32_t* const row = target->pixels + std::int64_t{y} * target->width;
+        std::uint32_t* const row = rowOf(*target, y);
         for (std::int32_t x = 0; x < std::min(fill->width, target->width); ++x) {
             const std::uint32_t word = words[x];
             const auto age = static_cast<std::int32_t>(word & static_cast<std::uint32_t>(mostAge));

@@ -38,7 +38,7 @@ Box upright(const RECT_BOX& box) {
 void mixRow(IMG* target, std::int64_t y, std::int64_t from, std::int64_t to, std::uint32_t colour,
             RECT_MIX mix) {
     const std::int64_t width = target->width;
-    std::uint32_t* const row = target->pixels + y * width;
+    std::uint32_t* const row = rowOf(*target, y);
     std::uint32_t* const begin = row + std::clamp<std::int64_t>(from, 0, width);
     std::uint32_t* const end = row + std::clamp<std::int64_t>(to, 0, width);
     switch (mix) {

@@ -33,7 +33,7 @@ struct Line {
 
 template <typename Pixel, typename Image>
 Line<Pixel> lineOf(Image& img, bool isRow, std::int32_t index) {
-    return isRow ? Line<Pixel>{img.pixels + std::int64_t{index} * img.width, 1, img.width}
+    return isRow ? Line<Pixel>{rowOf(img, index), 1, img.width}
                  : Line<Pixel>{img.pixels + index, img.width, img.height};
 }
 

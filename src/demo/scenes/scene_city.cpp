@@ -227,8 +227,8 @@ void melt(City& city, std::int32_t frame) {
     const std::int32_t radius = (frame - melts) * (frame - melts) / 600;
     IMGFX_blurRadius(demo.screen, city.melted, radius);
     const std::int32_t light = curveFull - curveRise(frame, goesDark, frames + 4);
-    std::transform(city.melted->pixels, city.melted->pixels + city.melted->width * city.melted->height,
-                   demo.screen->pixels, [light](std::uint32_t pixel) { return curveDim(pixel, light); });
+    std::transform(city.melted->pixels, rowOf(*city.melted, city.melted->height), demo.screen->pixels,
+                   [light](std::uint32_t pixel) { return curveDim(pixel, light); });
 }
 
 /// The key q asks for ink on paper.

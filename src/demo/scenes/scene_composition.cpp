@@ -192,7 +192,7 @@ void drawLettersIn(const View& field) {
     constexpr std::int32_t paleness = 96;  // of 256
     drawLettersAt((field.left + field.right - lettersWidth) / 2, field.bottom - belowLine);
     for (std::int32_t row = field.top; row < field.bottom; ++row) {
-        std::uint32_t* const pixels = demo.screen->pixels + row * demo.screen->width;
+        std::uint32_t* const pixels = rowOf(*demo.screen, row);
         std::transform(pixels + field.left, pixels + field.right, pixels + field.left,
                        [](std::uint32_t pixel) {
                            return pixel == darkGround ? pixel : curveMix(pixel, 0xFFFFFF, paleness);

@@ -109,14 +109,14 @@ void addMirroredView(Garden& garden, const IMG* picture, std::int32_t weight) {
     const std::int32_t scale = view.width / picture->width;
     const std::uint32_t* from = picture->pixels;
     for (std::int32_t y = 0; y < picture->height * scale; y += scale) {
-        std::uint32_t* const row = view.pixels + y * view.width;
+        std::uint32_t* const row = rowOf(view, y);
         for (std::int32_t x = 0; x < view.width; x += scale) {
             const std::uint32_t colour = RGB888_add(row[x], curveDim(*from++, weight));
             std::fill_n(row + x, scale, colour);
         }
         for (std::int32_t copy = 0; copy < scale; ++copy) {
-            std::copy_n(row, view.width, row + copy * view.width);
-            std::copy_n(row, view.width, view.pixels + (view.height - 1 - y - copy) * view.width);
+            std::copy_n(row, view.width, rowOf(view, y + copy));
+            std::copy_n(row, view.width, rowOf(view, view.height - 1 - y - copy));
         }
     }
 }

@@ -65,9 +65,10 @@ void layApron(IMG& hall) {
 
 /// The S of curveEase over a curtain's move, as one of `openSteps`: a weight would move the cloth in jerks.
 std::int32_t easeFinely(std::int32_t time, std::int32_t first) {
-    const std::int64_t t =
-        std::int64_t{openSteps} * std::clamp(time - first, 0, curtainFrames * fine) / (curtainFrames * fine);
-    return static_cast<std::int32_t>(t * t * (3 * openSteps - 2 * t) / openSteps / openSteps);
+    constexpr std::int32_t length = curtainFrames * fine;
+    constexpr std::int64_t whole = openSteps;
+    const std::int64_t t = whole * std::clamp(time - first, 0, length) / length;
+    return static_cast<std::int32_t>(t * t * (3 * whole - 2 * t) / whole / whole);
 }
 
 /// How far the curtain is open, 0..openSteps, at a time in parts of a frame.
@@ -184,7 +185,7 @@ void drawBeam(std::int32_t fromX, std::int32_t toX, std::uint32_t colour) {
         const std::int32_t power = std::max(230 - y, 0) + pool;
         const std::int32_t first = std::max((centre - half) / pixel, 0);
         const std::int32_t last = std::min((centre + half) / pixel, demo.screen->width - 1);
-        std::uint32_t* const row = demo.screen->pixels + std::int64_t{y} * demo.screen->width;
+        std::uint32_t* const row = rowOf(*demo.screen, y);
         for (std::int32_t x = first; x <= last; ++x) {
             const std::int32_t off = (x * pixel + pixel / 2 - centre) * curveFull / half;
             const std::int32_t soft = std::max(curveFull - off * off / curveFull, 0);
@@ -226,9 +227,9 @@ void drawAudience(std::int32_t frame, std::int32_t jump) {
         const std::int32_t crown = 238 + i * 7 % 5 - (i % 2 == 0 ? jump : jump / 2);
         for (std::int32_t y = crown; y < demo.screen->height; ++y) {
             const std::int32_t down = y - crown;
+            const std::int32_t square = down * (2 * head - down);
             const bool isHead = down <= 2 * head - 2;
-            const std::int32_t reach =
-                isHead ? rootOf(down * (2 * head - down)) : std::min(4 + (down - 2 * head + 2) * 2, 10);
+            const std::int32_t reach = isHead ? rootOf(square) : std::min(4 + (down - 2 * head + 2) * 2, 10);
             IMG_fillRect(demo.screen, x - reach, y, 2 * reach + 1, 1, down < 2 ? 0x703044 : 0x0C0408);
         }
     }
