@@ -87,12 +87,7 @@ struct Composition {
     Picture barView{IMG_newSized(viewWidth, viewHeight)};     ///< the bars, straight
     Picture dotView{IMG_newSized(viewWidth * 2, viewHeight)}; ///< room for the dots' field
     Picture swayView{IMG_newSized(viewWidth, viewHeight)};    ///< the bars, bent
-    Owned<DISTX_delete> sway{DISTX_new(), [this](DISTX& made) {
-                                 made.source = barView;
-                                 made.amplitude = 24;
-                                 made.wave.speed = 14;
-                                 made.wave.offsetStep = 12;
-                             }}; ///< bends the bars by rows
+    Owned<DISTX_delete> sway = makeBend<DISTX_new, DISTX_delete>(barView, 24, 14, 12); ///< bends the bars
     PolishedFloor floor;
 };
 

@@ -58,18 +58,9 @@ struct Garden {
     Picture petals{newWindowPicture()}; ///< a blossom before it is mirrored
     Picture view{newWindowPicture()};   ///< the landscape of the season, as bright as it is to be
     Picture bent{newWindowPicture()};   ///< the same, bent by rows
-    Owned<DISTX_delete> rows{DISTX_new(), [this](DISTX& made) {
-                                 made.source = view;
-                                 made.amplitude = 20;
-                                 made.wave.speed = 7;
-                                 made.wave.offsetStep = 4; // a whole turn over the window
-                             }};
-    Owned<DISTY_delete> columns{DISTY_new(), [this](DISTY& made) {
-                                    made.source = bent;
-                                    made.amplitude = 22;
-                                    made.wave.speed = 5;
-                                    made.wave.offsetStep = 8;
-                                }};
+    // Whole turns over the window: one down, two across.
+    Owned<DISTX_delete> rows = makeBend<DISTX_new, DISTX_delete>(view, 20, 7, 4);
+    Owned<DISTY_delete> columns = makeBend<DISTY_new, DISTY_delete>(bent, 22, 5, 8);
 };
 
 /// How much of a hero is to be seen: its season long, and a little into the next one.
