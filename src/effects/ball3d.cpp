@@ -121,8 +121,7 @@ BALL3D* BALL3D_new() {
 }
 
 void BALL3D_draw(const BALL3D* ball) {
-    if (ball == nullptr || !hasPixels(ball->target)) {
-        BALL3D_error();
+    if (refused(ball == nullptr || !hasPixels(ball->target), BALL3D_error)) {
         return;
     }
     for (std::int32_t u = 0; u < rings; ++u) {

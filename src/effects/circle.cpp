@@ -55,8 +55,7 @@ void bounce(std::int32_t& place, std::int32_t& speed, std::int32_t size) {
 /// Calls ring(body, radius in pixels) for every nested ring of every circle, the widest first, or reports.
 template <typename Ring>
 void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ring ring) {
-    if (circle == nullptr || circle->bodies == nullptr || !hasPixels(target)) {
-        CIRCLE_error();
+    if (refused(circle == nullptr || circle->bodies == nullptr || !hasPixels(target), CIRCLE_error)) {
         return;
     }
     const std::int32_t spacing = std::max(circle->spacing, 1);
@@ -86,8 +85,7 @@ void CIRCLE_setCount(CIRCLE* circle, std::int32_t count) {
 }
 
 void CIRCLE_randomize(CIRCLE* circle) {
-    if (circle == nullptr || circle->bodies == nullptr) {
-        CIRCLE_error();
+    if (refused(circle == nullptr || circle->bodies == nullptr, CIRCLE_error)) {
         return;
     }
     for (std::int32_t i = 0; i < circle->count; ++i) {
@@ -96,8 +94,7 @@ void CIRCLE_randomize(CIRCLE* circle) {
 }
 
 void CIRCLE_advance(CIRCLE* circle) {
-    if (circle == nullptr || circle->bodies == nullptr) {
-        CIRCLE_error();
+    if (refused(circle == nullptr || circle->bodies == nullptr, CIRCLE_error)) {
         return;
     }
     const std::int32_t largest = lengthOf(circle->largest);

@@ -3,6 +3,7 @@
 //
 // Rings and discs by the midpoint algorithm, walked row by row, so that each row is clipped once.
 #include "effects/circle.h"
+#include "foundation/report.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 
@@ -52,8 +53,7 @@ void paintSpan(IMG& img, std::int64_t y, std::int64_t x1, std::int64_t x2, Touch
 
 /// True when there is something to draw; a missing image is reported.
 bool canPaint(const IMG* img, std::int64_t x, std::int64_t y, std::int32_t radius) {
-    if (!hasPixels(img)) {
-        CIRCLE_error();
+    if (refused(!hasPixels(img), CIRCLE_error)) {
         return false;
     }
     const auto reaches = [radius](std::int64_t centre, std::int64_t size) {

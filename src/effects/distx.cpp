@@ -3,6 +3,7 @@
 #include "effects/distx.h"
 
 #include "foundation/record.h"
+#include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/img.h"
 
@@ -24,8 +25,7 @@ DISTX* DISTX_new() {
 }
 
 void DISTX_draw(DISTX* dist, IMG* target) {
-    if (!canDraw(dist, target)) {
-        DISTX_error();
+    if (refused(!canDraw(dist, target), DISTX_error)) {
         return;
     }
     SINE_setOffset(&dist->wave, 0);
@@ -40,8 +40,7 @@ void DISTX_draw(DISTX* dist, IMG* target) {
 }
 
 void DISTX_advance(DISTX* dist) {
-    if (dist == nullptr) {
-        DISTX_error();
+    if (refused(dist == nullptr, DISTX_error)) {
         return;
     }
     SINE_advance(&dist->wave);

@@ -3,6 +3,7 @@
 #include "effects/disty.h"
 
 #include "foundation/record.h"
+#include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/img.h"
 
@@ -24,8 +25,7 @@ DISTY* DISTY_new() {
 }
 
 void DISTY_draw(DISTY* dist, IMG* target) {
-    if (!canDraw(dist, target)) {
-        DISTY_error();
+    if (refused(!canDraw(dist, target), DISTY_error)) {
         return;
     }
     SINE_setOffset(&dist->wave, 0);
@@ -40,8 +40,7 @@ void DISTY_draw(DISTY* dist, IMG* target) {
 }
 
 void DISTY_advance(DISTY* dist) {
-    if (dist == nullptr) {
-        DISTY_error();
+    if (refused(dist == nullptr, DISTY_error)) {
         return;
     }
     SINE_advance(&dist->wave);

@@ -148,8 +148,8 @@ FILL* FILL_new() {
 
 void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height) {
     constexpr std::int32_t widest = 0x4000; // so that spans are counted in 32 bits
-    if (fill == nullptr || width < 1 || height < 1 || width > widest || height > widest) {
-        FILL_error();
+    if (refused(fill == nullptr || width < 1 || height < 1 || width > widest || height > widest,
+                FILL_error)) {
         return;
     }
     const std::int64_t pixels = std::int64_t{width} * height;
@@ -171,8 +171,7 @@ void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height) {
 }
 
 std::int32_t FILL_flood(FILL* fill, IMG* target, std::int32_t x, std::int32_t y, std::uint32_t colour) {
-    if (fill == nullptr || fill->spans == nullptr || !fits(*fill, target)) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->spans == nullptr || !fits(*fill, target), FILL_error)) {
         return 0;
     }
     forget(*fill, nullptr);
@@ -192,16 +191,14 @@ std::int32_t FILL_flood(FILL* fill, IMG* target, std::int32_t x, std::int32_t y,
 }
 
 void FILL_begin(FILL* fill, const IMG* drawing) {
-    if (fill == nullptr || fill->map == nullptr || !fits(*fill, drawing)) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->map == nullptr || !fits(*fill, drawing), FILL_error)) {
         return;
     }
     forget(*fill, drawing);
 }
 
 bool FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue) {
-    if (fill == nullptr || fill->drawing == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return false;
     }
     DryArea area{*fill};
@@ -214,8 +211,7 @@ bool FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue) {
 }
 
 void FILL_randomize(FILL* fill) {
-    if (fill == nullptr || fill->drawing == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return;
     }
     const IMG& drawing = *fill->drawing;
@@ -235,8 +231,7 @@ void FILL_randomize(FILL* fill) {
 }
 
 void FILL_advance(FILL* fill) {
-    if (fill == nullptr || fill->drawing == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return;
     }
     DryArea area{*fill};
@@ -251,16 +246,14 @@ void FILL_advance(FILL* fill) {
 }
 
 bool FILL_isDone(const FILL* fill) {
-    if (fill == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr, FILL_error)) {
         return true;
     }
     return fill->first == fill->count;
 }
 
 void FILL_draw(const FILL* fill, IMG* target) {
-    if (fill == nullptr || fill->map == nullptr || !hasPixels(target)) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->map == nullptr || !hasPixels(target), FILL_error)) {
         return;
     }
     std::uint32_t last = 0; // neighbours often share their colour

@@ -109,8 +109,7 @@ std::int32_t litPixels(const IMG& img) {
 FLASHPIX* FLASHPIX_new() {
     return newRecord<FLASHPIX>(FLASHPIX_error, FLASHPIX_delete, [](FLASHPIX& flash) {
         flash.random = RANDOM_new();
-        if (flash.random == nullptr) {
-            FLASHPIX_error();
+        if (refused(flash.random == nullptr, FLASHPIX_error)) {
             return false;
         }
         FLASHPIX_setCount(&flash, flash.count);
@@ -125,14 +124,12 @@ void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count) {
 }
 
 void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
-    if (flash == nullptr || (shape != nullptr && !hasPixels(shape))) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr || (shape != nullptr && !hasPixels(shape)), FLASHPIX_error)) {
         return;
     }
     const std::int32_t count = shape == nullptr ? 0 : litPixels(*shape);
     std::int32_t* const places = count == 0 ? nullptr : allocateArray<std::int32_t>(2 * std::int64_t{count});
-    if (count != 0 && places == nullptr) {
-        FLASHPIX_error();
+    if (refused(count != 0 && places == nullptr, FLASHPIX_error)) {
         return;
     }
     delete[] flash->places;
@@ -153,8 +150,7 @@ void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
 }
 
 void FLASHPIX_randomize(FLASHPIX* flash) {
-    if (flash == nullptr) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr, FLASHPIX_error)) {
         return;
     }
     flash->random->counter = static_cast<std::uint32_t>(chance());
@@ -165,8 +161,7 @@ void FLASHPIX_randomize(FLASHPIX* flash) {
 }
 
 void FLASHPIX_advance(FLASHPIX* flash) {
-    if (flash == nullptr) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr, FLASHPIX_error)) {
         return;
     }
     flash->hue = wrapAdd(flash->hue, flash->hueSpeed);
@@ -181,8 +176,7 @@ void FLASHPIX_advance(FLASHPIX* flash) {
 }
 
 void FLASHPIX_draw(const FLASHPIX* flash, IMG* target) {
-    if (flash == nullptr || !hasPixels(target)) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr || !hasPixels(target), FLASHPIX_error)) {
         return;
     }
     for (std::int32_t i = 0; i < flash->count; ++i) {

@@ -54,8 +54,7 @@ void drawCode(LFONT& pen, std::uint32_t code) {
 
 /// Draws the lowest `digits` hexadecimal digits of a value, the highest first, or reports.
 void drawHex(LFONT* pen, std::uint32_t value, std::int32_t digits) {
-    if (pen == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr, LFONT_error)) {
         return;
     }
     forEachHexDigit(value, digits, [pen](std::uint32_t character) { drawCode(*pen, character); });
@@ -64,8 +63,7 @@ void drawHex(LFONT* pen, std::uint32_t value, std::int32_t digits) {
 /// Colours every glyph with the next colour(), from the last to the first, or reports.
 template <typename Colour>
 void colourGlyphs(LFONT* pen, Colour colour) {
-    if (pen == nullptr || pen->glyphs == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr || pen->glyphs == nullptr, LFONT_error)) {
         return;
     }
     for (std::int32_t i = pen->glyphs->count - 1; i >= 0; --i) {
@@ -93,8 +91,7 @@ LFONT* LFONT_new() {
         pen.position = VEC2D_new();
         pen.spacing = VEC2D_new();
         pen.scale = VEC2D_new();
-        if (!isPen(&pen)) {
-            LFONT_error();
+        if (refused(!isPen(&pen), LFONT_error)) {
             return false;
         }
         pen.spacing->x = pen.spacing->y = 16;
@@ -104,8 +101,7 @@ LFONT* LFONT_new() {
 }
 
 void LFONT_place(LFONT* pen, std::int32_t x, std::int32_t y, std::int32_t scale) {
-    if (!isPen(pen)) {
-        LFONT_error();
+    if (refused(!isPen(pen), LFONT_error)) {
         return;
     }
     pen->scale->x = pen->scale->y = scale;
@@ -123,8 +119,9 @@ void LFONT_randomColours(LFONT* pen) {
 }
 
 void LFONT_drawChar(LFONT* pen) {
-    if (!isPen(pen) || pen->glyphs == nullptr || pen->character < 0 || pen->character >= pen->glyphs->count) {
-        LFONT_error();
+    if (refused(!isPen(pen) || pen->glyphs == nullptr || pen->character < 0 ||
+                    pen->character >= pen->glyphs->count,
+                LFONT_error)) {
         return;
     }
     if (OBJ2D* glyph = glyphOf(*pen); glyph != nullptr) {
@@ -133,8 +130,7 @@ void LFONT_drawChar(LFONT* pen) {
 }
 
 void LFONT_drawCharRandomColour(LFONT* pen) {
-    if (!isPen(pen) || pen->glyphs == nullptr) {
-        LFONT_error();
+    if (refused(!isPen(pen) || pen->glyphs == nullptr, LFONT_error)) {
         return;
     }
     // LFONT_randomColourLeavesRangeToList: one expects the range test of LFONT_drawChar; a code out of range
@@ -146,8 +142,7 @@ void LFONT_drawCharRandomColour(LFONT* pen) {
 }
 
 void LFONT_drawLine(LFONT* pen, const char* text) {
-    if (pen == nullptr || text == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr || text == nullptr, LFONT_error)) {
         return;
     }
     for (; *text != '\0' && *text != lineFeed; ++text) {
@@ -156,8 +151,8 @@ void LFONT_drawLine(LFONT* pen, const char* text) {
 }
 
 void LFONT_drawText(LFONT* pen, const char* text) {
-    if (!isPen(pen) || text == nullptr || pen->glyphs == nullptr || pen->target == nullptr) {
-        LFONT_error();
+    if (refused(!isPen(pen) || text == nullptr || pen->glyphs == nullptr || pen->target == nullptr,
+                LFONT_error)) {
         return;
     }
     const std::int32_t left = pen->position->x;
@@ -184,8 +179,7 @@ void LFONT_drawHexLong(LFONT* pen, std::uint32_t value) {
 }
 
 void LFONT_drawDecimal(LFONT* pen, std::uint32_t value) {
-    if (pen == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr, LFONT_error)) {
         return;
     }
     forEachDecimalDigit(value, [pen](std::uint32_t character) { drawCode(*pen, character); });

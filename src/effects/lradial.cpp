@@ -49,8 +49,7 @@ void LRADIAL_setCount(LRADIAL* rays, std::int32_t count) {
 }
 
 void LRADIAL_randomize(LRADIAL* rays) {
-    if (rays == nullptr) {
-        LRADIAL_error();
+    if (refused(rays == nullptr, LRADIAL_error)) {
         return;
     }
     rays->turn = chance() & SINE_tableMask;
@@ -63,8 +62,7 @@ void LRADIAL_randomize(LRADIAL* rays) {
 }
 
 void LRADIAL_setWaveLengths(LRADIAL* rays) {
-    if (rays == nullptr) {
-        LRADIAL_error();
+    if (refused(rays == nullptr, LRADIAL_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rays->count; ++i) {
@@ -78,8 +76,7 @@ void LRADIAL_setWaveLengths(LRADIAL* rays) {
 
 void LRADIAL_setSoundLengths(LRADIAL* rays, const SAMPLE* sound, std::int32_t begin, std::int32_t step,
                              std::int32_t shift) {
-    if (rays == nullptr || sound == nullptr || shift < 0 || shift > 31) {
-        LRADIAL_error();
+    if (refused(rays == nullptr || sound == nullptr || shift < 0 || shift > 31, LRADIAL_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rays->count; ++i) {
@@ -92,8 +89,7 @@ void LRADIAL_setSoundLengths(LRADIAL* rays, const SAMPLE* sound, std::int32_t be
 }
 
 void LRADIAL_advance(LRADIAL* rays) {
-    if (rays == nullptr) {
-        LRADIAL_error();
+    if (refused(rays == nullptr, LRADIAL_error)) {
         return;
     }
     rays->turn = wrapAdd(rays->turn, rays->spin) & SINE_tableMask;
@@ -105,8 +101,7 @@ void LRADIAL_advance(LRADIAL* rays) {
 }
 
 void LRADIAL_draw(const LRADIAL* rays, IMG* target) {
-    if (rays == nullptr || !hasPixels(target)) {
-        LRADIAL_error();
+    if (refused(rays == nullptr || !hasPixels(target), LRADIAL_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rays->count; ++i) {

@@ -89,8 +89,7 @@ void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
 LRAIN* LRAIN_new() {
     return newRecord<LRAIN>(LRAIN_error, LRAIN_delete, [](LRAIN& rain) {
         rain.random = RANDOM_new();
-        if (rain.random == nullptr) {
-            LRAIN_error();
+        if (refused(rain.random == nullptr, LRAIN_error)) {
             return false;
         }
         LRAIN_setCount(&rain, rain.count);
@@ -105,8 +104,7 @@ void LRAIN_setCount(LRAIN* rain, std::int32_t count) {
 }
 
 void LRAIN_randomize(LRAIN* rain) {
-    if (rain == nullptr) {
-        LRAIN_error();
+    if (refused(rain == nullptr, LRAIN_error)) {
         return;
     }
     rain->random->counter = static_cast<std::uint32_t>(chance());
@@ -121,8 +119,7 @@ void LRAIN_randomize(LRAIN* rain) {
 }
 
 void LRAIN_advance(LRAIN* rain) {
-    if (rain == nullptr) {
-        LRAIN_error();
+    if (refused(rain == nullptr, LRAIN_error)) {
         return;
     }
     SINE_advance(&rain->wind);
@@ -141,8 +138,7 @@ void LRAIN_advance(LRAIN* rain) {
 }
 
 void LRAIN_draw(const LRAIN* rain, IMG* target) {
-    if (rain == nullptr || !hasPixels(target)) {
-        LRAIN_error();
+    if (refused(rain == nullptr || !hasPixels(target), LRAIN_error)) {
         return;
     }
     for (const LRAIN_RING& ring : rain->rings) {

@@ -147,8 +147,7 @@ LSCROLL* LSCROLL_new() {
 }
 
 void LSCROLL_setText(LSCROLL* scroll, const char* text) {
-    if (scroll == nullptr || text == nullptr) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr || text == nullptr, LSCROLL_error)) {
         return;
     }
     setText(scroll->text, text);
@@ -175,8 +174,7 @@ void LSCROLL_setCurve(LSCROLL* scroll, const LSCROLL_CURVE& curve) {
 }
 
 void LSCROLL_fit(LSCROLL* scroll) {
-    if (scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0, LSCROLL_error)) {
         return;
     }
     scroll->scale = scaleToFit(scroll->length, scroll->text.length, scroll->cell);
@@ -184,8 +182,7 @@ void LSCROLL_fit(LSCROLL* scroll) {
 }
 
 void LSCROLL_randomize(LSCROLL* scroll) {
-    if (scroll == nullptr) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr, LSCROLL_error)) {
         return;
     }
     scroll->lift.phase = chance() & SINE_tableMask;
@@ -194,8 +191,7 @@ void LSCROLL_randomize(LSCROLL* scroll) {
 }
 
 void LSCROLL_advance(LSCROLL* scroll) {
-    if (scroll == nullptr) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr, LSCROLL_error)) {
         return;
     }
     moveText(scroll->text, scroll->speed, pitchOf(scroll->cell, scroll->scale));
@@ -205,8 +201,7 @@ void LSCROLL_advance(LSCROLL* scroll) {
 }
 
 void LSCROLL_draw(const LSCROLL* scroll, IMG* target) {
-    if (scroll == nullptr || scroll->glyphs == nullptr || !hasPixels(target)) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr || scroll->glyphs == nullptr || !hasPixels(target), LSCROLL_error)) {
         return;
     }
     const std::int64_t pitch = pitchOf(scroll->cell, scroll->scale);

@@ -108,8 +108,7 @@ void LSTAR_setCount(LSTAR* sky, std::int32_t count) {
 }
 
 void LSTAR_randomize(LSTAR* sky) {
-    if (sky == nullptr || sky->stars == nullptr) {
-        LSTAR_error();
+    if (refused(sky == nullptr || sky->stars == nullptr, LSTAR_error)) {
         return;
     }
     for (std::int32_t i = 0; i < sky->count; ++i) {
@@ -121,8 +120,7 @@ void LSTAR_randomize(LSTAR* sky) {
 }
 
 void LSTAR_advance(LSTAR* sky) {
-    if (sky == nullptr || sky->stars == nullptr) {
-        LSTAR_error();
+    if (refused(sky == nullptr || sky->stars == nullptr, LSTAR_error)) {
         return;
     }
     for (std::int32_t i = 0; i < sky->count; ++i) {
@@ -133,8 +131,7 @@ void LSTAR_advance(LSTAR* sky) {
 }
 
 void LSTAR_draw(const LSTAR* sky, IMG* target) {
-    if (!canDraw(sky, target)) {
-        LSTAR_error();
+    if (refused(!canDraw(sky, target), LSTAR_error)) {
         return;
     }
     for (std::int32_t i = 0; i < sky->count; ++i) {
@@ -143,8 +140,7 @@ void LSTAR_draw(const LSTAR* sky, IMG* target) {
 }
 
 void LSTAR_drawPolygons(const LSTAR* sky, IMG* target) {
-    if (!canDraw(sky, target)) {
-        LSTAR_error();
+    if (refused(!canDraw(sky, target), LSTAR_error)) {
         return;
     }
     const std::int32_t corners = std::clamp(sky->corners, 3, mostCorners);

@@ -165,8 +165,7 @@ void RECT_setCount(RECT* rect, std::int32_t count) {
 }
 
 void RECT_randomize(RECT* rect) {
-    if (rect == nullptr) {
-        RECT_error();
+    if (refused(rect == nullptr, RECT_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rect->count; ++i) {
@@ -175,8 +174,7 @@ void RECT_randomize(RECT* rect) {
 }
 
 void RECT_advance(RECT* rect) {
-    if (rect == nullptr) {
-        RECT_error();
+    if (refused(rect == nullptr, RECT_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rect->count; ++i) {
@@ -189,8 +187,7 @@ void RECT_advance(RECT* rect) {
 }
 
 void RECT_draw(const RECT* rect, IMG* target) {
-    if (rect == nullptr || !hasPixels(target)) {
-        RECT_error();
+    if (refused(rect == nullptr || !hasPixels(target), RECT_error)) {
         return;
     }
     switch (rect->path) {

@@ -3,6 +3,7 @@
 //
 // What RECT draws one rectangle with: upright and turned, filled and framed, in three ways of mixing.
 #include "effects/rect.h"
+#include "foundation/report.h"
 #include "foundation/sine.h"
 #include "image/img.h"
 #include "image/imgfx.h"
@@ -121,25 +122,17 @@ void frameCorners(IMG* target, const Corners& corners, std::uint32_t colour, REC
     }
 }
 
-bool canDraw(const IMG* target) {
-    if (!hasPixels(target)) {
-        RECT_error();
-        return false;
-    }
-    return true;
-}
-
 } // namespace
 
 void RECT_drawPane(IMG* target, const RECT_BOX& box, std::uint32_t colour, RECT_MIX mix) {
-    if (canDraw(target)) {
+    if (!refused(!hasPixels(target), RECT_error)) {
         fillBox(target, upright(box), colour, mix);
     }
 }
 
 void RECT_drawFrame(IMG* target, const RECT_BOX& box, std::int32_t thickness, std::uint32_t colour,
                     RECT_MIX mix) {
-    if (!canDraw(target)) {
+    if (refused(!hasPixels(target), RECT_error)) {
         return;
     }
     const Box outer = upright(box);
@@ -158,7 +151,7 @@ void RECT_drawFrame(IMG* target, const RECT_BOX& box, std::int32_t thickness, st
 
 void RECT_drawTurned(IMG* target, const RECT_BOX& box, std::int32_t angle, RECT_FACE face,
                      std::uint32_t colour, RECT_MIX mix) {
-    if (!canDraw(target)) {
+    if (refused(!hasPixels(target), RECT_error)) {
         return;
     }
     const Corners corners = cornersOf(box, angle);

@@ -5,6 +5,7 @@
 #include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/record.h"
+#include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/img.h"
@@ -132,8 +133,7 @@ void SINEDOTS_setCount(SINEDOTS* dots, std::int32_t count) {
     std::int32_t* const storage = dots != nullptr && count >= 1
                                       ? allocateArray<std::int32_t>(std::int64_t{count} * wordsPerDot)
                                       : nullptr;
-    if (storage == nullptr) {
-        SINEDOTS_error();
+    if (refused(storage == nullptr, SINEDOTS_error)) {
         return;
     }
     delete[] dots->dots;
@@ -142,8 +142,7 @@ void SINEDOTS_setCount(SINEDOTS* dots, std::int32_t count) {
 }
 
 void SINEDOTS_randomize(SINEDOTS* dots) {
-    if (dots == nullptr || dots->dots == nullptr) {
-        SINEDOTS_error();
+    if (refused(dots == nullptr || dots->dots == nullptr, SINEDOTS_error)) {
         return;
     }
     for (std::int32_t k = 0; k < SINEDOTS_waveCount; ++k) {
@@ -159,8 +158,7 @@ void SINEDOTS_randomize(SINEDOTS* dots) {
 }
 
 void SINEDOTS_advance(SINEDOTS* dots) {
-    if (dots == nullptr) {
-        SINEDOTS_error();
+    if (refused(dots == nullptr, SINEDOTS_error)) {
         return;
     }
     for (std::int32_t k = 0; k < SINEDOTS_waveCount; ++k) {
@@ -173,8 +171,7 @@ void SINEDOTS_advance(SINEDOTS* dots) {
 // 1024 fall on the first ones, so no draw has to visit more than those.
 
 void SINEDOTS_draw(SINEDOTS* dots, IMG* target) {
-    if (!canDraw(dots, target)) {
-        SINEDOTS_error();
+    if (refused(!canDraw(dots, target), SINEDOTS_error)) {
         return;
     }
     const std::uint32_t colour = dots->colour;
@@ -184,8 +181,7 @@ void SINEDOTS_draw(SINEDOTS* dots, IMG* target) {
 }
 
 void SINEDOTS_drawAdd(SINEDOTS* dots, IMG* target) {
-    if (!canDraw(dots, target)) {
-        SINEDOTS_error();
+    if (refused(!canDraw(dots, target), SINEDOTS_error)) {
         return;
     }
     const std::int32_t turns = dots->count / SINE_tableLength;

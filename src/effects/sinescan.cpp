@@ -139,8 +139,7 @@ SINESCAN* SINESCAN_new() {
 }
 
 void SINESCAN_randomize(SINESCAN* scan) {
-    if (scan == nullptr) {
-        SINESCAN_error();
+    if (refused(scan == nullptr, SINESCAN_error)) {
         return;
     }
     randomizeWave(scan->shift.wave, 24, 12);
@@ -150,8 +149,7 @@ void SINESCAN_randomize(SINESCAN* scan) {
 }
 
 void SINESCAN_advance(SINESCAN* scan) {
-    if (scan == nullptr) {
-        SINESCAN_error();
+    if (refused(scan == nullptr, SINESCAN_error)) {
         return;
     }
     for (SINESCAN_WAVE* const wave : {&scan->shift, &scan->stretch, &scan->scan, &scan->twist}) {
@@ -161,9 +159,9 @@ void SINESCAN_advance(SINESCAN* scan) {
 }
 
 void SINESCAN_draw(const SINESCAN* scan, IMG* target) {
-    if (scan == nullptr || !hasPixels(target) || !hasPixels(scan->source) || scan->source->width < 1 ||
-        scan->source->height < 1) {
-        SINESCAN_error();
+    if (refused(scan == nullptr || !hasPixels(target) || !hasPixels(scan->source) ||
+                    scan->source->width < 1 || scan->source->height < 1,
+                SINESCAN_error)) {
         return;
     }
     const std::int32_t width = std::min(scan->width, mostSize);

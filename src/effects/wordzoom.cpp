@@ -149,8 +149,7 @@ void drawFlight(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, IMG* target
 WORDZOOM* WORDZOOM_new() {
     return newRecord<WORDZOOM>(WORDZOOM_error, WORDZOOM_delete, [](WORDZOOM& zoom) {
         zoom.random = RANDOM_new();
-        if (zoom.random == nullptr) {
-            WORDZOOM_error();
+        if (refused(zoom.random == nullptr, WORDZOOM_error)) {
             return false;
         }
         WORDZOOM_randomize(&zoom);
@@ -159,8 +158,7 @@ WORDZOOM* WORDZOOM_new() {
 }
 
 void WORDZOOM_setText(WORDZOOM* zoom, const char* text) {
-    if (zoom == nullptr || text == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || text == nullptr, WORDZOOM_error)) {
         return;
     }
     zoom->text = text;
@@ -170,8 +168,7 @@ void WORDZOOM_setText(WORDZOOM* zoom, const char* text) {
 }
 
 void WORDZOOM_randomize(WORDZOOM* zoom) {
-    if (zoom == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr, WORDZOOM_error)) {
         return;
     }
     zoom->hue = chance() & 0xFFFF;
@@ -179,8 +176,7 @@ void WORDZOOM_randomize(WORDZOOM* zoom) {
 }
 
 void WORDZOOM_advance(WORDZOOM* zoom) {
-    if (zoom == nullptr || zoom->text == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || zoom->text == nullptr, WORDZOOM_error)) {
         return;
     }
     for (WORDZOOM_FLIGHT& flight : zoom->flights) {
@@ -204,8 +200,7 @@ void WORDZOOM_advance(WORDZOOM* zoom) {
 }
 
 bool WORDZOOM_isDone(const WORDZOOM* zoom) {
-    if (zoom == nullptr || zoom->text == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || zoom->text == nullptr, WORDZOOM_error)) {
         return true;
     }
     const bool flies = std::any_of(std::begin(zoom->flights), std::end(zoom->flights),
@@ -215,8 +210,7 @@ bool WORDZOOM_isDone(const WORDZOOM* zoom) {
 }
 
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {
-    if (zoom == nullptr || zoom->glyphs == nullptr || !hasPixels(target)) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || zoom->glyphs == nullptr || !hasPixels(target), WORDZOOM_error)) {
         return;
     }
     for (const WORDZOOM_FLIGHT& flight : zoom->flights) {

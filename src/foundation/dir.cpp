@@ -29,8 +29,7 @@ void dropNames(LIST* names, std::int32_t count) {
 DIR* DIR_new() {
     return newRecord<DIR>(DIR_error, DIR_delete, [](DIR& dir) {
         dir.names = LIST_new();
-        if (dir.names == nullptr) {
-            DIR_error();
+        if (refused(dir.names == nullptr, DIR_error)) {
             return false;
         }
         return true;
@@ -40,8 +39,7 @@ DIR* DIR_new() {
 bool DIR_append(DIR* dir, const char* name) {
     const std::size_t size = std::strlen(name) + 1;
     char* const copy = dir == nullptr ? nullptr : allocateArray<char>(static_cast<std::int64_t>(size));
-    if (copy == nullptr) {
-        DIR_error();
+    if (refused(copy == nullptr, DIR_error)) {
         return false;
     }
     std::memcpy(copy, name, size);
@@ -58,8 +56,7 @@ bool DIR_append(DIR* dir, const char* name) {
 std::int32_t DIR_read(DIR* dir, const char* path) {
     const bool canRead = dir != nullptr && dir->names != nullptr && path != nullptr;
     ::DIR* const stream = canRead ? opendir(path) : nullptr;
-    if (stream == nullptr) {
-        DIR_error();
+    if (refused(stream == nullptr, DIR_error)) {
         return 0;
     }
     const std::int32_t before = dir->names->count;
@@ -85,8 +82,7 @@ const char* DIR_getName(const DIR* dir) {
 }
 
 std::int32_t DIR_same(const DIR* a, const DIR* b) {
-    if (a == nullptr || b == nullptr) {
-        DIR_error();
+    if (refused(a == nullptr || b == nullptr, DIR_error)) {
         return 0;
     }
     // DIR_sameNeverCompares: one expects 1 for one and the same record only; any two will do, for a record
@@ -95,8 +91,7 @@ std::int32_t DIR_same(const DIR* a, const DIR* b) {
 }
 
 std::int32_t DIR_isValid(const DIR* dir) {
-    if (dir == nullptr) {
-        DIR_error();
+    if (refused(dir == nullptr, DIR_error)) {
         return 0;
     }
     return 1;

@@ -28,8 +28,7 @@ XDPY* XDPY_make(std::uint32_t depth) {
 }
 
 bool XDPY_setSize(XDPY* display, std::int32_t width, std::int32_t height) {
-    if (display == nullptr || width < 0 || height < 0) {
-        XDPY_error();
+    if (refused(display == nullptr || width < 0 || height < 0, XDPY_error)) {
         return false;
     }
     display->width = static_cast<std::uint32_t>(width);
@@ -38,8 +37,7 @@ bool XDPY_setSize(XDPY* display, std::int32_t width, std::int32_t height) {
 }
 
 bool XDPY_drop(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
+    if (refused(handle == nullptr || *handle == nullptr || *handle != XDPY_current, XDPY_error)) {
         return false;
     }
     XDPY_current = nullptr;
@@ -64,24 +62,21 @@ void XDPY_dumpFrame(const IMG* img) {
 }
 
 const char* XDPY_getName(const XDPY* display) {
-    if (display == nullptr || display != XDPY_current) {
-        XDPY_error();
+    if (refused(display == nullptr || display != XDPY_current, XDPY_error)) {
         return nullptr;
     }
     return "";
 }
 
 std::int32_t XDPY_same(const XDPY* a, const XDPY* b) {
-    if (a == nullptr || b == nullptr) {
-        XDPY_error();
+    if (refused(a == nullptr || b == nullptr, XDPY_error)) {
         return 0;
     }
     return a == b && a == XDPY_current ? 1 : 0;
 }
 
 XDPY* XDPY_get(XDPY* display) {
-    if (display == nullptr || display != XDPY_current) {
-        XDPY_error();
+    if (refused(display == nullptr || display != XDPY_current, XDPY_error)) {
         return nullptr;
     }
     return display;
