@@ -34,6 +34,8 @@ std::int32_t scaled(std::int32_t entry, std::int32_t length) {
 /// A circle of latitude. All of its points lie in one row of the image.
 struct Ring {
     std::int32_t radius, offset; ///< pixels; the row is the ball's y + offset
+
+    bool operator==(const Ring&) const = default;
 };
 
 Ring ringOf(const BALL3D& ball, std::int32_t latitude) {
@@ -124,8 +126,13 @@ void BALL3D_draw(const BALL3D* ball) {
     if (refused(ball == nullptr || !hasPixels(ball->target), BALL3D_error)) {
         return;
     }
+    // A ball has fewer rings of its own than there are latitudes: one that equals the next one is drawn with
+    // it.
     for (std::int32_t u = 0; u < rings; ++u) {
-        drawRing(*ball, ringOf(*ball, u));
+        const Ring ring = ringOf(*ball, u);
+        if (u == rings - 1 || ring != ringOf(*ball, u + 1)) {
+            drawRing(*ball, ring);
+        }
     }
     reportOverflow(*ball);
 }

@@ -5,6 +5,7 @@
 #include "foundation/list.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
+#include "foundation/wrap.h"
 #include "vector/seg2d.h"
 #include "vector/vec2d.h"
 
@@ -45,9 +46,13 @@ bool makeRoom(LIST* list, std::int32_t more) {
 /// The end of a segment where the object draws it.
 VEC2D posed(const OBJ2D& obj, const VEC2D& end) {
     VEC2D point = end;
-    VEC2D_scale(&point, obj.scale);
-    VEC2D_rotate(&point, static_cast<std::int32_t>(obj.angle));
-    VEC2D_add(obj.position, &point);
+    point.x = wrapMul(point.x, obj.scale->x);
+    point.y = wrapMul(point.y, obj.scale->y);
+    if (obj.angle != 0) {
+        VEC2D_rotate(&point, static_cast<std::int32_t>(obj.angle));
+    }
+    point.x = wrapAdd(point.x, obj.position->x);
+    point.y = wrapAdd(point.y, obj.position->y);
     return point;
 }
 

@@ -175,10 +175,10 @@ void boil(Particles& particles, std::int32_t) {
     constexpr std::int32_t rarity = 6;
     IMG* const world = particles.world;
     for (std::int32_t y = wordTop; y < wordBottom; ++y) {
+        std::uint32_t* const row = world->pixels + std::int64_t{y} * world->width;
         for (std::int32_t x = 0; x < world->width; ++x) {
-            if (IMG_getPixel(world, x, y) == waterBlue && IMG_getPixel(world, x, y + 1) == stoneGrey &&
-                chance() % rarity == 0) {
-                IMG_putPixel(world, x, y, stoneGrey);
+            if (row[x] == waterBlue && row[x + world->width] == stoneGrey && chance() % rarity == 0) {
+                row[x] = stoneGrey;
             }
         }
     }
