@@ -3,12 +3,16 @@
 #include "platform/folder.h"
 
 #include "headless/headless.h"
-#include "platform/folder_names.h"
 
 namespace velm {
 
 std::int32_t FOLDER_read(DIR* dir) {
-    return FOLDER_list(dir, headless.listing);
+    for (const std::string& name : headless.listing) {
+        if (!DIR_append(dir, name.c_str())) {
+            return 0;
+        }
+    }
+    return 1;
 }
 
 } // namespace velm

@@ -4,10 +4,14 @@
 
 #include "platform/folder_names.h"
 
+#include <algorithm>
+
 namespace velm {
 
 std::int32_t FOLDER_read(DIR* dir) {
-    return FOLDER_list(dir, FOLDER_sample);
+    const bool hasAll = std::all_of(FOLDER_sample.begin(), FOLDER_sample.end(),
+                                    [dir](const char* name) { return DIR_append(dir, name); });
+    return hasAll ? 1 : 0;
 }
 
 } // namespace velm

@@ -40,12 +40,7 @@ bool XDPY_isOpen() {
 void XDPY_selectInput() {}
 
 void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
-    if (display == nullptr || width <= 0 || height <= 0) {
-        XDPY_error();
-        return;
-    }
-    display->width = static_cast<std::uint32_t>(width);
-    display->height = static_cast<std::uint32_t>(height);
+    XDPY_setSize(display, width, height);
 }
 
 void XDPY_present(XDPY* display, const IMG* img) {

@@ -22,8 +22,7 @@ std::uint8_t SAMDRAW_verbose = 0;
 namespace {
 
 bool canDraw(const SAMDRAW* draw) {
-    return draw != nullptr && draw->source != nullptr && draw->target != nullptr &&
-           draw->target->pixels != nullptr;
+    return draw != nullptr && draw->source != nullptr && hasPixels(draw->target);
 }
 
 bool hasSample(const SAMDRAW& draw) {

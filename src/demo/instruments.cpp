@@ -147,29 +147,18 @@ void addSquareOrgan(MUSIC* music, SAMPLE* scratch) {
     }
 }
 
-void addSineChords(MUSIC* music, SAMPLE* scratch) {
-    SAMPLE_setLength(scratch, twoSeconds);
-    for (std::int32_t i = 36; i < 48; ++i) {
-        SAMPLE* const instrument = newInstrument(twoSeconds);
-        SOUND_sine(instrument, note(i));
-        for (const std::int32_t interval : {4, 7, -5, -8, -12}) {
-            SOUND_sine(scratch, note(i + interval));
+/// Twelve chords of one wave: a note and five more, counted from it in semitones.
+void addChords(MUSIC* music, SAMPLE* scratch, std::int32_t first, std::int32_t length, std::int32_t loudest,
+               void (*wave)(SAMPLE*, std::int32_t), std::initializer_list<std::int32_t> intervals) {
+    SAMPLE_setLength(scratch, length);
+    for (std::int32_t i = first; i < first + 12; ++i) {
+        SAMPLE* const instrument = newInstrument(length);
+        wave(instrument, note(i));
+        for (const std::int32_t interval : intervals) {
+            wave(scratch, note(i + interval));
             SAMPLE_add(instrument, scratch);
         }
-        finish(music, instrument, 32000 - 400 * i, 1);
-    }
-}
-
-void addSquareChords(MUSIC* music, SAMPLE* scratch) {
-    SAMPLE_setLength(scratch, oneSecond);
-    for (std::int32_t i = 48; i < 60; ++i) {
-        SAMPLE* const instrument = newInstrument(oneSecond);
-        SOUND_square(instrument, note(i));
-        for (const std::int32_t interval : {5, 9, -3, -7, -12}) {
-            SOUND_square(scratch, note(i + interval));
-            SAMPLE_add(instrument, scratch);
-        }
-        finish(music, instrument, 28000 - 400 * i, 1);
+        finish(music, instrument, loudest - 400 * i, 1);
     }
 }
 
@@ -187,8 +176,8 @@ MUSIC* VELM4030_buildMusic() {
     addSquareWithNoise(music, scratch);
     addNoiseHat(music, scratch);
     addSquareOrgan(music, scratch);
-    addSineChords(music, scratch);
-    addSquareChords(music, scratch);
+    addChords(music, scratch, 36, twoSeconds, 32000, SOUND_sine, {4, 7, -5, -8, -12});
+    addChords(music, scratch, 48, oneSecond, 28000, SOUND_square, {5, 9, -3, -7, -12});
     SAMPLE_delete(&scratch);
     return music;
 }

@@ -54,23 +54,18 @@ ARCHPATH_POSE poseOf(const ARCHPATH& path) {
 } // namespace
 
 ARCHPATH* ARCHPATH_new() {
-    ARCHPATH* path = newRecord<ARCHPATH>(ARCHPATH_error);
-    if (path == nullptr) {
-        return nullptr;
-    }
-    path->random = RANDOM_new();
-    if (path->random == nullptr) {
-        ARCHPATH_error();
-        ARCHPATH_delete(&path);
-        return nullptr;
-    }
-    ARCHPATH_randomize(path);
-    return path;
+    return newRecord<ARCHPATH>(ARCHPATH_error, ARCHPATH_delete, [](ARCHPATH& path) {
+        path.random = RANDOM_new();
+        if (refused(path.random == nullptr, ARCHPATH_error)) {
+            return false;
+        }
+        ARCHPATH_randomize(&path);
+        return true;
+    });
 }
 
 void ARCHPATH_randomize(ARCHPATH* path) {
-    if (path == nullptr) {
-        ARCHPATH_error();
+    if (refused(path == nullptr, ARCHPATH_error)) {
         return;
     }
     path->random->counter = static_cast<std::uint32_t>(chance());
@@ -81,8 +76,7 @@ void ARCHPATH_randomize(ARCHPATH* path) {
 }
 
 bool ARCHPATH_advance(ARCHPATH* path) {
-    if (path == nullptr || path->frames <= 0) {
-        ARCHPATH_error();
+    if (refused(path == nullptr || path->frames <= 0, ARCHPATH_error)) {
         return false;
     }
     path->step = wrapAdd(path->step, 1);
@@ -97,8 +91,7 @@ bool ARCHPATH_advance(ARCHPATH* path) {
 }
 
 void ARCHPATH_draw(const ARCHPATH* path, IMG* target) {
-    if (path == nullptr || target == nullptr || target->pixels == nullptr) {
-        ARCHPATH_error();
+    if (refused(path == nullptr || !hasPixels(target), ARCHPATH_error)) {
         return;
     }
     if (path->figure == nullptr) {

@@ -27,7 +27,7 @@ constexpr std::int32_t leastReach = 16;
 constexpr std::int32_t reachRange = 32;
 
 bool isPicture(const IMG* img) {
-    return img != nullptr && img->pixels != nullptr && img->width > 0 && img->height > 0;
+    return hasPixels(img) && img->width > 0 && img->height > 0;
 }
 
 /// The lowest bit of one number decides which way, the others how fast.
@@ -56,9 +56,9 @@ std::int32_t firstColumn(const BACKMOVE& back, std::int32_t y, std::int32_t row)
 /// row is a few runs, from the first column to the picture's edge and then from its other edge on.
 template <typename Touch>
 void paint(const BACKMOVE* back, IMG* target, Touch touch) {
-    if (back == nullptr || !isPicture(back->picture) || target == nullptr || target->pixels == nullptr ||
-        target->pixels == back->picture->pixels) {
-        BACKMOVE_error();
+    if (refused(back == nullptr || !isPicture(back->picture) || !hasPixels(target) ||
+                    target->pixels == back->picture->pixels,
+                BACKMOVE_error)) {
         return;
     }
     const IMG& picture = *back->picture;
@@ -67,7 +67,7 @@ void paint(const BACKMOVE* back, IMG* target, Touch touch) {
     std::uint32_t* to = target->pixels;
     for (std::int32_t y = 0; y < target->height; ++y) {
         const auto row = static_cast<std::int32_t>(reduced(top + y, picture.height));
-        const std::uint32_t* const from = picture.pixels + std::int64_t{row} * picture.width;
+        const std::uint32_t* const from = rowOf(picture, row);
         std::int32_t column = firstColumn(*back, y, row);
         for (std::int32_t left = target->width; left > 0;) {
             const std::int32_t run = std::min(left, picture.width - column);
@@ -90,16 +90,14 @@ BACKMOVE* BACKMOVE_new() {
 }
 
 void BACKMOVE_setPicture(BACKMOVE* back, const IMG* picture) {
-    if (back == nullptr || !isPicture(picture)) {
-        BACKMOVE_error();
+    if (refused(back == nullptr || !isPicture(picture), BACKMOVE_error)) {
         return;
     }
     back->picture = picture;
 }
 
 void BACKMOVE_setDepths(BACKMOVE* back, std::int32_t depths) {
-    if (back == nullptr || depths < 1 || depths > BACKMOVE_mostDepths) {
-        BACKMOVE_error();
+    if (refused(back == nullptr || depths < 1 || depths > BACKMOVE_mostDepths, BACKMOVE_error)) {
         return;
     }
     back->depths = depths;
@@ -107,8 +105,7 @@ void BACKMOVE_setDepths(BACKMOVE* back, std::int32_t depths) {
 }
 
 void BACKMOVE_randomize(BACKMOVE* back) {
-    if (back == nullptr) {
-        BACKMOVE_error();
+    if (refused(back == nullptr, BACKMOVE_error)) {
         return;
     }
     back->speedX = randomSpeed();
@@ -122,8 +119,7 @@ void BACKMOVE_randomize(BACKMOVE* back) {
 }
 
 void BACKMOVE_advance(BACKMOVE* back) {
-    if (back == nullptr || !isPicture(back->picture)) {
-        BACKMOVE_error();
+    if (refused(back == nullptr || !isPicture(back->picture), BACKMOVE_error)) {
         return;
     }
     // After as many pictures as there are depths every band has moved by whole pictures, so nothing jumps.

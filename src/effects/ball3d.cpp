@@ -70,7 +70,7 @@ void drawRing(const BALL3D& ball, const Ring& ring) {
     if (y < 0 || y >= ball.target->height) {
         return;
     }
-    std::uint32_t* const row = ball.target->pixels + std::int64_t{y} * ball.target->width;
+    std::uint32_t* const row = rowOf(*ball.target, y);
     std::int32_t across[ringPoints + 1];
     for (std::int32_t v = 0; v < ringPoints; ++v) {
         across[v] = scaled(SINE_entry(v + SINE_quarter), ring.radius);
@@ -121,8 +121,7 @@ BALL3D* BALL3D_new() {
 }
 
 void BALL3D_draw(const BALL3D* ball) {
-    if (ball == nullptr || ball->target == nullptr || ball->target->pixels == nullptr) {
-        BALL3D_error();
+    if (refused(ball == nullptr || !hasPixels(ball->target), BALL3D_error)) {
         return;
     }
     for (std::int32_t u = 0; u < rings; ++u) {

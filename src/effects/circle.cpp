@@ -55,8 +55,7 @@ void bounce(std::int32_t& place, std::int32_t& speed, std::int32_t size) {
 /// Calls ring(body, radius in pixels) for every nested ring of every circle, the widest first, or reports.
 template <typename Ring>
 void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ring ring) {
-    if (circle == nullptr || circle->bodies == nullptr || target == nullptr || target->pixels == nullptr) {
-        CIRCLE_error();
+    if (refused(circle == nullptr || circle->bodies == nullptr || !hasPixels(target), CIRCLE_error)) {
         return;
     }
     const std::int32_t spacing = std::max(circle->spacing, 1);
@@ -73,14 +72,10 @@ void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ri
 } // namespace
 
 CIRCLE* CIRCLE_new() {
-    CIRCLE* circle = newRecord<CIRCLE>(CIRCLE_error);
-    if (circle != nullptr) {
-        CIRCLE_setCount(circle, circle->count);
-        if (circle->bodies == nullptr) {
-            CIRCLE_delete(&circle);
-        }
-    }
-    return circle;
+    return newRecord<CIRCLE>(CIRCLE_error, CIRCLE_delete, [](CIRCLE& circle) {
+        CIRCLE_setCount(&circle, circle.count);
+        return circle.bodies != nullptr;
+    });
 }
 
 void CIRCLE_setCount(CIRCLE* circle, std::int32_t count) {
@@ -90,8 +85,7 @@ void CIRCLE_setCount(CIRCLE* circle, std::int32_t count) {
 }
 
 void CIRCLE_randomize(CIRCLE* circle) {
-    if (circle == nullptr || circle->bodies == nullptr) {
-        CIRCLE_error();
+    if (refused(circle == nullptr || circle->bodies == nullptr, CIRCLE_error)) {
         return;
     }
     for (std::int32_t i = 0; i < circle->count; ++i) {
@@ -100,8 +94,7 @@ void CIRCLE_randomize(CIRCLE* circle) {
 }
 
 void CIRCLE_advance(CIRCLE* circle) {
-    if (circle == nullptr || circle->bodies == nullptr) {
-        CIRCLE_error();
+    if (refused(circle == nullptr || circle->bodies == nullptr, CIRCLE_error)) {
         return;
     }
     const std::int32_t largest = lengthOf(circle->largest);

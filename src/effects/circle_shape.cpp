@@ -3,6 +3,7 @@
 //
 // Rings and discs by the midpoint algorithm, walked row by row, so that each row is clipped once.
 #include "effects/circle.h"
+#include "foundation/report.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 
@@ -44,16 +45,15 @@ void paintSpan(IMG& img, std::int64_t y, std::int64_t x1, std::int64_t x2, Touch
     if (y < 0 || y >= img.height) {
         return;
     }
-    std::uint32_t* const row = img.pixels + y * img.width;
+    std::uint32_t* const row = rowOf(img, y);
     for (std::int64_t x = left; x <= right; ++x) {
         touch(row[x]);
     }
 }
 
 /// True when there is something to draw; a missing image is reported.
-bool canPaint(const IMG* img, std::int32_t x, std::int32_t y, std::int32_t radius) {
-    if (img == nullptr || img->pixels == nullptr) {
-        CIRCLE_error();
+bool canPaint(const IMG* img, std::int64_t x, std::int64_t y, std::int32_t radius) {
+    if (refused(!hasPixels(img), CIRCLE_error)) {
         return false;
     }
     const auto reaches = [radius](std::int64_t centre, std::int64_t size) {
@@ -64,6 +64,9 @@ bool canPaint(const IMG* img, std::int32_t x, std::int32_t y, std::int32_t radiu
 
 template <typename Touch>
 void paintRing(IMG* img, std::int64_t x, std::int64_t y, std::int32_t radius, Touch touch) {
+    if (!canPaint(img, x, y, radius)) {
+        return;
+    }
     walkRows(radius, [&](std::int32_t dy, std::int32_t inner, std::int32_t outer) {
         for (const std::int64_t line : {y - dy, y + dy}) {
             if (inner == 0) {
@@ -81,6 +84,9 @@ void paintRing(IMG* img, std::int64_t x, std::int64_t y, std::int32_t radius, To
 
 template <typename Touch>
 void paintDisc(IMG* img, std::int64_t x, std::int64_t y, std::int32_t radius, Touch touch) {
+    if (!canPaint(img, x, y, radius)) {
+        return;
+    }
     walkRows(radius, [&](std::int32_t dy, std::int32_t, std::int32_t outer) {
         paintSpan(*img, y - dy, x - outer, x + outer, touch);
         if (dy > 0) {
@@ -100,33 +106,23 @@ auto adder(std::uint32_t colour) {
 } // namespace
 
 void CIRCLE_drawRing(IMG* img, std::int32_t x, std::int32_t y, std::int32_t radius, std::uint32_t colour) {
-    if (canPaint(img, x, y, radius)) {
-        paintRing(img, x, y, radius, setter(colour));
-    }
+    paintRing(img, x, y, radius, setter(colour));
 }
 
 void CIRCLE_addRing(IMG* img, std::int32_t x, std::int32_t y, std::int32_t radius, std::uint32_t colour) {
-    if (canPaint(img, x, y, radius)) {
-        paintRing(img, x, y, radius, adder(colour));
-    }
+    paintRing(img, x, y, radius, adder(colour));
 }
 
 void CIRCLE_drawDisc(IMG* img, std::int32_t x, std::int32_t y, std::int32_t radius, std::uint32_t colour) {
-    if (canPaint(img, x, y, radius)) {
-        paintDisc(img, x, y, radius, setter(colour));
-    }
+    paintDisc(img, x, y, radius, setter(colour));
 }
 
 void CIRCLE_addDisc(IMG* img, std::int32_t x, std::int32_t y, std::int32_t radius, std::uint32_t colour) {
-    if (canPaint(img, x, y, radius)) {
-        paintDisc(img, x, y, radius, adder(colour));
-    }
+    paintDisc(img, x, y, radius, adder(colour));
 }
 
 void CIRCLE_xorDisc(IMG* img, std::int32_t x, std::int32_t y, std::int32_t radius, std::uint32_t colour) {
-    if (canPaint(img, x, y, radius)) {
-        paintDisc(img, x, y, radius, [colour](std::uint32_t& pixel) { pixel ^= colour; });
-    }
+    paintDisc(img, x, y, radius, [colour](std::uint32_t& pixel) { pixel ^= colour; });
 }
 
 } // namespace velm

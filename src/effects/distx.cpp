@@ -3,6 +3,7 @@
 #include "effects/distx.h"
 
 #include "foundation/record.h"
+#include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/img.h"
 
@@ -14,8 +15,7 @@ std::uint8_t DISTX_verbose = 0;
 namespace {
 
 bool canDraw(const DISTX* dist, const IMG* target) {
-    return dist != nullptr && dist->source != nullptr && dist->source->pixels != nullptr &&
-           target != nullptr && target->pixels != nullptr;
+    return dist != nullptr && hasPixels(dist->source) && hasPixels(target);
 }
 
 } // namespace
@@ -25,8 +25,7 @@ DISTX* DISTX_new() {
 }
 
 void DISTX_draw(DISTX* dist, IMG* target) {
-    if (!canDraw(dist, target)) {
-        DISTX_error();
+    if (refused(!canDraw(dist, target), DISTX_error)) {
         return;
     }
     SINE_setOffset(&dist->wave, 0);
@@ -41,8 +40,7 @@ void DISTX_draw(DISTX* dist, IMG* target) {
 }
 
 void DISTX_advance(DISTX* dist) {
-    if (dist == nullptr) {
-        DISTX_error();
+    if (refused(dist == nullptr, DISTX_error)) {
         return;
     }
     SINE_advance(&dist->wave);

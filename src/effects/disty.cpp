@@ -3,6 +3,7 @@
 #include "effects/disty.h"
 
 #include "foundation/record.h"
+#include "foundation/report.h"
 #include "foundation/wrap.h"
 #include "image/img.h"
 
@@ -14,8 +15,7 @@ std::uint8_t DISTY_verbose = 0;
 namespace {
 
 bool canDraw(const DISTY* dist, const IMG* target) {
-    return dist != nullptr && dist->source != nullptr && dist->source->pixels != nullptr &&
-           target != nullptr && target->pixels != nullptr;
+    return dist != nullptr && hasPixels(dist->source) && hasPixels(target);
 }
 
 } // namespace
@@ -25,8 +25,7 @@ DISTY* DISTY_new() {
 }
 
 void DISTY_draw(DISTY* dist, IMG* target) {
-    if (!canDraw(dist, target)) {
-        DISTY_error();
+    if (refused(!canDraw(dist, target), DISTY_error)) {
         return;
     }
     SINE_setOffset(&dist->wave, 0);
@@ -41,8 +40,7 @@ void DISTY_draw(DISTY* dist, IMG* target) {
 }
 
 void DISTY_advance(DISTY* dist) {
-    if (dist == nullptr) {
-        DISTY_error();
+    if (refused(dist == nullptr, DISTY_error)) {
         return;
     }
     SINE_advance(&dist->wave);

@@ -29,7 +29,7 @@ constexpr std::int32_t mostHue = 0x7FFF;
 constexpr std::int32_t mostAge = 0xFFFF;
 
 bool fits(const FILL& fill, const IMG* img) {
-    return img != nullptr && img->pixels != nullptr && img->width <= fill.width && img->height <= fill.height;
+    return hasPixels(img) && img->width <= fill.width && img->height <= fill.height;
 }
 
 bool contains(const IMG& img, std::int32_t x, std::int32_t y) {
@@ -103,12 +103,9 @@ struct ColourArea {
     std::uint32_t from, to;
     std::int32_t taken;
 
-    [[nodiscard]] bool isFree(std::int32_t x, std::int32_t row) const {
-        return img.pixels[x + std::int64_t{row} * img.width] == from;
-    }
+    [[nodiscard]] bool isFree(std::int32_t x, std::int32_t row) const { return rowOf(img, row)[x] == from; }
     void take(const FILL_SPAN& span) {
-        std::fill_n(img.pixels + span.left + std::int64_t{span.row} * img.width, span.right - span.left + 1,
-                    to);
+        std::fill_n(rowOf(img, span.row) + span.left, span.right - span.left + 1, to);
         taken += span.right - span.left + 1;
     }
 };
@@ -143,20 +140,16 @@ std::uint32_t colourAt(const FILL& fill, std::int32_t hue, std::int32_t age) {
 } // namespace
 
 FILL* FILL_new() {
-    FILL* fill = newRecord<FILL>(FILL_error);
-    if (fill != nullptr) {
-        FILL_setSize(fill, fill->width, fill->height);
-        if (fill->spans == nullptr) {
-            FILL_delete(&fill);
-        }
-    }
-    return fill;
+    return newRecord<FILL>(FILL_error, FILL_delete, [](FILL& fill) {
+        FILL_setSize(&fill, fill.width, fill.height);
+        return fill.spans != nullptr;
+    });
 }
 
 void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height) {
     constexpr std::int32_t widest = 0x4000; // so that spans are counted in 32 bits
-    if (fill == nullptr || width < 1 || height < 1 || width > widest || height > widest) {
-        FILL_error();
+    if (refused(fill == nullptr || width < 1 || height < 1 || width > widest || height > widest,
+                FILL_error)) {
         return;
     }
     const std::int64_t pixels = std::int64_t{width} * height;
@@ -178,8 +171,7 @@ void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height) {
 }
 
 std::int32_t FILL_flood(FILL* fill, IMG* target, std::int32_t x, std::int32_t y, std::uint32_t colour) {
-    if (fill == nullptr || fill->spans == nullptr || !fits(*fill, target)) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->spans == nullptr || !fits(*fill, target), FILL_error)) {
         return 0;
     }
     forget(*fill, nullptr);
@@ -199,16 +191,14 @@ std::int32_t FILL_flood(FILL* fill, IMG* target, std::int32_t x, std::int32_t y,
 }
 
 void FILL_begin(FILL* fill, const IMG* drawing) {
-    if (fill == nullptr || fill->map == nullptr || !fits(*fill, drawing)) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->map == nullptr || !fits(*fill, drawing), FILL_error)) {
         return;
     }
     forget(*fill, drawing);
 }
 
 bool FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue) {
-    if (fill == nullptr || fill->drawing == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return false;
     }
     DryArea area{*fill};
@@ -221,8 +211,7 @@ bool FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue) {
 }
 
 void FILL_randomize(FILL* fill) {
-    if (fill == nullptr || fill->drawing == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return;
     }
     const IMG& drawing = *fill->drawing;
@@ -242,8 +231,7 @@ void FILL_randomize(FILL* fill) {
 }
 
 void FILL_advance(FILL* fill) {
-    if (fill == nullptr || fill->drawing == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return;
     }
     DryArea area{*fill};
@@ -258,23 +246,21 @@ void FILL_advance(FILL* fill) {
 }
 
 bool FILL_isDone(const FILL* fill) {
-    if (fill == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr, FILL_error)) {
         return true;
     }
     return fill->first == fill->count;
 }
 
 void FILL_draw(const FILL* fill, IMG* target) {
-    if (fill == nullptr || fill->map == nullptr || target == nullptr || target->pixels == nullptr) {
-        FILL_error();
+    if (refused(fill == nullptr || fill->map == nullptr || !hasPixels(target), FILL_error)) {
         return;
     }
     std::uint32_t last = 0; // neighbours often share their colour
     std::uint32_t colour = 0;
     for (std::int32_t y = 0; y < std::min(fill->height, target->height); ++y) {
         const std::uint32_t* const words = fill->map + std::int64_t{y} * fill->width;
-        std::uint32_t* const row = target->pixels + std::int64_t{y} * target->width;
+        std::uint32_t* const row = rowOf(*target, y);
         for (std::int32_t x = 0; x < std::min(fill->width, target->width); ++x) {
             const std::uint32_t word = words[x];
             const auto age = static_cast<std::int32_t>(word & static_cast<std::uint32_t>(mostAge));

@@ -107,19 +107,14 @@ std::int32_t litPixels(const IMG& img) {
 } // namespace
 
 FLASHPIX* FLASHPIX_new() {
-    FLASHPIX* flash = newRecord<FLASHPIX>(FLASHPIX_error);
-    if (flash == nullptr) {
-        return nullptr;
-    }
-    flash->random = RANDOM_new();
-    flash->sparks = flash->random == nullptr ? nullptr : allocateArray<FLASHPIX_SPARK>(flash->count);
-    if (flash->sparks == nullptr) {
-        FLASHPIX_error();
-        FLASHPIX_delete(&flash);
-        return nullptr;
-    }
-    FLASHPIX_randomize(flash);
-    return flash;
+    return newRecord<FLASHPIX>(FLASHPIX_error, FLASHPIX_delete, [](FLASHPIX& flash) {
+        flash.random = RANDOM_new();
+        if (refused(flash.random == nullptr, FLASHPIX_error)) {
+            return false;
+        }
+        FLASHPIX_setCount(&flash, flash.count);
+        return flash.sparks != nullptr;
+    });
 }
 
 void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count) {
@@ -129,14 +124,12 @@ void FLASHPIX_setCount(FLASHPIX* flash, std::int32_t count) {
 }
 
 void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
-    if (flash == nullptr || (shape != nullptr && shape->pixels == nullptr)) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr || (shape != nullptr && !hasPixels(shape)), FLASHPIX_error)) {
         return;
     }
     const std::int32_t count = shape == nullptr ? 0 : litPixels(*shape);
     std::int32_t* const places = count == 0 ? nullptr : allocateArray<std::int32_t>(2 * std::int64_t{count});
-    if (count != 0 && places == nullptr) {
-        FLASHPIX_error();
+    if (refused(count != 0 && places == nullptr, FLASHPIX_error)) {
         return;
     }
     delete[] flash->places;
@@ -157,8 +150,7 @@ void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
 }
 
 void FLASHPIX_randomize(FLASHPIX* flash) {
-    if (flash == nullptr) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr, FLASHPIX_error)) {
         return;
     }
     flash->random->counter = static_cast<std::uint32_t>(chance());
@@ -169,8 +161,7 @@ void FLASHPIX_randomize(FLASHPIX* flash) {
 }
 
 void FLASHPIX_advance(FLASHPIX* flash) {
-    if (flash == nullptr) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr, FLASHPIX_error)) {
         return;
     }
     flash->hue = wrapAdd(flash->hue, flash->hueSpeed);
@@ -185,8 +176,7 @@ void FLASHPIX_advance(FLASHPIX* flash) {
 }
 
 void FLASHPIX_draw(const FLASHPIX* flash, IMG* target) {
-    if (flash == nullptr || target == nullptr || target->pixels == nullptr) {
-        FLASHPIX_error();
+    if (refused(flash == nullptr || !hasPixels(target), FLASHPIX_error)) {
         return;
     }
     for (std::int32_t i = 0; i < flash->count; ++i) {

@@ -54,8 +54,7 @@ void drawCode(LFONT& pen, std::uint32_t code) {
 
 /// Draws the lowest `digits` hexadecimal digits of a value, the highest first, or reports.
 void drawHex(LFONT* pen, std::uint32_t value, std::int32_t digits) {
-    if (pen == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr, LFONT_error)) {
         return;
     }
     forEachHexDigit(value, digits, [pen](std::uint32_t character) { drawCode(*pen, character); });
@@ -64,8 +63,7 @@ void drawHex(LFONT* pen, std::uint32_t value, std::int32_t digits) {
 /// Colours every glyph with the next colour(), from the last to the first, or reports.
 template <typename Colour>
 void colourGlyphs(LFONT* pen, Colour colour) {
-    if (pen == nullptr || pen->glyphs == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr || pen->glyphs == nullptr, LFONT_error)) {
         return;
     }
     for (std::int32_t i = pen->glyphs->count - 1; i >= 0; --i) {
@@ -89,26 +87,21 @@ void deleteGlyphs(LFONT& pen) {
 } // namespace
 
 LFONT* LFONT_new() {
-    LFONT* pen = newRecord<LFONT>(LFONT_error);
-    if (pen == nullptr) {
-        return nullptr;
-    }
-    pen->position = VEC2D_new();
-    pen->spacing = VEC2D_new();
-    pen->scale = VEC2D_new();
-    if (!isPen(pen)) {
-        LFONT_error();
-        LFONT_delete(&pen);
-        return nullptr;
-    }
-    pen->spacing->x = pen->spacing->y = 16;
-    pen->scale->x = pen->scale->y = 1;
-    return pen;
+    return newRecord<LFONT>(LFONT_error, LFONT_delete, [](LFONT& pen) {
+        pen.position = VEC2D_new();
+        pen.spacing = VEC2D_new();
+        pen.scale = VEC2D_new();
+        if (refused(!isPen(&pen), LFONT_error)) {
+            return false;
+        }
+        pen.spacing->x = pen.spacing->y = 16;
+        pen.scale->x = pen.scale->y = 1;
+        return true;
+    });
 }
 
 void LFONT_place(LFONT* pen, std::int32_t x, std::int32_t y, std::int32_t scale) {
-    if (!isPen(pen)) {
-        LFONT_error();
+    if (refused(!isPen(pen), LFONT_error)) {
         return;
     }
     pen->scale->x = pen->scale->y = scale;
@@ -126,8 +119,9 @@ void LFONT_randomColours(LFONT* pen) {
 }
 
 void LFONT_drawChar(LFONT* pen) {
-    if (!isPen(pen) || pen->glyphs == nullptr || pen->character < 0 || pen->character >= pen->glyphs->count) {
-        LFONT_error();
+    if (refused(!isPen(pen) || pen->glyphs == nullptr || pen->character < 0 ||
+                    pen->character >= pen->glyphs->count,
+                LFONT_error)) {
         return;
     }
     if (OBJ2D* glyph = glyphOf(*pen); glyph != nullptr) {
@@ -136,8 +130,7 @@ void LFONT_drawChar(LFONT* pen) {
 }
 
 void LFONT_drawCharRandomColour(LFONT* pen) {
-    if (!isPen(pen) || pen->glyphs == nullptr) {
-        LFONT_error();
+    if (refused(!isPen(pen) || pen->glyphs == nullptr, LFONT_error)) {
         return;
     }
     // LFONT_randomColourLeavesRangeToList: one expects the range test of LFONT_drawChar; a code out of range
@@ -149,8 +142,7 @@ void LFONT_drawCharRandomColour(LFONT* pen) {
 }
 
 void LFONT_drawLine(LFONT* pen, const char* text) {
-    if (pen == nullptr || text == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr || text == nullptr, LFONT_error)) {
         return;
     }
     for (; *text != '\0' && *text != lineFeed; ++text) {
@@ -159,8 +151,8 @@ void LFONT_drawLine(LFONT* pen, const char* text) {
 }
 
 void LFONT_drawText(LFONT* pen, const char* text) {
-    if (!isPen(pen) || text == nullptr || pen->glyphs == nullptr || pen->target == nullptr) {
-        LFONT_error();
+    if (refused(!isPen(pen) || text == nullptr || pen->glyphs == nullptr || pen->target == nullptr,
+                LFONT_error)) {
         return;
     }
     const std::int32_t left = pen->position->x;
@@ -187,8 +179,7 @@ void LFONT_drawHexLong(LFONT* pen, std::uint32_t value) {
 }
 
 void LFONT_drawDecimal(LFONT* pen, std::uint32_t value) {
-    if (pen == nullptr) {
-        LFONT_error();
+    if (refused(pen == nullptr, LFONT_error)) {
         return;
     }
     forEachDecimalDigit(value, [pen](std::uint32_t character) { drawCode(*pen, character); });

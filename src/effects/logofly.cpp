@@ -49,8 +49,7 @@ LOGOFLY* LOGOFLY_new() {
 }
 
 void LOGOFLY_randomize(LOGOFLY* logo) {
-    if (logo == nullptr) {
-        LOGOFLY_error();
+    if (refused(logo == nullptr, LOGOFLY_error)) {
         return;
     }
     constexpr LOGOFLY defaults{};
@@ -63,24 +62,21 @@ void LOGOFLY_randomize(LOGOFLY* logo) {
 }
 
 void LOGOFLY_advance(LOGOFLY* logo) {
-    if (logo == nullptr) {
-        LOGOFLY_error();
+    if (refused(logo == nullptr, LOGOFLY_error)) {
         return;
     }
     logo->phase = wrapAdd(logo->phase, logo->speed) & bounceMask;
 }
 
 void LOGOFLY_advanceFull(LOGOFLY* logo) {
-    if (logo == nullptr) {
-        LOGOFLY_error();
+    if (refused(logo == nullptr, LOGOFLY_error)) {
         return;
     }
     logo->phase = wrapAdd(logo->phase, logo->speed) & SINE_tableMask;
 }
 
 void LOGOFLY_draw(const LOGOFLY* logo) {
-    if (!canDraw(logo)) {
-        LOGOFLY_error();
+    if (refused(!canDraw(logo), LOGOFLY_error)) {
         return;
     }
     LFONT* const pen = logo->pen;
@@ -102,8 +98,7 @@ void LOGOFLY_draw(const LOGOFLY* logo) {
 }
 
 std::int32_t LOGOFLY_equals(const LOGOFLY* a, const LOGOFLY* b) {
-    if (a == nullptr || b == nullptr) {
-        LOGOFLY_error();
+    if (refused(a == nullptr || b == nullptr, LOGOFLY_error)) {
         return 0;
     }
     return a->phase == b->phase && a->speed == b->speed && a->letterStep == b->letterStep &&
@@ -113,8 +108,7 @@ std::int32_t LOGOFLY_equals(const LOGOFLY* a, const LOGOFLY* b) {
 }
 
 void LOGOFLY_copy(const LOGOFLY* src, LOGOFLY* dst) {
-    if (src == nullptr || dst == nullptr) {
-        LOGOFLY_error();
+    if (refused(src == nullptr || dst == nullptr, LOGOFLY_error)) {
         return;
     }
     copyMotion(*src, *dst);
@@ -124,8 +118,7 @@ void LOGOFLY_copy(const LOGOFLY* src, LOGOFLY* dst) {
 }
 
 LOGOFLY* LOGOFLY_clone(const LOGOFLY* src) {
-    if (src == nullptr) {
-        LOGOFLY_error();
+    if (refused(src == nullptr, LOGOFLY_error)) {
         return nullptr;
     }
     // LOGOFLY_cloneLeavesPlace: one expects a full copy; place and text are those of a new logo, and making

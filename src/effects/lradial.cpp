@@ -32,17 +32,14 @@ std::uint32_t colourOf(const LRADIAL& rays, std::int32_t index) {
 } // namespace
 
 LRADIAL* LRADIAL_new() {
-    LRADIAL* rays = newRecord<LRADIAL>(LRADIAL_error);
-    if (rays == nullptr) {
-        return nullptr;
-    }
-    LRADIAL_setCount(rays, rays->count);
-    if (rays->lengths == nullptr) {
-        LRADIAL_delete(&rays);
-        return nullptr;
-    }
-    LRADIAL_randomize(rays);
-    return rays;
+    return newRecord<LRADIAL>(LRADIAL_error, LRADIAL_delete, [](LRADIAL& rays) {
+        LRADIAL_setCount(&rays, rays.count);
+        if (rays.lengths == nullptr) {
+            return false;
+        }
+        LRADIAL_randomize(&rays);
+        return true;
+    });
 }
 
 void LRADIAL_setCount(LRADIAL* rays, std::int32_t count) {
@@ -52,8 +49,7 @@ void LRADIAL_setCount(LRADIAL* rays, std::int32_t count) {
 }
 
 void LRADIAL_randomize(LRADIAL* rays) {
-    if (rays == nullptr) {
-        LRADIAL_error();
+    if (refused(rays == nullptr, LRADIAL_error)) {
         return;
     }
     rays->turn = chance() & SINE_tableMask;
@@ -66,8 +62,7 @@ void LRADIAL_randomize(LRADIAL* rays) {
 }
 
 void LRADIAL_setWaveLengths(LRADIAL* rays) {
-    if (rays == nullptr) {
-        LRADIAL_error();
+    if (refused(rays == nullptr, LRADIAL_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rays->count; ++i) {
@@ -81,8 +76,7 @@ void LRADIAL_setWaveLengths(LRADIAL* rays) {
 
 void LRADIAL_setSoundLengths(LRADIAL* rays, const SAMPLE* sound, std::int32_t begin, std::int32_t step,
                              std::int32_t shift) {
-    if (rays == nullptr || sound == nullptr || shift < 0 || shift > 31) {
-        LRADIAL_error();
+    if (refused(rays == nullptr || sound == nullptr || shift < 0 || shift > 31, LRADIAL_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rays->count; ++i) {
@@ -95,8 +89,7 @@ void LRADIAL_setSoundLengths(LRADIAL* rays, const SAMPLE* sound, std::int32_t be
 }
 
 void LRADIAL_advance(LRADIAL* rays) {
-    if (rays == nullptr) {
-        LRADIAL_error();
+    if (refused(rays == nullptr, LRADIAL_error)) {
         return;
     }
     rays->turn = wrapAdd(rays->turn, rays->spin) & SINE_tableMask;
@@ -108,8 +101,7 @@ void LRADIAL_advance(LRADIAL* rays) {
 }
 
 void LRADIAL_draw(const LRADIAL* rays, IMG* target) {
-    if (rays == nullptr || target == nullptr || target->pixels == nullptr) {
-        LRADIAL_error();
+    if (refused(rays == nullptr || !hasPixels(target), LRADIAL_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rays->count; ++i) {

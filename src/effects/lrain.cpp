@@ -87,19 +87,14 @@ void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
 } // namespace
 
 LRAIN* LRAIN_new() {
-    LRAIN* rain = newRecord<LRAIN>(LRAIN_error);
-    if (rain == nullptr) {
-        return nullptr;
-    }
-    rain->random = RANDOM_new();
-    rain->drops = rain->random == nullptr ? nullptr : allocateArray<LRAIN_DROP>(rain->count);
-    if (rain->drops == nullptr) {
-        LRAIN_error();
-        LRAIN_delete(&rain);
-        return nullptr;
-    }
-    LRAIN_randomize(rain);
-    return rain;
+    return newRecord<LRAIN>(LRAIN_error, LRAIN_delete, [](LRAIN& rain) {
+        rain.random = RANDOM_new();
+        if (refused(rain.random == nullptr, LRAIN_error)) {
+            return false;
+        }
+        LRAIN_setCount(&rain, rain.count);
+        return rain.drops != nullptr;
+    });
 }
 
 void LRAIN_setCount(LRAIN* rain, std::int32_t count) {
@@ -109,8 +104,7 @@ void LRAIN_setCount(LRAIN* rain, std::int32_t count) {
 }
 
 void LRAIN_randomize(LRAIN* rain) {
-    if (rain == nullptr) {
-        LRAIN_error();
+    if (refused(rain == nullptr, LRAIN_error)) {
         return;
     }
     rain->random->counter = static_cast<std::uint32_t>(chance());
@@ -125,8 +119,7 @@ void LRAIN_randomize(LRAIN* rain) {
 }
 
 void LRAIN_advance(LRAIN* rain) {
-    if (rain == nullptr) {
-        LRAIN_error();
+    if (refused(rain == nullptr, LRAIN_error)) {
         return;
     }
     SINE_advance(&rain->wind);
@@ -145,8 +138,7 @@ void LRAIN_advance(LRAIN* rain) {
 }
 
 void LRAIN_draw(const LRAIN* rain, IMG* target) {
-    if (rain == nullptr || target == nullptr || target->pixels == nullptr) {
-        LRAIN_error();
+    if (refused(rain == nullptr || !hasPixels(target), LRAIN_error)) {
         return;
     }
     for (const LRAIN_RING& ring : rain->rings) {

@@ -150,32 +150,28 @@ LSCRLXYZ* LSCRLXYZ_new() {
 }
 
 void LSCRLXYZ_setText(LSCRLXYZ* scroll, const char* text) {
-    if (scroll == nullptr || text == nullptr) {
-        LSCRLXYZ_error();
+    if (refused(scroll == nullptr || text == nullptr, LSCRLXYZ_error)) {
         return;
     }
     setText(scroll->text, text);
 }
 
 std::int32_t LSCRLXYZ_length(const LSCRLXYZ* scroll) {
-    if (scroll == nullptr) {
-        LSCRLXYZ_error();
+    if (refused(scroll == nullptr, LSCRLXYZ_error)) {
         return 0;
     }
     return Surface(*scroll).length;
 }
 
 void LSCRLXYZ_fit(LSCRLXYZ* scroll) {
-    if (scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0) {
-        LSCRLXYZ_error();
+    if (refused(scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0, LSCRLXYZ_error)) {
         return;
     }
     scroll->scale = scaleToFit(LSCRLXYZ_length(scroll), scroll->text.length, scroll->cell);
 }
 
 void LSCRLXYZ_randomize(LSCRLXYZ* scroll) {
-    if (scroll == nullptr) {
-        LSCRLXYZ_error();
+    if (refused(scroll == nullptr, LSCRLXYZ_error)) {
         return;
     }
     scroll->angle.x = chance() & SINE_tableMask;
@@ -185,8 +181,7 @@ void LSCRLXYZ_randomize(LSCRLXYZ* scroll) {
 }
 
 void LSCRLXYZ_advance(LSCRLXYZ* scroll) {
-    if (scroll == nullptr) {
-        LSCRLXYZ_error();
+    if (refused(scroll == nullptr, LSCRLXYZ_error)) {
         return;
     }
     moveText(scroll->text, scroll->speed, pitchOf(scroll->cell, scroll->scale));
@@ -198,8 +193,7 @@ void LSCRLXYZ_advance(LSCRLXYZ* scroll) {
 }
 
 void LSCRLXYZ_draw(const LSCRLXYZ* scroll, IMG* target) {
-    if (scroll == nullptr || scroll->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
-        LSCRLXYZ_error();
+    if (refused(scroll == nullptr || scroll->glyphs == nullptr || !hasPixels(target), LSCRLXYZ_error)) {
         return;
     }
     const Surface surface(*scroll);

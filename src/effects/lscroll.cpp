@@ -60,7 +60,7 @@ std::int32_t walk(std::int32_t corners, Corner corner, Visit visit) {
         const Place to = corner(i);
         const std::int64_t dx = to.x - from.x;
         const std::int64_t dy = to.y - from.y;
-        const std::int64_t length = rootOf(dx * dx + dy * dy);
+        const std::int32_t length = rootOf(dx * dx + dy * dy);
         for (; along < length && count < mostStations; along += fixedOne) {
             visit(LSCROLL_STATION{static_cast<std::int32_t>(from.x + dx * along / length),
                                   static_cast<std::int32_t>(from.y + dy * along / length), angleOf(dx, dy)});
@@ -136,22 +136,18 @@ std::int32_t lightAt(const LSCROLL& scroll, std::int64_t along) {
 } // namespace
 
 LSCROLL* LSCROLL_new() {
-    LSCROLL* scroll = newRecord<LSCROLL>(LSCROLL_error);
-    if (scroll == nullptr) {
-        return nullptr;
-    }
-    LSCROLL_setLine(scroll, 0, scroll->length / 2, scroll->length, scroll->length / 2);
-    if (scroll->stations == nullptr) {
-        LSCROLL_delete(&scroll);
-        return nullptr;
-    }
-    LSCROLL_randomize(scroll);
-    return scroll;
+    return newRecord<LSCROLL>(LSCROLL_error, LSCROLL_delete, [](LSCROLL& scroll) {
+        LSCROLL_setLine(&scroll, 0, scroll.length / 2, scroll.length, scroll.length / 2);
+        if (scroll.stations == nullptr) {
+            return false;
+        }
+        LSCROLL_randomize(&scroll);
+        return true;
+    });
 }
 
 void LSCROLL_setText(LSCROLL* scroll, const char* text) {
-    if (scroll == nullptr || text == nullptr) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr || text == nullptr, LSCROLL_error)) {
         return;
     }
     setText(scroll->text, text);
@@ -178,8 +174,7 @@ void LSCROLL_setCurve(LSCROLL* scroll, const LSCROLL_CURVE& curve) {
 }
 
 void LSCROLL_fit(LSCROLL* scroll) {
-    if (scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0, LSCROLL_error)) {
         return;
     }
     scroll->scale = scaleToFit(scroll->length, scroll->text.length, scroll->cell);
@@ -187,8 +182,7 @@ void LSCROLL_fit(LSCROLL* scroll) {
 }
 
 void LSCROLL_randomize(LSCROLL* scroll) {
-    if (scroll == nullptr) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr, LSCROLL_error)) {
         return;
     }
     scroll->lift.phase = chance() & SINE_tableMask;
@@ -197,8 +191,7 @@ void LSCROLL_randomize(LSCROLL* scroll) {
 }
 
 void LSCROLL_advance(LSCROLL* scroll) {
-    if (scroll == nullptr) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr, LSCROLL_error)) {
         return;
     }
     moveText(scroll->text, scroll->speed, pitchOf(scroll->cell, scroll->scale));
@@ -208,8 +201,7 @@ void LSCROLL_advance(LSCROLL* scroll) {
 }
 
 void LSCROLL_draw(const LSCROLL* scroll, IMG* target) {
-    if (scroll == nullptr || scroll->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
-        LSCROLL_error();
+    if (refused(scroll == nullptr || scroll->glyphs == nullptr || !hasPixels(target), LSCROLL_error)) {
         return;
     }
     const std::int64_t pitch = pitchOf(scroll->cell, scroll->scale);

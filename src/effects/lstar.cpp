@@ -89,20 +89,16 @@ std::array<Point, mostCorners> cornersOf(const LSTAR& sky, std::int32_t index, s
 }
 
 bool canDraw(const LSTAR* sky, const IMG* target) {
-    return sky != nullptr && sky->stars != nullptr && target != nullptr && target->pixels != nullptr;
+    return sky != nullptr && sky->stars != nullptr && hasPixels(target);
 }
 
 } // namespace
 
 LSTAR* LSTAR_new() {
-    LSTAR* sky = newRecord<LSTAR>(LSTAR_error);
-    if (sky != nullptr) {
-        LSTAR_setCount(sky, sky->count);
-        if (sky->stars == nullptr) {
-            LSTAR_delete(&sky);
-        }
-    }
-    return sky;
+    return newRecord<LSTAR>(LSTAR_error, LSTAR_delete, [](LSTAR& sky) {
+        LSTAR_setCount(&sky, sky.count);
+        return sky.stars != nullptr;
+    });
 }
 
 void LSTAR_setCount(LSTAR* sky, std::int32_t count) {
@@ -112,8 +108,7 @@ void LSTAR_setCount(LSTAR* sky, std::int32_t count) {
 }
 
 void LSTAR_randomize(LSTAR* sky) {
-    if (sky == nullptr || sky->stars == nullptr) {
-        LSTAR_error();
+    if (refused(sky == nullptr || sky->stars == nullptr, LSTAR_error)) {
         return;
     }
     for (std::int32_t i = 0; i < sky->count; ++i) {
@@ -125,8 +120,7 @@ void LSTAR_randomize(LSTAR* sky) {
 }
 
 void LSTAR_advance(LSTAR* sky) {
-    if (sky == nullptr || sky->stars == nullptr) {
-        LSTAR_error();
+    if (refused(sky == nullptr || sky->stars == nullptr, LSTAR_error)) {
         return;
     }
     for (std::int32_t i = 0; i < sky->count; ++i) {
@@ -137,8 +131,7 @@ void LSTAR_advance(LSTAR* sky) {
 }
 
 void LSTAR_draw(const LSTAR* sky, IMG* target) {
-    if (!canDraw(sky, target)) {
-        LSTAR_error();
+    if (refused(!canDraw(sky, target), LSTAR_error)) {
         return;
     }
     for (std::int32_t i = 0; i < sky->count; ++i) {
@@ -147,8 +140,7 @@ void LSTAR_draw(const LSTAR* sky, IMG* target) {
 }
 
 void LSTAR_drawPolygons(const LSTAR* sky, IMG* target) {
-    if (!canDraw(sky, target)) {
-        LSTAR_error();
+    if (refused(!canDraw(sky, target), LSTAR_error)) {
         return;
     }
     const std::int32_t corners = std::clamp(sky->corners, 3, mostCorners);

@@ -39,16 +39,14 @@ MOUSE* MOUSE_new() {
 }
 
 void MOUSE_update(MOUSE* mouse) {
-    if (mouse == nullptr || mouse->pointer == nullptr) {
-        MOUSE_error();
+    if (refused(mouse == nullptr || mouse->pointer == nullptr, MOUSE_error)) {
         return;
     }
     copyState(*mouse->pointer, *mouse);
 }
 
 void MOUSE_draw(const MOUSE* mouse) {
-    if (mouse == nullptr || mouse->image == nullptr) {
-        MOUSE_error();
+    if (refused(mouse == nullptr || mouse->image == nullptr, MOUSE_error)) {
         return;
     }
     if (mouse->target == nullptr) {
@@ -61,8 +59,7 @@ void MOUSE_draw(const MOUSE* mouse) {
 }
 
 std::int32_t MOUSE_equals(const MOUSE* a, const MOUSE* b) {
-    if (a == nullptr || b == nullptr) {
-        MOUSE_error();
+    if (refused(a == nullptr || b == nullptr, MOUSE_error)) {
         return 0;
     }
     return a->x == b->x && a->y == b->y && a->buttons == b->buttons && a->image == b->image &&
@@ -73,8 +70,7 @@ std::int32_t MOUSE_equals(const MOUSE* a, const MOUSE* b) {
 }
 
 void MOUSE_copy(const MOUSE* src, MOUSE* dst) {
-    if (src == nullptr || dst == nullptr) {
-        MOUSE_error();
+    if (refused(src == nullptr || dst == nullptr, MOUSE_error)) {
         return;
     }
     copyState(*src, *dst);
@@ -83,8 +79,7 @@ void MOUSE_copy(const MOUSE* src, MOUSE* dst) {
 }
 
 MOUSE* MOUSE_clone(const MOUSE* src) {
-    if (src == nullptr) {
-        MOUSE_error();
+    if (refused(src == nullptr, MOUSE_error)) {
         return nullptr;
     }
     // MOUSE_cloneGivesNothing: one expects the new record; it is made and filled like any other, and deleted

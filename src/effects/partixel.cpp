@@ -35,10 +35,6 @@ bool isPureBlue(std::uint32_t pixel) {
     return (pixel & (red | green)) == 0 && (pixel & blue) != 0;
 }
 
-const std::uint32_t* rowOf(const IMG& image, std::int32_t y) {
-    return image.pixels + std::int64_t{y} * image.width;
-}
-
 void moveWater(IMG* image, std::int32_t x, std::int32_t y, std::int32_t step, std::uint32_t colour) {
     const struct { std::int32_t x, y; } places[] = {{x, y + 1}, {x + step, y}, {x - step, y}};
     for (const auto& to : places) {

@@ -34,8 +34,7 @@ bool hasColours(const RASTER* raster) {
 /// Calls paint(line, colour) for `lines` lines of the target, or reports.
 template <typename Paint>
 void paintLines(const RASTER* raster, const IMG* target, std::int32_t IMG::*lines, Paint paint) {
-    if (!hasColours(raster) || target == nullptr || target->pixels == nullptr) {
-        RASTER_error();
+    if (refused(!hasColours(raster) || !hasPixels(target), RASTER_error)) {
         return;
     }
     std::int32_t index = positiveModulo(wholeOf(raster->position), raster->count);
@@ -67,8 +66,7 @@ std::uint32_t smoothed(const RASTER& raster, std::int64_t index, std::int64_t ra
 /// Opens and closes a file, or reports.
 void touch(const char* path, const char* mode) {
     std::FILE* file = path == nullptr ? nullptr : std::fopen(path, mode);
-    if (file == nullptr) {
-        RASTER_error();
+    if (refused(file == nullptr, RASTER_error)) {
         return;
     }
     std::fclose(file);
@@ -77,18 +75,14 @@ void touch(const char* path, const char* mode) {
 } // namespace
 
 RASTER* RASTER_new() {
-    RASTER* raster = newRecord<RASTER>(RASTER_error);
-    if (raster == nullptr) {
-        return nullptr;
-    }
-    raster->colours = allocateColours(raster->count);
-    if (raster->colours == nullptr) {
-        RASTER_error();
-        RASTER_delete(&raster);
-        return nullptr;
-    }
-    raster->speed = chance() % speedRange + fixedOne;
-    return raster;
+    return newRecord<RASTER>(RASTER_error, RASTER_delete, [](RASTER& raster) {
+        RASTER_setCount(&raster, raster.count);
+        if (raster.colours == nullptr) {
+            return false;
+        }
+        raster.speed = chance() % speedRange + fixedOne;
+        return true;
+    });
 }
 
 RASTER* RASTER_load(const char* path) {
@@ -98,8 +92,7 @@ RASTER* RASTER_load(const char* path) {
 
 void RASTER_setCount(RASTER* raster, std::int32_t count) {
     std::uint32_t* const colours = raster == nullptr ? nullptr : allocateColours(count);
-    if (colours == nullptr) {
-        RASTER_error();
+    if (refused(colours == nullptr, RASTER_error)) {
         return;
     }
     delete[] raster->colours;
@@ -109,8 +102,7 @@ void RASTER_setCount(RASTER* raster, std::int32_t count) {
 }
 
 void RASTER_clear(RASTER* raster) {
-    if (raster == nullptr || raster->colours == nullptr) {
-        RASTER_error();
+    if (refused(raster == nullptr || raster->colours == nullptr, RASTER_error)) {
         return;
     }
     // RASTER_clearReachesSpare: one expects `count` colours; one more is cleared, which every list has room
@@ -121,8 +113,7 @@ void RASTER_clear(RASTER* raster) {
 void RASTER_smooth(RASTER* raster, std::int32_t radius) {
     std::uint32_t* const colours =
         hasColours(raster) && radius > 0 ? allocateColours(raster->count) : nullptr;
-    if (colours == nullptr) {
-        RASTER_error();
+    if (refused(colours == nullptr, RASTER_error)) {
         return;
     }
     // RASTER_smoothStartsPastEnd: one expects `count` colours; the spare one is smoothed like a last colour
@@ -137,8 +128,7 @@ void RASTER_smooth(RASTER* raster, std::int32_t radius) {
 
 void RASTER_advance(RASTER* raster) {
     const std::int32_t length = hasColours(raster) ? wrapShl(raster->count, 16) : 0;
-    if (length == 0) {
-        RASTER_error();
+    if (refused(length == 0, RASTER_error)) {
         return;
     }
     raster->position = wrapAdd(raster->position, raster->speed);
@@ -170,8 +160,8 @@ void RASTER_drawVertical(const RASTER* raster, IMG* target) {
 }
 
 std::int32_t RASTER_equals(const RASTER* a, const RASTER* b) {
-    if (a == nullptr || b == nullptr || a->colours == nullptr || b->colours == nullptr) {
-        RASTER_error();
+    if (refused(a == nullptr || b == nullptr || a->colours == nullptr || b->colours == nullptr,
+                RASTER_error)) {
         return 0;
     }
     if (a->count != b->count || a->position != b->position || a->speed != b->speed ||
@@ -184,8 +174,8 @@ std::int32_t RASTER_equals(const RASTER* a, const RASTER* b) {
 }
 
 void RASTER_copy(const RASTER* src, RASTER* dst) {
-    if (src == nullptr || dst == nullptr || src->colours == nullptr || dst->colours == nullptr) {
-        RASTER_error();
+    if (refused(src == nullptr || dst == nullptr || src->colours == nullptr || dst->colours == nullptr,
+                RASTER_error)) {
         return;
     }
     if (src->count != dst->count) {
@@ -199,8 +189,7 @@ void RASTER_copy(const RASTER* src, RASTER* dst) {
 }
 
 RASTER* RASTER_clone(const RASTER* src) {
-    if (src == nullptr || src->colours == nullptr) {
-        RASTER_error();
+    if (refused(src == nullptr || src->colours == nullptr, RASTER_error)) {
         return nullptr;
     }
     // RASTER_cloneDrawsSpeed: one expects the random generator to be left alone; a clone is made like any
@@ -221,8 +210,7 @@ RASTER* RASTER_clone(const RASTER* src) {
 }
 
 void RASTER_save(const RASTER* raster, const char* path) {
-    if (raster == nullptr) {
-        RASTER_error();
+    if (refused(raster == nullptr, RASTER_error)) {
         return;
     }
     touch(path, "wb");

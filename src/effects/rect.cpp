@@ -77,8 +77,9 @@ void drawFleet(const RECT& rect, IMG* target) {
         const RECT_PANE& pane = rect.panes[i];
         const std::int32_t width = SINE_cosineScaled(pane.width, pane.flip);
         const std::uint32_t colour = dimmed(rect, pane.colour, RGB888_fullWeight);
-        RECT_drawTurned(target, wrapAdd(rect.x, wholeOf(pane.x)), wrapAdd(rect.y, wholeOf(pane.y)), width,
-                        pane.height, pane.turn, rect.face, width < 0 ? (colour >> 1) & backBits : colour,
+        const RECT_BOX box{wrapAdd(rect.x, wholeOf(pane.x)), wrapAdd(rect.y, wholeOf(pane.y)), width,
+                           pane.height};
+        RECT_drawTurned(target, box, pane.turn, rect.face, width < 0 ? (colour >> 1) & backBits : colour,
                         rect.mix);
     }
 }
@@ -114,7 +115,7 @@ void drawTunnel(const RECT& rect, IMG* target) {
         const std::uint32_t colour =
             dimmed(rect, colourAhead(rect, ahead), RGB888_fullWeight - away / rect.count);
         const auto draw = [&](RECT_FACE face, std::uint32_t shade) {
-            RECT_drawTurned(target, x, y, seen(rect.paneWidth), seen(rect.paneHeight), angle, face, shade,
+            RECT_drawTurned(target, {x, y, seen(rect.paneWidth), seen(rect.paneHeight)}, angle, face, shade,
                             rect.mix);
         };
         if (rect.face != RECT_FACE::both) {
@@ -140,9 +141,10 @@ void drawNest(const RECT& rect, IMG* target) {
         };
         // Born dark, and dark again before it leaves, so that nothing appears or vanishes at once.
         const std::int32_t share = std::min(grown, away);
-        RECT_drawTurned(target, wrapAdd(middleX, seen(windAt(rect.windX, rect.reach, away))),
-                        wrapAdd(middleY, seen(windAt(rect.windY, rect.reach, away))), seen(rect.paneWidth),
-                        seen(rect.paneHeight), wrapAdd(rect.turn, wrapMul(rect.twist, away) >> 8), rect.face,
+        const RECT_BOX box{wrapAdd(middleX, seen(windAt(rect.windX, rect.reach, away))),
+                           wrapAdd(middleY, seen(windAt(rect.windY, rect.reach, away))), seen(rect.paneWidth),
+                           seen(rect.paneHeight)};
+        RECT_drawTurned(target, box, wrapAdd(rect.turn, wrapMul(rect.twist, away) >> 8), rect.face,
                         dimmed(rect, colourAhead(rect, ahead), share), rect.mix);
     }
 }
@@ -150,14 +152,10 @@ void drawNest(const RECT& rect, IMG* target) {
 } // namespace
 
 RECT* RECT_new() {
-    RECT* rect = newRecord<RECT>(RECT_error);
-    if (rect != nullptr) {
-        RECT_setCount(rect, rect->count);
-        if (rect->panes == nullptr) {
-            RECT_delete(&rect);
-        }
-    }
-    return rect;
+    return newRecord<RECT>(RECT_error, RECT_delete, [](RECT& rect) {
+        RECT_setCount(&rect, rect.count);
+        return rect.panes != nullptr;
+    });
 }
 
 void RECT_setCount(RECT* rect, std::int32_t count) {
@@ -167,8 +165,7 @@ void RECT_setCount(RECT* rect, std::int32_t count) {
 }
 
 void RECT_randomize(RECT* rect) {
-    if (rect == nullptr) {
-        RECT_error();
+    if (refused(rect == nullptr, RECT_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rect->count; ++i) {
@@ -177,8 +174,7 @@ void RECT_randomize(RECT* rect) {
 }
 
 void RECT_advance(RECT* rect) {
-    if (rect == nullptr) {
-        RECT_error();
+    if (refused(rect == nullptr, RECT_error)) {
         return;
     }
     for (std::int32_t i = 0; i < rect->count; ++i) {
@@ -191,8 +187,7 @@ void RECT_advance(RECT* rect) {
 }
 
 void RECT_draw(const RECT* rect, IMG* target) {
-    if (rect == nullptr || target == nullptr || target->pixels == nullptr) {
-        RECT_error();
+    if (refused(rect == nullptr || !hasPixels(target), RECT_error)) {
         return;
     }
     switch (rect->path) {

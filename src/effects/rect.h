@@ -23,6 +23,12 @@ enum class RECT_PATH : std::uint8_t { drift, tunnel, nest };
 enum class RECT_FACE : std::uint8_t { frame, pane, both }; ///< both: see RECT_draw
 enum class RECT_MIX : std::uint8_t { set, add, average };
 
+/// Where a rectangle stands: a corner, or its middle where it is turned. Pixels.
+struct RECT_BOX {
+    std::int32_t x, y;
+    std::int32_t w, h; ///< negative: to the left, upwards
+};
+
 /// One of the fleet. Tunnels and nests take its colour only.
 struct RECT_PANE {
     std::int32_t x, y;           ///< 16.16 pixels from the field's corner; its middle
@@ -76,18 +82,17 @@ void RECT_advance(RECT* rect);
 /// colour; in a tunnel, where all of them overlap, a sixteenth.
 void RECT_draw(const RECT* rect, IMG* target);
 
-/// One filled rectangle, the pixels of IMG_fillRect: a negative w or h extends it to the left or upwards.
-void RECT_drawPane(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
-                   std::uint32_t colour, RECT_MIX mix);
+/// One filled rectangle, the pixels of IMG_fillRect.
+void RECT_drawPane(IMG* target, const RECT_BOX& box, std::uint32_t colour, RECT_MIX mix);
 
 /// Its border alone, `thickness` pixels inwards; each pixel is mixed once.
-void RECT_drawFrame(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
-                    std::int32_t thickness, std::uint32_t colour, RECT_MIX mix);
+void RECT_drawFrame(IMG* target, const RECT_BOX& box, std::int32_t thickness, std::uint32_t colour,
+                    RECT_MIX mix);
 
-/// A rectangle about its middle (x, y), turned by `angle` in 1/1024 turns; sizes within +-65535. A frame is
-/// four lines of single pixels.
-void RECT_drawTurned(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
-                     std::int32_t angle, RECT_FACE face, std::uint32_t colour, RECT_MIX mix);
+/// A rectangle about its middle, turned by `angle` in 1/1024 turns; sizes within +-65535. A frame is four
+/// lines of single pixels.
+void RECT_drawTurned(IMG* target, const RECT_BOX& box, std::int32_t angle, RECT_FACE face,
+                     std::uint32_t colour, RECT_MIX mix);
 
 /// Frees the panes and the record and stores nullptr in the handle.
 void RECT_delete(RECT** handle);

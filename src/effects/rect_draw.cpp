@@ -3,6 +3,7 @@
 //
 // What RECT draws one rectangle with: upright and turned, filled and framed, in three ways of mixing.
 #include "effects/rect.h"
+#include "foundation/report.h"
 #include "foundation/sine.h"
 #include "image/img.h"
 #include "image/imgfx.h"
@@ -27,18 +28,18 @@ struct Box {
     std::int64_t left, top, width, height;
 };
 
-Box boxOf(std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h) {
-    return {.left = std::min<std::int64_t>(x, std::int64_t{x} + w),
-            .top = std::min<std::int64_t>(y, std::int64_t{y} + h),
-            .width = std::abs(std::int64_t{w}),
-            .height = std::abs(std::int64_t{h})};
+Box upright(const RECT_BOX& box) {
+    return {.left = std::min<std::int64_t>(box.x, std::int64_t{box.x} + box.w),
+            .top = std::min<std::int64_t>(box.y, std::int64_t{box.y} + box.h),
+            .width = std::abs(std::int64_t{box.w}),
+            .height = std::abs(std::int64_t{box.h})};
 }
 
 /// Pixels from..to - 1 of a row that lies inside, clipped.
 void mixRow(IMG* target, std::int64_t y, std::int64_t from, std::int64_t to, std::uint32_t colour,
             RECT_MIX mix) {
     const std::int64_t width = target->width;
-    std::uint32_t* const row = target->pixels + y * width;
+    std::uint32_t* const row = rowOf(*target, y);
     std::uint32_t* const begin = row + std::clamp<std::int64_t>(from, 0, width);
     std::uint32_t* const end = row + std::clamp<std::int64_t>(to, 0, width);
     switch (mix) {
@@ -67,13 +68,14 @@ void fillBox(IMG* target, const Box& box, std::uint32_t colour, RECT_MIX mix) {
     }
 }
 
-Corners cornersOf(std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h, std::int32_t angle) {
-    const std::int64_t acrossX = SINE_cosineScaled(w, angle);
-    const std::int64_t acrossY = SINE_scaled(w, angle);
-    const std::int64_t downX = -SINE_scaled(h, angle);
-    const std::int64_t downY = SINE_cosineScaled(h, angle);
+Corners cornersOf(const RECT_BOX& box, std::int32_t angle) {
+    const std::int64_t acrossX = SINE_cosineScaled(box.w, angle);
+    const std::int64_t acrossY = SINE_scaled(box.w, angle);
+    const std::int64_t downX = -SINE_scaled(box.h, angle);
+    const std::int64_t downY = SINE_cosineScaled(box.h, angle);
     const auto corner = [=](std::int64_t a, std::int64_t b) {
-        return Corner{.x = x + ((a * acrossX + b * downX) >> 1), .y = y + ((a * acrossY + b * downY) >> 1)};
+        return Corner{.x = box.x + ((a * acrossX + b * downX) >> 1),
+                      .y = box.y + ((a * acrossY + b * downY) >> 1)};
     };
     return {corner(-1, -1), corner(1, -1), corner(1, 1), corner(-1, 1)};
 }
@@ -120,48 +122,39 @@ void frameCorners(IMG* target, const Corners& corners, std::uint32_t colour, REC
     }
 }
 
-bool canDraw(const IMG* target) {
-    if (target == nullptr || target->pixels == nullptr) {
-        RECT_error();
-        return false;
-    }
-    return true;
-}
-
 } // namespace
 
-void RECT_drawPane(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
-                   std::uint32_t colour, RECT_MIX mix) {
-    if (canDraw(target)) {
-        fillBox(target, boxOf(x, y, w, h), colour, mix);
+void RECT_drawPane(IMG* target, const RECT_BOX& box, std::uint32_t colour, RECT_MIX mix) {
+    if (!refused(!hasPixels(target), RECT_error)) {
+        fillBox(target, upright(box), colour, mix);
     }
 }
 
-void RECT_drawFrame(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
-                    std::int32_t thickness, std::uint32_t colour, RECT_MIX mix) {
-    if (!canDraw(target)) {
+void RECT_drawFrame(IMG* target, const RECT_BOX& box, std::int32_t thickness, std::uint32_t colour,
+                    RECT_MIX mix) {
+    if (refused(!hasPixels(target), RECT_error)) {
         return;
     }
-    const Box box = boxOf(x, y, w, h);
+    const Box outer = upright(box);
     // Where the border is thicker than half the rectangle, the bars are cut so that none covers another.
-    const std::int64_t top = std::clamp<std::int64_t>(thickness, 0, box.height);
-    const std::int64_t bottom = std::min(top, box.height - top);
-    const std::int64_t left = std::clamp<std::int64_t>(thickness, 0, box.width);
-    const std::int64_t right = std::min(left, box.width - left);
-    const std::int64_t sides = box.height - top - bottom;
-    const std::int64_t belowTop = box.top + top;
-    fillBox(target, {box.left, box.top, box.width, top}, colour, mix);
-    fillBox(target, {box.left, belowTop, left, sides}, colour, mix);
-    fillBox(target, {box.left + box.width - right, belowTop, right, sides}, colour, mix);
-    fillBox(target, {box.left, belowTop + sides, box.width, bottom}, colour, mix);
+    const std::int64_t top = std::clamp<std::int64_t>(thickness, 0, outer.height);
+    const std::int64_t bottom = std::min(top, outer.height - top);
+    const std::int64_t left = std::clamp<std::int64_t>(thickness, 0, outer.width);
+    const std::int64_t right = std::min(left, outer.width - left);
+    const std::int64_t sides = outer.height - top - bottom;
+    const std::int64_t belowTop = outer.top + top;
+    fillBox(target, {outer.left, outer.top, outer.width, top}, colour, mix);
+    fillBox(target, {outer.left, belowTop, left, sides}, colour, mix);
+    fillBox(target, {outer.left + outer.width - right, belowTop, right, sides}, colour, mix);
+    fillBox(target, {outer.left, belowTop + sides, outer.width, bottom}, colour, mix);
 }
 
-void RECT_drawTurned(IMG* target, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
-                     std::int32_t angle, RECT_FACE face, std::uint32_t colour, RECT_MIX mix) {
-    if (!canDraw(target)) {
+void RECT_drawTurned(IMG* target, const RECT_BOX& box, std::int32_t angle, RECT_FACE face,
+                     std::uint32_t colour, RECT_MIX mix) {
+    if (refused(!hasPixels(target), RECT_error)) {
         return;
     }
-    const Corners corners = cornersOf(x, y, w, h, angle);
+    const Corners corners = cornersOf(box, angle);
     if (isBeside(*target, corners)) {
         return;
     }

@@ -43,8 +43,7 @@ void moveBy(SCROLL& scroll, std::int32_t characters) {
 }
 
 void drawWith(SCROLL* scroll, void (*drawChar)(FONT*)) {
-    if (!canMove(scroll) || scroll->target == nullptr) {
-        SCROLL_error();
+    if (refused(!canMove(scroll) || scroll->target == nullptr, SCROLL_error)) {
         return;
     }
     FONT* const font = scroll->font;
@@ -82,8 +81,7 @@ SCROLL* SCROLL_new() {
 void SCROLL_setup(SCROLL* scroll, const char* text, FONT* font, IMG* target) {
     const bool complete = scroll != nullptr && text != nullptr && font != nullptr && target != nullptr;
     CURSOR* const cursor = complete ? newCursorOver(text) : nullptr;
-    if (cursor == nullptr) {
-        SCROLL_error();
+    if (refused(cursor == nullptr, SCROLL_error)) {
         return;
     }
     CURSOR_delete(&scroll->cursor);
@@ -98,8 +96,7 @@ void SCROLL_setup(SCROLL* scroll, const char* text, FONT* font, IMG* target) {
 }
 
 void SCROLL_step(SCROLL* scroll) {
-    if (!canMove(scroll)) {
-        SCROLL_error();
+    if (refused(!canMove(scroll), SCROLL_error)) {
         return;
     }
     const std::int32_t width = scroll->font->width;

@@ -5,6 +5,7 @@
 #include "foundation/chance.h"
 #include "foundation/memory.h"
 #include "foundation/record.h"
+#include "foundation/report.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/img.h"
@@ -103,7 +104,7 @@ private:
 };
 
 bool canDraw(const SINEDOTS* dots, const IMG* target) {
-    return dots != nullptr && dots->dots != nullptr && target != nullptr && target->pixels != nullptr;
+    return dots != nullptr && dots->dots != nullptr && hasPixels(target);
 }
 
 /// `times` saturating additions of a colour are one of this colour.
@@ -118,25 +119,21 @@ std::uint32_t colourTimes(std::uint32_t colour, std::int64_t times) {
 } // namespace
 
 SINEDOTS* SINEDOTS_new() {
-    SINEDOTS* dots = newRecord<SINEDOTS>(SINEDOTS_error);
-    if (dots == nullptr) {
-        return nullptr;
-    }
-    SINEDOTS_setCount(dots, dots->count);
-    if (dots->dots == nullptr) {
-        SINEDOTS_delete(&dots);
-        return nullptr;
-    }
-    SINEDOTS_randomize(dots);
-    return dots;
+    return newRecord<SINEDOTS>(SINEDOTS_error, SINEDOTS_delete, [](SINEDOTS& dots) {
+        SINEDOTS_setCount(&dots, dots.count);
+        if (dots.dots == nullptr) {
+            return false;
+        }
+        SINEDOTS_randomize(&dots);
+        return true;
+    });
 }
 
 void SINEDOTS_setCount(SINEDOTS* dots, std::int32_t count) {
     std::int32_t* const storage = dots != nullptr && count >= 1
                                       ? allocateArray<std::int32_t>(std::int64_t{count} * wordsPerDot)
                                       : nullptr;
-    if (storage == nullptr) {
-        SINEDOTS_error();
+    if (refused(storage == nullptr, SINEDOTS_error)) {
         return;
     }
     delete[] dots->dots;
@@ -145,8 +142,7 @@ void SINEDOTS_setCount(SINEDOTS* dots, std::int32_t count) {
 }
 
 void SINEDOTS_randomize(SINEDOTS* dots) {
-    if (dots == nullptr || dots->dots == nullptr) {
-        SINEDOTS_error();
+    if (refused(dots == nullptr || dots->dots == nullptr, SINEDOTS_error)) {
         return;
     }
     for (std::int32_t k = 0; k < SINEDOTS_waveCount; ++k) {
@@ -162,8 +158,7 @@ void SINEDOTS_randomize(SINEDOTS* dots) {
 }
 
 void SINEDOTS_advance(SINEDOTS* dots) {
-    if (dots == nullptr) {
-        SINEDOTS_error();
+    if (refused(dots == nullptr, SINEDOTS_error)) {
         return;
     }
     for (std::int32_t k = 0; k < SINEDOTS_waveCount; ++k) {
@@ -176,8 +171,7 @@ void SINEDOTS_advance(SINEDOTS* dots) {
 // 1024 fall on the first ones, so no draw has to visit more than those.
 
 void SINEDOTS_draw(SINEDOTS* dots, IMG* target) {
-    if (!canDraw(dots, target)) {
-        SINEDOTS_error();
+    if (refused(!canDraw(dots, target), SINEDOTS_error)) {
         return;
     }
     const std::uint32_t colour = dots->colour;
@@ -187,8 +181,7 @@ void SINEDOTS_draw(SINEDOTS* dots, IMG* target) {
 }
 
 void SINEDOTS_drawAdd(SINEDOTS* dots, IMG* target) {
-    if (!canDraw(dots, target)) {
-        SINEDOTS_error();
+    if (refused(!canDraw(dots, target), SINEDOTS_error)) {
         return;
     }
     const std::int32_t turns = dots->count / SINE_tableLength;

@@ -78,8 +78,7 @@ SINELINE* SINELINE_new() {
 }
 
 void SINELINE_randomize(SINELINE* line) {
-    if (line == nullptr) {
-        SINELINE_error();
+    if (refused(line == nullptr, SINELINE_error)) {
         return;
     }
     for (SINELINE_WAVE& wave : line->wave) {
@@ -93,8 +92,7 @@ void SINELINE_randomize(SINELINE* line) {
 }
 
 void SINELINE_advance(SINELINE* line) {
-    if (line == nullptr) {
-        SINELINE_error();
+    if (refused(line == nullptr, SINELINE_error)) {
         return;
     }
     for (SINELINE_WAVE& wave : line->wave) {
@@ -105,8 +103,7 @@ void SINELINE_advance(SINELINE* line) {
 }
 
 void SINELINE_draw(const SINELINE* line, IMG* target) {
-    if (line == nullptr || line->corners < leastCorners || target == nullptr || target->pixels == nullptr) {
-        SINELINE_error();
+    if (refused(line == nullptr || line->corners < leastCorners || !hasPixels(target), SINELINE_error)) {
         return;
     }
     const std::int32_t echoes = std::clamp(line->echoes, 1, mostEchoes);

@@ -33,7 +33,7 @@ struct Line {
 
 template <typename Pixel, typename Image>
 Line<Pixel> lineOf(Image& img, bool isRow, std::int32_t index) {
-    return isRow ? Line<Pixel>{img.pixels + std::int64_t{index} * img.width, 1, img.width}
+    return isRow ? Line<Pixel>{rowOf(img, index), 1, img.width}
                  : Line<Pixel>{img.pixels + index, img.width, img.height};
 }
 
@@ -139,8 +139,7 @@ SINESCAN* SINESCAN_new() {
 }
 
 void SINESCAN_randomize(SINESCAN* scan) {
-    if (scan == nullptr) {
-        SINESCAN_error();
+    if (refused(scan == nullptr, SINESCAN_error)) {
         return;
     }
     randomizeWave(scan->shift.wave, 24, 12);
@@ -150,8 +149,7 @@ void SINESCAN_randomize(SINESCAN* scan) {
 }
 
 void SINESCAN_advance(SINESCAN* scan) {
-    if (scan == nullptr) {
-        SINESCAN_error();
+    if (refused(scan == nullptr, SINESCAN_error)) {
         return;
     }
     for (SINESCAN_WAVE* const wave : {&scan->shift, &scan->stretch, &scan->scan, &scan->twist}) {
@@ -161,9 +159,9 @@ void SINESCAN_advance(SINESCAN* scan) {
 }
 
 void SINESCAN_draw(const SINESCAN* scan, IMG* target) {
-    if (scan == nullptr || target == nullptr || target->pixels == nullptr || scan->source == nullptr ||
-        scan->source->pixels == nullptr || scan->source->width < 1 || scan->source->height < 1) {
-        SINESCAN_error();
+    if (refused(scan == nullptr || !hasPixels(target) || !hasPixels(scan->source) ||
+                    scan->source->width < 1 || scan->source->height < 1,
+                SINESCAN_error)) {
         return;
     }
     const std::int32_t width = std::min(scan->width, mostSize);

@@ -147,23 +147,18 @@ void drawFlight(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, IMG* target
 } // namespace
 
 WORDZOOM* WORDZOOM_new() {
-    WORDZOOM* zoom = newRecord<WORDZOOM>(WORDZOOM_error);
-    if (zoom == nullptr) {
-        return nullptr;
-    }
-    zoom->random = RANDOM_new();
-    if (zoom->random == nullptr) {
-        WORDZOOM_error();
-        WORDZOOM_delete(&zoom);
-        return nullptr;
-    }
-    WORDZOOM_randomize(zoom);
-    return zoom;
+    return newRecord<WORDZOOM>(WORDZOOM_error, WORDZOOM_delete, [](WORDZOOM& zoom) {
+        zoom.random = RANDOM_new();
+        if (refused(zoom.random == nullptr, WORDZOOM_error)) {
+            return false;
+        }
+        WORDZOOM_randomize(&zoom);
+        return true;
+    });
 }
 
 void WORDZOOM_setText(WORDZOOM* zoom, const char* text) {
-    if (zoom == nullptr || text == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || text == nullptr, WORDZOOM_error)) {
         return;
     }
     zoom->text = text;
@@ -173,8 +168,7 @@ void WORDZOOM_setText(WORDZOOM* zoom, const char* text) {
 }
 
 void WORDZOOM_randomize(WORDZOOM* zoom) {
-    if (zoom == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr, WORDZOOM_error)) {
         return;
     }
     zoom->hue = chance() & 0xFFFF;
@@ -182,8 +176,7 @@ void WORDZOOM_randomize(WORDZOOM* zoom) {
 }
 
 void WORDZOOM_advance(WORDZOOM* zoom) {
-    if (zoom == nullptr || zoom->text == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || zoom->text == nullptr, WORDZOOM_error)) {
         return;
     }
     for (WORDZOOM_FLIGHT& flight : zoom->flights) {
@@ -207,8 +200,7 @@ void WORDZOOM_advance(WORDZOOM* zoom) {
 }
 
 bool WORDZOOM_isDone(const WORDZOOM* zoom) {
-    if (zoom == nullptr || zoom->text == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || zoom->text == nullptr, WORDZOOM_error)) {
         return true;
     }
     const bool flies = std::any_of(std::begin(zoom->flights), std::end(zoom->flights),
@@ -218,8 +210,7 @@ bool WORDZOOM_isDone(const WORDZOOM* zoom) {
 }
 
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {
-    if (zoom == nullptr || zoom->glyphs == nullptr || target == nullptr || target->pixels == nullptr) {
-        WORDZOOM_error();
+    if (refused(zoom == nullptr || zoom->glyphs == nullptr || !hasPixels(target), WORDZOOM_error)) {
         return;
     }
     for (const WORDZOOM_FLIGHT& flight : zoom->flights) {

@@ -58,8 +58,7 @@ void adoptDoubled(ARRAY& array, std::uint8_t* data) {
 bool append(ARRAY& array, const void* element) {
     const bool isFull = array.capacity <= array.count;
     std::uint8_t* const data = isFull ? doubled(array) : array.data;
-    if (data == nullptr) {
-        ARRAY_error();
+    if (refused(data == nullptr, ARRAY_error)) {
         return false;
     }
     std::memmove(data + bytesInUse(array), element, array.elementSize);
@@ -86,8 +85,7 @@ ARRAY* ARRAY_new() {
 
 void ARRAY_setElementSize(ARRAY* array, std::uint32_t size) {
     std::uint8_t* const data = array == nullptr ? nullptr : allocateElements(array->capacity, size);
-    if (data == nullptr) {
-        ARRAY_error();
+    if (refused(data == nullptr, ARRAY_error)) {
         return;
     }
     delete[] array->data;
@@ -98,8 +96,7 @@ void ARRAY_setElementSize(ARRAY* array, std::uint32_t size) {
 
 std::int32_t ARRAY_grow(ARRAY* array) {
     std::uint8_t* const data = array == nullptr ? nullptr : doubled(*array);
-    if (data == nullptr) {
-        ARRAY_error();
+    if (refused(data == nullptr, ARRAY_error)) {
         return 0;
     }
     adoptDoubled(*array, data);
@@ -107,16 +104,14 @@ std::int32_t ARRAY_grow(ARRAY* array) {
 }
 
 void ARRAY_push(ARRAY* array, const void* element) {
-    if (array == nullptr || element == nullptr) {
-        ARRAY_error();
+    if (refused(array == nullptr || element == nullptr, ARRAY_error)) {
         return;
     }
     append(*array, element);
 }
 
 void ARRAY_insert(ARRAY* array, const void* element, std::int32_t index) {
-    if (array == nullptr || element == nullptr || index < 0 || index > array->count) {
-        ARRAY_error();
+    if (refused(array == nullptr || element == nullptr || index < 0 || index > array->count, ARRAY_error)) {
         return;
     }
     if (append(*array, element)) {
@@ -135,16 +130,14 @@ void ARRAY_insertRange(const ARRAY* src, const ARRAY* dst, std::int32_t from, st
 }
 
 void ARRAY_get(const ARRAY* array, void* destination, std::int32_t index) {
-    if (!isIndex(array, index) || destination == nullptr) {
-        ARRAY_error();
+    if (refused(!isIndex(array, index) || destination == nullptr, ARRAY_error)) {
         return;
     }
     std::memmove(destination, elementAt(*array, index), array->elementSize);
 }
 
 void ARRAY_set(ARRAY* array, const void* source, std::int32_t index) {
-    if (!isIndex(array, index) || source == nullptr) {
-        ARRAY_error();
+    if (refused(!isIndex(array, index) || source == nullptr, ARRAY_error)) {
         return;
     }
     std::memmove(elementAt(*array, index), source, array->elementSize);
@@ -153,8 +146,7 @@ void ARRAY_set(ARRAY* array, const void* source, std::int32_t index) {
 std::uint8_t* ARRAY_getCopy(const ARRAY* array, std::int32_t index) {
     std::uint8_t* const copy =
         isIndex(array, index) ? allocateArray<std::uint8_t>(array->elementSize) : nullptr;
-    if (copy == nullptr) {
-        ARRAY_error();
+    if (refused(copy == nullptr, ARRAY_error)) {
         return nullptr;
     }
     std::memcpy(copy, elementAt(*array, index), array->elementSize);
@@ -170,16 +162,14 @@ std::uint8_t* ARRAY_pop(ARRAY* array) {
 }
 
 void ARRAY_deleteAt(ARRAY* array, std::int32_t index) {
-    if (!isIndex(array, index)) {
-        ARRAY_error();
+    if (refused(!isIndex(array, index), ARRAY_error)) {
         return;
     }
     ARRAY_removeRange(array, index, index + 1);
 }
 
 void ARRAY_removeRange(ARRAY* array, std::int32_t from, std::int32_t to) {
-    if (!isRange(array, from, to)) {
-        ARRAY_error();
+    if (refused(!isRange(array, from, to), ARRAY_error)) {
         return;
     }
     std::copy(elementAt(*array, to), elementAt(*array, array->count), elementAt(*array, from));
@@ -187,8 +177,7 @@ void ARRAY_removeRange(ARRAY* array, std::int32_t from, std::int32_t to) {
 }
 
 void ARRAY_clear(ARRAY* array) {
-    if (array == nullptr || array->capacity <= 0) {
-        ARRAY_error();
+    if (refused(array == nullptr || array->capacity <= 0, ARRAY_error)) {
         return;
     }
     std::fill_n(array->data, bytesInUse(*array), std::uint8_t{0});
@@ -196,8 +185,7 @@ void ARRAY_clear(ARRAY* array) {
 }
 
 std::int32_t ARRAY_indexOf(const ARRAY* array, const void* element) {
-    if (array == nullptr || element == nullptr) {
-        ARRAY_error();
+    if (refused(array == nullptr || element == nullptr, ARRAY_error)) {
         return -1;
     }
     for (std::int32_t i = 0; i < array->count; ++i) {
@@ -209,8 +197,7 @@ std::int32_t ARRAY_indexOf(const ARRAY* array, const void* element) {
 }
 
 std::int32_t ARRAY_equalAt(const ARRAY* array, const void* element, std::int32_t index) {
-    if (!isIndex(array, index) || element == nullptr) {
-        ARRAY_error();
+    if (refused(!isIndex(array, index) || element == nullptr, ARRAY_error)) {
         return 0;
     }
     return std::memcmp(elementAt(*array, index), element, array->elementSize) == 0 ? 1 : 0;
@@ -222,8 +209,7 @@ std::int32_t ARRAY_equal(const ARRAY* a, const ARRAY* b) {
         // only a missing one beside a real one is an error.
         return 1;
     }
-    if (a == nullptr || b == nullptr) {
-        ARRAY_error();
+    if (refused(a == nullptr || b == nullptr, ARRAY_error)) {
         return 0;
     }
     return a->elementSize == b->elementSize && a->count == b->count &&
@@ -233,8 +219,7 @@ std::int32_t ARRAY_equal(const ARRAY* a, const ARRAY* b) {
 }
 
 void ARRAY_copyInto(const ARRAY* src, ARRAY* dst) {
-    if (src == nullptr || dst == nullptr) {
-        ARRAY_error();
+    if (refused(src == nullptr || dst == nullptr, ARRAY_error)) {
         return;
     }
     // ARRAY_copyCountsBytes: one expects whole elements; the smaller count is taken as a number of bytes, so
@@ -245,8 +230,7 @@ void ARRAY_copyInto(const ARRAY* src, ARRAY* dst) {
 }
 
 ARRAY* ARRAY_clone(const ARRAY* src) {
-    if (src == nullptr) {
-        ARRAY_error();
+    if (refused(src == nullptr, ARRAY_error)) {
         return nullptr;
     }
     ARRAY* clone = ARRAY_new();
@@ -268,8 +252,7 @@ ARRAY* ARRAY_clone(const ARRAY* src) {
 }
 
 ARRAY* ARRAY_slice(const ARRAY* array, std::int32_t from, std::int32_t to) {
-    if (!isRange(array, from, to)) {
-        ARRAY_error();
+    if (refused(!isRange(array, from, to), ARRAY_error)) {
         return nullptr;
     }
     // ARRAY_sliceIsEmpty: one expects elements from..to-1; a good range returns a new array, with

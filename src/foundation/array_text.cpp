@@ -4,6 +4,7 @@
 // An array as text, and the demonstration that prints it.
 #include "foundation/array.h"
 #include "foundation/memory.h"
+#include "foundation/report.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -26,8 +27,7 @@ void show(const ARRAY* array) {
 } // namespace
 
 char* ARRAY_toText(const ARRAY* array) {
-    if (array == nullptr) {
-        ARRAY_error();
+    if (refused(array == nullptr, ARRAY_error)) {
         return nullptr;
     }
     constexpr std::string_view head = "ARRAY{\n";
@@ -35,8 +35,7 @@ char* ARRAY_toText(const ARRAY* array) {
     const std::size_t used = static_cast<std::size_t>(array->count) * array->elementSize;
     const std::size_t size = head.size() + used + tail.size() + 1;
     char* const text = allocateArray<char>(static_cast<std::int64_t>(size));
-    if (text == nullptr) {
-        ARRAY_error();
+    if (refused(text == nullptr, ARRAY_error)) {
         return nullptr;
     }
     char* const bytes = std::copy(head.begin(), head.end(), text);

@@ -17,23 +17,6 @@ std::uint8_t DIR_verbose = 0;
 
 namespace {
 
-/// Appends a copy of a name, because the stream reuses its own; false when memory runs out.
-bool appendName(LIST* names, const char* name) {
-    const std::size_t size = std::strlen(name) + 1;
-    char* const copy = allocateArray<char>(static_cast<std::int64_t>(size));
-    if (copy == nullptr) {
-        return false;
-    }
-    std::memcpy(copy, name, size);
-    const std::int32_t before = names->count;
-    LIST_append(names, copy);
-    if (names->count == before) {
-        delete[] copy;
-        return false;
-    }
-    return true;
-}
-
 /// Drops the names after the first `count`.
 void dropNames(LIST* names, std::int32_t count) {
     while (names->count > count) {
@@ -44,30 +27,43 @@ void dropNames(LIST* names, std::int32_t count) {
 } // namespace
 
 DIR* DIR_new() {
-    DIR* dir = newRecord<DIR>(DIR_error);
-    if (dir != nullptr) {
-        dir->names = LIST_new();
-        if (dir->names == nullptr) {
-            DIR_error();
-            DIR_delete(&dir);
+    return newRecord<DIR>(DIR_error, DIR_delete, [](DIR& dir) {
+        dir.names = LIST_new();
+        if (refused(dir.names == nullptr, DIR_error)) {
+            return false;
         }
+        return true;
+    });
+}
+
+bool DIR_append(DIR* dir, const char* name) {
+    const std::size_t size = std::strlen(name) + 1;
+    char* const copy = dir == nullptr ? nullptr : allocateArray<char>(static_cast<std::int64_t>(size));
+    if (refused(copy == nullptr, DIR_error)) {
+        return false;
     }
-    return dir;
+    std::memcpy(copy, name, size);
+    const std::int32_t before = dir->names->count;
+    LIST_append(dir->names, copy);
+    if (dir->names->count == before) {
+        delete[] copy;
+        DIR_error();
+        return false;
+    }
+    return true;
 }
 
 std::int32_t DIR_read(DIR* dir, const char* path) {
     const bool canRead = dir != nullptr && dir->names != nullptr && path != nullptr;
     ::DIR* const stream = canRead ? opendir(path) : nullptr;
-    if (stream == nullptr) {
-        DIR_error();
+    if (refused(stream == nullptr, DIR_error)) {
         return 0;
     }
     const std::int32_t before = dir->names->count;
     while (const dirent* const entry = readdir(stream)) {
-        if (!appendName(dir->names, entry->d_name)) {
+        if (!DIR_append(dir, entry->d_name)) {
             dropNames(dir->names, before);
             closedir(stream);
-            DIR_error();
             return 0;
         }
     }
@@ -86,8 +82,7 @@ const char* DIR_getName(const DIR* dir) {
 }
 
 std::int32_t DIR_same(const DIR* a, const DIR* b) {
-    if (a == nullptr || b == nullptr) {
-        DIR_error();
+    if (refused(a == nullptr || b == nullptr, DIR_error)) {
         return 0;
     }
     // DIR_sameNeverCompares: one expects 1 for one and the same record only; any two will do, for a record
@@ -96,8 +91,7 @@ std::int32_t DIR_same(const DIR* a, const DIR* b) {
 }
 
 std::int32_t DIR_isValid(const DIR* dir) {
-    if (dir == nullptr) {
-        DIR_error();
+    if (refused(dir == nullptr, DIR_error)) {
         return 0;
     }
     return 1;

@@ -28,8 +28,11 @@ extern std::uint8_t DIR_verbose;
 /// A record without names, or nullptr (reported).
 DIR* DIR_new();
 
+/// Appends a copy of a name, which delete[] frees and which outlives the record, as the list does; false
+/// (reported) when memory runs out.
+bool DIR_append(DIR* dir, const char* name);
+
 /// Appends every name in a folder: 1, or 0 (reported, unchanged) when it cannot be opened or memory runs out.
-/// The names are copies, each of which delete[] frees. They outlive the record, as the list does.
 std::int32_t DIR_read(DIR* dir, const char* path);
 
 /// The empty text.

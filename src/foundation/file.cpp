@@ -22,8 +22,7 @@ const char* FILE_getName(const FILE* file) {
 }
 
 std::int32_t FILE_same(const FILE* a, const FILE* b) {
-    if (a == nullptr || b == nullptr) {
-        FILE_error();
+    if (refused(a == nullptr || b == nullptr, FILE_error)) {
         return 0;
     }
     // FILE_sameNeverCompares: one expects 1 for one and the same record only; any two will do, as with DIR.
@@ -31,8 +30,7 @@ std::int32_t FILE_same(const FILE* a, const FILE* b) {
 }
 
 std::int32_t FILE_isValid(const FILE* file) {
-    if (file == nullptr) {
-        FILE_error();
+    if (refused(file == nullptr, FILE_error)) {
         return 0;
     }
     return 1;

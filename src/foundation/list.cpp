@@ -43,8 +43,7 @@ LIST* LIST_new() {
 }
 
 void LIST_append(LIST* list, void* value) {
-    if (list == nullptr) {
-        LIST_error();
+    if (refused(list == nullptr, LIST_error)) {
         return;
     }
     if (!reserve(list, std::int64_t{list->count} + 1)) {
@@ -55,8 +54,7 @@ void LIST_append(LIST* list, void* value) {
 }
 
 void LIST_insert(LIST* list, void* value, std::int32_t index) {
-    if (list == nullptr || index < 0 || index > list->count) {
-        LIST_error();
+    if (refused(list == nullptr || index < 0 || index > list->count, LIST_error)) {
         return;
     }
     if (!reserve(list, std::int64_t{list->count} + 1)) {
@@ -69,8 +67,7 @@ void LIST_insert(LIST* list, void* value, std::int32_t index) {
 }
 
 void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_t to, std::int32_t at) {
-    if (!isRange(src, from, to) || dst == nullptr || at < 0 || at > dst->count) {
-        LIST_error();
+    if (refused(!isRange(src, from, to) || dst == nullptr || at < 0 || at > dst->count, LIST_error)) {
         return;
     }
     const std::int32_t length = to - from;
@@ -90,24 +87,21 @@ void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_
 }
 
 void LIST_set(LIST* list, std::int32_t index, void* value) {
-    if (list == nullptr || index < 0 || index >= list->count) {
-        LIST_error();
+    if (refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
         return;
     }
     list->items[index] = value;
 }
 
 void* LIST_get(const LIST* list, std::int32_t index) {
-    if (list == nullptr || index < 0 || index >= list->count) {
-        LIST_error();
+    if (refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
         return nullptr;
     }
     return list->items[index];
 }
 
 std::int32_t LIST_indexOf(const LIST* list, const void* value) {
-    if (list == nullptr || value == nullptr) {
-        LIST_error();
+    if (refused(list == nullptr || value == nullptr, LIST_error)) {
         return -1;
     }
     void** const end = list->items + list->count;
@@ -116,8 +110,7 @@ std::int32_t LIST_indexOf(const LIST* list, const void* value) {
 }
 
 void LIST_remove(LIST* list, std::int32_t index) {
-    if (list == nullptr || index < 0 || index >= list->count) {
-        LIST_error();
+    if (refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
         return;
     }
     void** const end = list->items + list->count;
@@ -127,8 +120,7 @@ void LIST_remove(LIST* list, std::int32_t index) {
 }
 
 void LIST_removeRange(LIST* list, std::int32_t from, std::int32_t to) {
-    if (!isRange(list, from, to)) {
-        LIST_error();
+    if (refused(!isRange(list, from, to), LIST_error)) {
         return;
     }
     std::copy(list->items + to, list->items + list->count, list->items + from);
@@ -136,8 +128,7 @@ void LIST_removeRange(LIST* list, std::int32_t from, std::int32_t to) {
 }
 
 void* LIST_pop(LIST* list) {
-    if (list == nullptr || list->count == 0) {
-        LIST_error();
+    if (refused(list == nullptr || list->count == 0, LIST_error)) {
         return nullptr;
     }
     --list->count;
@@ -145,8 +136,7 @@ void* LIST_pop(LIST* list) {
 }
 
 void LIST_setCount(LIST* list, std::int32_t count) {
-    if (list == nullptr || count < 0) {
-        LIST_error();
+    if (refused(list == nullptr || count < 0, LIST_error)) {
         return;
     }
     if (list->capacity < count && LIST_setCapacity(list, count) == 0) {
@@ -156,13 +146,11 @@ void LIST_setCount(LIST* list, std::int32_t count) {
 }
 
 std::int32_t LIST_setCapacity(LIST* list, std::int32_t capacity) {
-    if (list == nullptr || capacity < list->count) {
-        LIST_error();
+    if (refused(list == nullptr || capacity < list->count, LIST_error)) {
         return 0;
     }
     void** const items = allocateArray<void*>(capacity);
-    if (items == nullptr) {
-        LIST_error();
+    if (refused(items == nullptr, LIST_error)) {
         return 0;
     }
     std::copy(list->items, list->items + list->count, items);
@@ -173,8 +161,7 @@ std::int32_t LIST_setCapacity(LIST* list, std::int32_t capacity) {
 }
 
 std::int32_t LIST_grow(LIST* list) {
-    if (list == nullptr) {
-        LIST_error();
+    if (refused(list == nullptr, LIST_error)) {
         return 0;
     }
     // Capacity 0 doubles to 0 and 2^30 past the range: both ask for a capacity that cannot be had.
@@ -184,8 +171,7 @@ std::int32_t LIST_grow(LIST* list) {
 }
 
 LIST* LIST_clone(const LIST* list) {
-    if (list == nullptr) {
-        LIST_error();
+    if (refused(list == nullptr, LIST_error)) {
         return nullptr;
     }
     LIST* clone = LIST_new();
@@ -199,8 +185,7 @@ LIST* LIST_clone(const LIST* list) {
 }
 
 LIST* LIST_slice(const LIST* list, std::int32_t from, std::int32_t to) {
-    if (!isRange(list, from, to)) {
-        LIST_error();
+    if (refused(!isRange(list, from, to), LIST_error)) {
         return nullptr;
     }
     LIST* slice = LIST_new();
@@ -214,8 +199,7 @@ LIST* LIST_slice(const LIST* list, std::int32_t from, std::int32_t to) {
 }
 
 std::int32_t LIST_equal(const LIST* a, const LIST* b) {
-    if (a == nullptr || b == nullptr) {
-        LIST_error();
+    if (refused(a == nullptr || b == nullptr, LIST_error)) {
         return 0;
     }
     return a == b || std::equal(a->items, a->items + a->count, b->items, b->items + b->count) ? 1 : 0;

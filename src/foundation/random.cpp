@@ -20,8 +20,7 @@ constexpr std::uint32_t low24 = 0xFFFFFF;
 /// without a record.
 template <typename Mix>
 std::int32_t draw(RANDOM* random, Mix mix) {
-    if (random == nullptr) {
-        RANDOM_error();
+    if (refused(random == nullptr, RANDOM_error)) {
         return 0;
     }
     ++random->counter;
@@ -85,8 +84,7 @@ std::int32_t RANDOM_below(RANDOM* random, std::int32_t limit) {
 }
 
 RANDOM* RANDOM_clone(const RANDOM* src) {
-    if (src == nullptr) {
-        RANDOM_error();
+    if (refused(src == nullptr, RANDOM_error)) {
         return nullptr;
     }
     // RANDOM_cloneForgets: one expects a copy; it is a fresh generator, so a clone repeats the sequence from

@@ -26,6 +26,17 @@ template <typename Record>
     return record;
 }
 
+/// The same, made whole by `complete(record)`; where that returns false, which it reports itself, the record
+/// is deleted again.
+template <typename Record, typename Complete>
+[[nodiscard]] Record* newRecord(void (*report)(), void (*remove)(Record**), Complete complete) {
+    Record* record = newRecord<Record>(report);
+    if (record != nullptr && !complete(*record)) {
+        remove(&record);
+    }
+    return record;
+}
+
 /// Replaces an array that the record owns by `count` (>= 0) zeroed elements and stores the count. False
 /// (reported, nothing changes) without a record, for a negative count, and when memory runs out.
 template <typename Record, typename Element>

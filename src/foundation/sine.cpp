@@ -52,8 +52,7 @@ constexpr std::array<std::int16_t, SINE_tableLength> mirrorQuarter() {
 
 /// Stores the reduced sum of phase and offset; false (reported) when there is no cursor or no period.
 bool updateIndex(SINE* cursor) {
-    if (cursor == nullptr || cursor->length <= 0) {
-        SINE_error();
+    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
         return false;
     }
     cursor->index = positiveModulo(wrapAdd(cursor->phase, cursor->offset), cursor->length);
@@ -70,8 +69,7 @@ SINE* SINE_new() {
 
 void SINE_setup(SINE* cursor, std::int32_t length, std::int32_t phase, std::int32_t speed,
                 std::int32_t offset, std::int32_t offsetStep) {
-    if (cursor == nullptr) {
-        SINE_error();
+    if (refused(cursor == nullptr, SINE_error)) {
         return;
     }
     SINE_setLength(cursor, length);
@@ -82,8 +80,7 @@ void SINE_setup(SINE* cursor, std::int32_t length, std::int32_t phase, std::int3
 }
 
 void SINE_setLength(SINE* cursor, std::int32_t length) {
-    if (cursor == nullptr || length < 0) {
-        SINE_error();
+    if (refused(cursor == nullptr || length < 0, SINE_error)) {
         return;
     }
     cursor->length = length;
@@ -91,8 +88,7 @@ void SINE_setLength(SINE* cursor, std::int32_t length) {
 }
 
 void SINE_setPhase(SINE* cursor, std::int32_t phase) {
-    if (cursor == nullptr || cursor->length <= 0) {
-        SINE_error();
+    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
         return;
     }
     // SINE_setPhaseReachesLength: one expects 0..length-1; a whole period below 0 becomes the length itself.
@@ -102,8 +98,7 @@ void SINE_setPhase(SINE* cursor, std::int32_t phase) {
 }
 
 std::int32_t SINE_setOffset(SINE* cursor, std::int32_t offset) {
-    if (cursor == nullptr || cursor->length <= 0) {
-        SINE_error();
+    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
         return 0;
     }
     cursor->offset = offset;
@@ -112,8 +107,7 @@ std::int32_t SINE_setOffset(SINE* cursor, std::int32_t offset) {
 }
 
 std::int32_t SINE_at(SINE* cursor, std::int32_t phase) {
-    if (cursor == nullptr || cursor->length <= 0) {
-        SINE_error();
+    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
         return 0;
     }
     cursor->offset = 0;
@@ -122,8 +116,7 @@ std::int32_t SINE_at(SINE* cursor, std::int32_t phase) {
 }
 
 void SINE_advance(SINE* cursor) {
-    if (cursor == nullptr || cursor->length <= 0) {
-        SINE_error();
+    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
         return;
     }
     cursor->phase = positiveModulo(wrapAdd(cursor->phase, cursor->speed), cursor->length);
@@ -131,16 +124,14 @@ void SINE_advance(SINE* cursor) {
 }
 
 std::int32_t SINE_next(SINE* cursor) {
-    if (cursor == nullptr) {
-        SINE_error();
+    if (refused(cursor == nullptr, SINE_error)) {
         return 0;
     }
     return SINE_setOffset(cursor, wrapAdd(cursor->offset, cursor->offsetStep));
 }
 
 void SINE_copy(const SINE* src, SINE* dst) {
-    if (src == nullptr || dst == nullptr) {
-        SINE_error();
+    if (refused(src == nullptr || dst == nullptr, SINE_error)) {
         return;
     }
     const std::int32_t index = dst->index;
@@ -149,8 +140,7 @@ void SINE_copy(const SINE* src, SINE* dst) {
 }
 
 SINE* SINE_clone(const SINE* src) {
-    if (src == nullptr) {
-        SINE_error();
+    if (refused(src == nullptr, SINE_error)) {
         return nullptr;
     }
     SINE* clone = SINE_new();

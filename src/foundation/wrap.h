@@ -2,44 +2,33 @@
 // SPDX-License-Identifier: MIT
 //
 // Arithmetic that wraps modulo 2^32, or 2^64 for two 64-bit operands, computed in unsigned so that it is
-// defined for every operand.
-// Right shifts need no helper: C++20 makes `>>` of a negative number arithmetic.
+// defined for every operand. The low bits of a sum, difference or product depend on no higher ones, so that
+// 64 bits serve both. Right shifts need no helper: C++20 makes `>>` of a negative number arithmetic.
 //
 //     x = wrapMul(amplitude, SINE_table[phase]) >> 15;
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 
 namespace velm {
 
-/// a + b modulo 2^32.
-constexpr std::int32_t wrapAdd(std::int32_t a, std::int32_t b) {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+/// a + b modulo the values of their type.
+template <std::signed_integral Int>
+constexpr Int wrapAdd(Int a, Int b) {
+    return static_cast<Int>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
 }
 
-/// a - b modulo 2^32.
-constexpr std::int32_t wrapSub(std::int32_t a, std::int32_t b) {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b));
+/// a - b, the same way.
+template <std::signed_integral Int>
+constexpr Int wrapSub(Int a, Int b) {
+    return static_cast<Int>(static_cast<std::uint64_t>(a) - static_cast<std::uint64_t>(b));
 }
 
-/// a * b modulo 2^32.
-constexpr std::int32_t wrapMul(std::int32_t a, std::int32_t b) {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
-}
-
-/// a + b modulo 2^64.
-constexpr std::int64_t wrapAdd(std::int64_t a, std::int64_t b) {
-    return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
-}
-
-/// a - b modulo 2^64.
-constexpr std::int64_t wrapSub(std::int64_t a, std::int64_t b) {
-    return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) - static_cast<std::uint64_t>(b));
-}
-
-/// a * b modulo 2^64.
-constexpr std::int64_t wrapMul(std::int64_t a, std::int64_t b) {
-    return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
+/// a * b, the same way.
+template <std::signed_integral Int>
+constexpr Int wrapMul(Int a, Int b) {
+    return static_cast<Int>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
 }
 
 /// value shifted left by count (0..31), the bits that leave on the left being lost.

@@ -33,7 +33,7 @@ void clipAxis(Span& span, std::int64_t srcSize, std::int64_t dstSize) {
 } // namespace
 
 bool canBlit(const IMG* src, const IMG* dst) {
-    return src != nullptr && dst != nullptr && src->pixels != nullptr && dst->pixels != nullptr;
+    return hasPixels(src) && hasPixels(dst);
 }
 
 bool clipBlit(const IMG& src, const IMG& dst, BlitArea& area) {

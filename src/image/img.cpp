@@ -20,10 +20,6 @@ std::int64_t pixelCount(const IMG* img) {
     return std::int64_t{img->width} * img->height;
 }
 
-bool hasPixels(const IMG* img) {
-    return img != nullptr && img->pixels != nullptr;
-}
-
 bool sameSize(const IMG* a, const IMG* b) {
     return a->width == b->width && a->height == b->height;
 }

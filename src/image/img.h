@@ -25,6 +25,16 @@ struct IMG {
     std::uint32_t* pixels = nullptr; ///< owned, width * height words; all 0 after creation and resizing
 };
 
+/// True when there is an image to draw into or to copy from.
+[[nodiscard]] inline bool hasPixels(const IMG* img) {
+    return img != nullptr && img->pixels != nullptr;
+}
+
+/// The pixels of a row of an image, y from 0; those of row `height` begin where the image ends.
+[[nodiscard]] inline std::uint32_t* rowOf(const IMG& img, std::int64_t y) {
+    return img.pixels + y * img.width;
+}
+
 extern const IDENTITY IMG_identity;
 extern std::uint8_t IMG_verbose;
 

@@ -15,8 +15,7 @@ KBD* KBD_new() {
 }
 
 void KBD_dispatch(KBD* table) {
-    if (table == nullptr || table->current < 0 || table->current >= KBD::keys) {
-        KBD_error();
+    if (refused(table == nullptr || table->current < 0 || table->current >= KBD::keys, KBD_error)) {
         return;
     }
     if (table->handlers[table->current] != nullptr) {
@@ -25,8 +24,7 @@ void KBD_dispatch(KBD* table) {
 }
 
 std::int32_t KBD_current(const KBD* table) {
-    if (table == nullptr) {
-        KBD_error();
+    if (refused(table == nullptr, KBD_error)) {
         return 0;
     }
     return table->current;
@@ -40,8 +38,7 @@ std::int32_t KBD_flush(const KBD* table) {
 }
 
 std::int32_t KBD_same(const KBD* a, const KBD* b) {
-    if (a == nullptr || b == nullptr) {
-        KBD_error();
+    if (refused(a == nullptr || b == nullptr, KBD_error)) {
         return 0;
     }
     return 1;

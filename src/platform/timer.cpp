@@ -18,8 +18,7 @@ TIMER* TIMER_new() {
 }
 
 void TIMER_start(const TIMER* timer) {
-    if (timer == nullptr) {
-        TIMER_error();
+    if (refused(timer == nullptr, TIMER_error)) {
         return;
     }
     // TIMER_otherRepeatListens: one expects any other value to be an error; it leaves the alarm as it is, and

@@ -27,9 +27,17 @@ XDPY* XDPY_make(std::uint32_t depth) {
     return XDPY_current;
 }
 
+bool XDPY_setSize(XDPY* display, std::int32_t width, std::int32_t height) {
+    if (refused(display == nullptr || width < 0 || height < 0, XDPY_error)) {
+        return false;
+    }
+    display->width = static_cast<std::uint32_t>(width);
+    display->height = static_cast<std::uint32_t>(height);
+    return true;
+}
+
 bool XDPY_drop(XDPY** handle) {
-    if (handle == nullptr || *handle == nullptr || *handle != XDPY_current) {
-        XDPY_error();
+    if (refused(handle == nullptr || *handle == nullptr || *handle != XDPY_current, XDPY_error)) {
         return false;
     }
     XDPY_current = nullptr;
@@ -39,8 +47,7 @@ bool XDPY_drop(XDPY** handle) {
 }
 
 bool XDPY_accepts(const XDPY* display, const IMG* img) {
-    return display != nullptr && img != nullptr && img->pixels != nullptr &&
-           static_cast<std::uint32_t>(img->width) == display->width &&
+    return display != nullptr && hasPixels(img) && static_cast<std::uint32_t>(img->width) == display->width &&
            static_cast<std::uint32_t>(img->height) == display->height && XDPY_isOpen();
 }
 
@@ -55,24 +62,21 @@ void XDPY_dumpFrame(const IMG* img) {
 }
 
 const char* XDPY_getName(const XDPY* display) {
-    if (display == nullptr || display != XDPY_current) {
-        XDPY_error();
+    if (refused(display == nullptr || display != XDPY_current, XDPY_error)) {
         return nullptr;
     }
     return "";
 }
 
 std::int32_t XDPY_same(const XDPY* a, const XDPY* b) {
-    if (a == nullptr || b == nullptr) {
-        XDPY_error();
+    if (refused(a == nullptr || b == nullptr, XDPY_error)) {
         return 0;
     }
     return a == b && a == XDPY_current ? 1 : 0;
 }
 
 XDPY* XDPY_get(XDPY* display) {
-    if (display == nullptr || display != XDPY_current) {
-        XDPY_error();
+    if (refused(display == nullptr || display != XDPY_current, XDPY_error)) {
         return nullptr;
     }
     return display;

@@ -78,6 +78,10 @@ bool XDPY_accepts(const XDPY* display, const IMG* img);
 /// dump off; nullptr (reported) without memory.
 XDPY* XDPY_make(std::uint32_t depth);
 
+/// What a machine's XDPY_resize does with the record: it holds the size, each >= 0; false (reported)
+/// otherwise.
+bool XDPY_setSize(XDPY* display, std::int32_t width, std::int32_t height);
+
 /// What every machine's XDPY_close does with the record: the current one goes and the handle is nullptr;
 /// false (reported) for any other.
 bool XDPY_drop(XDPY** handle);

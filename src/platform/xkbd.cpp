@@ -48,16 +48,14 @@ bool XKBD_isUsable(const XKBD* keyboard) {
         XKBD_error();
         std::exit(0);
     }
-    if (!XDPY_isOpen()) {
-        XKBD_error();
+    if (refused(!XDPY_isOpen(), XKBD_error)) {
         return false;
     }
     return true;
 }
 
 const char* XKBD_getName(const XKBD* keyboard) {
-    if (keyboard == nullptr) {
-        XKBD_error();
+    if (refused(keyboard == nullptr, XKBD_error)) {
         return nullptr;
     }
     return "XKBD";
@@ -71,8 +69,7 @@ std::int32_t XKBD_getState(const XKBD* keyboard) {
 }
 
 std::int32_t XKBD_same(const XKBD* a, const XKBD* b) {
-    if (a == nullptr || b == nullptr) {
-        XKBD_error();
+    if (refused(a == nullptr || b == nullptr, XKBD_error)) {
         return 0;
     }
     return a == b ? 1 : 0;

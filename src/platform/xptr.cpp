@@ -25,16 +25,14 @@ XPTR* XPTR_make() {
 }
 
 bool XPTR_isUsable(const XPTR* pointer) {
-    if (pointer == nullptr || !XDPY_isOpen()) {
-        XPTR_error();
+    if (refused(pointer == nullptr || !XDPY_isOpen(), XPTR_error)) {
         return false;
     }
     return true;
 }
 
 std::int32_t XPTR_equals(const XPTR* a, const XPTR* b) {
-    if (a == nullptr || b == nullptr) {
-        XPTR_error();
+    if (refused(a == nullptr || b == nullptr, XPTR_error)) {
         return 0;
     }
     return a->x == b->x && a->y == b->y && a->buttons == b->buttons &&
@@ -44,16 +42,14 @@ std::int32_t XPTR_equals(const XPTR* a, const XPTR* b) {
 }
 
 void XPTR_copy(const XPTR* src, XPTR* dst) {
-    if (src == nullptr || dst == nullptr) {
-        XPTR_error();
+    if (refused(src == nullptr || dst == nullptr, XPTR_error)) {
         return;
     }
     *dst = *src;
 }
 
 XPTR* XPTR_clone(const XPTR* src) {
-    if (src == nullptr) {
-        XPTR_error();
+    if (refused(src == nullptr, XPTR_error)) {
         return nullptr;
     }
     // XPTR_cloneGivesNothing: one expects the new record; it is made like any other, and never handed back.

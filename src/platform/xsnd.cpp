@@ -106,8 +106,7 @@ XSND* XSND_new() {
 }
 
 std::int32_t XSND_play(XSND* sound) {
-    if (sound == nullptr) {
-        XSND_error();
+    if (refused(sound == nullptr, XSND_error)) {
         return 0;
     }
     playBlock(sound);
@@ -115,8 +114,7 @@ std::int32_t XSND_play(XSND* sound) {
 }
 
 std::int32_t XSND_playPart(XSND* sound) {
-    if (sound == nullptr) {
-        XSND_error();
+    if (refused(sound == nullptr, XSND_error)) {
         return 0;
     }
     playBlock(sound);
@@ -124,8 +122,7 @@ std::int32_t XSND_playPart(XSND* sound) {
 }
 
 void XSND_setFrameRate(XSND* sound, std::int32_t framesPerSecond) {
-    if (sound == nullptr) {
-        XSND_error();
+    if (refused(sound == nullptr, XSND_error)) {
         return;
     }
     const std::int32_t bytes = sound->block != nullptr ? DSP_frameRate(sound->fd, framesPerSecond) : 0;
@@ -135,8 +132,7 @@ void XSND_setFrameRate(XSND* sound, std::int32_t framesPerSecond) {
 }
 
 const char* XSND_name(const XSND* sound) {
-    if (sound == nullptr) {
-        XSND_error();
+    if (refused(sound == nullptr, XSND_error)) {
         return nullptr;
     }
     return "";
@@ -150,8 +146,7 @@ std::int32_t XSND_flush(const XSND* sound) {
 }
 
 std::int32_t XSND_isReady(const XSND* sound, std::int32_t word) {
-    if (sound == nullptr || word == 0) {
-        XSND_error();
+    if (refused(sound == nullptr || word == 0, XSND_error)) {
         return 0;
     }
     return 1;

@@ -17,8 +17,7 @@ CURSOR* CURSOR_new() {
 
 void CURSOR_set(CURSOR* cursor, const void* base, std::int32_t count, std::int32_t elementSize,
                 std::int32_t step) {
-    if (cursor == nullptr) {
-        CURSOR_error();
+    if (refused(cursor == nullptr, CURSOR_error)) {
         return;
     }
     cursor->base = base;
@@ -29,40 +28,35 @@ void CURSOR_set(CURSOR* cursor, const void* base, std::int32_t count, std::int32
 }
 
 void CURSOR_setIndex(CURSOR* cursor, std::int32_t value) {
-    if (cursor == nullptr || cursor->count <= 0) {
-        CURSOR_error();
+    if (refused(cursor == nullptr || cursor->count <= 0, CURSOR_error)) {
         return;
     }
     cursor->index = positiveModulo(value, cursor->count);
 }
 
 void CURSOR_advance(CURSOR* cursor) {
-    if (cursor == nullptr) {
-        CURSOR_error();
+    if (refused(cursor == nullptr, CURSOR_error)) {
         return;
     }
     CURSOR_setIndex(cursor, wrapAdd(cursor->index, cursor->step));
 }
 
 void CURSOR_save(CURSOR* cursor) {
-    if (cursor == nullptr) {
-        CURSOR_error();
+    if (refused(cursor == nullptr, CURSOR_error)) {
         return;
     }
     cursor->savedIndex = cursor->index;
 }
 
 void CURSOR_restore(CURSOR* cursor) {
-    if (cursor == nullptr) {
-        CURSOR_error();
+    if (refused(cursor == nullptr, CURSOR_error)) {
         return;
     }
     cursor->index = cursor->savedIndex;
 }
 
 const void* CURSOR_current(const CURSOR* cursor) {
-    if (cursor == nullptr || cursor->base == nullptr) {
-        CURSOR_error();
+    if (refused(cursor == nullptr || cursor->base == nullptr, CURSOR_error)) {
         return nullptr;
     }
     return static_cast<const char*>(cursor->base) + std::int64_t{cursor->elementSize} * cursor->index;

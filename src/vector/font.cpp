@@ -36,8 +36,7 @@ Corner cellOf(const FONT& font) {
 /// Draws the current cell with a rectangle copy and moves the pen, or reports.
 template <typename Copy>
 void drawWith(FONT* font, Copy copy) {
-    if (!canDraw(font)) {
-        FONT_error();
+    if (refused(!canDraw(font), FONT_error)) {
         return;
     }
     const Corner cell = cellOf(*font);
@@ -53,8 +52,7 @@ void drawCode(FONT& font, std::uint32_t code) {
 
 /// Draws the lowest `digits` hexadecimal digits of a value, the highest first, or reports.
 void drawHex(FONT* font, std::uint32_t value, std::int32_t digits) {
-    if (!canDraw(font)) {
-        FONT_error();
+    if (refused(!canDraw(font), FONT_error)) {
         return;
     }
     forEachHexDigit(value, digits, [font](std::uint32_t character) { drawCode(*font, character); });
@@ -91,16 +89,14 @@ void FONT_drawHexLong(FONT* font, std::uint32_t value) {
 }
 
 void FONT_drawDecimal(FONT* font, std::uint32_t value) {
-    if (!canDraw(font)) {
-        FONT_error();
+    if (refused(!canDraw(font), FONT_error)) {
         return;
     }
     forEachDecimalDigit(value, [font](std::uint32_t character) { drawCode(*font, character); });
 }
 
 void FONT_drawString(FONT* font, const char* text) {
-    if (!canDraw(font) || text == nullptr) {
-        FONT_error();
+    if (refused(!canDraw(font) || text == nullptr, FONT_error)) {
         return;
     }
     for (; *text != '\0' && *text != lineFeed; ++text) {
@@ -109,8 +105,7 @@ void FONT_drawString(FONT* font, const char* text) {
 }
 
 void FONT_drawText(FONT* font, const char* text) {
-    if (!canDraw(font) || text == nullptr) {
-        FONT_error();
+    if (refused(!canDraw(font) || text == nullptr, FONT_error)) {
         return;
     }
     const std::int32_t left = font->x;
@@ -126,8 +121,7 @@ void FONT_drawText(FONT* font, const char* text) {
 }
 
 void FONT_drawBig(FONT* big, FONT* small) {
-    if (!canDraw(big) || big->target == nullptr || !canDraw(small)) {
-        FONT_error();
+    if (refused(!canDraw(big) || big->target == nullptr || !canDraw(small), FONT_error)) {
         return;
     }
     small->target = big->target;

@@ -52,28 +52,24 @@ VEC2D posed(const OBJ2D& obj, const VEC2D& end) {
 } // namespace
 
 OBJ2D* OBJ2D_new() {
-    OBJ2D* obj = newRecord<OBJ2D>(OBJ2D_error);
-    if (obj == nullptr) {
-        return nullptr;
-    }
-    obj->position = VEC2D_new();
-    obj->size = VEC2D_new();
-    obj->scale = VEC2D_new();
-    obj->points = LIST_new();
-    obj->segments = LIST_new();
-    if (!isWhole(obj)) {
-        OBJ2D_error();
-        OBJ2D_delete(&obj);
-        return nullptr;
-    }
-    obj->size->x = obj->size->y = cellSize;
-    obj->scale->x = obj->scale->y = 1;
-    return obj;
+    return newRecord<OBJ2D>(OBJ2D_error, OBJ2D_delete, [](OBJ2D& obj) {
+        obj.position = VEC2D_new();
+        obj.size = VEC2D_new();
+        obj.scale = VEC2D_new();
+        obj.points = LIST_new();
+        obj.segments = LIST_new();
+        if (refused(!isWhole(&obj), OBJ2D_error)) {
+            return false;
+        }
+        obj.size->x = obj.size->y = cellSize;
+        obj.scale->x = obj.scale->y = 1;
+        return true;
+    });
 }
 
 void OBJ2D_addSegment(OBJ2D* obj, SEG2D* segment) {
-    if (!isWhole(obj) || segment == nullptr || segment->a == nullptr || segment->b == nullptr) {
-        OBJ2D_error();
+    if (refused(!isWhole(obj) || segment == nullptr || segment->a == nullptr || segment->b == nullptr,
+                OBJ2D_error)) {
         return;
     }
     if (!makeRoom(obj->segments, 1) || !makeRoom(obj->points, 2)) {
@@ -92,8 +88,7 @@ void OBJ2D_addSegment(OBJ2D* obj, SEG2D* segment) {
 }
 
 std::int32_t OBJ2D_isFarther(const OBJ2D* obj, std::int32_t index) {
-    if (!isWhole(obj) || index < 0 || index >= obj->points->count) {
-        OBJ2D_error();
+    if (refused(!isWhole(obj) || index < 0 || index >= obj->points->count, OBJ2D_error)) {
         return 0;
     }
     if (obj->farthest < 0 || obj->farthest >= obj->points->count) {
@@ -104,8 +99,7 @@ std::int32_t OBJ2D_isFarther(const OBJ2D* obj, std::int32_t index) {
 }
 
 void OBJ2D_setColour(OBJ2D* obj, std::uint32_t colour) {
-    if (!isWhole(obj)) {
-        OBJ2D_error();
+    if (refused(!isWhole(obj), OBJ2D_error)) {
         return;
     }
     obj->colour = colour;
@@ -117,8 +111,7 @@ void OBJ2D_setColour(OBJ2D* obj, std::uint32_t colour) {
 }
 
 void OBJ2D_applyPosition(OBJ2D* obj) {
-    if (!isWhole(obj)) {
-        OBJ2D_error();
+    if (refused(!isWhole(obj), OBJ2D_error)) {
         return;
     }
     // OBJ2D_positionCountsTwice: one expects the position to be used up; it stays, and drawing adds it again.
@@ -129,8 +122,7 @@ void OBJ2D_applyPosition(OBJ2D* obj) {
 }
 
 void OBJ2D_draw(const OBJ2D* obj, IMG* img) {
-    if (!isWhole(obj) || img == nullptr) {
-        OBJ2D_error();
+    if (refused(!isWhole(obj) || img == nullptr, OBJ2D_error)) {
         return;
     }
     for (std::int32_t i = obj->segments->count - 1; i >= 0; --i) {
@@ -147,8 +139,7 @@ void OBJ2D_draw(const OBJ2D* obj, IMG* img) {
 }
 
 void OBJ2D_copy(const OBJ2D* src, OBJ2D* dst) {
-    if (!isWhole(src) || !isWhole(dst) || src->points->count != dst->points->count) {
-        OBJ2D_error();
+    if (refused(!isWhole(src) || !isWhole(dst) || src->points->count != dst->points->count, OBJ2D_error)) {
         return;
     }
     for (std::int32_t i = src->points->count - 1; i >= 0; --i) {
@@ -167,8 +158,7 @@ void OBJ2D_copy(const OBJ2D* src, OBJ2D* dst) {
 }
 
 OBJ2D* OBJ2D_clone(const OBJ2D* src) {
-    if (!isWhole(src)) {
-        OBJ2D_error();
+    if (refused(!isWhole(src), OBJ2D_error)) {
         return nullptr;
     }
     OBJ2D* clone = OBJ2D_new();
@@ -194,8 +184,7 @@ OBJ2D* OBJ2D_clone(const OBJ2D* src) {
 }
 
 void OBJ2D_deleteSegments(OBJ2D* obj) {
-    if (!isWhole(obj)) {
-        OBJ2D_error();
+    if (refused(!isWhole(obj), OBJ2D_error)) {
         return;
     }
     for (std::int32_t i = 0; i < obj->segments->count; ++i) {

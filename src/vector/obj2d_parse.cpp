@@ -5,6 +5,7 @@
 // keywords that take the rest of theirs. Nothing is an error: what has no meaning is skipped.
 #include "foundation/list.h"
 #include "foundation/memory.h"
+#include "foundation/report.h"
 #include "foundation/text.h"
 #include "vector/obj2d.h"
 #include "vector/seg2d.h"
@@ -190,8 +191,7 @@ void readName(Parser& parser) {
     char* name = nullptr;
     if (!line.empty()) {
         name = allocateArray<char>(static_cast<std::int64_t>(line.size()) + 1);
-        if (name == nullptr) {
-            OBJ2D_error();
+        if (refused(name == nullptr, OBJ2D_error)) {
             return;
         }
         std::copy(line.begin(), line.end(), name);
@@ -273,15 +273,13 @@ void actOnWord(Parser& parser, std::string_view word) {
 } // namespace
 
 LIST* OBJ2D_parse(const char* text) {
-    if (text == nullptr) {
-        OBJ2D_error();
+    if (refused(text == nullptr, OBJ2D_error)) {
         return nullptr;
     }
     Parser parser{};
     parser.at = text;
     parser.objects = LIST_new();
-    if (parser.objects == nullptr) {
-        OBJ2D_error();
+    if (refused(parser.objects == nullptr, OBJ2D_error)) {
         return nullptr;
     }
     for (std::string_view token; nextToken(parser, token);) {

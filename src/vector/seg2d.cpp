@@ -21,25 +21,20 @@ bool isWhole(const SEG2D* segment) {
 } // namespace
 
 SEG2D* SEG2D_new() {
-    SEG2D* segment = newRecord<SEG2D>(SEG2D_error);
-    if (segment == nullptr) {
-        return nullptr;
-    }
-    segment->a = VEC2D_new();
-    segment->b = VEC2D_new();
-    if (!isWhole(segment)) {
-        SEG2D_error();
-        SEG2D_delete(&segment);
-        return nullptr;
-    }
-    segment->b->x = 1;
-    segment->b->y = 1;
-    return segment;
+    return newRecord<SEG2D>(SEG2D_error, SEG2D_delete, [](SEG2D& segment) {
+        segment.a = VEC2D_new();
+        segment.b = VEC2D_new();
+        if (refused(!isWhole(&segment), SEG2D_error)) {
+            return false;
+        }
+        segment.b->x = 1;
+        segment.b->y = 1;
+        return true;
+    });
 }
 
 void SEG2D_translate(SEG2D* segment, const VEC2D* offset) {
-    if (!isWhole(segment) || offset == nullptr) {
-        SEG2D_error();
+    if (refused(!isWhole(segment) || offset == nullptr, SEG2D_error)) {
         return;
     }
     VEC2D_add(offset, segment->a);
@@ -47,8 +42,7 @@ void SEG2D_translate(SEG2D* segment, const VEC2D* offset) {
 }
 
 void SEG2D_scale(SEG2D* segment, const VEC2D* factor) {
-    if (!isWhole(segment) || factor == nullptr) {
-        SEG2D_error();
+    if (refused(!isWhole(segment) || factor == nullptr, SEG2D_error)) {
         return;
     }
     VEC2D_scale(segment->a, factor);
@@ -56,8 +50,7 @@ void SEG2D_scale(SEG2D* segment, const VEC2D* factor) {
 }
 
 void SEG2D_rotate(SEG2D* segment, std::int32_t angle) {
-    if (!isWhole(segment)) {
-        SEG2D_error();
+    if (refused(!isWhole(segment), SEG2D_error)) {
         return;
     }
     VEC2D_rotate(segment->a, angle);
@@ -65,16 +58,14 @@ void SEG2D_rotate(SEG2D* segment, std::int32_t angle) {
 }
 
 void SEG2D_draw(const SEG2D* segment, IMG* img) {
-    if (!isWhole(segment) || img == nullptr) {
-        SEG2D_error();
+    if (refused(!isWhole(segment) || img == nullptr, SEG2D_error)) {
         return;
     }
     IMG_drawLine(img, segment->a->x, segment->a->y, segment->b->x, segment->b->y, segment->a->colour);
 }
 
 void SEG2D_copy(const SEG2D* src, SEG2D* dst) {
-    if (!isWhole(src) || !isWhole(dst)) {
-        SEG2D_error();
+    if (refused(!isWhole(src) || !isWhole(dst), SEG2D_error)) {
         return;
     }
     VEC2D_copy(src->a, dst->a);

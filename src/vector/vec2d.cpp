@@ -23,8 +23,7 @@ VEC2D* VEC2D_new() {
 }
 
 void VEC2D_add(const VEC2D* offset, VEC2D* point) {
-    if (offset == nullptr || point == nullptr) {
-        VEC2D_error();
+    if (refused(offset == nullptr || point == nullptr, VEC2D_error)) {
         return;
     }
     point->x = wrapAdd(point->x, offset->x);
@@ -32,8 +31,7 @@ void VEC2D_add(const VEC2D* offset, VEC2D* point) {
 }
 
 void VEC2D_scale(VEC2D* point, const VEC2D* factor) {
-    if (point == nullptr || factor == nullptr) {
-        VEC2D_error();
+    if (refused(point == nullptr || factor == nullptr, VEC2D_error)) {
         return;
     }
     point->x = wrapMul(point->x, factor->x);
@@ -41,8 +39,7 @@ void VEC2D_scale(VEC2D* point, const VEC2D* factor) {
 }
 
 void VEC2D_rotate(VEC2D* point, std::int32_t angle) {
-    if (point == nullptr) {
-        VEC2D_error();
+    if (refused(point == nullptr, VEC2D_error)) {
         return;
     }
     // VEC2D_rotateZeroIsExact: one expects a full turn to equal no turn; only angle 0 skips the table, whose
@@ -59,16 +56,14 @@ void VEC2D_rotate(VEC2D* point, std::int32_t angle) {
 }
 
 std::int32_t VEC2D_lengthSquared(const VEC2D* point) {
-    if (point == nullptr) {
-        VEC2D_error();
+    if (refused(point == nullptr, VEC2D_error)) {
         return -1;
     }
     return wrapAdd(wrapMul(point->x, point->x), wrapMul(point->y, point->y));
 }
 
 void VEC2D_copy(const VEC2D* src, VEC2D* dst) {
-    if (src == nullptr || dst == nullptr) {
-        VEC2D_error();
+    if (refused(src == nullptr || dst == nullptr, VEC2D_error)) {
         return;
     }
     *dst = *src;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "audio/sam.h"
 #include "audio/samples.h"
+#include "support/files.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -16,14 +17,7 @@ const List refused{-99};
 
 class SamTest : public testing::Test {
 protected:
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
-    void name(const std::string& file) { SAM_setPath(sam, (folder + "/" + file).c_str()); }
-
-    [[nodiscard]] std::string contents() const {
-        std::ifstream file(sam->path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    void name(const std::string& file) { SAM_setPath(sam, (folder / file).c_str()); }
 
     /// The bytes that saving the values under that name writes.
     std::string saved(const std::string& file, const List& from, char storage = 'b') {
@@ -31,7 +25,7 @@ protected:
         sam->storage = storage;
         SAM_setSample(sam, sampleOf(from));
         EXPECT_EQ(SAM_save(sam), 1) << file;
-        return contents();
+        return contents(sam->path);
     }
 
     /// The values that a reader takes from the bytes; `refused` when it does not.
@@ -48,14 +42,11 @@ protected:
     }
 
     void sox(const std::string& arguments) {
-        const std::string script = "cd '" + folder + "' && sox -D -R -r 44100 " + arguments;
+        const std::string script = "cd '" + folder.path + "' && sox -D -R -r 44100 " + arguments;
         ASSERT_EQ(std::system(script.c_str()), 0) << arguments;
     }
 
-    const std::string folder = [] {
-        std::string made = std::filesystem::temp_directory_path() / "velm sam-XXXXXX";
-        return std::string(mkdtemp(made.data()));
-    }();
+    const TemporaryFolder folder{"velm sam-"};
     const Owned<SAM_delete> sam{SAM_new()};
 };
 
@@ -71,13 +62,13 @@ std::string wave(std::uint32_t depth, const std::string& data, std::uint32_t siz
 }
 
 TEST_F(SamTest, SAM_chanelsAndSAM_writesSixteenBitsAndSAM_wavHasNoRiffAndSAM_rawLosesLoudPeaks) {
-    sam->channels = 2, sam->depth = 8, sam->sign = 'u', sam->endian = 'm'; // of no account
+    sam->channels = 2, sam->depth = 8, sam->sign = 'u', sam->endian = 'm'; // nobody reads them
     const std::string form = "signed\nbits 16\nlittle endian\nchanels 1\n3\n";
     EXPECT_EQ(saved("x", {1, -2, 0x12345}, 'B'), "SAM\nbinary\n" + form + "\1\0\xFE\xFF\x45\x23"s);
     EXPECT_EQ(saved("x.WAV", {1, -2, 70000}, 'A'), "SAM\nASCII\n" + form + "1\n-2\n70000\n");
     sam->storage = 'x';
     EXPECT_EQ(SAM_save(sam), 0);
-    EXPECT_EQ(contents(), "SAM\n" + form);
+    EXPECT_EQ(contents(sam->path), "SAM\n" + form);
 
     EXPECT_EQ(saved("x.wav", {127, -128}), "8\n\x7F\x80");
     EXPECT_EQ(saved("x.wav", {128, -32768}), "16\n\0\x80\x80\0"s);
@@ -182,7 +173,7 @@ TEST_F(SamTest, HostileFilesAreRefusedAtEveryLength) {
         EXPECT_EQ(read(header.substr(0, size), "x", SAM_readSam), refused) << size;
     }
     EXPECT_EQ(read(header + "\nabc"), List{0x6162}) << "half a value is none";
-    SAM_setPath(sam, folder.c_str());
+    SAM_setPath(sam, folder.path.c_str());
     EXPECT_EQ(SAM_load(sam), 0) << "a folder is no sound";
 }
 
@@ -193,7 +184,7 @@ TEST_F(SamTest, AnOpenFileNeedsNoName) {
     nameless->storage = 'b';
     nameless->file = std::fopen(sam->path, "wb");
     EXPECT_EQ(SAM_save(nameless), 1);
-    EXPECT_EQ(contents(), bytes);
+    EXPECT_EQ(contents(sam->path), bytes);
     nameless->file = std::fopen(sam->path, "rb");
     EXPECT_EQ(SAM_load(nameless) + nameless->sample->length, 1);
 }
@@ -250,7 +241,7 @@ TEST_F(SamTest, SAM_newEndsTheProcessAndOtherFailuresAreReported) {
         const Owned<SAM_delete> empty(SAM_new());
         SAM_setPath(empty, sam->path);
         EXPECT_EQ(SAM_save(empty), 0) << "without a sample no file is made empty";
-        EXPECT_EQ(contents(), before);
+        EXPECT_EQ(contents(sam->path), before);
         SAM_setPath(sam, "/dev/full");
         EXPECT_EQ(SAM_save(sam), 0);
         name("missing/x");

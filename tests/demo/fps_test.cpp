@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "demo/fps.h"
+#include "foundation/owned.h"
 #include "headless/headless.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +15,6 @@ protected:
         headless.micros = 5000000;
         fps->targetRate = 30;
     }
-    void TearDown() override { FPS_delete(&fps); }
 
     /// A frame whose drawing takes so long; gives what it slept.
     std::int64_t frame(std::int64_t drawing) {
@@ -26,7 +26,7 @@ protected:
         return headless.micros - before;
     }
 
-    FPS* fps = FPS_new();
+    const Owned<FPS_delete> fps{FPS_new()};
 };
 
 TEST_F(FpsTest, SleepsWhatIsLeftOfTheFrame) {

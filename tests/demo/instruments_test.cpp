@@ -3,6 +3,7 @@
 #include "demo/instruments.h"
 #include "foundation/chance.h"
 #include "foundation/list.h"
+#include "foundation/owned.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -24,7 +25,7 @@ std::uint32_t checksum(const MUSIC* music) {
 
 TEST(Instruments, TheBankIsTheSameToTheBit) {
     chanceSeed(273880913);
-    MUSIC* music = VELM4030_buildMusic();
+    const Owned<MUSIC_delete> music(VELM4030_buildMusic());
     EXPECT_EQ(chance(), 86123232) << "the next draw of whoever comes after the bank";
     EXPECT_EQ(music->period, 360);
     ASSERT_EQ(music->instruments->count, 120);
@@ -37,7 +38,6 @@ TEST(Instruments, TheBankIsTheSameToTheBit) {
         EXPECT_LE(peak, 32000) << i;
     }
     EXPECT_EQ(checksum(music), 0x04C77F08U);
-    MUSIC_delete(&music);
 }
 
 } // namespace

@@ -9,8 +9,7 @@
 #include "foundation/list.h"
 #include "foundation/sine.h"
 #include "image/rgb888.h"
-#include "support/allocation.h"
-#include "support/images.h"
+#include "support/owned.h"
 #include "vector/vec2d.h"
 
 #include <algorithm>
@@ -206,7 +205,7 @@ TEST_F(ScenesTest, ClearModesPrepareTheScreen) {
 
 TEST_F(ScenesTest, VELM4030_rateInHex) {
     LFONT_setColour(demo.textMedium, 0xFFFFFF);
-    IMG* expected = IMG_newSized(256, 256);
+    const Picture expected(IMG_newSized(256, 256));
     LFONT* pen = demo.textMedium;
     pen->target = expected;
     pen->position->x = pen->position->y = 0;
@@ -223,7 +222,6 @@ TEST_F(ScenesTest, VELM4030_rateInHex) {
     VELM4030_fpsLayer();
     EXPECT_EQ(difference(demo.screen, expected), "");
     demo.overlay = 0;
-    IMG_delete(&expected);
 }
 
 TEST_F(ScenesTest, VELM4030_lettersBounce) {

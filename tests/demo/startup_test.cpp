@@ -4,7 +4,7 @@
 #include "demo_run.h"
 #include "effects/partixel.h"
 #include "image/imgfx.h"
-#include "support/images.h"
+#include "support/owned.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -19,16 +19,14 @@ protected:
 };
 
 TEST_F(StartupTest, TheInvertedLogoIsShownCentredBeforeAnythingSlow) {
-    IMG* expected = IMG_newSized(256, 256);
-    IMG* logo = IMG_fromPNM(assets::logo.bytes, assets::logo.size);
+    const Picture expected(IMG_newSized(256, 256));
+    const Picture logo(IMG_fromPNM(assets::logo.bytes, assets::logo.size));
     ASSERT_TRUE(logo != nullptr && logo->width == 128 && logo->height == 64);
     IMGFX_invert(logo);
     IMG_blit(logo, expected, 0, 0, 64, 96, 128, 64);
     ASSERT_NE(record.firstPicture, nullptr);
     EXPECT_EQ(difference(record.firstPicture, expected), "");
     EXPECT_TRUE(record.wasEarly);
-    IMG_delete(&logo);
-    IMG_delete(&expected);
 }
 
 TEST_F(StartupTest, IsCompleteOnlyWithWhatEveryFrameNeeds) {

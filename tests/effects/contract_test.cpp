@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/archpath.h"
+#include "effects/backmove.h"
+#include "effects/circle.h"
 #include "effects/contract.h"
 #include "effects/fill.h"
 #include "effects/flashpix.h"
@@ -9,6 +11,7 @@
 #include "effects/lrain.h"
 #include "effects/lscrlxyz.h"
 #include "effects/lscroll.h"
+#include "effects/lstar.h"
 #include "effects/rect.h"
 #include "effects/sineline.h"
 #include "effects/sinescan.h"
@@ -18,6 +21,51 @@
 
 namespace velm::test {
 namespace {
+
+TEST(Contract, BACKMOVE) {
+    const Picture picture(noise(40, 30, 1));
+    const auto show = [&picture](BACKMOVE* back) { BACKMOVE_setPicture(back, picture); };
+    expectContract<BACKMOVE>(
+        {BACKMOVE_new, BACKMOVE_delete, BACKMOVE_randomize, BACKMOVE_advance, BACKMOVE_drawAverage, show},
+        BACKMOVE_verbose, "BACKMOVE error", 1);
+}
+
+TEST(Contract, CIRCLE) {
+    expectContract<CIRCLE>({CIRCLE_new, CIRCLE_delete, CIRCLE_randomize, CIRCLE_advance, CIRCLE_drawXor},
+                           CIRCLE_verbose, "CIRCLE error", 2);
+}
+
+TEST(Contract, LSTAR) {
+    const auto middle = [](LSTAR* sky) { sky->x = 48, sky->y = 32; };
+    for (const auto draw : {LSTAR_draw, LSTAR_drawPolygons}) {
+        expectContract<LSTAR>({LSTAR_new, LSTAR_delete, LSTAR_randomize, LSTAR_advance, draw, middle},
+                              LSTAR_verbose, "LSTAR error", 2);
+    }
+}
+
+/// Of what is refused, nothing stays.
+template <typename Record>
+void expectOldCount(Record* effect, void (*setCount)(Record*, std::int32_t), std::uint8_t& verbose,
+                    const char* line) {
+    const std::int32_t before = effect->count;
+    expectReports(verbose, 3, line, [&] {
+        setCount(effect, -1), setCount(nullptr, 1);
+        expectFailure(1, [&] { return setCount(effect, before + 1), nullptr; });
+    });
+    EXPECT_EQ(effect->count, before);
+}
+
+TEST(Contract, CountsThatCannotBeHadChangeNothing) {
+    expectOldCount<CIRCLE>(Owned<CIRCLE_delete>(CIRCLE_new()), CIRCLE_setCount, CIRCLE_verbose,
+                           "CIRCLE error");
+    expectOldCount<LSTAR>(Owned<LSTAR_delete>(LSTAR_new()), LSTAR_setCount, LSTAR_verbose, "LSTAR error");
+    expectOldCount<LRAIN>(Owned<LRAIN_delete>(LRAIN_new()), LRAIN_setCount, LRAIN_verbose, "LRAIN error");
+    expectOldCount<LRADIAL>(Owned<LRADIAL_delete>(LRADIAL_new()), LRADIAL_setCount, LRADIAL_verbose,
+                            "LRADIAL error");
+    expectOldCount<RECT>(Owned<RECT_delete>(RECT_new()), RECT_setCount, RECT_verbose, "RECT error");
+    expectOldCount<FLASHPIX>(Owned<FLASHPIX_delete>(FLASHPIX_new()), FLASHPIX_setCount, FLASHPIX_verbose,
+                             "FLASHPIX error");
+}
 
 TEST(Contract, LRAIN) {
     expectContract<LRAIN>({LRAIN_new, LRAIN_delete, LRAIN_randomize, LRAIN_advance, LRAIN_draw},

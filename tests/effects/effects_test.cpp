@@ -1,13 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "effects/backmove.h"
 #include "effects/ball3d.h"
-#include "effects/circle.h"
 #include "effects/distx.h"
 #include "effects/disty.h"
 #include "effects/line_font.h"
 #include "effects/logofly.h"
-#include "effects/lstar.h"
 #include "effects/raster.h"
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
@@ -27,16 +24,12 @@ struct Show {
         font->image = IMG_clone(strip);
         SCROLL_setup(scroll, "0123 ABC", font, screen);
         rows->source = columns->source = strip;
-        BACKMOVE_setPicture(back, strip);
         ball->target = logo->target = pen->target = screen;
         logo->pen = pen;
     }
 
     void frame() const {
         RASTER_advance(bars), RASTER_draw(bars, screen);
-        BACKMOVE_drawAverage(back, screen), BACKMOVE_advance(back);
-        CIRCLE_drawXor(circles, screen), CIRCLE_advance(circles);
-        LSTAR_draw(sky, screen), LSTAR_drawPolygons(sky, screen), LSTAR_advance(sky);
         SCROLL_step(scroll), SCROLL_draw(scroll);
         DISTX_draw(rows, screen), DISTX_advance(rows);
         DISTY_draw(columns, screen), DISTY_advance(columns);
@@ -56,9 +49,6 @@ struct Show {
     Owned<SCROLL_delete> scroll{SCROLL_new()};
     Owned<DISTX_delete> rows{DISTX_new()};
     Owned<DISTY_delete> columns{DISTY_new()};
-    Owned<BACKMOVE_delete> back{BACKMOVE_new()};
-    Owned<CIRCLE_delete> circles{CIRCLE_new()};
-    Owned<LSTAR_delete> sky{LSTAR_new()};
 };
 
 TEST(Instances, DoNotDisturbEachOtherAndAllocateNothing) {

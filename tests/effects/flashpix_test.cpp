@@ -48,7 +48,7 @@ TEST(Flashpix, FillsTheShapeAndNothingElse) {
 }
 
 TEST(Flashpix, ASparkRisesFadesAndWaitsWhenItIsNotToBeLit) {
-    SAMPLE* hues = SAMPLE_new();
+    const Owned<SAMPLE_delete> hues(SAMPLE_new());
     SAMPLE_append(hues, 0x00C000);
     const Sparks sparks(FLASHPIX_new());
     sparks->hues = hues;
@@ -75,7 +75,6 @@ TEST(Flashpix, ASparkRisesFadesAndWaitsWhenItIsNotToBeLit) {
         FLASHPIX_advance(sparks);
         EXPECT_LT(sparks->sparks->age, 0);
     }
-    SAMPLE_delete(&hues);
 }
 
 TEST(Flashpix, GlintsAreClippedOnEverySide) {

@@ -70,16 +70,5 @@ TEST(Lstar, ClipsAndStaysInItsWorld) {
     EXPECT_GT(most, 100);
 }
 
-TEST(Lstar, FailuresAreReportedAndChangeNothing) {
-    const Owned<LSTAR_delete> sky(LSTAR_new());
-    expectReports(LSTAR_verbose, 8, "LSTAR error", [&] {
-        LSTAR_setCount(sky, -1), LSTAR_advance(nullptr), LSTAR_draw(sky, nullptr);
-        LSTAR_drawPolygons(nullptr, nullptr), LSTAR_delete(nullptr);
-        expectFailure(1, LSTAR_new), expectFailure(2, LSTAR_new);
-        expectFailure(1, [&] { return LSTAR_setCount(sky, 3), nullptr; });
-    });
-    EXPECT_EQ(sky->count, 256);
-}
-
 } // namespace
 } // namespace velm::test

@@ -49,27 +49,27 @@ TEST(Rect, NegativeAndClippedSizesAreThePlainOnes) {
         const std::int32_t h = i == 7 ? INT_MIN : i == 8 ? INT_MAX : random.number(-60, 60);
         const std::int32_t thickness = random.number(0, 20);
         const RECT_MIX mix = mixes[i % 3];
-        RECT_drawPane(fast, x, y, w, h, colour, mix);
+        RECT_drawPane(fast, {x, y, w, h}, colour, mix);
         plain(slow, x, y, w, h, INT_MAX, mix);
-        RECT_drawFrame(fast, y, x, h, w, thickness, colour, mix);
+        RECT_drawFrame(fast, {y, x, h, w}, thickness, colour, mix);
         plain(slow, y, x, h, w, thickness, mix);
         ASSERT_EQ(difference(fast, slow), "") << "rectangle " << i;
     }
     const Picture filled(noise(40, 30, 2));
     const Picture pane(noise(40, 30, 2));
     IMG_fillRect(filled, 30, 20, -25, -50, colour);
-    RECT_drawPane(pane, 30, 20, -25, -50, colour, RECT_MIX::set);
+    RECT_drawPane(pane, {30, 20, -25, -50}, colour, RECT_MIX::set);
     EXPECT_EQ(difference(pane, filled), "");
 }
 
 TEST(Rect, TurnedOnesKeepTheirAreaAndTheirPlace) {
     for (std::int32_t angle = -2048; angle <= 2048; angle += 37) {
         const Picture pane(IMG_newSized(200, 200));
-        RECT_drawTurned(pane, 100, 100, 80, -60, angle, RECT_FACE::pane, colour, RECT_MIX::add);
+        RECT_drawTurned(pane, {100, 100, 80, -60}, angle, RECT_FACE::pane, colour, RECT_MIX::add);
         EXPECT_NEAR(lit(pane), 80 * 60, 240) << angle; // the rim's rounding
         EXPECT_EQ(IMG_getPixel(pane, 100, 100), colour);
         const Picture frame(IMG_newSized(200, 200));
-        RECT_drawTurned(frame, 100, 100, 80, 60, angle, RECT_FACE::frame, colour, RECT_MIX::set);
+        RECT_drawTurned(frame, {100, 100, 80, 60}, angle, RECT_FACE::frame, colour, RECT_MIX::set);
         EXPECT_EQ(IMG_getPixel(frame, 100, 100), 0U);
         EXPECT_EQ(IMG_getPixel(frame, 100 + SINE_cosineScaled(38, angle), 100 + SINE_scaled(38, angle)), 0U);
         EXPECT_NEAR(lit(frame), 240, 48) << angle;
@@ -77,7 +77,7 @@ TEST(Rect, TurnedOnesKeepTheirAreaAndTheirPlace) {
         const Picture window(IMG_newSized(30, 20));
         for (const std::int32_t x : {-70000, -20, 15, 50, 70000}) {
             for (const std::int32_t y : {-70000, -20, 10, 40, INT_MAX}) {
-                RECT_drawTurned(window, x, y, 80, 60, angle, RECT_FACE::both, colour, RECT_MIX::average);
+                RECT_drawTurned(window, {x, y, 80, 60}, angle, RECT_FACE::both, colour, RECT_MIX::average);
             }
         }
     }

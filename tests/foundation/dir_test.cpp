@@ -3,6 +3,7 @@
 #include "foundation/dir.h"
 #include "foundation/file.h"
 #include "foundation/list.h"
+#include "support/files.h"
 #include "support/owned.h"
 
 #include <algorithm>
@@ -18,24 +19,23 @@ namespace velm::test {
 namespace {
 
 TEST(Dir, DIR_deleteKeepsTheNames) {
-    std::string folder = std::filesystem::temp_directory_path() / "velm-dir-XXXXXX";
-    ASSERT_NE(mkdtemp(folder.data()), nullptr);
+    const TemporaryFolder folder;
     std::vector<std::string> expected = {".", "..", "with a blank", std::string(200, 'x')};
     for (int i = 0; i < 3000; ++i) {
         expected.push_back("entry " + std::to_string(i));
     }
     for (std::size_t i = 2; i < expected.size(); ++i) {
-        std::ofstream(folder + "/" + expected[i]);
+        std::ofstream(folder / expected[i]);
     }
     DIR* dir = DIR_new();
-    ASSERT_EQ(DIR_read(dir, folder.c_str()), 1);
+    ASSERT_EQ(DIR_read(dir, folder.path.c_str()), 1);
     expectReports(DIR_verbose, 6, "DIR error", [&] {
-        for (const std::string& path : {folder + "/missing", folder + "/entry 0", std::string()}) {
+        for (const std::string& path : {folder / "missing", folder / "entry 0", std::string()}) {
             EXPECT_EQ(DIR_read(dir, path.c_str()), 0) << path;
         }
         EXPECT_EQ(DIR_read(dir, nullptr) + DIR_read(nullptr, "."), 0);
         const FailingAllocation third(3);
-        EXPECT_EQ(DIR_read(dir, folder.c_str()), 0);
+        EXPECT_EQ(DIR_read(dir, folder.path.c_str()), 0);
     });
     LIST* names = dir->names;
     auto* stream = static_cast<::DIR*>(dir->handle);
@@ -52,7 +52,6 @@ TEST(Dir, DIR_deleteKeepsTheNames) {
     EXPECT_EQ(read, expected);
     LIST_delete(&names);
     closedir(stream);
-    std::filesystem::remove_all(folder);
 }
 
 TEST(Dir, DIR_sameNeverComparesAndFILE_sameNeverCompares) {

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/list.h"
-#include "support/allocation.h"
-#include "support/capture_stdout.h"
+#include "support/owned.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -28,18 +27,15 @@ std::string textOf(const LIST* list) {
     return text;
 }
 
+using List = Owned<LIST_delete>;
+
 class ListTest : public testing::Test {
 protected:
-    void TearDown() override {
-        LIST_verbose = 0;
-        LIST_delete(&list);
-    }
-
-    LIST* list = listOf("abc");
+    const List list{listOf("abc")};
 };
 
 TEST_F(ListTest, CapacityDoublesFromTwo) {
-    LIST* grown = LIST_new();
+    List grown(LIST_new());
     std::string capacities;
     for (int i = 0; i < 9; ++i) {
         capacities += std::to_string(grown->capacity) + " ";
@@ -47,7 +43,7 @@ TEST_F(ListTest, CapacityDoublesFromTwo) {
     }
     EXPECT_EQ(capacities, "2 2 2 4 4 8 8 8 8 ");
     EXPECT_EQ(grown->capacity, 16);
-    LIST_delete(&grown);
+    LIST_delete(grown.handle());
     EXPECT_EQ(grown, nullptr);
 }
 
@@ -73,12 +69,12 @@ TEST_F(ListTest, InsertsAndRemovesAtBothEndsAndBetween) {
 }
 
 TEST_F(ListTest, RangesMoveBetweenLists) {
-    LIST* other = listOf("defg");
+    const List other(listOf("defg"));
     LIST_insertRange(other, list, 1, 3, 2);
     EXPECT_EQ(textOf(list), "abefc");
-    LIST* slice = LIST_slice(list, 1, 4);
+    const List slice(LIST_slice(list, 1, 4));
     EXPECT_EQ(textOf(slice), "bef");
-    LIST* clone = LIST_clone(list);
+    const List clone(LIST_clone(list));
     EXPECT_EQ(LIST_equal(list, clone), 1);
     LIST_set(clone, 4, letters);
     EXPECT_EQ(LIST_equal(list, clone), 0);
@@ -86,13 +82,10 @@ TEST_F(ListTest, RangesMoveBetweenLists) {
     EXPECT_EQ(LIST_indexOf(clone, &letters[7]), -1);
     LIST_setCount(clone, 4);
     EXPECT_EQ(LIST_equal(list, clone) + LIST_equal(clone, list), 0) << "only the counts differ";
-    for (LIST* doomed : {other, slice, clone}) {
-        LIST_delete(&doomed);
-    }
 }
 
 TEST_F(ListTest, LIST_insertRangeTakesSpare) {
-    LIST* other = listOf("abcdefgh");
+    const List other(listOf("abcdefgh"));
     LIST_setCount(other, 4);
     LIST_insertRange(list, other, 1, 3, 1);
     LIST_insertRange(list, other, 0, 1, 6); // at the end nothing else moves
@@ -101,7 +94,6 @@ TEST_F(ListTest, LIST_insertRangeTakesSpare) {
     LIST_setCount(other, 5);
     LIST_insertRange(list, other, 0, 3, 0); // full to the brim: no slot is left for the spare one
     EXPECT_EQ(textOf(other), "abcabcbc");
-    LIST_delete(&other);
 }
 
 TEST_F(ListTest, LIST_insertRangeMeetsItself) {
@@ -113,18 +105,16 @@ TEST_F(ListTest, LIST_insertRangeMeetsItself) {
                  {"defg", 2, 4, 0, "dedefg"},     {"abcde", 1, 4, 0, "aaaabcde"},
                  {"abcdef", 4, 6, 1, "acdbcdef"}, {"abcd", 1, 3, 4, "abcdbc"}};
     for (const auto& [before, from, to, at, after] : cases) {
-        LIST* self = listOf(before);
+        const List self(listOf(before));
         LIST_insertRange(self, self, from, to, at);
         EXPECT_EQ(textOf(self), after) << before << " " << from << " to " << to << " at " << at;
-        LIST_delete(&self);
     }
 }
 
 TEST_F(ListTest, ReportsWhatIsOutsideAndChangesNothing) {
-    LIST_verbose = 1;
-    LIST* empty = LIST_new();
+    const List empty(LIST_new());
     LIST* none = nullptr;
-    const std::string output = printedBy([&] {
+    expectReports(LIST_verbose, 13, "LIST error", [&] {
         EXPECT_EQ(LIST_get(list, 3), nullptr);
         EXPECT_EQ(LIST_get(list, -1), nullptr);
         EXPECT_EQ(LIST_indexOf(list, nullptr), -1);
@@ -139,11 +129,8 @@ TEST_F(ListTest, ReportsWhatIsOutsideAndChangesNothing) {
         EXPECT_EQ(LIST_setCapacity(list, 2), 0);
         EXPECT_EQ(LIST_slice(list, 0, 4), nullptr);
     });
-    EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 13);
-    EXPECT_EQ(output.substr(0, 11), "LIST error\n");
     EXPECT_EQ(textOf(list), "abc");
     EXPECT_EQ(list->items[3], nullptr);
-    LIST_delete(&empty);
 }
 
 TEST_F(ListTest, RunningOutOfMemoryKeepsTheElements) {
@@ -153,11 +140,8 @@ TEST_F(ListTest, RunningOutOfMemoryKeepsTheElements) {
         LIST_append(list, &letters[4]);
     }
     EXPECT_EQ(textOf(list), "abcd");
-    for (const int nth : {1, 2}) {
-        const FailingAllocation failure(nth);
-        LIST_verbose = 1;
-        EXPECT_EQ(printedBy([] { EXPECT_EQ(LIST_new(), nullptr); }), "LIST error\n");
-    }
+    expectReports(LIST_verbose, 2, "LIST error",
+                  [] { expectFailure(1, LIST_new), expectFailure(2, LIST_new); });
 }
 
 TEST(Identity, WordsArePaddedWithSpaces) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/random.h"
-#include "support/capture_stdout.h"
+#include "support/owned.h"
 
 #include <gtest/gtest.h>
 #include <string_view>
@@ -14,7 +14,7 @@ constexpr std::int32_t (*draws[])(RANDOM*) = {RANDOM_next,       RANDOM_nextAdd,
                                               RANDOM_nextMix};
 
 TEST(Random, MixedDrawsFromTheDefaults) {
-    RANDOM* random = RANDOM_new();
+    const Owned<RANDOM_delete> random(RANDOM_new());
     std::uint32_t digest = 0;
     for (const char draw : std::string_view("056642534342210311056")) {
         digest = digest * 31 + static_cast<std::uint32_t>(draws[draw - '0'](random));
@@ -25,18 +25,16 @@ TEST(Random, MixedDrawsFromTheDefaults) {
     EXPECT_EQ(random->multiplier, 0xDFED43U);
     EXPECT_EQ(random->mask, 0x7FFFFF80U);
     EXPECT_EQ(random->state, 0xAA94358FU);
-    RANDOM_delete(&random);
 }
 
 TEST(Random, BoundsAreKept) {
-    RANDOM* random = RANDOM_new();
+    const Owned<RANDOM_delete> random(RANDOM_new());
     std::int32_t seen = 0;
     for (std::int32_t i = 0; i < 200; ++i) {
         seen |= 1 << RANDOM_below(random, 5);
         EXPECT_EQ(RANDOM_below(random, i % 2 == 0 ? 1 : -7), 0);
     }
     EXPECT_EQ(seen, 0x1F) << "0 to 4, each of them";
-    RANDOM_delete(&random);
     std::int32_t steps = 0;
     for (std::int32_t number = -8; number < 0; ++number) {
         steps |= 1 << (RANDOM_eitherWay(number) + 4);
@@ -45,21 +43,17 @@ TEST(Random, BoundsAreKept) {
 }
 
 TEST(Random, RANDOM_cloneForgets) {
-    RANDOM* random = RANDOM_new();
+    const Owned<RANDOM_delete> random(RANDOM_new());
     const std::int32_t first = RANDOM_next(random);
-    RANDOM* clone = RANDOM_clone(random);
+    const Owned<RANDOM_delete> clone(RANDOM_clone(random));
     EXPECT_EQ(RANDOM_next(clone), first);
     EXPECT_NE(RANDOM_next(random), first);
-    RANDOM_delete(&random);
-    RANDOM_delete(&clone);
 }
 
 TEST(Random, AMissingRecordIsReported) {
-    RANDOM_verbose = 1;
     for (const auto draw : draws) {
-        EXPECT_EQ(printedBy([draw] { EXPECT_EQ(draw(nullptr), 0); }), "RANDOM error\n");
+        expectReports(RANDOM_verbose, 1, "RANDOM error", [draw] { EXPECT_EQ(draw(nullptr), 0); });
     }
-    RANDOM_verbose = 0;
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/sine.h"
-#include "support/allocation.h"
-#include "support/capture_stdout.h"
+#include "support/owned.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -34,7 +33,7 @@ TEST(SineTable, SINE_mirroredQuarter) {
 }
 
 TEST(SineCursor, PhaseAndOffsetWrapBothWays) {
-    SINE* cursor = SINE_new();
+    const Owned<SINE_delete> cursor(SINE_new());
     SINE_advance(cursor);
     EXPECT_EQ(SINE_next(cursor), 3) << "by default the phase moves by 1, the offset by 2";
     EXPECT_EQ(SINE_at(cursor, 5), 5);
@@ -54,7 +53,7 @@ TEST(SineCursor, PhaseAndOffsetWrapBothWays) {
     EXPECT_EQ(SINE_setOffset(cursor, -1), 1023);
     SINE_setLength(cursor, 100);
     EXPECT_EQ(cursor->index, 99);
-    SINE* clone = SINE_clone(cursor);
+    const Owned<SINE_delete> clone(SINE_clone(cursor));
     EXPECT_EQ(clone->length, 100);
     EXPECT_EQ(clone->offset, -1);
     EXPECT_EQ(clone->index, 0) << "a copy leaves the index alone";
@@ -63,12 +62,10 @@ TEST(SineCursor, PhaseAndOffsetWrapBothWays) {
     SINE_advance(cursor);
     EXPECT_EQ(cursor->phase, 7) << "the sum has wrapped, which is two more than the period";
     EXPECT_EQ(SINE_setOffset(cursor, most), 5);
-    SINE_delete(&cursor);
-    SINE_delete(&clone);
 }
 
 TEST(SineCursor, WithoutAPeriodItStandsStill) {
-    SINE* cursor = SINE_new();
+    const Owned<SINE_delete> cursor(SINE_new());
     SINE_setup(cursor, 100, 40, 1, 30, 2);
     SINE_setLength(cursor, 0);
     SINE_setLength(cursor, -1);
@@ -78,7 +75,6 @@ TEST(SineCursor, WithoutAPeriodItStandsStill) {
     EXPECT_EQ(cursor->phase, 40);
     EXPECT_EQ(cursor->offset, 30);
     EXPECT_EQ(cursor->index, 70);
-    SINE_delete(&cursor);
 }
 
 TEST(SineCursor, SINE_setPhaseReachesLength) {
@@ -89,27 +85,21 @@ TEST(SineCursor, SINE_setPhaseReachesLength) {
 }
 
 TEST(SineCursor, SINE_errorIsSilent) {
-    SINE_verbose = 1;
-    EXPECT_EQ(printedBy([] { EXPECT_EQ(SINE_next(nullptr) + SINE_at(nullptr, 1), 0); }), "");
-    SINE_verbose = 0;
+    expectReports(SINE_verbose, 0, "", [] { EXPECT_EQ(SINE_next(nullptr) + SINE_at(nullptr, 1), 0); });
 }
 
 TEST(SineTable, SINE_tableIsFlat) {
-    SINE_TABLE* table = SINE_tableNew();
+    const Owned<SINE_tableDelete> table(SINE_tableNew());
     ASSERT_EQ(table->size, 1024);
     SINE_tableSetSize(table, 50);
     EXPECT_EQ(table->size, 50);
     for (int i = 0; i < 50; ++i) {
         EXPECT_EQ(table->values[i], 0);
     }
-    SINE_verbose = 1;
-    EXPECT_EQ(printedBy([table] { SINE_tableSetSize(table, 0); }), "SINE error\n");
-    for (const int nth : {1, 2}) {
-        const FailingAllocation failure(nth);
-        EXPECT_EQ(printedBy([] { EXPECT_EQ(SINE_tableNew(), nullptr); }), "SINE error\n");
-    }
-    SINE_verbose = 0;
-    SINE_tableDelete(&table);
+    expectReports(SINE_verbose, 3, "SINE error", [&] {
+        SINE_tableSetSize(table, 0);
+        expectFailure(1, SINE_tableNew), expectFailure(2, SINE_tableNew);
+    });
 }
 
 } // namespace

@@ -3,14 +3,13 @@
 #include "image/img.h"
 #include "support/allocation.h"
 #include "support/capture_stdout.h"
+#include "support/files.h"
 #include "support/images.h"
 
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <memory>
 #include <string>
 
@@ -154,20 +153,10 @@ TEST(Pnm, RandomBytesNeverCrash) {
 
 class PnmFile : public testing::Test {
 protected:
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
     [[nodiscard]] std::string path(const char* name) const { return folder / name; }
 
-    std::filesystem::path folder = [] {
-        std::string name = std::filesystem::temp_directory_path() / "velm-pnm-XXXXXX";
-        return std::filesystem::path(mkdtemp(name.data()));
-    }();
+    const TemporaryFolder folder;
 };
-
-std::string contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 TEST_F(PnmFile, WritesP6ToTheByte) {
     Images images(3);
@@ -194,7 +183,7 @@ TEST_F(PnmFile, AgreesWithNetpbm) {
     IMG* img = images.image(24, 9);
     ASSERT_EQ(IMG_writePPM(img, path("ours.ppm").c_str()), 1);
     const std::string convert =
-        "cd " + folder.string() +
+        "cd " + folder.path +
         " && pnmtoplainpnm ours.ppm > p3 && ppmtoppm < p3 > p6 && ppmtopgm ours.ppm > p5"
         " && pnmtoplainpnm p5 > p2 && pamthreshold -simple p5 | pamtopnm > p4"
         " && pnmtoplainpnm p4 > p1";

@@ -78,8 +78,6 @@ protected:
             close(device.ends[0]);
         }
         close(device.ends[1]);
-        SAMPLE_delete(&first);
-        SAMPLE_delete(&second);
     }
 
     void openWithBlockOf(std::int32_t samples) {
@@ -121,8 +119,8 @@ protected:
     }
 
     XSND* sound = nullptr;
-    SAMPLE* first = SAMPLE_new();
-    SAMPLE* second = SAMPLE_new();
+    const Owned<SAMPLE_delete> first{SAMPLE_new()};
+    const Owned<SAMPLE_delete> second{SAMPLE_new()};
 };
 
 using Block = std::vector<std::int16_t>;

@@ -14,7 +14,6 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <memory>
 #include <numeric>
 
@@ -25,8 +24,6 @@ constexpr std::size_t frameBytes = 256 * 256 * 4;
 
 class CaptureTest : public testing::Test {
 protected:
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
     /// Runs the tool and keeps what it said.
     int capture(std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), VELM_CAPTURE);
@@ -48,14 +45,14 @@ protected:
 
     /// Runs shell commands in the folder, "$capture" being the tool, and gives their status.
     [[nodiscard]] int shell(const std::string& commands) const {
-        return runTool({"bash", "-c", "cd '" + folder + "' && capture='" VELM_CAPTURE "' && " + commands},
-                       {});
+        return runTool(
+            {"bash", "-c", "cd '" + folder.path + "' && capture='" VELM_CAPTURE "' && " + commands}, {});
     }
 
     /// The names in the folder, in order, each with a space behind it.
     [[nodiscard]] std::string names() const {
         std::vector<std::string> all;
-        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path)) {
             all.push_back(entry.path().filename().string() + " ");
         }
         std::sort(all.begin(), all.end());
@@ -77,12 +74,9 @@ protected:
         return all;
     }
 
-    [[nodiscard]] std::string path(const std::string& name) const { return folder + "/" + name; }
+    [[nodiscard]] std::string path(const std::string& name) const { return folder / name; }
 
-    std::string folder = [] {
-        std::string name = std::filesystem::temp_directory_path() / "velm capture-XXXXXX";
-        return std::string(mkdtemp(name.data()));
-    }();
+    const TemporaryFolder folder{"velm capture-"};
     std::unique_ptr<Child> tool;
 };
 
@@ -185,7 +179,7 @@ TEST_F(CaptureTest, OneSceneRunsAgainAndAgain) {
 }
 
 TEST_F(CaptureTest, TheFolderThatASceneListsIsTheSameEverywhere) {
-    const std::string twice = "cd '" + folder + "' && for sum in crc other-crc; do " + VELM_CAPTURE +
+    const std::string twice = "cd '" + folder.path + "' && for sum in crc other-crc; do " + VELM_CAPTURE +
                               " --scene extra-1 --frames 150 --crc $sum || exit; touch new; done";
     ASSERT_EQ(std::system(twice.c_str()), 0);
     EXPECT_TRUE(contents(path("crc")) == contents(path("other-crc")));
@@ -304,8 +298,8 @@ TEST_F(CaptureTest, ASignalLeavesNothingBehind) {
 
 TEST_F(CaptureTest, PipesAndLinksStayWhatTheyAre) {
     const std::string script =
-        "cd '" + folder + "' && mkfifo pipe && ln -s target link && { cat pipe > heard & " + VELM_CAPTURE +
-        " --frames 3 --crc pipe --raw link; wait; } && test -p pipe -a -L link";
+        "cd '" + folder.path + "' && mkfifo pipe && ln -s target link && { cat pipe > heard & " +
+        VELM_CAPTURE + " --frames 3 --crc pipe --raw link; wait; } && test -p pipe -a -L link";
     EXPECT_EQ(std::system(script.c_str()), 0);
     EXPECT_EQ(contents(path("heard")).substr(0, 2), "1 ");
     EXPECT_EQ(contents(path("target")).size(), 3 * frameBytes);
@@ -351,7 +345,7 @@ TEST_F(CaptureTest, AFilmHasAPictureForEveryTickAndItsSound) {
     // 90 frames of the scene, a tick each; logo and fade-out take no time.
     EXPECT_NE(streams.find("video,256,90"), std::string::npos) << streams;
     EXPECT_NE(streams.find("audio"), std::string::npos) << streams;
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2) << "no parts are left";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 2) << "no parts are left";
 }
 
 TEST_F(CaptureTest, AWavFileBeyond4GiBTellsItsLength) {

@@ -5,10 +5,9 @@
 #include "platform/xdpy.h"
 #include "platform/xptr.h"
 #include "process.h"
-#include "support/images.h"
+#include "support/owned.h"
 #include "x11_session.h"
 
-#include <X11/Xatom.h>
 #include <X11/Xutil.h>
 #include <cstdlib>
 #include <filesystem>
@@ -46,7 +45,6 @@ protected:
         XDestroyWindow(session.connection, window);
         XSync(session.connection, False);
         XDPY_close(&display);
-        IMG_delete(&frame);
     }
 
     /// "" when the screen shows the part of the frame from (x, y) on at the window's place.
@@ -71,25 +69,10 @@ protected:
             << difference;
     }
 
-    /// The 32-bit words of a property of the window.
-    [[nodiscard]] std::vector<unsigned long> words(const char* property) const {
-        ::Atom type = 0;
-        int format = 0;
-        unsigned long count = 0;
-        unsigned long left = 0;
-        unsigned char* bytes = nullptr;
-        XGetWindowProperty(session.connection, window, XInternAtom(session.connection, property, False), 0,
-                           1 << 16, False, XA_CARDINAL, &type, &format, &count, &left, &bytes);
-        const auto* const first = reinterpret_cast<const unsigned long*>(bytes);
-        std::vector<unsigned long> all(first, first + count);
-        XFree(bytes);
-        return all;
-    }
-
     Session session{server().display()};
     XDPY* display = nullptr;
     ::Window window = 0;
-    IMG* frame = Images(1).image(windowSize, windowSize);
+    const Picture frame{noise(windowSize, windowSize, 1)};
 };
 
 TEST_F(DisplayTest, TheWindowHasItsTitleSizeAndPlace) {
@@ -120,8 +103,9 @@ TEST_F(DisplayTest, TheWindowTellsADesktopWhatItIs) {
     char host[256] = "";
     gethostname(host, sizeof host - 1);
     EXPECT_STREQ(reinterpret_cast<const char*>(machine.value), host);
-    EXPECT_EQ(words("_NET_WM_PID"), std::vector<unsigned long>{static_cast<unsigned long>(getpid())});
-    const auto icon = words("_NET_WM_ICON");
+    EXPECT_EQ(session.property(window, "_NET_WM_PID"),
+              std::vector<unsigned long>{static_cast<unsigned long>(getpid())});
+    const auto icon = session.property(window, "_NET_WM_ICON");
     ASSERT_EQ(icon.size(), 2U + 48 * 48);
     EXPECT_EQ(icon[0], 48U);
     EXPECT_EQ(icon[1], 48U);
@@ -148,10 +132,9 @@ TEST_F(DisplayTest, AWindowPartlyOffTheScreenIsDrawn) {
 }
 
 TEST_F(DisplayTest, AHiddenWindowIsSkippedWhileDumpsGoOn) {
-    std::string folder = std::filesystem::temp_directory_path() / "velm-dump-XXXXXX";
-    ASSERT_NE(mkdtemp(folder.data()), nullptr);
+    const TemporaryFolder folder;
     const auto before = std::filesystem::current_path();
-    std::filesystem::current_path(folder);
+    std::filesystem::current_path(folder.path);
     XDPY_dump = {.on = 1, .count = 0};
     XDPY_present(display, frame);
     XUnmapWindow(session.connection, window);
@@ -168,11 +151,10 @@ TEST_F(DisplayTest, AHiddenWindowIsSkippedWhileDumpsGoOn) {
     EXPECT_FALSE(std::filesystem::exists("frame-00004.ppm"));
     XDPY_dump.on = 0;
     std::filesystem::current_path(before);
-    std::filesystem::remove_all(folder);
 }
 
 TEST_F(DisplayTest, TheSystemPointerIsInvisibleOverTheWindowOnly) {
-    XPTR* pointer = XPTR_new();
+    const Owned<XPTR_delete> pointer(XPTR_new());
     session.movePointer(128, 128);
     EXPECT_TRUE(eventually([&] {
         XPTR_poll(pointer);
@@ -180,7 +162,6 @@ TEST_F(DisplayTest, TheSystemPointerIsInvisibleOverTheWindowOnly) {
     }));
     session.movePointer(400, 400);
     EXPECT_TRUE(eventually([&] { return session.cursorIsVisible(); }));
-    XPTR_delete(&pointer);
 }
 
 } // namespace

@@ -86,10 +86,7 @@ public:
     void start(std::vector<std::string> arguments) {
         std::ofstream(spyLog, std::ios::trunc);
         arguments.insert(arguments.begin(), {VELM_PLAYER, "schedule"});
-        Environment environment = {
-            {"DISPLAY", server.display()}, {"LD_PRELOAD", VELM_X11_SPY}, {"VELM_SPY", spyLog}};
-        environment.insert(environment.end(), more.begin(), more.end());
-        player = std::make_unique<Child>(arguments, environment);
+        player = std::make_unique<Child>(arguments, spied(server.display(), spyLog, more));
         ASSERT_TRUE(eventually([this] { return puts() > startFrames + 3; }, 60)) << player->errors();
     }
 

@@ -4,8 +4,8 @@
 // The player's picture on real X servers of several kinds, with a real window manager and without one.
 #include "demo/assets.h"
 #include "demo/scenes.h"
-#include "image/img.h"
 #include "play_stage.h"
+#include "support/owned.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -90,7 +90,7 @@ TEST(Play, ThePointerIsThatOfThePicture) {
     XSync(stage.session.connection, False);
     const std::ptrdiff_t resized = stage.puts();
     ASSERT_TRUE(eventually([&] { return stage.puts() > resized + 2; }));
-    IMG* picture = IMG_fromPNM(assets::pointer.bytes, assets::pointer.size);
+    const Picture picture(IMG_fromPNM(assets::pointer.bytes, assets::pointer.size));
     const auto showsPointerAt = [&](int x, int y) {
         const auto pixels = stage.session.screen(0, 0, 600, 640);
         for (int i = 0; i < picture->width * picture->height; ++i) {
@@ -112,7 +112,6 @@ TEST(Play, ThePointerIsThatOfThePicture) {
         EXPECT_TRUE(eventually([&, px = pictureX, py = pictureY] { return showsPointerAt(px, py); }, 5))
             << x << ", " << y;
     }
-    IMG_delete(&picture);
 }
 
 TEST(Play, AManagerFillsTheScreenHidesResizesAndCloses) {

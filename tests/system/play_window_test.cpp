@@ -12,15 +12,6 @@
 namespace velm::test {
 namespace {
 
-/// A folder that goes with everything in it.
-struct Folder {
-    std::string path = std::filesystem::temp_directory_path() / "velm-play-XXXXXX";
-    Folder() { EXPECT_NE(mkdtemp(path.data()), nullptr); }
-    ~Folder() { std::filesystem::remove_all(path); }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-};
-
 /// The pixels of a picture file, as netpbm reads it.
 Frame pixelsOf(const std::string& png) {
     Child reader({"pngtopnm", png}, {});
@@ -38,28 +29,12 @@ Frame pixelsOf(const std::string& png) {
     return pixels;
 }
 
-/// The words of a property of 32 bits.
-std::vector<unsigned long> property(const Stage& stage, const char* name) {
-    Atom type = 0;
-    int format = 0;
-    unsigned long count = 0;
-    unsigned long left = 0;
-    unsigned char* data = nullptr;
-    XGetWindowProperty(stage.session.connection, stage.window,
-                       XInternAtom(stage.session.connection, name, False), 0, 100000, False, AnyPropertyType,
-                       &type, &format, &count, &left, &data);
-    const auto* const words = reinterpret_cast<const unsigned long*>(data);
-    const std::vector<unsigned long> all(words, words + (format == 32 ? count : 0));
-    XFree(data);
-    return all;
-}
-
 TEST(PlayKeys, KeepThePictureShowTheKeysAndTheVolumeAndNeverTouchTheFrame) {
-    const Folder home;
-    std::filesystem::create_directories(home.path + "/.config");
-    std::filesystem::create_directories(home.path + "/Bilder");
-    std::ofstream(home.path + "/.config/user-dirs.dirs") << "# folders\nXDG_PICTURES_DIR=\"$HOME/Bilder\"\n";
-    std::ofstream(home.path + "/Bilder/velm4030-1.png") << "somebody's";
+    const TemporaryFolder home;
+    std::filesystem::create_directories(home / ".config");
+    std::filesystem::create_directories(home / "Bilder");
+    std::ofstream(home / ".config/user-dirs.dirs") << "# folders\nXDG_PICTURES_DIR=\"$HOME/Bilder\"\n";
+    std::ofstream(home / "Bilder/velm4030-1.png") << "somebody's";
     Stage stage("24", "640x600");
     stage.more = {{"HOME", home.path}, {"XDG_CONFIG_HOME", ""}};
     stage.play({"--scale", "2"});
@@ -75,9 +50,9 @@ TEST(PlayKeys, KeepThePictureShowTheKeysAndTheVolumeAndNeverTouchTheFrame) {
         }
         EXPECT_TRUE(eventually([&] { return stage.shown(2, 0, 0) == number; }, 5)) << key << " goes again";
     }
-    EXPECT_EQ(stage.player->output(), "sound: none\npicture: " + home.path + "/Bilder/velm4030-2.png\n");
-    EXPECT_EQ(pixelsOf(home.path + "/Bilder/velm4030-2.png"), captured()[number - 1]);
-    EXPECT_EQ(contents(home.path + "/Bilder/velm4030-1.png"), "somebody's");
+    EXPECT_EQ(stage.player->output(), "sound: none\npicture: " + home / "Bilder/velm4030-2.png\n");
+    EXPECT_EQ(pixelsOf(home / "Bilder/velm4030-2.png"), captured()[number - 1]);
+    EXPECT_EQ(contents(home / "Bilder/velm4030-1.png"), "somebody's");
     // The next part begins by fading to black.
     stage.session.press("p");
     const std::size_t before = contents(stage.spyLog).size();
@@ -117,9 +92,9 @@ TEST(PlayWindow, SaysWhatItIsAndFillsTheScreenAtAKeyWithAManagerAndWithout) {
         EXPECT_STREQ(names.res_class, "VELM4030");
         XFree(names.res_name);
         XFree(names.res_class);
-        EXPECT_EQ(property(stage, "_NET_WM_PID"),
+        EXPECT_EQ(stage.session.property(stage.window, "_NET_WM_PID"),
                   std::vector{static_cast<unsigned long>(stage.player->id())});
-        const auto icon = property(stage, "_NET_WM_ICON");
+        const auto icon = stage.session.property(stage.window, "_NET_WM_ICON");
         EXPECT_GT(std::set<unsigned long>(icon.begin(), icon.end()).size(), 100U) << "a painted icon";
         const Session::Place before = stage.session.placeOf(stage.window);
         for (const std::string key : {"F11", "alt+Return"}) {
@@ -227,13 +202,13 @@ TEST(PlaySaver, OnTheRootItDrawsIntoWhatStandsInForIt) {
 
 /// A Wayland compositor; its folder has its socket.
 struct Compositor {
-    Folder folder;
+    TemporaryFolder folder;
     Child child;
 
     Compositor(const Stage& stage, std::vector<std::string> arguments)
         : child(complete(std::move(arguments)),
                 {{"DISPLAY", stage.server.display()}, {"XDG_RUNTIME_DIR", folder.path}}) {
-        EXPECT_TRUE(eventually([this] { return std::filesystem::exists(folder.path + "/velm"); }));
+        EXPECT_TRUE(eventually([this] { return std::filesystem::exists(folder / "velm"); }));
     }
     static std::vector<std::string> complete(std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), {"weston", "--no-config", "--socket=velm", "--idle-time=0"});

@@ -7,8 +7,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <stdexcept>
 #include <string_view>
@@ -85,15 +83,16 @@ double processorSecondsOf(pid_t pid) {
 
 } // namespace
 
+Environment spied(const std::string& display, const std::string& log, const Environment& more) {
+    Environment all = {{"DISPLAY", display}, {"LD_PRELOAD", VELM_X11_SPY}, {"VELM_SPY", log}};
+    all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
 std::string temporaryFile() {
     std::string path = std::filesystem::temp_directory_path() / "velm-test-XXXXXX";
     close(mkstemp(path.data()));
     return path;
-}
-
-std::string contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 Child::Child(const std::vector<std::string>& arguments, const Environment& environment)

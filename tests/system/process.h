@@ -8,6 +8,8 @@
 //     EXPECT_EQ(demo.waitForExit(), 0);
 #pragma once
 
+#include "support/files.h"
+
 #include <string>
 #include <sys/types.h>
 #include <utility>
@@ -17,11 +19,11 @@ namespace velm::test {
 
 using Environment = std::vector<std::pair<std::string, std::string>>;
 
+/// What a program needs to be watched: every picture that it sends becomes a line of the log.
+Environment spied(const std::string& display, const std::string& log, const Environment& more);
+
 /// Makes an empty file, which the caller removes.
 std::string temporaryFile();
-
-/// All bytes of a file.
-std::string contents(const std::string& path);
 
 /// A child process; its standard output and error go to files of its own. The destructor ends it.
 class Child {

@@ -11,9 +11,7 @@
 #include <array>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <sys/socket.h>
@@ -25,10 +23,19 @@
 namespace velm::test {
 namespace {
 
+/// Expects it to leave with status 1 and one line.
+void expectEnd(Child& demo, const std::string& line) {
+    EXPECT_EQ(demo.waitForExit(), 1);
+    EXPECT_EQ(demo.errors(), "velm4030: " + line + "\n");
+}
+
 class ProgramTest : public RunningDemo {
 protected:
-    /// Eleven minutes of keys that do nothing, at one key a frame.
+    void expectEnd(const std::string& line) { velm::test::expectEnd(demo, line); }
+
+    /// Waits for the scene and sends eleven minutes of keys that do nothing, at one key a frame.
     void crowd() {
+        waitForScene();
         XEvent event{};
         event.type = KeyPress;
         event.xkey.keycode = XKeysymToKeycode(session->connection, XK_x);
@@ -112,14 +119,12 @@ TEST_F(ProgramTest, TheCloseButtonFadesOutAlsoDuringAPause) {
 }
 
 TEST_F(ProgramTest, EscapeOvertakesACrowdOfKeys) {
-    waitForScene();
     crowd();
     session->press("Escape");
     EXPECT_EQ(demo.waitForExit(5), 0);
 }
 
 TEST_F(ProgramTest, TheCloseButtonOvertakesACrowdOfKeys) {
-    waitForScene();
     crowd();
     session->sendClose(session->findDemo());
     EXPECT_EQ(demo.waitForExit(5), 0);
@@ -159,16 +164,14 @@ TEST_F(ProgramTest, ALostConnectionEndsItWithOneLine) {
     waitForScene();
     session.reset(); // our own connection would not survive the server
     server.end();
-    EXPECT_EQ(demo.waitForExit(), 1);
-    EXPECT_EQ(demo.errors(), "velm4030: lost the display \"" + server.display() + "\"\n");
+    expectEnd("lost the display \"" + server.display() + "\"");
 }
 
 TEST_F(ProgramTest, AKilledClientEndsItWithOneLine) {
     waitForScene();
     XKillClient(session->connection, session->findDemo());
     XFlush(session->connection);
-    EXPECT_EQ(demo.waitForExit(), 1);
-    EXPECT_EQ(demo.errors(), "velm4030: lost the display \"" + server.display() + "\"\n");
+    expectEnd("lost the display \"" + server.display() + "\"");
 }
 
 TEST_F(ProgramTest, ADestroyedWindowEndsItWithOneLineAlsoDuringAPause) {
@@ -176,15 +179,13 @@ TEST_F(ProgramTest, ADestroyedWindowEndsItWithOneLineAlsoDuringAPause) {
     pause();
     XDestroyWindow(session->connection, session->findDemo());
     XFlush(session->connection);
-    EXPECT_EQ(demo.waitForExit(), 1);
-    EXPECT_EQ(demo.errors(), "velm4030: the window is gone \"closed by another program\"\n");
+    expectEnd("the window is gone \"closed by another program\"");
 }
 
 TEST(Program, WithoutADisplayItSaysSoAndLeaves) {
     for (const char* display : {":4095", ""}) {
         Child demo({VELM_PROGRAM}, {{"DISPLAY", display}});
-        EXPECT_EQ(demo.waitForExit(), 1);
-        EXPECT_EQ(demo.errors(), "velm4030: cannot open display \"" + std::string(display) + "\"\n");
+        expectEnd(demo, "cannot open display \"" + std::string(display) + "\"");
         EXPECT_EQ(demo.output(), "");
     }
 }
@@ -193,27 +194,23 @@ TEST(Program, ADisplayThatIsLostWhileItConnectsIsOneThatCannotBeOpened) {
     const XServer server("24");
     const ShortLivedDisplay display(server);
     Child demo({VELM_PROGRAM}, {{"DISPLAY", display.name}});
-    EXPECT_EQ(demo.waitForExit(), 1);
-    EXPECT_EQ(demo.errors(), "velm4030: cannot open display \"" + display.name + "\"\n");
+    expectEnd(demo, "cannot open display \"" + display.name + "\"");
 }
 
 TEST(Program, OnADisplayWithoutChannelMasksItSaysSoAndLeaves) {
     const XServer server("8");
     Child demo({VELM_PROGRAM}, {{"DISPLAY", server.display()}});
-    EXPECT_EQ(demo.waitForExit(), 1);
-    EXPECT_EQ(demo.errors(), "velm4030: needs a TrueColor display, unlike \"" + server.display() + "\"\n");
+    expectEnd(demo, "needs a TrueColor display, unlike \"" + server.display() + "\"");
 }
 
 TEST(Program, CarriesTheIdentificationRecordsOfItsModules) {
-    std::ifstream file(VELM_PROGRAM, std::ios::binary);
-    const std::string binary{std::istreambuf_iterator<char>(file), {}};
+    const std::string binary = contents(VELM_PROGRAM);
     std::size_t modules = 0;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(VELM_SOURCES)) {
         if (entry.path().extension() != ".h") {
             continue;
         }
-        std::ifstream source(entry.path());
-        const std::string text{std::istreambuf_iterator<char>(source), {}};
+        const std::string text = contents(entry.path());
         constexpr std::string_view declaration = "extern const IDENTITY ";
         const std::size_t at = text.find(declaration);
         if (at == std::string::npos) {

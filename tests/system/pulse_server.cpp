@@ -60,21 +60,16 @@ bool contains(const Sound& recording, const Sound& stretch, std::size_t from) {
     return find(recording, stretch, from) != recording.size();
 }
 
-std::string PulseServer::temporaryFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "velm-sound-XXXXXX";
-    return mkdtemp(name.data());
-}
-
 void PulseServer::startServer() {
     recorder.reset();
     pulseaudio.reset();
-    std::filesystem::remove(folder + "/native");
+    std::filesystem::remove(folder / "native");
     pulseaudio = std::make_unique<Child>(
         std::vector<std::string>{
             "pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
             "--load=module-null-sink sink_name=velm rate=44100 format=s16le channels=1",
-            "--load=module-native-protocol-unix auth-anonymous=1 socket=" + folder + "/native"},
-        Environment{{"HOME", folder}, {"XDG_RUNTIME_DIR", folder}});
+            "--load=module-native-protocol-unix auth-anonymous=1 socket=" + folder / "native"},
+        Environment{{"HOME", folder.path}, {"XDG_RUNTIME_DIR", folder.path}});
     ASSERT_TRUE(eventually([this] { return runTool({"pactl", "info"}, pulse) == 0; }));
     recorder = std::make_unique<Child>(
         std::vector<std::string>{"sh", "-c",
@@ -82,12 +77,6 @@ void PulseServer::startServer() {
                                  " --format=s16le --latency-msec=20 > " +
                                      recording},
         pulse);
-}
-
-PulseServer::~PulseServer() {
-    recorder.reset();
-    pulseaudio.reset();
-    std::filesystem::remove_all(folder);
 }
 
 } // namespace velm::test

@@ -38,28 +38,19 @@ bool contains(const Sound& recording, const Sound& stretch, std::size_t from);
 
 class PulseServer {
 public:
-    PulseServer() = default;
-    ~PulseServer();
-    PulseServer(const PulseServer&) = delete;
-    PulseServer& operator=(const PulseServer&) = delete;
-
     /// Starts the server, or another one in its place, and a recorder.
     void startServer();
 
     /// What the recorder of the running server has heard so far.
     [[nodiscard]] Sound recorded() const { return readSound(recording, 0); }
 
-private:
-    static std::string temporaryFolder();
-
-public:
-    std::string folder = temporaryFolder();
-    std::string recording = folder + "/recording.raw";
+    const TemporaryFolder folder;
+    const std::string recording = folder / "recording.raw";
     /// What a program needs to find the server.
-    Environment pulse = {{"PULSE_SERVER", "unix:" + folder + "/native"},
-                         {"HOME", folder},
-                         {"XDG_RUNTIME_DIR", folder},
-                         {"PULSE_COOKIE", folder + "/cookie"}};
+    Environment pulse = {{"PULSE_SERVER", "unix:" + folder / "native"},
+                         {"HOME", folder.path},
+                         {"XDG_RUNTIME_DIR", folder.path},
+                         {"PULSE_COOKIE", folder / "cookie"}};
     std::unique_ptr<Child> pulseaudio;
     std::unique_ptr<Child> recorder;
 };

@@ -38,12 +38,6 @@ protected:
 
     void TearDown() override { std::filesystem::remove(spyLog); }
 
-    [[nodiscard]] Environment environment() const {
-        Environment all = {{"DISPLAY", server.display()}, {"LD_PRELOAD", VELM_X11_SPY}, {"VELM_SPY", spyLog}};
-        all.insert(all.end(), additions.begin(), additions.end());
-        return all;
-    }
-
     /// Every picture that the program has sent so far.
     [[nodiscard]] std::vector<Put> puts() const {
         std::ifstream log(spyLog);
@@ -82,7 +76,7 @@ protected:
     XServer server{"24"};
     std::optional<Session> session{server.display()};
     std::string spyLog = temporaryFile();
-    Child demo{{VELM_PROGRAM}, environment()};
+    Child demo{{VELM_PROGRAM}, spied(server.display(), spyLog, additions)};
 };
 
 } // namespace velm::test

@@ -4,11 +4,9 @@
 // What a viewer of the default scene sees when the keys are pressed and the pointer moves.
 #include "demo/assets.h"
 #include "effects/lfont.h"
-#include "foundation/list.h"
-#include "image/img.h"
 #include "running_demo.h"
-#include "vector/obj2d.h"
-#include "vector/vec2d.h"
+#include "support/owned.h"
+#include "vector/objects.h"
 
 #include <algorithm>
 
@@ -46,43 +44,35 @@ protected:
 };
 
 TEST_F(SceneTest, TheOverlayReadsTheRateInHexadecimal) {
-    LFONT* pen = LFONT_new();
-    pen->glyphs = OBJ2D_parse(assets::font_medium.bytes);
-    const auto text = [pen](const char* line) {
-        IMG* img = IMG_newSized(80, 16);
+    const Objects glyphs(assets::font_medium.bytes);
+    const Owned<LFONT_delete> pen(LFONT_new());
+    pen->glyphs = glyphs.list;
+    const auto text = [&pen](const char* line) {
+        Picture img(IMG_newSized(80, 16));
         pen->target = img;
         pen->position->x = 0;
         LFONT_drawLine(pen, line);
         return img;
     };
-    IMG* at30 = text("1Efps");
-    IMG* at60 = text("3Cfps");
+    const Picture at30 = text("1Efps");
+    const Picture at60 = text("3Cfps");
     waitForScene();
     EXPECT_FALSE(shows(at30, 0, 0, true));
     session->press("8");
     EXPECT_TRUE(eventually([&] { return shows(at30, 0, 0, true); }));
     session->press("6");
     EXPECT_TRUE(eventually([&] { return shows(at60, 0, 0, true); }));
-    for (std::int32_t i = 0; i < pen->glyphs->count; ++i) {
-        OBJ2D_deleteSegments(static_cast<OBJ2D*>(LIST_get(pen->glyphs, i)));
-        delete[] static_cast<OBJ2D*>(LIST_get(pen->glyphs, i))->name;
-    }
-    LIST* glyphs = pen->glyphs;
-    LFONT_delete(&pen);
-    LIST_delete(&glyphs);
-    IMG_delete(&at30);
-    IMG_delete(&at60);
+    pen->glyphs = nullptr; // the drawings' own
 }
 
 TEST_F(SceneTest, ThePointerPictureFollowsTheRealPointer) {
-    IMG* picture = IMG_fromPNM(assets::pointer.bytes, assets::pointer.size);
+    const Picture picture(IMG_fromPNM(assets::pointer.bytes, assets::pointer.size));
     waitForScene();
     const int places[][2] = {{20, 110}, {200, 90}, {60, 180}};
     for (const auto& [x, y] : places) {
         session->movePointer(x + border, y + border);
         EXPECT_TRUE(eventually([&, x = x, y = y] { return shows(picture, x, y, false); })) << x << ", " << y;
     }
-    IMG_delete(&picture);
 }
 
 TEST_F(SceneTest, SpaceWalksToTheNextScene) {

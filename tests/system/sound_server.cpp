@@ -17,7 +17,7 @@ Environment SoundServer::withDevice() const {
 }
 
 Sound SoundServer::captured(int frames) const {
-    const std::string wav = folder + "/captured.wav";
+    const std::string wav = folder / "captured.wav";
     EXPECT_EQ(runTool({VELM_CAPTURE, "--frames", std::to_string(frames), "--quiet", "--audio", wav}, {}), 0);
     constexpr std::size_t headerBytes = 44;
     return readSound(wav, headerBytes);

@@ -107,6 +107,20 @@ void Session::sendClose(::Window window) const {
     send(window, event, NoEventMask);
 }
 
+std::vector<unsigned long> Session::property(::Window window, const char* property) const {
+    ::Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char* bytes = nullptr;
+    XGetWindowProperty(connection, window, XInternAtom(connection, property, False), 0, 1 << 16, False,
+                       AnyPropertyType, &type, &format, &count, &left, &bytes);
+    const auto* const words = reinterpret_cast<const unsigned long*>(bytes);
+    std::vector<unsigned long> all(words, words + (format == 32 ? count : 0));
+    XFree(bytes);
+    return all;
+}
+
 bool Session::cursorIsVisible() const {
     int eventBase = 0;
     int errorBase = 0;

@@ -46,6 +46,9 @@ public:
     /// What a window manager sends when the close button is pressed.
     void sendClose(::Window window) const;
 
+    /// The 32-bit words of a property.
+    [[nodiscard]] std::vector<unsigned long> property(::Window window, const char* property) const;
+
     /// True when the cursor that the server shows has a visible pixel.
     [[nodiscard]] bool cursorIsVisible() const;
 

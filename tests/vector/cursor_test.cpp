@@ -8,8 +8,7 @@
 namespace velm::test {
 
 TEST(Cursor, WrapsAtBothEnds) {
-    CURSOR* cursor = CURSOR_new();
-    ASSERT_NE(cursor, nullptr);
+    const Owned<CURSOR_delete> cursor(CURSOR_new());
     cursor->step = -1;
     CURSOR_advance(cursor);
     EXPECT_EQ(*static_cast<const char*>(CURSOR_current(cursor)), 'M');
@@ -23,7 +22,6 @@ TEST(Cursor, WrapsAtBothEnds) {
     EXPECT_EQ(cursor->index, 3);
     CURSOR_restore(cursor);
     EXPECT_EQ(cursor->index, 2);
-    CURSOR_delete(&cursor);
 }
 
 TEST(Cursor, ReportsWhatItCannotWalk) {

@@ -4,6 +4,7 @@
 // Two columns of sixteen cells with the hexadecimal digits. The first two cells are the last digits, E and F,
 // so that the decimal ones start where the rolling strip looks for them.
 #include "image/img.h"
+#include "image/rgb888.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 #include "paint/strokes.h"
@@ -53,7 +54,7 @@ std::uint32_t enamel(std::uint32_t colour, std::int32_t x, std::int32_t y) {
     if (y < middle) {
         return dither({blended(colour, 0xFFFFFF, 200), colour, 4}, (y - 1) * whole / (middle - 1), x, y);
     }
-    return dither({colour, dimmed(colour, 110), 4}, (y - middle) * whole / (cell - 1 - middle), x, y);
+    return dither({colour, RGB888_dim(colour, 110), 4}, (y - middle) * whole / (cell - 1 - middle), x, y);
 }
 
 /// The bars of a seven-segment digit: its corner, its size, its bit.
@@ -105,7 +106,7 @@ Picture paintDigitsA() {
             if (IMG_getPixel(shape, x, y) != 0) {
                 IMG_putPixel(column, x, topOf(digit) + y, enamel(colour, x, y));
             } else if (touches(*shape, x, y)) {
-                IMG_putPixel(column, x, topOf(digit) + y, dimmed(colour, 48));
+                IMG_putPixel(column, x, topOf(digit) + y, RGB888_dim(colour, 48));
             }
         }
     }

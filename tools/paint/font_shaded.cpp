@@ -4,6 +4,7 @@
 // The display face: the 16 x 16 letters twice as wide and four times as high, cut like roofs that fall off on
 // both sides of their strokes. The light comes from the upper left. Each pixel is the mean of 4 by 4 samples,
 // measured in eighths of a pixel.
+#include "foundation/root.h"
 #include "image/img.h"
 #include "paint/drawings.h"
 #include "paint/paint.h"

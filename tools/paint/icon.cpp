@@ -6,6 +6,7 @@
 #include "paint/icon.h"
 
 #include "foundation/owned.h"
+#include "foundation/root.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 #include "paint/files.h"
@@ -85,7 +86,7 @@ std::int32_t lightAt(std::int32_t away, std::int32_t reach) {
 }
 
 std::uint32_t lit(std::uint32_t below, std::uint32_t colour, std::int32_t amount) {
-    return RGB888_add(below, dimmed(colour, amount));
+    return RGB888_add(below, RGB888_dim(colour, amount));
 }
 
 /// Cyan at the top of the sign, magenta at its foot.

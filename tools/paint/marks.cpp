@@ -4,6 +4,7 @@
 // The small marks: the logo, the mask of the wide picture, the colour strip and the pointer.
 #include "foundation/owned.h"
 #include "image/img.h"
+#include "image/rgb888.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 #include "paint/strokes.h"
@@ -136,7 +137,7 @@ Picture paintStrip() {
         const std::uint32_t colour = hue(y * hueTurn / strip->height);
         for (std::int32_t x = 0; x < strip->width; ++x) {
             const std::uint32_t lit = x == 2 ? blended(colour, white, 150) : colour;
-            IMG_putPixel(strip, x, y, dimmed(lit, roundness[static_cast<std::size_t>(x)]));
+            IMG_putPixel(strip, x, y, RGB888_dim(lit, roundness[static_cast<std::size_t>(x)]));
         }
     }
     return strip;

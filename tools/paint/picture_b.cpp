@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 //
 // Picture B: a banded planet with its ring and a moon, before a nebula.
+#include "foundation/root.h"
 #include "foundation/sine.h"
 #include "image/img.h"
+#include "image/rgb888.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 
@@ -92,7 +94,7 @@ void paintRing(IMG& img) {
             const bool shadow = across < 0 && dx > 12 && dx < 34;
             const std::int32_t amount = (SINE_entry(radius * 90) >> 8) + 128;
             const std::uint32_t colour = dither({0x9850C0, 0xFFE0B8, 4}, amount, x, y);
-            IMG_putPixel(&img, x, y, shadow ? dimmed(colour, 70) : colour);
+            IMG_putPixel(&img, x, y, shadow ? RGB888_dim(colour, 70) : colour);
         }
     }
 }
@@ -100,7 +102,7 @@ void paintRing(IMG& img) {
 /// A bright star with four rays.
 void paintSpark(IMG& img, std::int32_t x, std::int32_t y, std::int32_t length, std::uint32_t colour) {
     for (std::int32_t i = length; i >= 0; --i) {
-        const std::uint32_t ray = dimmed(colour, whole - i * 200 / length);
+        const std::uint32_t ray = RGB888_dim(colour, whole - i * 200 / length);
         IMG_putPixel(&img, x + i, y, ray);
         IMG_putPixel(&img, x - i, y, ray);
         IMG_putPixel(&img, x, y + i, ray);

@@ -5,6 +5,7 @@
 // right edge continues at its left one: colours and waves complete whole turns, and no tower stands across.
 #include "foundation/sine.h"
 #include "image/img.h"
+#include "image/rgb888.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
 
@@ -129,8 +130,8 @@ void paintSide(IMG& img, std::int32_t x, std::int32_t y, std::int32_t w, std::ui
     const std::int32_t depth = std::abs(fromMiddle) / 18;
     for (std::int32_t i = 1; i <= depth; ++i) {
         const std::int32_t top = y + i * (shore - y) / 64;
-        IMG_drawVLine(&img, i == depth ? dimmed(edge, 130) : wall, corner + i * toMiddle, top, shore - 1);
-        IMG_putPixel(&img, corner + i * toMiddle, top, dimmed(edge, 130));
+        IMG_drawVLine(&img, i == depth ? RGB888_dim(edge, 130) : wall, corner + i * toMiddle, top, shore - 1);
+        IMG_putPixel(&img, corner + i * toMiddle, top, RGB888_dim(edge, 130));
     }
 }
 
@@ -145,7 +146,7 @@ void paintTowers(IMG& img, const Layer& layer, bool outlined) {
         const std::int32_t w = x + wanted + layer.narrowest > width ? width - x : wanted;
         const std::int32_t tall = between(layer.lowest, layer.highest, scattered(layer.seed, i));
         const std::int32_t y = shore - tall;
-        const std::uint32_t edge = outlined ? dimmed(hue(x * hueStep + firstHue), 230) : layer.windows;
+        const std::uint32_t edge = outlined ? RGB888_dim(hue(x * hueStep + firstHue), 230) : layer.windows;
         if (outlined) {
             paintSide(img, x, y, w, edge);
         }

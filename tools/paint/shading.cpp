@@ -44,10 +44,6 @@ std::uint32_t hue(std::int32_t place) {
     }
 }
 
-std::uint32_t dimmed(std::uint32_t colour, std::int32_t amount) {
-    return blended(0, colour, amount);
-}
-
 std::uint32_t blended(std::uint32_t from, std::uint32_t to, std::int32_t amount) {
     return RGB888_mix(from, to, static_cast<std::uint32_t>(std::clamp(amount, 0, whole)));
 }
@@ -60,17 +56,6 @@ std::uint32_t dither(const Gradient& gradient, std::int32_t amount, std::int32_t
 
 bool isLit(std::int32_t amount, std::int32_t x, std::int32_t y) {
     return amount > threshold(x, y) * 4;
-}
-
-std::int32_t rootOf(std::int64_t square) {
-    std::int64_t root = 0;
-    for (std::int64_t bit = std::int64_t{1} << 30; bit != 0; bit >>= 1) {
-        const std::int64_t larger = root | bit;
-        if (larger * larger <= square) {
-            root = larger;
-        }
-    }
-    return static_cast<std::int32_t>(root);
 }
 
 std::int32_t scattered(std::int32_t a, std::int32_t b) {

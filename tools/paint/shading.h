@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What the pictures share: the hue circle, ordered dithering, whole square roots, scattered numbers.
+// What the pictures share: the hue circle, ordered dithering, scattered numbers.
 //
 //     const std::uint32_t pixel = dither({0x100030, 0xFF40A0, 8}, amount, x, y);
 #pragma once
@@ -15,9 +15,6 @@ constexpr std::int32_t whole = 256;    ///< an amount of 1
 
 /// The pure colour at a place on the hue circle; any number.
 std::uint32_t hue(std::int32_t place);
-
-/// `colour` times amount / 256, amount 0 to 256.
-std::uint32_t dimmed(std::uint32_t colour, std::int32_t amount);
 
 /// Between two colours, amount 0 to 256, clamped.
 std::uint32_t blended(std::uint32_t from, std::uint32_t to, std::int32_t amount);
@@ -34,9 +31,6 @@ std::uint32_t dither(const Gradient& gradient, std::int32_t amount, std::int32_t
 
 /// The same pattern for one bit: whether a pixel of this amount, 0 to 256, is lit.
 bool isLit(std::int32_t amount, std::int32_t x, std::int32_t y);
-
-/// The square root, rounded down.
-std::int32_t rootOf(std::int64_t square);
 
 /// A number of 0 to 0xFFFF that looks random and is always the same for the same two numbers.
 std::int32_t scattered(std::int32_t a, std::int32_t b);

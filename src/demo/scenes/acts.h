@@ -59,6 +59,18 @@ inline Owned<SINEDOTS_delete> makeStars(std::int32_t count) {
     });
 }
 
+/// What bends a picture by rows (DISTX) or columns (DISTY): its wave moves by `speed` a frame and by `step`
+/// from line to line.
+template <auto Make, auto Delete>
+Owned<Delete> makeBend(IMG* source, std::int32_t amplitude, std::int32_t speed, std::int32_t step) {
+    return Owned<Delete>(Make(), [=](auto& made) {
+        made.source = source;
+        made.amplitude = amplitude;
+        made.wave.speed = speed;
+        made.wave.offsetStep = step;
+    });
+}
+
 template <typename Cast>
 struct Act {
     std::int32_t begin, end; ///< it draws from frame `begin` up to and without frame `end`

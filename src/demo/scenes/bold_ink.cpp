@@ -13,10 +13,6 @@ namespace velm {
 
 namespace {
 
-std::uint32_t* rowOf(const IMG& img, std::int32_t y) {
-    return img.pixels + std::int64_t{y} * img.width;
-}
-
 /// Every pixel takes the light of its neighbours to the left, above, and both; from the end on, so that each
 /// still finds them thin.
 void thicken(IMG& sheet) {

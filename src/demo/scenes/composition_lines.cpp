@@ -78,10 +78,10 @@ void Lines::draw(std::int32_t frame) const {
         const std::int32_t upFrom = curveBetween(0, foot, out);
         const std::int32_t upLength = curveBetween(0, foot, in) - upFrom;
         const bool flips = i % 2 == 0;
-        RECT_drawPane(screen, flips ? screen->width - from : from, y[i], flips ? -length : length, thickness,
-                      ink(), RECT_MIX::set);
-        RECT_drawPane(screen, x[i], flips ? foot - upFrom : upFrom, thickness, flips ? -upLength : upLength,
-                      ink(), RECT_MIX::set);
+        const RECT_BOX across{flips ? screen->width - from : from, y[i], flips ? -length : length, thickness};
+        const RECT_BOX up{x[i], flips ? foot - upFrom : upFrom, thickness, flips ? -upLength : upLength};
+        RECT_drawPane(screen, across, ink(), RECT_MIX::set);
+        RECT_drawPane(screen, up, ink(), RECT_MIX::set);
     }
 }
 

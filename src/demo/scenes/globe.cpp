@@ -29,11 +29,10 @@ Shades shadesOf(const Globe& globe) {
         const std::uint32_t colour = curveMix(globe.land, globe.air, air * air / curveFull * air / curveFull);
         colours[static_cast<std::size_t>(i)] = curveDim(colour, globe.weight);
     }
-    for (std::int32_t i = 0; i < glowShades; ++i) {
-        const std::int32_t left = curveFull - curveRise(i, 0, glowShades);
+    for (std::int32_t i = shades; i < shades + glowShades; ++i) {
+        const std::int32_t left = curveFull - curveRise(i, shades, shades + glowShades);
         const std::int32_t light = left * left / curveFull * left / curveFull;
-        colours[static_cast<std::size_t>(shades + i)] =
-            curveDim(globe.air, light * globe.weight / curveFull * 3 / 4);
+        colours[static_cast<std::size_t>(i)] = curveDim(globe.air, light * globe.weight / curveFull * 3 / 4);
     }
     return colours;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/letters.h"
 
+#include "demo/scenes/caption.h"
 #include "demo/state.h"
 #include "demo/velm4030.h"
 
@@ -14,17 +15,22 @@ namespace {
 /// Draws the letters' layer into a picture that they just fit in.
 void takeLayer(IMG* into) {
     constexpr std::int32_t hop = 34; // pixels above the line that they bounce on
-    const std::int32_t x = std::exchange(settings.lettersX, 0);
-    const std::int32_t y = std::exchange(settings.lettersY, hop);
     IMG* const target = std::exchange(demo.textMedium->target, into);
     IMG_fill(into, 0);
-    VELM4030_logoLettersLayer();
+    drawLettersAt(0, hop);
     demo.textMedium->target = target;
-    settings.lettersX = x;
-    settings.lettersY = y;
 }
 
 } // namespace
+
+void drawLettersAt(std::int32_t x, std::int32_t y) {
+    const KeptPen kept(demo.textMedium);
+    const std::int32_t beforeX = std::exchange(settings.lettersX, x);
+    const std::int32_t beforeY = std::exchange(settings.lettersY, y);
+    VELM4030_logoLettersLayer();
+    settings.lettersX = beforeX;
+    settings.lettersY = beforeY;
+}
 
 void BigLetters::draw(std::int32_t left, std::int32_t top) {
     constexpr std::uint32_t outline = 0x100820;

@@ -4,9 +4,9 @@
 
 #include "demo/scenes/acts.h"
 #include "effects/line_text.h"
+#include "foundation/root.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 namespace velm {
@@ -86,7 +86,9 @@ void drawShare(IMG* canvas, std::int32_t weight, ForEach forEach) {
 
 /// Pixels from the picture's middle.
 std::int32_t radiusOf(const Pane& pane) {
-    return static_cast<std::int32_t>(std::hypot(pane.x - middle, pane.y - middle));
+    const std::int32_t dx = pane.x - middle;
+    const std::int32_t dy = pane.y - middle;
+    return rootOf(dx * dx + dy * dy);
 }
 
 /// Twelve corners, each joined to each; the colour comes ring by ring from the middle, the sky last.

@@ -72,20 +72,20 @@ std::int32_t barLight(std::int32_t row, std::int32_t rows) {
 NameDrum::NameDrum() : names(IMG_newSized(2 * width, rows * kept)) {
     constexpr std::int32_t front = 92; // left edge of the plate in front, column
     constexpr std::int32_t curve = 46; // pixels by which the drum's ends lie further to the left
-    constexpr std::int64_t radius = half + 1;
+    constexpr std::int32_t radius = half + 1;
     std::int32_t v = 0;
     for (std::int32_t y = 0; y <= half; ++y) {
-        const auto away =
-            static_cast<std::int32_t>(rootOf((radius * radius - y * y) << 16) / radius); // 8 bits
+        const std::int32_t square = radius * radius - y * y;
+        const std::int32_t away = rootOf(std::int64_t{square} << 16) / radius; // 8 bits
         const std::int32_t clear = curveFull - curveEase(y, lens - 1, lens + lensEdge - 1);
         const Row row = {.v = v,
                          .left = front - curve + ((curve * away) >> 8),
                          .step = 2 * one - (clear * one >> 8),
                          .light = away,
                          .front = clear};
-        shape[static_cast<std::size_t>(half + y)] = row;
-        shape[static_cast<std::size_t>(half - y)] = row;
-        shape[static_cast<std::size_t>(half - y)].v = -v;
+        shape[half + y] = row;
+        shape[half - y] = row;
+        shape[half - y].v = -v;
         v += row.step * one / away;
     }
     reach = v / (rows * one) + 1;
@@ -94,7 +94,7 @@ NameDrum::NameDrum() : names(IMG_newSized(2 * width, rows * kept)) {
 void NameDrum::write(std::int32_t plate, std::string_view name) {
     const std::int32_t slot = positiveModulo(plate, kept);
     const std::int32_t shift = plate == (place + one / 2) >> 8 ? run : 0;
-    Written& now = written[static_cast<std::size_t>(slot)];
+    Written& now = written[slot];
     if (now.is && now.plate == plate && now.run == shift) {
         return;
     }
@@ -116,12 +116,12 @@ void NameDrum::drawRows(IMG* target) const {
     const std::int32_t seen = half * open >> 8;
     for (std::int32_t y = -seen; y < seen; ++y) {
         const std::int32_t at = half + y * curveFull / open;
-        const Row& row = shape[static_cast<std::size_t>(at)];
-        const Row& next = shape[static_cast<std::size_t>(at + 1)];
-        drawRow(row, next, target->pixels + (middle + y) * target->width);
+        const Row& row = shape[at];
+        const Row& next = shape[at + 1];
+        drawRow(row, next, rowOf(*target, middle + y));
     }
     for (const std::int32_t y : {-lens - 1, lens + 1}) { // the rim of the lens
-        const Row& row = shape[static_cast<std::size_t>(half + y)];
+        const Row& row = shape[half + y];
         IMG_blendHLine(target, curveMix(curveHue(hue), 0xFFFFFF, curveFull / 2),
                        middle + y * open / curveFull, row.left - rim, row.left + width - 1 + rim,
                        static_cast<std::uint32_t>(open * 3 / 4));
@@ -139,8 +139,8 @@ void NameDrum::drawRow(const Row& row, const Row& next, std::uint32_t* pixels) c
     const std::int32_t height = next.v - row.v;
     const auto [plate, line] = cell(row.v + height / 4);
     const std::int32_t second = cell(row.v + height * 3 / 4).second;
-    const std::uint32_t* const upper = names->pixels + line * names->width;
-    const std::uint32_t* const lower = names->pixels + second * names->width;
+    const std::uint32_t* const upper = rowOf(*names, line);
+    const std::uint32_t* const lower = rowOf(*names, second);
 
     // A plate under the lens is darker, for the name to stand out, until light falls on it.
     constexpr std::int32_t frontDimmed = 160, flareGain = 650, waveGain = 220, paleness = 150;

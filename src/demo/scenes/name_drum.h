@@ -13,7 +13,6 @@
 
 #include "demo/scenes/acts.h"
 
-#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -70,8 +69,8 @@ private:
     void drawRow(const Row& row, const Row& next, std::uint32_t* pixels) const;
 
     Picture names; ///< white on black, `kept` plates one below the other
-    std::array<Row, 2 * half + 1> shape{};
-    std::array<Written, kept> written{};
+    Row shape[2 * half + 1] = {};
+    Written written[kept] = {};
     std::int32_t reach = 0; ///< plates seen on either side of the front
 };
 

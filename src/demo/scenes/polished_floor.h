@@ -21,13 +21,8 @@ public:
 
 private:
     static constexpr std::int32_t mostRows = 96;
-    Picture mirrored{IMG_newSized(settings.windowWidth, mostRows)}; ///< straight
-    Owned<DISTX_delete> ripple{DISTX_new(), [this](DISTX& made) {
-                                   made.source = mirrored;
-                                   made.amplitude = 5;
-                                   made.wave.speed = -20;
-                                   made.wave.offsetStep = 44;
-                               }}; ///< bends it by rows
+    Picture mirrored{IMG_newSized(settings.windowWidth, mostRows)};                       ///< straight
+    Owned<DISTX_delete> ripple = makeBend<DISTX_new, DISTX_delete>(mirrored, 5, -20, 44); ///< bends it
 };
 
 } // namespace velm

@@ -104,8 +104,8 @@ void PondView::drawMoon() {
 /// Adds the mirror image of what stands above row `axis`.
 void PondView::mirror(const IMG* source, std::int32_t axis, std::int32_t weight) {
     for (std::int32_t y = axis; y < 2 * axis && y < top + surface->height; ++y) {
-        const std::uint32_t* const from = source->pixels + (2 * axis - 1 - y) * source->width;
-        std::uint32_t* const to = surface->pixels + (y - top) * surface->width;
+        const std::uint32_t* const from = rowOf(*source, 2 * axis - 1 - y);
+        std::uint32_t* const to = rowOf(*surface, y - top);
         const std::int32_t light = weight - weight * (y - axis) / axis;
         for (std::int32_t x = 0; x < source->width; ++x) {
             if (from[x] != 0) {
@@ -119,10 +119,10 @@ void PondView::mirror(const IMG* source, std::int32_t axis, std::int32_t weight)
 void PondView::lay(const IMG* flat) {
     for (std::int32_t below = 0; below < water; ++below) {
         const Row row = rowAt(below);
-        const std::uint32_t* const from = flat->pixels + row.v * flat->width;
+        const std::uint32_t* const from = rowOf(*flat, row.v);
         const std::uint32_t* const behind =
             from + flat->width; // the rows far away are denser than the window's
-        std::uint32_t* const to = surface->pixels + (horizon - top + below) * surface->width;
+        std::uint32_t* const to = rowOf(*surface, horizon - top + below);
         const std::int32_t reach = std::min(middle, (middle - 1) * 256 / row.step);
         for (std::int32_t x = middle - reach; x < middle + reach; ++x) {
             const std::int32_t u = middle + (((x - middle) * row.step) >> 8);

@@ -60,11 +60,7 @@ private:
     Picture moon{IMG_newSized(2 * moonReach, 2 * moonReach)}; ///< with its halo
     Picture surface{IMG_newSized(256, 256 - top)};            ///< the water, flat
     Picture bent{IMG_newSized(256, 256 - top)};               ///< the water, its rows bent
-    Owned<DISTX_delete> bendRows{DISTX_new(), [this](DISTX& made) {
-                                     made.source = surface;
-                                     made.wave.speed = 14;
-                                     made.wave.offsetStep = 29;
-                                 }};
+    Owned<DISTX_delete> bendRows = makeBend<DISTX_new, DISTX_delete>(surface, 0, 14, 29);
     Owned<DISTY_delete> bendColumns{DISTY_new(), [this](DISTY& made) {
                                         made.source = bent;
                                         made.y = top;

@@ -172,8 +172,8 @@ void drawLamps(City&, std::int32_t frame) {
 void drawCar(std::int32_t since, std::int32_t speed) {
     const std::int32_t front = speed > 0 ? since * speed - 40 : settings.windowWidth + 40 + since * speed;
     const std::int32_t ahead = speed > 0 ? 1 : -1;
-    RECT_drawPane(demo.screen, front, horizon - 4, -ahead * 15, 4, 0x181C2C, RECT_MIX::set);
-    RECT_drawPane(demo.screen, front - ahead * 4, horizon - 7, -ahead * 8, 3, 0x283048, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {front, horizon - 4, -ahead * 15, 4}, 0x181C2C, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {front - ahead * 4, horizon - 7, -ahead * 8, 3}, 0x283048, RECT_MIX::set);
     drawGlow(demo.screen, front + ahead * 8, horizon - 2, 16, 0x685838);
     drawGlow(demo.screen, front - ahead * 15, horizon - 3, 6, 0xA01018);
     IMG_drawHLine(demo.screen, 0xFFF8D0, horizon - 3, front - 1, front + 1);
@@ -227,8 +227,8 @@ void melt(City& city, std::int32_t frame) {
     const std::int32_t radius = (frame - melts) * (frame - melts) / 600;
     IMGFX_blurRadius(demo.screen, city.melted, radius);
     const std::int32_t light = curveFull - curveRise(frame, goesDark, frames + 4);
-    std::transform(city.melted->pixels, city.melted->pixels + city.melted->width * city.melted->height,
-                   demo.screen->pixels, [light](std::uint32_t pixel) { return curveDim(pixel, light); });
+    std::transform(city.melted->pixels, rowOf(*city.melted, city.melted->height), demo.screen->pixels,
+                   [light](std::uint32_t pixel) { return curveDim(pixel, light); });
 }
 
 /// The key q asks for ink on paper.

@@ -11,6 +11,7 @@
 #include "demo/scenes/caption.h"
 #include "demo/scenes/composition_lines.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/letters.h"
 #include "demo/scenes/polished_floor.h"
 #include "effects/rect.h"
 #include "foundation/sine.h"
@@ -19,7 +20,6 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
-#include <utility>
 
 namespace velm {
 
@@ -87,12 +87,7 @@ struct Composition {
     Picture barView{IMG_newSized(viewWidth, viewHeight)};     ///< the bars, straight
     Picture dotView{IMG_newSized(viewWidth * 2, viewHeight)}; ///< room for the dots' field
     Picture swayView{IMG_newSized(viewWidth, viewHeight)};    ///< the bars, bent
-    Owned<DISTX_delete> sway{DISTX_new(), [this](DISTX& made) {
-                                 made.source = barView;
-                                 made.amplitude = 24;
-                                 made.wave.speed = 14;
-                                 made.wave.offsetStep = 12;
-                             }}; ///< bends the bars by rows
+    Owned<DISTX_delete> sway = makeBend<DISTX_new, DISTX_delete>(barView, 24, 14, 12); ///< bends the bars
     PolishedFloor floor;
 };
 
@@ -111,9 +106,10 @@ void drawField(Composition& composition, const Field& field, std::int32_t frame)
     const std::int32_t seen = SINE_cosineScaled(view.right - view.left + 1, swing);
     const std::uint32_t colour =
         curveMix(field.colour, 0xFFFFFF, beatWeight(20, frame < Lines::wholeBegins ? 1 : 4) / 7);
+    const RECT_BOX pane{field.hingesRight ? view.right : view.left, view.top,
+                        field.hingesRight ? -seen : seen, view.bottom - view.top};
     for (std::int32_t coat = 0; coat < 2; ++coat) {
-        RECT_drawPane(demo.screen, field.hingesRight ? view.right : view.left, view.top,
-                      field.hingesRight ? -seen : seen, view.bottom - view.top, colour, RECT_MIX::average);
+        RECT_drawPane(demo.screen, pane, colour, RECT_MIX::average);
     }
 }
 
@@ -179,7 +175,7 @@ void drawOutlook(Composition& composition, std::int32_t frame) {
     const std::int32_t height = ((view.bottom - view.top) * weight) >> 8;
     const std::int32_t top = (view.top + view.bottom - height) / 2;
     const std::int32_t spare = std::max(panorama->width - width, 0) / 2;
-    RECT_drawPane(demo.screen, view.left, top, width, height, 0, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {view.left, top, width, height}, 0, RECT_MIX::set);
     IMG_blit(panorama, demo.screen, spare + SINE_scaled(spare, 2 * frame), skyline - height / 2, view.left,
              top, width, height);
 }
@@ -187,17 +183,11 @@ void drawOutlook(Composition& composition, std::int32_t frame) {
 /// Draws the bobbing letters in the middle of a dark field, in pale hues, of which blue can be read there,
 /// too.
 void drawLettersIn(const View& field) {
-    constexpr std::int32_t wordWidth = 64;
     constexpr std::int32_t belowLine = 19; // what is left below the line that they bounce on
     constexpr std::int32_t paleness = 96;  // of 256
-    const std::int32_t x = std::exchange(settings.lettersX, (field.left + field.right - wordWidth) / 2);
-    const std::int32_t y = std::exchange(settings.lettersY, field.bottom - belowLine);
-    const KeptPen kept(demo.textMedium);
-    VELM4030_logoLettersLayer();
-    settings.lettersX = x;
-    settings.lettersY = y;
+    drawLettersAt((field.left + field.right - lettersWidth) / 2, field.bottom - belowLine);
     for (std::int32_t row = field.top; row < field.bottom; ++row) {
-        std::uint32_t* const pixels = demo.screen->pixels + row * demo.screen->width;
+        std::uint32_t* const pixels = rowOf(*demo.screen, row);
         std::transform(pixels + field.left, pixels + field.right, pixels + field.left,
                        [](std::uint32_t pixel) {
                            return pixel == darkGround ? pixel : curveMix(pixel, 0xFFFFFF, paleness);
@@ -215,10 +205,10 @@ void drawLetters(Composition& composition, std::int32_t frame) {
     const std::int32_t width = field.right - field.left;
     const std::int32_t height = field.bottom - field.top;
     const std::int32_t shut = (height * (curveFull - weight)) >> 9; // on either side of the shutter
-    RECT_drawPane(demo.screen, field.left, field.top, width, height, darkGround, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {field.left, field.top, width, height}, darkGround, RECT_MIX::set);
     drawLettersIn(field);
-    RECT_drawPane(demo.screen, field.left, field.top, width, shut, demo.background, RECT_MIX::set);
-    RECT_drawPane(demo.screen, field.left, field.bottom, width, -shut, demo.background, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {field.left, field.top, width, shut}, demo.background, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {field.left, field.bottom, width, -shut}, demo.background, RECT_MIX::set);
 }
 
 /// A drawing that turns in the red field, another one in every bar, and a larger one while it has room. Its

@@ -9,6 +9,7 @@
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/letters.h"
 #include "demo/scenes/name_drum.h"
 #include "demo/scenes/readable.h"
 #include "effects/lradial.h"
@@ -266,13 +267,7 @@ void drawNames(Browser& browser, std::int32_t frame) {
 /// The four letters, down where the drum leaves room.
 void drawLetters(Browser&, std::int32_t) {
     constexpr std::int32_t x = 2, y = 216;
-    const KeptPen keeper(demo.textMedium);
-    const std::int32_t before[] = {settings.lettersX, settings.lettersY};
-    settings.lettersX = x;
-    settings.lettersY = y;
-    VELM4030_logoLettersLayer();
-    settings.lettersX = before[0];
-    settings.lettersY = before[1];
+    drawLettersAt(x, y);
 }
 
 constexpr Act<Browser> acts[] = {{0, untilSpace, spreadGlow},

@@ -11,6 +11,7 @@
 #include "demo/scenes/caption.h"
 #include "demo/scenes/curves.h"
 #include "demo/scenes/globe.h"
+#include "demo/scenes/hoops.h"
 #include "effects/circle.h"
 #include "effects/lstar.h"
 #include "foundation/sine.h"
@@ -26,9 +27,8 @@ namespace velm {
 namespace {
 
 constexpr std::int32_t frames = 750;
-constexpr std::int32_t scrollY = 206;     // over the ground
-constexpr std::int32_t skyHeight = 176;   // of what dances in the sky, pixels
-constexpr std::int32_t tunnelSway = 6500; // of its bends, pixels at a depth of 1
+constexpr std::int32_t scrollY = 206;   // over the ground
+constexpr std::int32_t skyHeight = 176; // of what dances in the sky, pixels
 
 constexpr std::int32_t takeOff = 40;
 constexpr std::int32_t leftBehind = 140;
@@ -43,11 +43,6 @@ constexpr std::int32_t nightfall = 665;
 std::int32_t speedAt(std::int32_t frame) {
     return 12 + curveEase(frame, takeOff, 270) * 244 / 256 -
            curveEase(frame, brakes - 40, levelled) * 240 / 256;
-}
-
-/// A hue between green, blue and violet.
-std::int32_t coolHue(std::int32_t angle) {
-    return 440 + SINE_scaled(250, angle);
 }
 
 Owned<LSTAR_delete> makeStars(std::int32_t count) {
@@ -183,49 +178,12 @@ void drawWorld(Flight& flight, std::int32_t frame) {
     }
 }
 
-/// How far the tunnel lies off its straight line, `place` hoop distances / 256 from its beginning.
-std::int32_t windAcross(std::int32_t place) {
-    return SINE_scaled(tunnelSway, place * 32 >> 8);
-}
-
-std::int32_t windDown(std::int32_t place) {
-    return SINE_scaled(tunnelSway, (place * 23 >> 8) + 200);
-}
-
-/// One hoop, `depth` in front of the viewer, who is in the middle of the tunnel; it bends by `bend`, a
-/// weight.
-void drawHoop(const Flight& flight, std::int32_t depth, std::int32_t index, std::int32_t bend,
-              std::int32_t weight) {
-    constexpr std::int32_t near = 24;
-    constexpr std::int32_t radius = 5200; // at a depth of 1
-    const std::int32_t away = (depth + near) * curveFull / std::max(bend, 1);
-    const std::int32_t x = middle + (windAcross(index << 8) - windAcross(flight.way)) / away;
-    const std::int32_t y = middle + (windDown(index << 8) - windDown(flight.way)) / away;
-    constexpr std::int32_t hoopsOfGate = 6; // one in so many is a gate, lighter
-    const std::uint32_t hue = curveHue(coolHue(40 * index));
-    const std::uint32_t ink = index % hoopsOfGate == 0 ? curveMix(hue, 0xFFFFFF, 90) : hue;
-    const std::uint32_t colour = curveDim(ink, weight);
-    const std::int32_t size = radius / (depth + near);
-    CIRCLE_addRing(flight.light, x, y, size, colour);
-    CIRCLE_addRing(flight.light, x, y, size - 1, curveDim(colour, 128));
-}
-
-/// The hoops from the farthest to the nearest, each at its whole distance from the way flown.
 void drawTunnel(Flight& flight, std::int32_t frame) {
-    constexpr std::int32_t hoops = 26;
     constexpr std::int32_t hoopLight = 172;
-    constexpr std::int32_t distance = 16; // depth from hoop to hoop
-    const std::int32_t shown = curveStay(frame, tunnelBegin, tunnelEnd, 60) * hoopLight / curveFull;
-    if (shown == 0) {
-        return;
-    }
-    const std::int32_t bend = curveFull - curveEase(frame, sighted - 60, brakes - 20);
-    const std::int32_t first = flight.way >> 8;
-    for (std::int32_t k = hoops; k > 0; --k) {
-        const std::int32_t depth = k * distance - ((flight.way & 255) * distance >> 8) - distance / 2;
-        const std::int32_t weight = (hoops - k) * (hoops - k) * curveFull / (hoops * hoops);
-        drawHoop(flight, depth, first + k, bend, weight * shown >> 8);
-    }
+    drawHoops({.way = flight.way,
+               .bend = curveFull - curveEase(frame, sighted - 60, brakes - 20),
+               .weight = curveStay(frame, tunnelBegin, tunnelEnd, 60) * hoopLight / curveFull},
+              flight.light);
 }
 
 void drawStars(Flight& flight, std::int32_t frame) {

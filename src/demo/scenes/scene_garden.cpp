@@ -58,18 +58,9 @@ struct Garden {
     Picture petals{newWindowPicture()}; ///< a blossom before it is mirrored
     Picture view{newWindowPicture()};   ///< the landscape of the season, as bright as it is to be
     Picture bent{newWindowPicture()};   ///< the same, bent by rows
-    Owned<DISTX_delete> rows{DISTX_new(), [this](DISTX& made) {
-                                 made.source = view;
-                                 made.amplitude = 20;
-                                 made.wave.speed = 7;
-                                 made.wave.offsetStep = 4; // a whole turn over the window
-                             }};
-    Owned<DISTY_delete> columns{DISTY_new(), [this](DISTY& made) {
-                                    made.source = bent;
-                                    made.amplitude = 22;
-                                    made.wave.speed = 5;
-                                    made.wave.offsetStep = 8;
-                                }};
+    // Whole turns over the window: one down, two across.
+    Owned<DISTX_delete> rows = makeBend<DISTX_new, DISTX_delete>(view, 20, 7, 4);
+    Owned<DISTY_delete> columns = makeBend<DISTY_new, DISTY_delete>(bent, 22, 5, 8);
 };
 
 /// How much of a hero is to be seen: its season long, and a little into the next one.
@@ -109,14 +100,14 @@ void addMirroredView(Garden& garden, const IMG* picture, std::int32_t weight) {
     const std::int32_t scale = view.width / picture->width;
     const std::uint32_t* from = picture->pixels;
     for (std::int32_t y = 0; y < picture->height * scale; y += scale) {
-        std::uint32_t* const row = view.pixels + y * view.width;
+        std::uint32_t* const row = rowOf(view, y);
         for (std::int32_t x = 0; x < view.width; x += scale) {
             const std::uint32_t colour = RGB888_add(row[x], curveDim(*from++, weight));
             std::fill_n(row + x, scale, colour);
         }
         for (std::int32_t copy = 0; copy < scale; ++copy) {
-            std::copy_n(row, view.width, row + copy * view.width);
-            std::copy_n(row, view.width, view.pixels + (view.height - 1 - y - copy) * view.width);
+            std::copy_n(row, view.width, rowOf(view, y + copy));
+            std::copy_n(row, view.width, rowOf(view, view.height - 1 - y - copy));
         }
     }
 }

@@ -168,9 +168,9 @@ void drain(FILL& fill, std::int32_t weight) {
 void paintWalls(const IMG& canvas, std::uint32_t colour) {
     const std::int32_t width = std::min(canvas.width, demo.screen->width);
     for (std::int32_t y = 1; y < std::min(canvas.height, demo.screen->height); ++y) {
-        const std::uint32_t* const from = canvas.pixels + std::int64_t{y} * canvas.width;
+        const std::uint32_t* const from = rowOf(canvas, y);
         const std::uint32_t* const above = from - canvas.width;
-        std::uint32_t* const to = demo.screen->pixels + std::int64_t{y} * demo.screen->width;
+        std::uint32_t* const to = rowOf(*demo.screen, y);
         for (std::int32_t x = 0; x < width; ++x) {
             to[x] = (from[x] | above[x]) != 0 ? colour : to[x];
         }

@@ -192,21 +192,20 @@ void moveSparks(Particles& particles, std::int32_t) {
 void breakGlass(Particles& particles) {
     IMG* const world = particles.world;
     setStone(particles, frames);
-    std::replace(world->pixels, world->pixels + std::int64_t{world->width} * world->height, glassPixel,
-                 waterBlue);
+    std::replace(world->pixels, rowOf(*world, world->height), glassPixel, waterBlue);
 }
 
 /// The pipe that the taps hang from; a tap that fills its letter shines.
 void drawPipe(Particles&, std::int32_t frame) {
-    constexpr std::array<std::uint32_t, 8> copper = {0x301810, 0x804828, 0xD08850, 0xFFD0A0,
-                                                     0xC07840, 0x905028, 0x602C18, 0x281008};
+    constexpr std::uint32_t copper[] = {0x301810, 0x804828, 0xD08850, 0xFFD0A0,
+                                        0xC07840, 0x905028, 0x602C18, 0x281008};
     for (std::int32_t i = 0; i < 8; ++i) {
-        IMG_fillRect(demo.screen, 0, 2 + i, demo.screen->width, 1, copper[static_cast<std::size_t>(i)]);
+        IMG_fillRect(demo.screen, 0, 2 + i, demo.screen->width, 1, copper[i]);
     }
     for (const Tap& tap : taps) {
         const std::int32_t width = tap.width + 4;
         for (std::int32_t i = 0; i < width; ++i) {
-            const std::uint32_t colour = copper[static_cast<std::size_t>(1 + i * 6 / width)];
+            const std::uint32_t colour = copper[1 + i * 6 / width];
             IMG_fillRect(demo.screen, tap.x - width / 2 + i, 6, 1, tapRow - 6, colour);
         }
         const std::uint32_t lamp = isRunning(tap, frame) ? 0x80FFFF : 0x401810;

@@ -12,6 +12,7 @@
 #include "demo/scenes/copper_letters.h"
 #include "demo/scenes/curves.h"
 #include "demo/scenes/enlarge.h"
+#include "demo/scenes/letters.h"
 #include "effects/backmove.h"
 #include "effects/circle.h"
 #include "foundation/sine.h"
@@ -77,18 +78,6 @@ void prepareHoops(CIRCLE& hoops) {
     hoops.rings = 1 + hoops.largest / hoops.spacing;
 }
 
-/// The bobbing letters' place, put back in the end.
-struct LettersPlace {
-    std::int32_t x = settings.lettersX, y = settings.lettersY;
-    LettersPlace() = default;
-    ~LettersPlace() {
-        settings.lettersX = x;
-        settings.lettersY = y;
-    }
-    LettersPlace(const LettersPlace&) = delete;
-    LettersPlace& operator=(const LettersPlace&) = delete;
-};
-
 struct Portholes {
     Picture city{doubled(demo.pictureWide)};
     World planets{demo.pictureB, ringedPlanet};                    ///< the other world while flagS is set
@@ -102,7 +91,6 @@ struct Portholes {
     Picture mask{IMG_clone(demo.screen)}; ///< white where a hole is
     Picture view{IMG_clone(demo.screen)}; ///< the other world, cut out
     Lens eye{};                           ///< where it looked when the fall began, pixels in 16.16
-    LettersPlace place;
 
     [[nodiscard]] const World& world() const { return settings.flagS != 0 ? planets : evening; }
 };
@@ -204,7 +192,7 @@ void drawWorld(Portholes& show, std::int32_t frame) {
         }
     }
     IMG_andMask(show.mask, show.view);
-    IMG_blit(show.view, demo.screen, 0, 0, 0, 0, show.view->width, show.view->height);
+    IMG_draw(show.view, demo.screen);
 }
 
 /// A neon tube around every hole: one bright ring between dim ones, which glow up with the beat.
@@ -270,9 +258,7 @@ void drawBobbingLetters(Portholes&, std::int32_t frame) {
     constexpr std::int32_t line = 214, below = 290;
     const std::int32_t shown =
         curveEase(frame, arrival + 10, arrival + 50) - curveEase(frame, irisBegin - 20, irisBegin + 16);
-    settings.lettersX = middle - 32;
-    settings.lettersY = curveBetween(below, line, shown);
-    VELM4030_logoLettersLayer();
+    drawLettersAt(middle - lettersWidth / 2, curveBetween(below, line, shown));
 }
 
 void drawCaptions(Portholes&, std::int32_t frame) {

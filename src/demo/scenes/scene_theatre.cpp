@@ -8,6 +8,7 @@
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
 #include "demo/scenes/curves.h"
+#include "demo/scenes/letters.h"
 #include "demo/scenes/theatre_house.h"
 #include "demo/scenes/theatre_props.h"
 #include "effects/rect.h"
@@ -251,19 +252,13 @@ void drawBow(Theatre&, std::int32_t frame) {
     constexpr std::int32_t height = 54;
     const std::int32_t begins = wave.opening.ends;
     const std::int32_t unrolled = curveBetween(0, height, curveEase(frame, begins, begins + 16));
-    RECT_drawPane(demo.screen, middle - width / 2, top, width, unrolled, 0x0C0410, RECT_MIX::set);
-    RECT_drawFrame(demo.screen, middle - width / 2, top, width, unrolled, 2, 0xC89838, RECT_MIX::set);
+    const RECT_BOX scroll{middle - width / 2, top, width, unrolled};
+    RECT_drawPane(demo.screen, scroll, 0x0C0410, RECT_MIX::set);
+    RECT_drawFrame(demo.screen, scroll, 2, 0xC89838, RECT_MIX::set);
     if (unrolled < height) {
         return;
     }
-    const KeptPen kept(demo.textMedium);
-    const std::int32_t x = settings.lettersX;
-    const std::int32_t y = settings.lettersY;
-    settings.lettersX = middle - 32; // half of four letters
-    settings.lettersY = top + 36;
-    VELM4030_logoLettersLayer();
-    settings.lettersX = x;
-    settings.lettersY = y;
+    drawLettersAt(middle - lettersWidth / 2, top + 36);
 }
 
 /// In from the dark, and out into it.

@@ -97,12 +97,14 @@ void drawLeaf(std::int32_t hinge, std::int32_t top, std::int32_t width, std::int
     const std::int32_t seen = SINE_cosineScaled(width, swing);
     const bool isOpen = (seen < 0) != (width < 0);
     const std::uint32_t rim = curveDim(isOpen ? 0x103860 : 0x2080E0, weight);
-    RECT_drawPane(demo.screen, hinge, top, seen, height, curveDim(0x040C20, weight), RECT_MIX::set);
-    RECT_drawFrame(demo.screen, hinge, top, seen, height, 1, rim, RECT_MIX::set);
+    const RECT_BOX leaf{hinge, top, seen, height};
+    RECT_drawPane(demo.screen, leaf, curveDim(0x040C20, weight), RECT_MIX::set);
+    RECT_drawFrame(demo.screen, leaf, 1, rim, RECT_MIX::set);
     // Two panels, inset by an eighth of what is seen of the leaf.
     for (const std::int32_t panel : {0, 1}) {
-        RECT_drawFrame(demo.screen, hinge + seen / 8, top + height / 16 + panel * height / 2, seen * 3 / 4,
-                       height * 3 / 8, 1, rim, RECT_MIX::set);
+        const std::int32_t panelTop = top + height / 16 + panel * height / 2;
+        RECT_drawFrame(demo.screen, {hinge + seen / 8, panelTop, seen * 3 / 4, height * 3 / 8}, 1, rim,
+                       RECT_MIX::set);
     }
 }
 
@@ -113,8 +115,9 @@ void drawEchoes(std::int32_t width, std::int32_t height, std::int32_t frame, std
     for (std::int32_t i = 0; i < echoes; ++i) {
         const std::int32_t out = i * apart + frame % apart;
         const std::int32_t left = curveFull * (echoes * apart - out) / (echoes * apart);
-        RECT_drawFrame(demo.screen, middle - width - out, middleY - height / 2 - out, 2 * (width + out),
-                       height + 2 * out, 1, curveHue(256 + 4 * (frame - out), (weight * left) >> 9),
+        const RECT_BOX echo{middle - width - out, middleY - height / 2 - out, 2 * (width + out),
+                            height + 2 * out};
+        RECT_drawFrame(demo.screen, echo, 1, curveHue(256 + 4 * (frame - out), (weight * left) >> 9),
                        RECT_MIX::add);
     }
 }
@@ -130,12 +133,12 @@ void drawDoors(Shaft&, std::int32_t frame) {
     const std::int32_t right = middle + width;
     const std::int32_t top = middleY - height / 2;
     IMG* const screen = demo.screen;
-    RECT_drawPane(screen, left, 0, -left, screen->height, 0, RECT_MIX::set);
-    RECT_drawPane(screen, right, 0, screen->width - right, screen->height, 0, RECT_MIX::set);
-    RECT_drawPane(screen, left, top, 2 * width, -screen->height, 0, RECT_MIX::set);
-    RECT_drawPane(screen, left, top + height, 2 * width, screen->height, 0, RECT_MIX::set);
+    RECT_drawPane(screen, {left, 0, -left, screen->height}, 0, RECT_MIX::set);
+    RECT_drawPane(screen, {right, 0, screen->width - right, screen->height}, 0, RECT_MIX::set);
+    RECT_drawPane(screen, {left, top, 2 * width, -screen->height}, 0, RECT_MIX::set);
+    RECT_drawPane(screen, {left, top + height, 2 * width, screen->height}, 0, RECT_MIX::set);
     drawEchoes(width, height, frame, weight);
-    RECT_drawFrame(screen, left - 3, top - 3, 2 * width + 6, height + 6, 2, curveHue(256 + frame, weight),
+    RECT_drawFrame(screen, {left - 3, top - 3, 2 * width + 6, height + 6}, 2, curveHue(256 + frame, weight),
                    RECT_MIX::add);
     const std::int32_t swing = 2 * curveEase(frame, doorsOpen, doorsPassed - 16);
     drawLeaf(left, top, width, height, swing, weight);

@@ -4,6 +4,7 @@
 
 #include "demo/scenes/curves.h"
 #include "effects/rect.h"
+#include "foundation/root.h"
 #include "foundation/sine.h"
 
 #include <algorithm>
@@ -64,9 +65,10 @@ void layApron(IMG& hall) {
 
 /// The S of curveEase over a curtain's move, as one of `openSteps`: a weight would move the cloth in jerks.
 std::int32_t easeFinely(std::int32_t time, std::int32_t first) {
-    const std::int64_t t =
-        std::int64_t{openSteps} * std::clamp(time - first, 0, curtainFrames * fine) / (curtainFrames * fine);
-    return static_cast<std::int32_t>(t * t * (3 * openSteps - 2 * t) / openSteps / openSteps);
+    constexpr std::int32_t length = curtainFrames * fine;
+    constexpr std::int64_t whole = openSteps;
+    const std::int64_t t = whole * std::clamp(time - first, 0, length) / length;
+    return static_cast<std::int32_t>(t * t * (3 * whole - 2 * t) / whole / whole);
 }
 
 /// How far the curtain is open, 0..openSteps, at a time in parts of a frame.
@@ -164,7 +166,8 @@ void drawFloor() {
         const std::uint32_t wood = curveMix(0x180C14, 0x50301C, curveRise(y, back, stageHeight));
         IMG_fillRect(demo.screen, 0, y, demo.screen->width, 1, wood);
         for (std::int32_t i = -10; i <= 10; ++i) {
-            RECT_drawPane(demo.screen, middle + i * board * depth / 92, y, 1, 1, 0x100810, RECT_MIX::average);
+            RECT_drawPane(demo.screen, {middle + i * board * depth / 92, y, 1, 1}, 0x100810,
+                          RECT_MIX::average);
         }
     }
 }
@@ -182,7 +185,7 @@ void drawBeam(std::int32_t fromX, std::int32_t toX, std::uint32_t colour) {
         const std::int32_t power = std::max(230 - y, 0) + pool;
         const std::int32_t first = std::max((centre - half) / pixel, 0);
         const std::int32_t last = std::min((centre + half) / pixel, demo.screen->width - 1);
-        std::uint32_t* const row = demo.screen->pixels + std::int64_t{y} * demo.screen->width;
+        std::uint32_t* const row = rowOf(*demo.screen, y);
         for (std::int32_t x = first; x <= last; ++x) {
             const std::int32_t off = (x * pixel + pixel / 2 - centre) * curveFull / half;
             const std::int32_t soft = std::max(curveFull - off * off / curveFull, 0);
@@ -194,11 +197,12 @@ void drawBeam(std::int32_t fromX, std::int32_t toX, std::uint32_t colour) {
 void drawHall(const House& house, std::int32_t frame, std::int32_t footlights) {
     constexpr std::array<std::uint32_t, 6> frameColours = {0x402808, 0x906018, 0xE0B048,
                                                            0xFFE898, 0xB08028, 0x402808};
-    IMG_blit(house.hall, demo.screen, 0, 0, 0, 0, house.hall->width, house.hall->height);
+    IMG_draw(house.hall, demo.screen);
     for (std::int32_t inset = 0; inset < 6; ++inset) {
         const std::int32_t shine = 196 + SINE_scaled(60, 11 * frame - 90 * inset);
-        RECT_drawFrame(demo.screen, inset, inset, demo.screen->width - 2 * inset, stageHeight - 2 * inset, 1,
-                       curveDim(frameColours[static_cast<std::size_t>(inset)], shine), RECT_MIX::set);
+        const RECT_BOX box{inset, inset, demo.screen->width - 2 * inset, stageHeight - 2 * inset};
+        RECT_drawFrame(demo.screen, box, 1, curveDim(frameColours[static_cast<std::size_t>(inset)], shine),
+                       RECT_MIX::set);
     }
     // A wave of light runs along the footlights.
     constexpr std::int32_t lamps = 16;
@@ -207,10 +211,10 @@ void drawHall(const House& house, std::int32_t frame, std::int32_t footlights) {
             std::min(148 + SINE_scaled(108, 11 * frame - 128 * i) + footlights, curveFull);
         const std::uint32_t colour = curveDim(0xFFC860, light);
         for (std::int32_t halo = 1; halo <= 3; ++halo) {
-            RECT_drawPane(demo.screen, 8 + 16 * i - 3 * halo, stageHeight + 3 - 2 * halo, 6 * halo, 4 * halo,
-                          curveDim(colour, 60 / halo), RECT_MIX::add);
+            const RECT_BOX glow{8 + 16 * i - 3 * halo, stageHeight + 3 - 2 * halo, 6 * halo, 4 * halo};
+            RECT_drawPane(demo.screen, glow, curveDim(colour, 60 / halo), RECT_MIX::add);
         }
-        RECT_drawPane(demo.screen, 6 + 16 * i, stageHeight + 2, 4, 2, colour, RECT_MIX::set);
+        RECT_drawPane(demo.screen, {6 + 16 * i, stageHeight + 2, 4, 2}, colour, RECT_MIX::set);
     }
 }
 
@@ -223,14 +227,9 @@ void drawAudience(std::int32_t frame, std::int32_t jump) {
         const std::int32_t crown = 238 + i * 7 % 5 - (i % 2 == 0 ? jump : jump / 2);
         for (std::int32_t y = crown; y < demo.screen->height; ++y) {
             const std::int32_t down = y - crown;
-            std::int32_t reach = 3; // the neck
-            while (down < 2 * head && reach * reach > down * (2 * head - down)) {
-                --reach;
-            }
-            while (down < 2 * head && (reach + 1) * (reach + 1) <= down * (2 * head - down)) {
-                ++reach;
-            }
-            reach = down > 2 * head - 2 ? std::min(4 + (down - 2 * head + 2) * 2, 10) : reach;
+            const std::int32_t square = down * (2 * head - down);
+            const bool isHead = down <= 2 * head - 2;
+            const std::int32_t reach = isHead ? rootOf(square) : std::min(4 + (down - 2 * head + 2) * 2, 10);
             IMG_fillRect(demo.screen, x - reach, y, 2 * reach + 1, 1, down < 2 ? 0x703044 : 0x0C0408);
         }
     }

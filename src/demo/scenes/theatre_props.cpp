@@ -17,7 +17,7 @@ void prepareTapestry(IMG& tapestry) {
         IMG_blit(demo.pictureB, &tapestry, 0, row, 0, row, 128, 1);
         IMG_blit(demo.pictureB, &tapestry, 0, 63 - row, 0, 64 + row, 128, 1);
     }
-    RECT_drawFrame(&tapestry, 0, -8, 128, 144, 3, 0xE0B050, RECT_MIX::set);
+    RECT_drawFrame(&tapestry, {0, -8, 128, 144}, 3, 0xE0B050, RECT_MIX::set);
 }
 
 void preparePoster(IMG& poster) {
@@ -36,7 +36,7 @@ void preparePoster(IMG& poster) {
         }
     }
     for (std::int32_t i = 0; i < 4; ++i) {
-        RECT_drawFrame(&poster, 2 * i, 2 * i, poster.width - 4 * i, poster.height - 4 * i, 2,
+        RECT_drawFrame(&poster, {2 * i, 2 * i, poster.width - 4 * i, poster.height - 4 * i}, 2,
                        goldLeaf[static_cast<std::size_t>(i)], RECT_MIX::set);
     }
 }

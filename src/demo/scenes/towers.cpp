@@ -100,11 +100,12 @@ void drawBody(const Tower& tower, std::int32_t ground, std::int32_t grown, std::
     const std::uint32_t rim = curveMix(tower.isNear ? 0x2868A8 : 0x1C3464, 0xC0D0FF, flash);
     const std::int32_t width = widthOf(tower);
     if (tower.floors % 2 == 0) {
-        RECT_drawPane(demo.screen, tower.x + 5, ground - grown - 5, width - 10, 6, body, RECT_MIX::set);
-        RECT_drawFrame(demo.screen, tower.x + 5, ground - grown - 5, width - 10, 6, 1, rim, RECT_MIX::set);
+        const RECT_BOX storey{tower.x + 5, ground - grown - 5, width - 10, 6};
+        RECT_drawPane(demo.screen, storey, body, RECT_MIX::set);
+        RECT_drawFrame(demo.screen, storey, 1, rim, RECT_MIX::set);
     }
-    RECT_drawPane(demo.screen, tower.x, ground - grown, width, grown, body, RECT_MIX::set);
-    RECT_drawFrame(demo.screen, tower.x, ground - grown, width, grown + 1, 1, rim, RECT_MIX::set);
+    RECT_drawPane(demo.screen, {tower.x, ground - grown, width, grown}, body, RECT_MIX::set);
+    RECT_drawFrame(demo.screen, {tower.x, ground - grown, width, grown + 1}, 1, rim, RECT_MIX::set);
 }
 
 /// What is left to see of the rest of the town: roofs in the haze.
@@ -114,7 +115,7 @@ void drawHaze(std::int32_t ground, std::int32_t grown, std::int32_t flash) {
     for (std::int32_t i = 0; i * pitch < settings.windowWidth; ++i) {
         const std::int32_t height = 54 + (7 * i * i + 13 * i) % 37;
         const std::int32_t rows = height * grown / curveFull;
-        RECT_drawPane(demo.screen, i * pitch - 2, ground - rows, pitch, rows, body, RECT_MIX::set);
+        RECT_drawPane(demo.screen, {i * pitch - 2, ground - rows, pitch, rows}, body, RECT_MIX::set);
     }
 }
 
@@ -160,10 +161,10 @@ void drawTowers(const Towers& towers, std::int32_t frame, std::int32_t flash) {
         const Window& window = towers.windows[i];
         const std::uint32_t light = lightOf(window, towers.plan, frame);
         if (light != 0) {
-            RECT_drawPane(demo.screen, window.x, window.y, windowWidth, windowHeight, light, RECT_MIX::set);
+            RECT_drawPane(demo.screen, {window.x, window.y, windowWidth, windowHeight}, light, RECT_MIX::set);
         }
     }
-    RECT_drawPane(demo.screen, mastX() - 1, mastTop(towers) + sunk, 3, 2,
+    RECT_drawPane(demo.screen, {mastX() - 1, mastTop(towers) + sunk, 3, 2},
                   curveMix(0x601010, 0xFF4040, beatWeight(30, 2)), RECT_MIX::set);
 }
 

@@ -15,8 +15,8 @@ void drawWater(const Water& water) {
         const std::int32_t mirrored = water.shore - (row * water.shore + rows - 1) / rows;
         const std::int32_t weight = curveBetween(water.light, water.lightHere, row * curveFull / rows);
         const std::int32_t shift = SINE_scaled(1 + water.reach * row / rows, turnPerRow * row + water.ripple);
-        const std::uint32_t* const from = screen.pixels + std::int64_t{mirrored} * screen.width;
-        std::uint32_t* const to = screen.pixels + (std::int64_t{water.shore} + row) * screen.width;
+        const std::uint32_t* const from = rowOf(screen, mirrored);
+        std::uint32_t* const to = rowOf(screen, water.shore + row);
         for (std::int32_t x = 0; x < screen.width; ++x) {
             to[x] = curveMix(water.colour, from[positiveModulo(x + shift, screen.width)], weight);
         }

@@ -85,7 +85,8 @@ std::uint32_t shadeWater(const Spot& spot, std::int32_t depth, const WorldLight&
 /// Falling water: streaks that fall with it.
 std::uint32_t shadeStream(const Spot& spot, std::int32_t frame) {
     constexpr std::int32_t fall = 3; // rows a frame
-    return waterShades[static_cast<std::size_t>(2 + (grain(spot.x, (spot.y - fall * frame) >> 2) >> 1))];
+    const std::int32_t shade = 2 + (grain(spot.x, (spot.y - fall * frame) >> 2) >> 1);
+    return waterShades[static_cast<std::size_t>(shade)];
 }
 
 /// Lit from above on the left, and by the fire from below; it glows while it is young.
@@ -149,9 +150,9 @@ std::uint32_t shade(const Spot& spot, bool isInside, std::int32_t depth, const W
 void spreadHeat(IMG& heat, const IMG& world) {
     constexpr std::uint32_t cooling = 5;
     for (std::int32_t y = 0; y + 1 < heat.height; ++y) {
-        std::uint32_t* const row = heat.pixels + std::int64_t{y} * heat.width;
+        std::uint32_t* const row = rowOf(heat, y);
         const std::uint32_t* const below = row + heat.width;
-        const std::uint32_t* const things = world.pixels + std::int64_t{y} * heat.width;
+        const std::uint32_t* const things = rowOf(world, y);
         for (std::int32_t x = 1; x + 1 < heat.width; ++x) {
             const std::uint32_t warm = (below[x - 1] + 2 * below[x] + below[x + 1]) / 4;
             const std::uint32_t spark = (things[x] & 0xFFFF) == 0 ? (things[x] >> 16) * 3 / 4 : 0;

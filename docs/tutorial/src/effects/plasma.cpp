@@ -46,8 +46,7 @@ PLASMA* PLASMA_new() {
 }
 
 void PLASMA_randomize(PLASMA* plasma) {
-    if (plasma == nullptr) {
-        PLASMA_error();
+    if (refused(plasma == nullptr, PLASMA_error)) {
         return;
     }
     for (PLASMA_WAVE& wave : plasma->waves) {
@@ -67,8 +66,7 @@ void PLASMA_randomize(PLASMA* plasma) {
 }
 
 void PLASMA_advance(PLASMA* plasma) {
-    if (plasma == nullptr) {
-        PLASMA_error();
+    if (refused(plasma == nullptr, PLASMA_error)) {
         return;
     }
     for (PLASMA_WAVE& wave : plasma->waves) {
@@ -77,8 +75,7 @@ void PLASMA_advance(PLASMA* plasma) {
 }
 
 void PLASMA_draw(const PLASMA* plasma, IMG* target) {
-    if (plasma == nullptr || target == nullptr || target->pixels == nullptr) {
-        PLASMA_error();
+    if (refused(plasma == nullptr || !hasPixels(target), PLASMA_error)) {
         return;
     }
     std::uint32_t* pixel = target->pixels;
