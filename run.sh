@@ -5,11 +5,23 @@
 # ./run.sh: installs what is missing, builds the demo and plays it. Without a display it plays in a private Xvfb;
 # without /dev/dsp it plays through a sound server, or silent.
 # ./run.sh tour [ARGUMENT...]: the same for the player, velm4030-play, which shows all scenes and finds the sound itself.
+# ./run.sh web [PORT]: builds the page and serves it on this machine, at the port 4030 unless another one is named.
 # ./run.sh ARGUMENT...: the player with these arguments ("--help" names them).
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")"
 . packaging/packages.sh
 
+serve_page() {
+    packaging/need.sh "${web_packages[@]}"
+    cmake --preset web -DVELM_BUILD_TESTS=OFF >/dev/null
+    cmake --build --preset web -- --quiet
+    echo "The page: http://127.0.0.1:$1/velm4030.html (Ctrl-C ends it)"
+    exec python3 -m http.server --bind 127.0.0.1 --directory build/web "$1"
+}
+
+if [ "${1:-}" = web ]; then
+    serve_page "${2:-4030}"
+fi
 if [ $# -eq 0 ]; then
     program=velm4030
     tools=OFF

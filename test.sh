@@ -4,10 +4,25 @@
 #
 # ./test.sh: installs what is missing, builds everything twice, optimised and under the sanitizers, and runs all tests of
 # both builds side by side. CTest's summary of all of them comes last.
+# ./test.sh web: the page alone, in Chromium, against what velm4030-capture gives.
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")"
 . packaging/packages.sh
 
+test_web() {
+    packaging/need.sh "${web_test_packages[@]}"
+    command -v npm >/dev/null || packaging/need.sh npm
+    [ -e build/release/CMakeCache.txt ] || cmake --preset release -DVELM_BUILD_TESTS=OFF -DVELM_BUILD_TOOLS=ON
+    cmake --build --preset release --target velm4030-capture
+    cmake --preset web -DVELM_BUILD_TESTS=ON
+    npm install --prefix build/web --no-save --no-audit --no-fund axe-core@4.14.1
+    cmake --build --preset web
+    exec ctest --preset web
+}
+
+if [ "${1:-}" = web ]; then
+    test_web
+fi
 packaging/need.sh "${test_packages[@]}"
 echo "The first time this builds for some ten minutes on two cores and takes 1 GB in build/; the tests take four."
 for preset in release sanitize; do

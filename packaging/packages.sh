@@ -11,6 +11,8 @@ player_packages=("${build_packages[@]}" "${tool_packages[@]}")
 package_packages=("${build_packages[@]}" "${tool_packages[@]}" dpkg-dev file)
 test_packages=("${package_packages[@]}" "${player_packages[@]}" clang libclang-rt-14-dev llvm libgtest-dev libgmock-dev
     libxfixes-dev libxss-dev ffmpeg netpbm openbox pulseaudio pulseaudio-utils libpulsedsp sox weston xdotool xvfb)
+web_packages=(emscripten cmake ninja-build)
+web_test_packages=("${web_packages[@]}" "${player_packages[@]}" chromium)
 lint_packages=(clang-format clang-tidy iwyu libbenchmark-dev appstream desktop-file-utils doxygen
     graphviz lintian man-db mandoc)
 # The JACK that STK would bring by itself would put the one out that sound servers use.

@@ -12,6 +12,7 @@
 
 #include "image/img.h"
 #include "platform/dsp.h"
+#include "platform/folder_names.h"
 
 #include <cstdint>
 #include <functional>
@@ -40,25 +41,8 @@ struct HeadlessPointer {
 struct Headless {
     std::vector<HeadlessKey> keys;         ///< in the order of their frames
     std::vector<HeadlessPointer> pointers; ///< in the order of their frames
-    /// The names in the folder, the same wherever it runs: short ones, a long one, and one that no font has.
-    std::vector<std::string> listing = {".",
-                                        "..",
-                                        "CHANGELOG.md",
-                                        "LICENSE",
-                                        "Makefile",
-                                        "README.md",
-                                        "a.txt",
-                                        "bench",
-                                        "docs",
-                                        "grün",
-                                        "machines",
-                                        "música.mod",
-                                        "src",
-                                        "tests",
-                                        "日本.txt",
-                                        "Žluťoučký.c",
-                                        "A longer name, with spaces, that does not fit into the window.txt"};
-    bool hasSound = true; ///< there is a sound device
+    std::vector<std::string> listing{FOLDER_sample.begin(), FOLDER_sample.end()}; ///< the names in the folder
+    bool hasSound = true;                                                         ///< there is a sound device
     std::int32_t blockBytes =
         0; ///< the block that the sound driver insists on; 0: the one that suits the frame rate
     std::uint32_t frameLimit =

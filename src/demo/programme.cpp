@@ -65,7 +65,7 @@ std::int32_t framesToBlack(const IMG& img) {
                            static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height));
     std::int32_t frames = 0;
     while (frames < mostFadeFrames &&
-           std::ranges::count_if(pixels, [frames](std::uint32_t pixel) {
+           std::count_if(pixels.begin(), pixels.end(), [frames](std::uint32_t pixel) {
                return RGB888_sub(pixel, static_cast<std::uint32_t>(frames) * fadeStep) != 0;
            }) > pointerArea) {
         ++frames;
@@ -92,7 +92,8 @@ void fade(const IMG* shown) {
     const std::int32_t frames = upToBar <= mostFadeFrames ? upToBar : framesToBlack(*demo.screen);
     runFrames(std::max(frames, framesToBlack(*demo.screen)),
               [](std::int32_t) { IMG_subColour(demo.screen, fadeStep); });
-    IMG_fill(demo.screen, 0); // a key may have ended it early
+    IMG_fill(demo.screen, 0);                                    // a key may have ended it early
+    demo.control &= static_cast<std::uint8_t>(~controlNextPart); // or come when it was over
 }
 
 void leavePart(PROGRAMME& programme, std::int32_t steps) {
@@ -158,6 +159,12 @@ const SCENE* PROGRAMME_at(const PROGRAMME& programme, std::int32_t place) {
     return order[index];
 }
 
+std::int32_t PROGRAMME_placeOf(const PROGRAMME& programme, const SCENE* scene) {
+    const SCENE* const* const end = programme.parts.data() + programme.count;
+    const SCENE* const* const found = std::find(programme.parts.data(), end, scene);
+    return found != end ? static_cast<std::int32_t>(found - programme.parts.data()) : -1;
+}
+
 std::int32_t PROGRAMME_length(const SCENE& scene) {
     const Stop* const stop = stopOf(scene);
     return stop != nullptr ? stop->frames : 0;
@@ -170,6 +177,10 @@ void PROGRAMME_next(PROGRAMME& programme) {
 
 void PROGRAMME_previous(PROGRAMME& programme) {
     leavePart(programme, programme.isPlaying ? -2 : -1);
+}
+
+void PROGRAMME_goTo(PROGRAMME& programme, std::int32_t place) {
+    leavePart(programme, place - programme.next);
 }
 
 void PROGRAMME_playPart(PROGRAMME& programme) {

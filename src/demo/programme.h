@@ -41,6 +41,9 @@ void PROGRAMME_shuffle(PROGRAMME& programme, std::uint32_t seed);
 /// The scene at a place, any number, also below 0: the order has no beginning. nullptr when it is empty.
 const SCENE* PROGRAMME_at(const PROGRAMME& programme, std::int32_t place);
 
+/// The first place of a scene, or -1.
+std::int32_t PROGRAMME_placeOf(const PROGRAMME& programme, const SCENE* scene);
+
 /// The most frames that a scene gets among several; 0 for as long as it lasts by itself.
 std::int32_t PROGRAMME_length(const SCENE& scene);
 
@@ -48,6 +51,9 @@ std::int32_t PROGRAMME_length(const SCENE& scene);
 /// than once before that part begins, it goes so many parts further. For the keys of a machine.
 void PROGRAMME_next(PROGRAMME& programme);
 void PROGRAMME_previous(PROGRAMME& programme);
+
+/// The same, but goes on with the part at a place.
+void PROGRAMME_goTo(PROGRAMME& programme, std::int32_t place);
 
 /// Plays one part, and among several the fade behind it.
 void PROGRAMME_playPart(PROGRAMME& programme);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/programme.h"
 #include "demo/scenes/beat.h"
+#include "demo/scenes/frames.h"
 #include "demo_run.h"
 
 #include <algorithm>
@@ -131,6 +132,29 @@ TEST_F(ProgrammeTest, KeysGoForwardsAndBackwardsFromTheSceneThatPlays) {
     PROGRAMME_next(twice);
     EXPECT_EQ(demo.paused, 0);
     demo.control = 0;
+}
+
+TEST_F(ProgrammeTest, AKeyBetweenTwoScenesEndsNoneOfThem) {
+    static int drawn = 0;
+    const SCENE asking = {"asking", "", [] { PROGRAMME_next(*keyed); }}; // black: nothing fades
+    const SCENE counting = {"counting", "", [] { runFrames(5, [](std::int32_t) { ++drawn; }); }};
+    PROGRAMME programme = programmeOf({&asking, &counting});
+    IMG_fill(demo.blurImage, 0);
+    playParts(programme, 2);
+    EXPECT_EQ(drawn, 5);
+}
+
+TEST_F(ProgrammeTest, GoesToAPlaceAndOnFromThere) {
+    static const SCENE jumping = {"j", "", [] {
+                                      played.emplace_back("j");
+                                      PROGRAMME_goTo(*keyed, 3), PROGRAMME_goTo(*keyed, 2);
+                                      runWhite();
+                                  }};
+    PROGRAMME programme = programmeOf({&a, &jumping, &b, &c});
+    EXPECT_EQ(PROGRAMME_placeOf(programme, &c), 3);
+    EXPECT_EQ(PROGRAMME_placeOf(programme, nullptr), -1);
+    programme.next = PROGRAMME_placeOf(programme, &jumping);
+    EXPECT_EQ(playParts(programme, 4), "jbca") << "the last word counts";
 }
 
 TEST_F(ProgrammeTest, ScenesFadeIntoEachOtherAndAFewGetALength) {

@@ -39,6 +39,10 @@ run() { DISPLAY=:none PATH="$work/run/bin:$PATH" LD_PRELOAD='' "$work/run/run.sh
 [ "$(run tour --scale 2)" = "velm4030-play --scale 2" ] || fail "run.sh tour --scale 2: $(run tour --scale 2)"
 [ "$(run extra-9)" = "velm4030-play extra-9" ] || fail "run.sh extra-9: $(run extra-9)"
 
+printf '#!/bin/sh\necho "python3 $*"\n' >"$work/run/bin/python3"
+chmod +x "$work/run/bin/python3"
+[[ "$(run web)" == *"http://127.0.0.1:4030/velm4030.html"*"--bind 127.0.0.1 "*" 4030" ]] || fail "run.sh web: $(run web)"
+
 look='xdotool getmouselocation >/dev/null 2>&1'
 "$source/packaging/private_display.sh" sh -c "$look" || fail "the program cannot use its display"
 if "$source/packaging/private_display.sh" env XAUTHORITY=/dev/null sh -c "$look"; then
