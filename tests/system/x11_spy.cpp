@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Preloaded into the demo: writes a line to the file that VELM_SPY names for every picture sent to the
-// server, the largest of its pixels (of 32 bits) in hexadecimal, the milliseconds since the process began, and
-// those in which it had a processor.
+// server, the largest of its pixels (of 32 bits) in hexadecimal, the milliseconds since the process began,
+// and those in which it had a processor.
 #include <X11/Xlib.h>
 #include <algorithm>
 #include <cstdint>
