@@ -4,6 +4,8 @@
 
 #include "demo/scenes/curves.h"
 #include "foundation/sine.h"
+#include "foundation/wide.h"
+#include "image/pixel_bytes.h"
 
 #include <algorithm>
 #include <array>
@@ -148,17 +150,25 @@ std::uint32_t shade(const Spot& spot, bool isInside, std::int32_t depth, const W
 
 /// Heat rises, spreads and cools; each spark renews it.
 void spreadHeat(IMG& heat, const IMG& world) {
-    constexpr std::uint32_t cooling = 5;
+    static constexpr std::uint32_t cooling = 5;
+    const std::int32_t width = heat.width;
     for (std::int32_t y = 0; y + 1 < heat.height; ++y) {
-        std::uint32_t* const row = rowOf(heat, y);
-        const std::uint32_t* const below = row + heat.width;
-        const std::uint32_t* const things = rowOf(world, y);
-        for (std::int32_t x = 1; x + 1 < heat.width; ++x) {
-            const std::uint32_t warm = (below[x - 1] + 2 * below[x] + below[x + 1]) / 4;
-            const std::uint32_t spark = (things[x] & 0xFFFF) == 0 ? (things[x] >> 16) * 3 / 4 : 0;
-            row[x] = std::max(spark, std::max(warm, cooling) - cooling);
-        }
+        runWide([width, row = rowOf(heat, y), below = rowOf(heat, y + 1), things = rowOf(world, y)] {
+            for (std::int32_t x = 1; x + 1 < width; ++x) {
+                const std::uint32_t warm = (below[x - 1] + 2 * below[x] + below[x + 1]) / 4;
+                const std::uint32_t spark = (things[x] & 0xFFFF) == 0 ? (things[x] >> 16) * 3 / 4 : 0;
+                row[x] = std::max(spark, std::max(warm, cooling) - cooling);
+            }
+        });
     }
+}
+
+/// A row of the wall by the light of the fire, which shines most where it burns.
+void lightWall(std::uint32_t* shown, const std::uint32_t* wall, std::int32_t y, const WorldLight& light) {
+    const std::int32_t near = std::max(0, curveFull - 2 * std::abs(y - 176));
+    const std::uint32_t glow = curveDim(0x401404, light.firelight * near / curveFull);
+    std::copy(wall, wall + settings.windowWidth, shown);
+    runWide([shown, glow] { combineBytes(glow, shown, settings.windowWidth, byteSum); });
 }
 
 /// What the pool shows of the picture above, `depth` below its surface.
@@ -183,23 +193,26 @@ void shadeWorld(WorldView& view, const IMG& world, const IMG& vessels, const Wor
     spreadHeat(*view.heat, world);
     IMG_fill(view.depths, 0);
     for (std::int32_t y = 0; y < world.height; ++y) {
-        // The fire lights the wall, most of all where it burns.
-        const std::int32_t near = std::max(0, curveFull - 2 * std::abs(y - 176));
-        const std::uint32_t glow = curveDim(0x401404, light.firelight * near / curveFull);
+        std::uint32_t* const shown = rowOf(*demo.screen, y);
+        const std::uint32_t* const things = rowOf(world, y);
+        const std::uint32_t* const inside = rowOf(vessels, y);
+        const std::uint32_t* const warmth = rowOf(*view.heat, y);
+        lightWall(shown, rowOf(*view.wall, y), y, light);
         for (std::int32_t x = 0; x < world.width; ++x) {
-            const std::int64_t i = x + std::int64_t{y} * world.width;
-            const std::uint32_t wall = RGB888_add(view.wall->pixels[i], glow);
-            const Spot spot = {world.pixels + i, x, y, world.width};
             std::uint32_t& depth = view.depths->pixels[x];
             const auto deep = static_cast<std::int32_t>(depth);
-            std::uint32_t colour =
-                *spot.at == 0 ? wall : shade(spot, vessels.pixels[i] != 0, deep, light, wall);
-            const bool isWater = *spot.at == waterBlue;
-            if (isWater && y >= poolTop && deep > 1) {
-                colour = curveMix(colour, mirrored(spot, deep, light.frame), mirrorWeight);
+            const bool isWater = things[x] == waterBlue;
+            if (things[x] != 0) {
+                const Spot spot = {things + x, x, y, world.width};
+                shown[x] = shade(spot, inside[x] != 0, deep, light, shown[x]);
+                if (isWater && y >= poolTop && deep > 1) {
+                    shown[x] = curveMix(shown[x], mirrored(spot, deep, light.frame), mirrorWeight);
+                }
             }
             depth = isWater ? depth + 1 : 0;
-            demo.screen->pixels[i] = RGB888_add(colour, fireShades[view.heat->pixels[i] & 0xFF]);
+            if (const std::uint32_t fire = fireShades[warmth[x] & 0xFF]; fire != 0) {
+                shown[x] = RGB888_add(shown[x], fire);
+            }
         }
     }
 }
