@@ -29,10 +29,7 @@ void dropNames(LIST* names, std::int32_t count) {
 DIR* DIR_new() {
     return newRecord<DIR>(DIR_error, DIR_delete, [](DIR& dir) {
         dir.names = LIST_new();
-        if (refused(dir.names == nullptr, DIR_error)) {
-            return false;
-        }
-        return true;
+        return !refused(dir.names == nullptr, DIR_error);
     });
 }
 

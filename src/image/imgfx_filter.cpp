@@ -44,7 +44,7 @@ void readRow(const IMG& img, std::int64_t first, std::int64_t y, std::span<std::
     std::fill(to.begin() + end, to.end(), 0);
 }
 
-constexpr std::int32_t filterBlock = 256; ///< pixels that are filtered at a time
+constexpr std::int64_t filterBlock = 256; ///< pixels that are filtered at a time
 
 /// Calls filter(y, destination row, pixels) for the rows and pixels that src and dst share, or reports.
 template <typename Filter>
@@ -73,14 +73,14 @@ void expectBlock(const std::uint32_t* row, std::int64_t x, std::int64_t width) {
 template <std::int32_t reachX, std::int32_t reachY, typename Tap>
 void filterPixels(const IMG* src, IMG* dst, Tap tap) {
     filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
-        std::uint32_t around[2 * reachY + 1][filterBlock + 2 * reachX];
+        std::uint32_t around[2 * reachY + 1][filterBlock + reachX + reachX];
         for (std::int64_t x = 0; x < width; x += filterBlock) {
             const std::int64_t count = std::min<std::int64_t>(filterBlock, width - x);
             expectBlock(src->pixels + y * src->width, x, width);
             expectBlock(to, x, width);
             for (std::int32_t dy = -reachY; dy <= reachY; ++dy) {
                 readRow(*src, x - reachX, y + dy,
-                        std::span(around[reachY + dy], static_cast<std::size_t>(count + 2 * reachX)));
+                        std::span(around[reachY + dy], static_cast<std::size_t>(count + reachX + reachX)));
             }
             for (std::int64_t i = 0; i < count; ++i) {
                 to[x + i] = tap([&around, i](std::int32_t dx, std::int32_t dy) {

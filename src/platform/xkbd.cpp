@@ -48,10 +48,7 @@ bool XKBD_isUsable(const XKBD* keyboard) {
         XKBD_error();
         std::exit(0);
     }
-    if (refused(!XDPY_isOpen(), XKBD_error)) {
-        return false;
-    }
-    return true;
+    return !refused(!XDPY_isOpen(), XKBD_error);
 }
 
 const char* XKBD_getName(const XKBD* keyboard) {

@@ -25,10 +25,7 @@ XPTR* XPTR_make() {
 }
 
 bool XPTR_isUsable(const XPTR* pointer) {
-    if (refused(pointer == nullptr || !XDPY_isOpen(), XPTR_error)) {
-        return false;
-    }
-    return true;
+    return !refused(pointer == nullptr || !XDPY_isOpen(), XPTR_error);
 }
 
 std::int32_t XPTR_equals(const XPTR* a, const XPTR* b) {
