@@ -4,8 +4,6 @@
 
 #include "demo/scenes/curves.h"
 #include "foundation/sine.h"
-#include "foundation/wide.h"
-#include "image/pixel_bytes.h"
 
 #include <algorithm>
 #include <array>
@@ -150,16 +148,17 @@ std::uint32_t shade(const Spot& spot, bool isInside, std::int32_t depth, const W
 
 /// Heat rises, spreads and cools; each spark renews it.
 void spreadHeat(IMG& heat, const IMG& world) {
-    static constexpr std::uint32_t cooling = 5;
+    constexpr std::uint32_t cooling = 5;
     const std::int32_t width = heat.width;
     for (std::int32_t y = 0; y + 1 < heat.height; ++y) {
-        runWide([width, row = rowOf(heat, y), below = rowOf(heat, y + 1), things = rowOf(world, y)] {
-            for (std::int32_t x = 1; x + 1 < width; ++x) {
-                const std::uint32_t warm = (below[x - 1] + 2 * below[x] + below[x + 1]) / 4;
-                const std::uint32_t spark = (things[x] & 0xFFFF) == 0 ? (things[x] >> 16) * 3 / 4 : 0;
-                row[x] = std::max(spark, std::max(warm, cooling) - cooling);
-            }
-        });
+        std::uint32_t* const row = rowOf(heat, y);
+        const std::uint32_t* const below = row + width;
+        const std::uint32_t* const things = rowOf(world, y);
+        for (std::int32_t x = 1; x + 1 < width; ++x) {
+            const std::uint32_t warm = (below[x - 1] + 2 * below[x] + below[x + 1]) / 4;
+            const std::uint32_t spark = (things[x] & 0xFFFF) == 0 ? (things[x] >> 16) * 3 / 4 : 0;
+            row[x] = std::max(spark, std::max(warm, cooling) - cooling);
+        }
     }
 }
 
@@ -167,8 +166,8 @@ void spreadHeat(IMG& heat, const IMG& world) {
 void lightWall(std::uint32_t* shown, const std::uint32_t* wall, std::int32_t y, const WorldLight& light) {
     const std::int32_t near = std::max(0, curveFull - 2 * std::abs(y - 176));
     const std::uint32_t glow = curveDim(0x401404, light.firelight * near / curveFull);
-    std::copy(wall, wall + settings.windowWidth, shown);
-    runWide([shown, glow] { combineBytes(glow, shown, settings.windowWidth, byteSum); });
+    std::transform(wall, wall + settings.windowWidth, shown,
+                   [glow](std::uint32_t brick) { return RGB888_add(brick, glow); });
 }
 
 /// What the pool shows of the picture above, `depth` below its surface.
