@@ -14,7 +14,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
-#include <string_view>
 #include <utility>
 
 namespace velm {
@@ -27,15 +26,7 @@ bool hasEntered = false;     ///< the next motion is where the pointer came in
 bool isRepeat = false;       ///< the text that follows is of a key that is held
 std::int64_t lastMotion = 0; ///< CLOCK_now(); 0 while the pointer is parked, or has not moved
 
-void pushPress(const char* text, std::int32_t keycode = 0) {
-    PressedKey press{.keycode = keycode, .micros = CLOCK_now()};
-    std::string_view(text).copy(press.text, sizeof press.text - 1);
-    pushKey(keys, press);
-}
-
 void onKey(const SDL_Keysym& key) {
-    constexpr std::int32_t keycodeUp = 98;
-    constexpr std::int32_t keycodeDown = 104;
     const char* const name = SDL_GetKeyName(key.sym);
     const bool writes = std::strlen(name) == 1; // then the text follows
     if (writes || desktop.onKey(((key.mod & KMOD_ALT) != 0 ? "Alt+" : "") + std::string(name))) {
@@ -43,11 +34,11 @@ void onKey(const SDL_Keysym& key) {
     }
     switch (key.sym) {
     case SDLK_ESCAPE:
-        return pushPress("\x1b");
+        return pushText(keys, "\x1b");
     case SDLK_UP:
-        return pushPress("", keycodeUp);
+        return pushText(keys, "", XKBD_up);
     case SDLK_DOWN:
-        return pushPress("", keycodeDown);
+        return pushText(keys, "", XKBD_down);
     default:
         return;
     }
@@ -101,7 +92,7 @@ void onInput(const SDL_Event& event) {
         return;
     case SDL_TEXTINPUT:
         if (!isRepeat && !desktop.onKey(event.text.text)) {
-            pushPress(event.text.text);
+            pushText(keys, event.text.text);
         }
         return;
     case SDL_MOUSEMOTION:

@@ -149,8 +149,7 @@ std::int32_t DSP_frameRate(std::int32_t, std::int32_t framesPerSecond) {
 
 std::int32_t DSP_request(std::int32_t, DspRequest request, std::int32_t* word) {
     if (request == DspRequest::blockSize) {
-        constexpr std::int32_t usualRate = 30;
-        *word = DSP_blockBytes(usualRate);
+        *word = DSP_blockBytes(DSP_usualRate);
     }
     return 0;
 }

@@ -2,14 +2,11 @@
 // SPDX-License-Identifier: MIT
 //
 // What the page passes on, as the demo's keyboard and pointer.
-#include "platform/clock.h"
 #include "platform/key_queue.h"
 #include "platform/pointer_events.h"
 #include "platform/xdpy.h"
 #include "web/browser.h"
 #include "web/web.h"
-
-#include <string_view>
 
 namespace velm {
 
@@ -26,9 +23,7 @@ struct {
 } // namespace
 
 void WEB_press(const char* text, std::int32_t keycode) {
-    PressedKey press{.keycode = keycode, .micros = CLOCK_now()};
-    std::string_view(text).copy(press.text, sizeof press.text - 1);
-    pushKey(keys, press);
+    pushText(keys, text, keycode);
 }
 
 void WEB_point(std::int32_t x, std::int32_t y) {

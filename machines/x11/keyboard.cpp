@@ -18,17 +18,15 @@ namespace {
 constexpr int lookedUpBytes = 8;
 
 std::int32_t keycodeOf(KeySym symbol, unsigned int keycode) {
-    constexpr std::int32_t up = 98;
-    constexpr std::int32_t down = 104;
     switch (symbol) {
     case XK_Up:
     case XK_KP_Up:
-        return up;
+        return XKBD_up;
     case XK_Down:
     case XK_KP_Down:
-        return down;
+        return XKBD_down;
     default:
-        return keycode == up || keycode == down ? 0 : static_cast<std::int32_t>(keycode);
+        return keycode == XKBD_up || keycode == XKBD_down ? 0 : static_cast<std::int32_t>(keycode);
     }
 }
 

@@ -12,9 +12,6 @@ namespace velm {
 
 namespace {
 
-constexpr std::int32_t keycodeUp = 98;
-constexpr std::int32_t keycodeDown = 104;
-
 /// Letters act in lower case only.
 struct KeyCommand {
     char key;
@@ -72,9 +69,9 @@ void VELM4030_handleKey(XKBD* keyboard) {
                                              [key](const KeyCommand& c) { return c.key == key; });
     if (command != std::end(commands)) {
         command->act();
-    } else if (key == 'e' || keycode == keycodeUp) {
+    } else if (key == 'e' || keycode == XKBD_up) {
         VELM4030_selectPrevious();
-    } else if (key == 'd' || keycode == keycodeDown) {
+    } else if (key == 'd' || keycode == XKBD_down) {
         VELM4030_selectNext();
     }
 }

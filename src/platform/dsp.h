@@ -32,6 +32,9 @@ constexpr std::int32_t DSP_blockBytes(std::int32_t framesPerSecond) {
     return 2 * (samplesPerSecond / framesPerSecond + 1);
 }
 
+/// Frames a second as long as nobody has told another rate.
+inline constexpr std::int32_t DSP_usualRate = 30;
+
 /// The demo plays one block a frame: tells the device how many frames a second has from now on. Returns the
 /// bytes of the block that suits it, or 0 where the device's own block stays.
 std::int32_t DSP_frameRate(std::int32_t device, std::int32_t framesPerSecond);

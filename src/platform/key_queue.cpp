@@ -50,6 +50,12 @@ void pushKey(KeyQueue& queue, const PressedKey& press) {
     queue.presses[slot(queue, queue.count - 1)] = press;
 }
 
+void pushText(KeyQueue& queue, std::string_view text, std::int32_t keycode) {
+    PressedKey press{.keycode = keycode, .micros = CLOCK_now()};
+    text.copy(press.text, sizeof press.text - 1);
+    pushKey(queue, press);
+}
+
 std::optional<PressedKey> takeKey(KeyQueue& queue, std::int64_t now) {
     if (queue.closeAsked) {
         queue.closeAsked = false;

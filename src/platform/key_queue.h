@@ -14,6 +14,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace velm {
 
@@ -41,6 +42,9 @@ struct KeyQueue {
 /// Appends a press. When the queue is full it is dropped, unless it is an Escape, which takes the last one's
 /// place.
 void pushKey(KeyQueue& queue, const PressedKey& press);
+
+/// Appends a press that arrives now: what it stands for, of which 8 bytes are kept, and its X keycode.
+void pushText(KeyQueue& queue, std::string_view text, std::int32_t keycode = 0);
 
 /// Takes the press whose turn it is at the time `now`, if any waits.
 std::optional<PressedKey> takeKey(KeyQueue& queue, std::int64_t now);

@@ -16,8 +16,12 @@ namespace velm {
 
 struct XKBD {
     char* text; ///< owned, 9 bytes: what the last key press stands for, at most 8 bytes; "" for arrow keys
-    std::int32_t keycode; ///< the X keycode of the last key press; 98 and 104 are Up and Down
+    std::int32_t keycode; ///< the X keycode of the last key press
 };
+
+/// The keycodes by which the program knows its arrows, whatever the keyboard has for them.
+inline constexpr std::int32_t XKBD_up = 98;
+inline constexpr std::int32_t XKBD_down = 104;
 
 extern const IDENTITY XKBD_identity;
 extern std::uint8_t XKBD_verbose;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "hands.h"
 #include "headless/headless.h"
+#include "platform/xkbd.h"
 
 namespace velm::test {
 namespace {
@@ -20,9 +21,8 @@ public:
     void press(const std::string& key) override {
         constexpr char escape = 27;
         constexpr std::int32_t anyKeycode = 1;
-        constexpr std::int32_t keycodeUp = 98;
         const char text = key == "Escape" ? escape : key.size() == 1 ? key[0] : '\0';
-        headless.keys.push_back({headless.frames, text, key == "Up" ? keycodeUp : anyKeycode});
+        headless.keys.push_back({headless.frames, text, key == "Up" ? XKBD_up : anyKeycode});
     }
     void pressClose() override { press("Escape"); } // it has no window, so nothing else to close
 

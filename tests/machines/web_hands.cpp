@@ -5,6 +5,7 @@
 // speaker that tells at once what it was given.
 #include "hands.h"
 #include "platform/clock.h"
+#include "platform/xkbd.h"
 #include "web/browser.h"
 #include "web/web.h"
 
@@ -17,9 +18,8 @@ namespace {
 class WebHands : public Hands {
 public:
     void press(const std::string& key) override {
-        constexpr std::int32_t keycodeUp = 98;
         key == "Escape" ? WEB_press("\x1b", 0)
-        : key == "Up"   ? WEB_press("", keycodeUp)
+        : key == "Up"   ? WEB_press("", XKBD_up)
                         : WEB_press(key.c_str(), 1);
     }
     void pressClose() override { press("Escape"); } // a page that is closed is gone

@@ -5,6 +5,7 @@
 // the server's silence and death.
 #include "sound_server.h"
 
+#include <algorithm>
 #include <csignal>
 
 namespace velm::test {
@@ -16,6 +17,24 @@ protected:
     /// it has woken up.
     void waitForRecorder() {
         ASSERT_TRUE(eventually([this] { return recorded().size() > 5 * samplesPerSecond / 2; }));
+    }
+
+    /// The part of a sound's short pieces that a recording has; silent ones do not count.
+    static double foundPart(const Sound& recording, const Sound& sound) {
+        constexpr std::ptrdiff_t pieceLength = samplesPerSecond / 50;
+        double pieces = 0;
+        double found = 0;
+        for (auto at = sound.begin(); sound.end() - at >= pieceLength; at += pieceLength) {
+            const Sound piece(at, at + pieceLength);
+            pieces += isSilent(piece) ? 0 : 1;
+            found += !isSilent(piece) && contains(recording, piece, 0) ? 1 : 0;
+        }
+        return found / pieces;
+    }
+
+    static double loudSamples(const Sound& sound) {
+        return static_cast<double>(sound.size()) -
+               static_cast<double>(std::count(sound.begin(), sound.end(), std::int16_t{0}));
     }
 
     [[nodiscard]] bool isPictureMoving() const {
@@ -33,22 +52,10 @@ TEST_F(PlaySoundTest, WhatIsHeardIsWhatTheCaptureHas) {
     EXPECT_EQ(player.errors(), "");
     const Sound heard = recorded();
     const Sound expected = captured(200); // the end of the sound goes down with the program
-    constexpr std::size_t pieceLength = samplesPerSecond / 10;
-    std::size_t pieces = 0;
-    std::size_t found = 0;
-    std::size_t from = 0;
-    for (std::size_t at = 0; at + pieceLength <= expected.size(); at += pieceLength) {
-        const auto piece = expected.begin() + static_cast<std::ptrdiff_t>(at);
-        ++pieces;
-        const std::size_t place = find(heard, {piece, piece + pieceLength}, from);
-        if (place != heard.size()) {
-            ++found;
-            from = place + pieceLength;
-        }
-    }
-    ASSERT_GT(pieces, 50U);
-    // A machine under load may let the server miss a beat.
-    EXPECT_GE(found, pieces - pieces / 10);
+    ASSERT_GT(expected.size(), 5 * samplesPerSecond);
+    // A machine that stands still for a moment lets the server miss a beat: a silence amid a note.
+    EXPECT_GT(foundPart(heard, expected), 0.75);
+    EXPECT_NEAR(loudSamples(heard) / loudSamples(expected), 1, 0.4) << "half the notes, or each twice";
 
     // The same through the other driver, at half the volume.
     Child half({VELM_PLAYER, "schedule", "--scale", "1", "--volume", "50", "--gain", "0", "--sound", "oss"},

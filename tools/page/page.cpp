@@ -5,6 +5,7 @@
 #include "demo/state.h"
 #include "platform/layout.h"
 #include "platform/sound_queue.h"
+#include "platform/xkbd.h"
 #include "web/web.h"
 
 #include <algorithm>
@@ -42,12 +43,9 @@ struct NamedKey {
     void (*act)();
 };
 
-constexpr std::int32_t keycodeUp = 98;
-constexpr std::int32_t keycodeDown = 104;
-
 constexpr NamedKey namedKeys[] = {
-    {"Escape", [] { WEB_press("\x1b", 0); }},          {"ArrowUp", [] { WEB_press("", keycodeUp); }},
-    {"ArrowDown", [] { WEB_press("", keycodeDown); }}, {"ArrowLeft", [] { PROGRAMME_previous(programme); }},
+    {"Escape", [] { WEB_press("\x1b", 0); }},          {"ArrowUp", [] { WEB_press("", XKBD_up); }},
+    {"ArrowDown", [] { WEB_press("", XKBD_down); }},   {"ArrowLeft", [] { PROGRAMME_previous(programme); }},
     {"ArrowRight", [] { PROGRAMME_next(programme); }},
 };
 
