@@ -7,10 +7,6 @@
 //     const IDENTITY LIST_identity = makeIdentity("LIST", "20150611", "ZENDORAK", "C", "CODE");
 #pragma once
 
-#include <algorithm>
-#include <iterator>
-#include <string_view>
-
 namespace velm {
 
 /// Five words of 8 characters, padded with spaces and closed by a NUL each. The module's word comes first;
@@ -25,12 +21,19 @@ struct IDENTITY {
 };
 
 /// Pads the five words. A word longer than 8 characters does not compile.
-consteval IDENTITY makeIdentity(std::string_view module, std::string_view second, std::string_view third,
-                                std::string_view fourth, std::string_view fifth) {
+consteval IDENTITY makeIdentity(const char* module, const char* second, const char* third, const char* fourth,
+                                const char* fifth) {
     IDENTITY identity{};
-    const auto pad = [](char(&field)[9], std::string_view word) {
-        std::fill(std::begin(field), std::end(field) - 1, ' ');
-        std::copy(word.begin(), word.end(), std::begin(field));
+    const auto pad = [](char(&field)[9], const char* word) {
+        for (char& character : field) {
+            character = ' ';
+        }
+        for (char* character = field; *word != '\0'; ++character, ++word) {
+            *character = *word;
+        }
+        if (field[8] != ' ') { // never thrown: what throws is no constant
+            throw "more than 8 characters";
+        }
         field[8] = '\0';
     };
     pad(identity.module, module);
