@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "headless/environment.h"
 #include "headless/headless.h"
 #include "image/img.h"
 #include "platform/clock.h"
@@ -60,6 +61,7 @@ void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
 }
 
 XDPY* XDPY_open() {
+    takeEnvironment();
     return XDPY_make(windowDepth);
 }
 
