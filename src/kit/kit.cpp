@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "kit/kit.h"
 
+#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
+#include "foundation/wrap.h"
 #include "kit/fonts.h"
 #include "platform/clock.h"
 #include "vector/obj2d.h"
