@@ -35,7 +35,8 @@ int main() {
         RASTER_setCount(&made, 384);
         made.speed = 3 << 16;
         for (std::int32_t i = 0; i < made.count; ++i) {
-            made.colours[i] = RGB888_mix(RGB888_hue(i * 16), 0xFFFFFF, i % 8 * 24u);
+            made.colours[i] =
+                RGB888_mix(RGB888_hue(i * 16), 0xFFFFFF, static_cast<std::uint32_t>(i % 8 * 24));
         }
     });
     Owned<SCROLL_delete> scroll(SCROLL_new());

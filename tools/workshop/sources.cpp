@@ -149,18 +149,21 @@ fs::path prefixOfProgram() {
 
 std::string firstError(const std::string& said) {
     constexpr std::string_view mark = "error: ";
+    constexpr std::string_view missing = "undefined reference"; // which the linker calls no error
     std::istringstream lines(said);
     for (std::string line; std::getline(lines, line);) {
+        if (const std::size_t place = line.find(missing); place != std::string::npos) {
+            return line.substr(place);
+        }
         const std::size_t place = line.find(mark);
         if (place == std::string::npos) {
             continue;
         }
-        const std::size_t number = line.find(':');
-        const std::string begin =
-            number < place ? line.substr(number + 1, line.find(':', number + 1) - number - 1) : "";
-        return (begin.empty() || begin[0] == ' ' ? "" : begin + ": ") + line.substr(place + mark.size());
+        const std::size_t colon = line.find(':');
+        const std::string number = line.substr(colon + 1, line.find(':', colon + 1) - colon - 1);
+        const bool hasNumber = colon < place && !number.empty() && number[0] != ' ';
+        return (hasNumber ? number + ": " : "") + line.substr(place + mark.size());
     }
-    // A linker has no errors, only last words.
     return said.substr(0, said.find('\n'));
 }
 
