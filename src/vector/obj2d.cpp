@@ -79,8 +79,7 @@ void OBJ2D_addSegment(OBJ2D* obj, SEG2D* segment) {
                 OBJ2D_error)) {
         return;
     }
-    if (!makeRoom(obj->segments, 1) || !makeRoom(obj->points, 2)) {
-        OBJ2D_error();
+    if (refused(!makeRoom(obj->segments, 1) || !makeRoom(obj->points, 2), OBJ2D_error)) {
         return;
     }
     LIST_append(obj->segments, segment);

@@ -6,7 +6,6 @@
 #include "foundation/chance.h"
 #include "foundation/sine.h"
 #include "image/imgfx.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <cstring>

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "demo/scenes/acts.h"
+#include "foundation/sine.h"
 
 #include <array>
 #include <cstdint>

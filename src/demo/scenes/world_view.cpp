@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/world_view.h"
 
-#include "demo/scenes/curves.h"
 #include "foundation/sine.h"
 
 #include <algorithm>
