@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/partixel.h"
 #include "foundation/random.h"
+#include "foundation/wide.h"
 #include "support/owned.h"
 
 #include <vector>
@@ -114,7 +115,9 @@ TEST(Partixel, PARTIXEL_scanMeetsAgainAndPARTIXEL_sparkMergesWithItselfAndPARTIX
     };
     std::uint32_t digest = 0;
     const std::int64_t allocations = allocationCount();
+    const bool isWide = wideRegisters;
     for (std::int32_t frame = 0; frame < 500; ++frame) {
+        wideRegisters = isWide && frame % 2 == 0;
         put(20 + frame % 7, 0, 0x0000FF), put(60 + frame % 5, 0, 0x0040E0);
         for (std::int32_t i = 0; i < 3; ++i) {
             put((frame * 11 + i * 29) % 96, 63, 0xFF0000);
@@ -127,6 +130,7 @@ TEST(Partixel, PARTIXEL_scanMeetsAgainAndPARTIXEL_sparkMergesWithItselfAndPARTIX
             digest = digest * 31 + pixel;
         }
     }
+    wideRegisters = isWide;
     EXPECT_EQ(allocationCount(), allocations);
     EXPECT_EQ(digest, 0x976F9FF8U) << "a third transcription, in another language, gives the same";
     EXPECT_EQ(blue->particles + green->particles + fire->particles, 420 + 237 + 17);
