@@ -186,7 +186,7 @@ struct Strip {
     std::uint32_t* depths;
 };
 
-constexpr std::int32_t block = 32; ///< pixels that are looked at together
+constexpr std::int32_t block = 32; ///< pixels that are looked at together; the window has whole ones
 
 /// True where nothing but the wall is seen for a block from x on.
 bool isBare(const Strip& strip, std::int32_t x) {
