@@ -6,6 +6,7 @@
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "vector/seg2d.h"
 #include "vector/vec2d.h"
 
@@ -137,10 +138,9 @@ void OBJ2D_draw(const OBJ2D* obj, IMG* img) {
             OBJ2D_error();
             continue;
         }
-        VEC2D a = posed(*obj, *segment->a);
-        VEC2D b = posed(*obj, *segment->b);
-        const SEG2D line{&a, &b};
-        SEG2D_draw(&line, img);
+        const VEC2D a = posed(*obj, *segment->a);
+        const VEC2D b = posed(*obj, *segment->b);
+        IMG_drawLine(img, a.x, a.y, b.x, b.y, a.colour);
     }
 }
 

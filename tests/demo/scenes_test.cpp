@@ -8,6 +8,7 @@
 #include "foundation/chance.h"
 #include "foundation/list.h"
 #include "foundation/sine.h"
+#include "foundation/wide.h"
 #include "image/rgb888.h"
 #include "support/flashes.h"
 #include "support/owned.h"
@@ -15,6 +16,7 @@
 
 #include <malloc.h>
 #include <map>
+#include <numeric>
 
 namespace velm::test {
 namespace {
@@ -30,6 +32,32 @@ protected:
         scene();
     }
 };
+
+TEST_F(ScenesTest, TheWidestRegistersDrawTheSame) {
+    const auto watch = [](void (*scene)()) { // a checksum a frame, of all above the text, which goes on
+        *demo.random = startDemo().generator;
+        chanceSeed(1);
+        std::vector<std::uint32_t> sums;
+        headless.onFrame = [&sums](const IMG& frame) {
+            sums.push_back(std::accumulate(frame.pixels, frame.pixels + 256 * 160, 1U,
+                                           [](auto sum, auto pixel) { return sum * 31 + pixel; }));
+        };
+        runFor(480, scene);
+        headless.onFrame = nullptr;
+        return sums;
+    };
+    const bool isWide = wideRegisters;
+    demo.muted = 1; // the beat goes on, too
+    for (void (*const scene)() : {VELM4030_sceneExtra2, VELM4030_sceneParticles}) {
+        runFor(2, scene); // makes the text once for all
+        const std::vector<std::uint32_t> wide = watch(scene);
+        wideRegisters = false;
+        EXPECT_TRUE(watch(scene) == wide);
+        wideRegisters = isWide;
+        EXPECT_EQ(wide.size(), 480);
+    }
+    demo.muted = 0;
+}
 
 TEST_F(ScenesTest, VELM4030_meshFrames) {
     constexpr std::uint32_t fade = 32;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/partixel.h"
 #include "foundation/random.h"
+#include "foundation/wide.h"
 #include "support/owned.h"
 
 namespace velm::test {
@@ -36,7 +37,9 @@ TEST(Partixel, PARTIXEL_scanMeetsAgainAndPARTIXEL_sparkMergesWithItselfAndPARTIX
     std::uint32_t pixels = 0;
     std::uint32_t met = 0;
     const std::int64_t allocations = allocationCount();
+    const bool isWide = wideRegisters;
     for (std::int32_t frame = 0; frame < 500; ++frame) {
+        wideRegisters = isWide && frame % 2 == 0;
         IMG_putPixel(image, 20 + frame % 7, 0, 0x0000FF), IMG_putPixel(image, 60 + frame % 5, 0, 0x0040E0);
         for (std::int32_t i = 0; i < 3; ++i) {
             IMG_putPixel(image, (frame * 11 + i * 29) % 96, 63, 0xFF0000);
@@ -48,6 +51,7 @@ TEST(Partixel, PARTIXEL_scanMeetsAgainAndPARTIXEL_sparkMergesWithItselfAndPARTIX
             pixels = pixels * 31 + image->pixels[i];
         }
     }
+    wideRegisters = isWide;
     EXPECT_EQ(allocationCount(), allocations);
     EXPECT_EQ(pixels, 0x976F9FF8U);
     EXPECT_EQ(met, 0x43068C88U);
