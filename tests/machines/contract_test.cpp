@@ -53,7 +53,7 @@ protected:
 
     /// Waits for the screen: a server reads what it is sent when it likes.
     static void expectShown(const IMG* frame) {
-        EXPECT_TRUE(eventually([frame] { return shows(frame); }, 5));
+        EXPECT_TRUE(eventually([frame] { return shows(frame); }));
     }
     static bool shows(const IMG* frame) {
         const std::vector<std::uint32_t> seen = hands().seen();
@@ -319,7 +319,7 @@ TEST_F(MachineSoundTest, WhatTheDeviceTakesIsHeard) {
     constexpr int longEnough = 300;
     play(longEnough);
     EXPECT_GT(sound->samplesWritten, bar->length + silence->length);
-    EXPECT_TRUE(eventually([this] { return isHeard(); }, 10));
+    EXPECT_TRUE(eventually([this] { return isHeard(); }));
 }
 
 TEST_F(MachineSoundTest, TheBlockFollowsTheFrameRateWhereTheDeviceLetsIt) {

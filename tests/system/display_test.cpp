@@ -65,8 +65,7 @@ protected:
     /// Waits for the server: it reads our connection and the viewer's in the order that it likes.
     void expectSeen(int left, int top, int x, int y) const {
         std::string difference;
-        EXPECT_TRUE(eventually([&] { return (difference = seen(left, top, x, y)).empty(); }, 5))
-            << difference;
+        EXPECT_TRUE(eventually([&] { return (difference = seen(left, top, x, y)).empty(); })) << difference;
     }
 
     Session session{server().display()};

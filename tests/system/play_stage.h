@@ -87,7 +87,7 @@ public:
         std::ofstream(spyLog, std::ios::trunc);
         arguments.insert(arguments.begin(), {VELM_PLAYER, "schedule"});
         player = std::make_unique<Child>(arguments, spied(server.display(), spyLog, more));
-        ASSERT_TRUE(eventually([this] { return puts() > startFrames + 3; }, 60)) << player->errors();
+        ASSERT_TRUE(eventually([this] { return puts() > startFrames + 3; })) << player->errors();
     }
 
     /// The same in a window of its own, silent.
@@ -161,8 +161,7 @@ public:
 
     /// Waits for the server: it reads the player's connection and the viewer's in the order that it likes.
     void expectShown(int scale, int left, int top) const {
-        EXPECT_TRUE(eventually([&] { return shown(scale, left, top) != 0; }, 20))
-            << "not a frame of the demo";
+        EXPECT_TRUE(eventually([&] { return shown(scale, left, top) != 0; })) << "not a frame of the demo";
     }
 
     std::string depth;

@@ -109,7 +109,7 @@ TEST(Play, ThePointerIsThatOfThePicture) {
                              {44 - 10, 64 + 2 * 100, -5, 100}}; // in the margin, half of it in the picture
     for (const auto& [x, y, pictureX, pictureY] : places) {
         stage.session.movePointer(x, y);
-        EXPECT_TRUE(eventually([&, px = pictureX, py = pictureY] { return showsPointerAt(px, py); }, 5))
+        EXPECT_TRUE(eventually([&, px = pictureX, py = pictureY] { return showsPointerAt(px, py); }))
             << x << ", " << y;
     }
 }

@@ -44,11 +44,11 @@ TEST(PlayKeys, KeepThePictureShowTheKeysAndTheVolumeAndNeverTouchTheFrame) {
     ASSERT_NE(number, 0U);
     for (const std::string key : {"h", "minus", "plus", "F12"}) {
         stage.session.press(key);
-        EXPECT_TRUE(eventually([&] { return stage.shown(2, 0, 0) == 0; }, 5)) << key << " shows something";
+        EXPECT_TRUE(eventually([&] { return stage.shown(2, 0, 0) == 0; })) << key << " shows something";
         if (key == "h") {
             stage.session.press("F1");
         }
-        EXPECT_TRUE(eventually([&] { return stage.shown(2, 0, 0) == number; }, 5)) << key << " goes again";
+        EXPECT_TRUE(eventually([&] { return stage.shown(2, 0, 0) == number; })) << key << " goes again";
     }
     EXPECT_EQ(stage.player->output(), "sound: none\npicture: " + home / "Bilder/velm4030-2.png\n");
     EXPECT_EQ(pixelsOf(home / "Bilder/velm4030-2.png"), captured()[number - 1]);
@@ -58,7 +58,7 @@ TEST(PlayKeys, KeepThePictureShowTheKeysAndTheVolumeAndNeverTouchTheFrame) {
     const std::size_t before = contents(stage.spyLog).size();
     stage.session.press("Right");
     EXPECT_TRUE(
-        eventually([&] { return contents(stage.spyLog).find("\n000000 ", before) != std::string::npos; }, 5));
+        eventually([&] { return contents(stage.spyLog).find("\n000000 ", before) != std::string::npos; }));
 }
 
 TEST(PlayKeys, ThatAreHeldActOnce) {
@@ -121,12 +121,12 @@ TEST(PlayWindow, TheRestingPointerLeavesTheFullScreenAndTheScreenSaverWaits) {
     stage.session.press("p");
     const auto pixelAt = [&](int x, int y) { return stage.session.screen(x, y, 1, 1)[0]; };
     stage.session.movePointer(100, 400);
-    EXPECT_TRUE(eventually([&] { return pixelAt(102, 410) != 0; }, 5)) << "the drawn pointer";
+    EXPECT_TRUE(eventually([&] { return pixelAt(102, 410) != 0; })) << "the drawn pointer";
     const double moved = secondsNow();
-    EXPECT_TRUE(eventually([&] { return pixelAt(102, 410) == 0 && pixelAt(104, 412) == 0; }, 10));
+    EXPECT_TRUE(eventually([&] { return pixelAt(102, 410) == 0 && pixelAt(104, 412) == 0; }));
     EXPECT_GT(secondsNow() - moved, 1.5);
     stage.session.movePointer(102, 400);
-    EXPECT_TRUE(eventually([&] { return pixelAt(104, 410) != 0; }, 5)) << "it comes back";
+    EXPECT_TRUE(eventually([&] { return pixelAt(104, 410) != 0; })) << "it comes back";
     XScreenSaverInfo* const saver = XScreenSaverAllocInfo();
     XScreenSaverQueryInfo(stage.session.connection, DefaultRootWindow(stage.session.connection), saver);
     EXPECT_NE(saver->state, ScreenSaverOn);
@@ -160,7 +160,7 @@ TEST(PlaySaver, DrawsIntoAWindowOfAnothersFollowsItAndEndsWithIt) {
         stage.more = {{"XSCREENSAVER_WINDOW", byVariable ? number : ""}};
         stage.start(byVariable ? std::vector<std::string>{"--root"}
                                : std::vector<std::string>{"--window-id", std::to_string(stage.window)});
-        EXPECT_TRUE(eventually([&] { return stage.runsAt(1, 22, 12); }, 10));
+        EXPECT_TRUE(eventually([&] { return stage.runsAt(1, 22, 12); }));
         XWindowAttributes attributes{};
         XGetWindowAttributes(display, stage.window, &attributes);
         constexpr long input =
@@ -169,7 +169,7 @@ TEST(PlaySaver, DrawsIntoAWindowOfAnothersFollowsItAndEndsWithIt) {
         stage.session.press("Escape");
         XResizeWindow(display, stage.window, 520, 440);
         XSync(display, False);
-        EXPECT_TRUE(eventually([&] { return stage.runsAt(1, 132, 92); }, 10));
+        EXPECT_TRUE(eventually([&] { return stage.runsAt(1, 132, 92); }));
         XDestroyWindow(display, stage.window);
         XSync(display, False);
         EXPECT_EQ(stage.player->waitForExit(), 0);
@@ -225,7 +225,7 @@ TEST(PlayWayland, ItIsNativeWhereTheCompositorHasASeatAndGoesOnToX11WhereItHasNo
         const Compositor seatless(stage, {"--backend=headless-backend.so"});
         stage.more = seatless.environment();
         stage.play({"--scale", "2"});
-        EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 0, 0); }, 10));
+        EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 0, 0); }));
         stage.session.press("Escape");
         EXPECT_EQ(stage.player->waitForExit(), 0);
         EXPECT_EQ(stage.player->errors(), "");
@@ -237,7 +237,7 @@ TEST(PlayWayland, ItIsNativeWhereTheCompositorHasASeatAndGoesOnToX11WhereItHasNo
     stage.player = std::make_unique<Child>(
         std::vector<std::string>{VELM_PLAYER, "schedule", "--sound", "none"}, environment);
     stage.window = DefaultRootWindow(stage.session.connection); // the compositor's window covers it
-    EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 64, 44); }, 20)) << stage.player->errors();
+    EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 64, 44); })) << stage.player->errors();
     stage.session.press("Escape");
     EXPECT_EQ(stage.player->waitForExit(), 0);
 }

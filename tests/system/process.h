@@ -76,7 +76,7 @@ int runTool(const std::vector<std::string>& arguments, const Environment& enviro
 
 /// Calls `holds` until it is true; false after `seconds`.
 template <typename Condition>
-bool eventually(Condition holds, double seconds = 20);
+bool eventually(Condition holds, double seconds = 60);
 
 void pauseBriefly();
 double secondsNow();

@@ -54,7 +54,7 @@ protected:
     /// Waits until the demo runs its scene and has the keyboard.
     void waitForScene() {
         session->movePointer(128, 128);
-        ASSERT_TRUE(eventually([this] { return puts().size() > 60; }, 60)) << demo.errors();
+        ASSERT_TRUE(eventually([this] { return puts().size() > 60; })) << demo.errors();
     }
 
     /// Waits until no picture comes any more.

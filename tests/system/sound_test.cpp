@@ -13,7 +13,7 @@ TEST_F(SoundTest, TheBarIsHeardMutedAndHeardAgain) {
     const Sound stretch = loudestWindow(captured(140));
     ASSERT_FALSE(isSilent(stretch));
     Child demo({VELM_PROGRAM}, withDevice());
-    ASSERT_TRUE(eventually([&] { return contains(recorded(), stretch, 0); }, 40))
+    ASSERT_TRUE(eventually([&] { return contains(recorded(), stretch, 0); }))
         << demo.errors() << recorder->errors();
 
     session.movePointer(128, 128);
@@ -36,13 +36,13 @@ TEST_F(SoundTest, TheBarIsHeardMutedAndHeardAgain) {
 
 TEST_F(SoundTest, ADeviceThatIsLostNeverStopsThePicture) {
     Child demo({VELM_PROGRAM}, withDevice());
-    ASSERT_TRUE(eventually([this] { return !isSilent(recorded()); }, 40)) << demo.errors();
+    ASSERT_TRUE(eventually([this] { return !isSilent(recorded()); })) << demo.errors();
     pulseaudio->signal(9);
     session.movePointer(128, 128);
     const auto picture = [this] { return session.screen(0, 0, 256, 256); };
     for (int i = 0; i < 5; ++i) {
         const auto before = picture();
-        EXPECT_TRUE(eventually([&] { return picture() != before; }, 5)) << "the picture stands still";
+        EXPECT_TRUE(eventually([&] { return picture() != before; })) << "the picture stands still";
     }
     session.press("Escape");
     EXPECT_EQ(demo.waitForExit(), 0);
