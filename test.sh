@@ -12,11 +12,13 @@ CDPATH="" cd -- "$(dirname -- "$0")"
 test_web() {
     packaging/need.sh "${web_test_packages[@]}"
     command -v npm >/dev/null || packaging/need.sh npm
-    [ -e build/release/CMakeCache.txt ] || cmake --preset release -DVELM_BUILD_TESTS=OFF -DVELM_BUILD_TOOLS=ON
-    cmake --build --preset release --target velm4030-capture
-    cmake --preset web -DVELM_BUILD_TESTS=ON
-    npm install --prefix build/web --no-save --no-audit --no-fund axe-core@4.14.1
-    cmake --build --preset web
+    [ -e build/release/CMakeCache.txt ] ||
+        cmake --preset release -DVELM_BUILD_TESTS=OFF -DVELM_BUILD_TOOLS=ON >/dev/null
+    echo "Building velm4030-capture and the page"
+    cmake --build --preset release --target velm4030-capture -- --quiet
+    cmake --preset web -DVELM_BUILD_TESTS=ON >/dev/null
+    cmake --build --preset web -- --quiet
+    npm install --prefix build/web --no-save --no-audit --no-fund --silent axe-core@4.14.1
     exec ctest --preset web
 }
 

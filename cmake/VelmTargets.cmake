@@ -28,12 +28,14 @@ function(velm_folder target folder)
 endfunction()
 
 # velm_library(NAME LINKS LIBRARY...): the folder src/NAME as the static library velm_NAME. It sees the headers of the
-# libraries that it links and of those below them, and no others.
+# libraries that it links and of those below them, and no others. No exception leaves a module: a release has no tables
+# that would lead one through, which would be a sixteenth of the demo.
 function(velm_library name)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/${name}/*.cpp" "${PROJECT_SOURCE_DIR}/src/${name}/*/*.cpp")
   add_library(velm_${name} STATIC ${sources})
   velm_configure(velm_${name})
+  target_compile_options(velm_${name} PRIVATE "$<$<CONFIG:Release>:-fno-exceptions;-fno-asynchronous-unwind-tables>")
   velm_folder(velm_${name} src/${name})
   target_include_directories(velm_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   foreach(lower IN LISTS ARG_LINKS)

@@ -4,6 +4,7 @@
 
 #include "desktop/video.h"
 #include "desktop/x11.h"
+#include "platform/enlarge.h"
 
 namespace velm {
 

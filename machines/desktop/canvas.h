@@ -9,7 +9,9 @@
 //     canvas.draw(frame, layoutFor(256, 256, 1920, 1080));
 #pragma once
 
-#include "platform/enlarge.h"
+#include "image/img.h"
+#include "image/pixel_layout.h"
+#include "platform/layout.h"
 
 #include <SDL.h>
 #include <optional>

@@ -2,14 +2,18 @@
 // SPDX-License-Identifier: MIT
 //
 // What the desktop tells, as the demo's keyboard and pointer.
+#include "desktop/canvas.h"
 #include "desktop/desktop.h"
 #include "desktop/video.h"
 #include "desktop/window.h"
 #include "desktop/x11.h"
+#include "image/img.h"
 #include "platform/clock.h"
 #include "platform/key_queue.h"
 #include "platform/pointer_events.h"
 #include "platform/xdpy.h"
+#include "platform/xkbd.h"
+#include "platform/xptr.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -3,6 +3,7 @@
 //
 // The sound device as the demo sees it, and the clock that it leads. A sound server may hang whoever opens or
 // closes it, so a thread of its own does, and the pictures never wait.
+#include "audio/sample.h"
 #include "desktop/desktop.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"

@@ -7,6 +7,7 @@
 #include "desktop/desktop.h"
 #include "desktop/video.h"
 #include "desktop/x11.h"
+#include "foundation/report.h"
 #include "platform/icon.h"
 #include "platform/xdpy.h"
 
@@ -160,8 +161,7 @@ bool XDPY_isOpen() {
 void XDPY_selectInput() {}
 
 void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
-    if (display == nullptr || width <= 0 || height <= 0 || !XDPY_isOpen()) {
-        XDPY_error();
+    if (refused(display == nullptr || width <= 0 || height <= 0 || !XDPY_isOpen(), XDPY_error)) {
         return;
     }
     const std::int32_t scale = playerWindow.layout().scale;
@@ -171,8 +171,7 @@ void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
 }
 
 void XDPY_present(XDPY* display, const IMG* img) {
-    if (!XDPY_accepts(display, img)) {
-        XDPY_error();
+    if (refused(!XDPY_accepts(display, img), XDPY_error)) {
         return;
     }
     desktop.onPresent();

@@ -9,6 +9,8 @@
 
 #include "desktop/canvas.h"
 #include "foundation/owned.h"
+#include "image/img.h"
+#include "platform/layout.h"
 
 namespace velm {
 

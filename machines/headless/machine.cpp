@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "foundation/report.h"
 #include "headless/environment.h"
 #include "headless/headless.h"
 #include "image/img.h"
@@ -76,8 +77,7 @@ void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
 }
 
 void XDPY_present(XDPY* display, const IMG* img) {
-    if (!XDPY_accepts(display, img)) {
-        XDPY_error();
+    if (refused(!XDPY_accepts(display, img), XDPY_error)) {
         return;
     }
     if (headless.frameLimit != 0 && headless.frames >= headless.frameLimit && headless.onLimit) {
@@ -124,8 +124,7 @@ XPTR* XPTR_new() {
 }
 
 void XPTR_poll(XPTR* pointer) {
-    if (pointer == nullptr) {
-        XPTR_error();
+    if (refused(pointer == nullptr, XPTR_error)) {
         return;
     }
     if (const HeadlessPointer* const due = takeDue(headless.pointers, headless.nextPointer); due != nullptr) {
@@ -134,8 +133,7 @@ void XPTR_poll(XPTR* pointer) {
 }
 
 void XPTR_query(XPTR* pointer) {
-    if (pointer == nullptr) {
-        XPTR_error();
+    if (refused(pointer == nullptr, XPTR_error)) {
         return;
     }
     const auto later =

@@ -4,7 +4,8 @@
 // What the page passes on, as the demo's keyboard and pointer.
 #include "platform/key_queue.h"
 #include "platform/pointer_events.h"
-#include "platform/xdpy.h"
+#include "platform/xkbd.h"
+#include "platform/xptr.h"
 #include "web/browser.h"
 #include "web/web.h"
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "platform/pointer_events.h"
 #include "platform/xdpy.h"
 #include "platform/xptr.h"
 #include "x11/display.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The system's clock and its working folder.
+#include "foundation/dir.h"
 #include "platform/clock.h"
 #include "platform/folder.h"
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "foundation/report.h"
 #include "image/img.h"
 #include "platform/xdpy.h"
 #include "x11/display.h"
@@ -86,8 +87,7 @@ XDPY* XDPY_open() {
     }
     x11Display.window = XCreateSimpleWindow(x11Display.connection, x11Display.root, 0, 0, windowSize,
                                             windowSize, borderWidth, borderColour, backgroundColour);
-    if (x11Display.window == 0) {
-        XDPY_error();
+    if (refused(x11Display.window == 0, XDPY_error)) {
         return nullptr;
     }
     x11ReceiveClose();
@@ -114,8 +114,7 @@ void XDPY_selectInput() {
 }
 
 void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
-    if (display == nullptr || width < 0 || height < 0 || !XDPY_isOpen()) {
-        XDPY_error();
+    if (refused(display == nullptr || width < 0 || height < 0 || !XDPY_isOpen(), XDPY_error)) {
         return;
     }
     const auto newWidth = static_cast<std::uint32_t>(width);
@@ -129,8 +128,7 @@ void XDPY_resize(XDPY* display, std::int32_t width, std::int32_t height) {
 }
 
 void XDPY_present(XDPY* display, const IMG* img) {
-    if (!XDPY_accepts(display, img)) {
-        XDPY_error();
+    if (refused(!XDPY_accepts(display, img), XDPY_error)) {
         return;
     }
     XDPY_dumpFrame(img);
@@ -138,8 +136,7 @@ void XDPY_present(XDPY* display, const IMG* img) {
     if (!x11IsViewable(attributes)) {
         return;
     }
-    if (!haveImage(display)) {
-        XDPY_error();
+    if (refused(!haveImage(display), XDPY_error)) {
         return;
     }
     XFlush(x11Display.connection);

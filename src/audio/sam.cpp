@@ -52,8 +52,7 @@ void SAM_setPath(SAM* sam, const char* path) {
     const std::size_t size = path == nullptr ? 0 : std::strlen(path) + 1;
     char* const copy =
         sam == nullptr || size == 0 ? nullptr : allocateArray<char>(static_cast<std::int64_t>(size));
-    if (copy == nullptr) {
-        SAM_error();
+    if (refused(copy == nullptr, SAM_error)) {
         return;
     }
     std::memcpy(copy, path, size);
@@ -62,8 +61,7 @@ void SAM_setPath(SAM* sam, const char* path) {
 }
 
 void SAM_setSample(SAM* sam, SAMPLE* sample) {
-    if (sam == nullptr || sample == nullptr) {
-        SAM_error();
+    if (refused(sam == nullptr || sample == nullptr, SAM_error)) {
         return;
     }
     if (sam->sample != nullptr && sam->sample != sample) {
@@ -73,8 +71,9 @@ void SAM_setSample(SAM* sam, SAMPLE* sample) {
 }
 
 std::int32_t SAM_readLooped(SAM* sam, SAMPLE* dst) {
-    if (!hasSample(sam) || dst == nullptr || dst->data == nullptr || dst == sam->sample || !hasPlace(*sam)) {
-        SAM_error();
+    if (refused(!hasSample(sam) || dst == nullptr || dst->data == nullptr || dst == sam->sample ||
+                    !hasPlace(*sam),
+                SAM_error)) {
         return 0;
     }
     const std::int32_t end = isLooping(*sam) ? sam->loopEnd : sam->sample->length;
@@ -96,8 +95,7 @@ std::int32_t SAM_readLooped(SAM* sam, SAMPLE* dst) {
 }
 
 std::int32_t SAM_isFinished(const SAM* sam) {
-    if (sam == nullptr || sam->sample == nullptr) {
-        SAM_error();
+    if (refused(sam == nullptr || sam->sample == nullptr, SAM_error)) {
         return 0;
     }
     return !isLooping(*sam) && sam->state != 'p' && sam->position >= sam->sample->length ? 1 : 0;
@@ -110,8 +108,7 @@ void SAM_normalize(SAM* sam) {
         hasSample(sam) && sam->sample->length > 0
             ? std::max(magnitude(SAMPLE_min(sam->sample)), magnitude(SAMPLE_max(sam->sample)))
             : 0;
-    if (largest == 0) {
-        SAM_error();
+    if (refused(largest == 0, SAM_error)) {
         return;
     }
     // SAM_normalizeWholeFactor: one expects the peak to be met; the factor is a whole number, so a peak above
@@ -120,8 +117,7 @@ void SAM_normalize(SAM* sam) {
 }
 
 std::int32_t SAM_signExtend(std::int32_t value, std::int32_t width) {
-    if (width < 1 || width > widestValue) {
-        SAM_error();
+    if (refused(width < 1 || width > widestValue, SAM_error)) {
         return 0;
     }
     if (((value >> (width - 1)) & 1) == 0) {
@@ -144,8 +140,7 @@ std::int32_t SAM_widthNeeded(std::int32_t value) {
 }
 
 std::int32_t SAM_endsWith(const char* text, const char* pattern) {
-    if (text == nullptr || pattern == nullptr) {
-        SAM_error();
+    if (refused(text == nullptr || pattern == nullptr, SAM_error)) {
         return 0;
     }
     const std::size_t length = std::strlen(text);

@@ -5,6 +5,7 @@
 // record only when it succeeds, so that the next one finds it as the caller left it.
 #include "audio/sam.h"
 #include "audio/sample.h"
+#include "foundation/report.h"
 #include "foundation/text.h"
 
 #include <algorithm>
@@ -33,8 +34,7 @@ void close(SAM* sam) {
 
 /// Opens the file of that name, in place of one that is open; false (reported) when that cannot be.
 bool open(SAM* sam, const char* mode) {
-    if (sam == nullptr || sam->path == nullptr) {
-        SAM_error();
+    if (refused(sam == nullptr || sam->path == nullptr, SAM_error)) {
         return false;
     }
     close(sam);
@@ -274,8 +274,7 @@ std::int32_t SAM_readRaw(SAM* sam) {
 }
 
 std::int32_t SAM_load(SAM* sam) {
-    if (sam == nullptr) {
-        SAM_error();
+    if (refused(sam == nullptr, SAM_error)) {
         return 0;
     }
     const auto endsWith = [sam](const char* ending) {

@@ -4,6 +4,7 @@
 // What SAM writes: its own format and two headerless ones, byte for byte.
 #include "audio/sam.h"
 #include "audio/sample.h"
+#include "foundation/report.h"
 
 #include <algorithm>
 
@@ -47,8 +48,7 @@ std::int32_t finish(SAM* sam, bool isWritten) {
     const bool isWhole = std::ferror(sam->file) == 0;
     const bool isClosed = std::fclose(sam->file) == 0;
     sam->file = nullptr;
-    if (!isWritten || !isWhole || !isClosed) {
-        SAM_error();
+    if (refused(!isWritten || !isWhole || !isClosed, SAM_error)) {
         return 0;
     }
     return 1;
@@ -117,8 +117,7 @@ std::int32_t SAM_writeRaw(SAM* sam) {
 }
 
 std::int32_t SAM_save(SAM* sam) {
-    if (!hasSample(sam) || (sam->file == nullptr && sam->path == nullptr)) {
-        SAM_error();
+    if (refused(!hasSample(sam) || (sam->file == nullptr && sam->path == nullptr), SAM_error)) {
         return 0;
     }
     if (sam->file == nullptr) {

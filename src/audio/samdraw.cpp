@@ -56,14 +56,12 @@ std::int64_t stepOf(std::int64_t length, std::int64_t width) {
 /// Fills the target and draws value(sample, index) a column.
 template <typename Value>
 void drawView(SAMDRAW* draw, Value value) {
-    if (!canDraw(draw)) {
-        SAMDRAW_error();
+    if (refused(!canDraw(draw), SAMDRAW_error)) {
         return;
     }
     const std::int32_t width = draw->target->width;
     IMG_fillRect(draw->target, 0, 0, width, draw->target->height, draw->background);
-    if (!hasSample(*draw)) {
-        SAMDRAW_error();
+    if (refused(!hasSample(*draw), SAMDRAW_error)) {
         return;
     }
     clampView(*draw);
@@ -109,8 +107,7 @@ void SAMDRAW_drawSmooth(SAMDRAW* draw) {
 }
 
 void SAMDRAW_drawExtremes(SAMDRAW* draw) {
-    if (!canDraw(draw) || !hasSample(*draw) || draw->source->sample->length == 0) {
-        SAMDRAW_error();
+    if (refused(!canDraw(draw) || !hasSample(*draw) || draw->source->sample->length == 0, SAMDRAW_error)) {
         return;
     }
     clampView(*draw);

@@ -52,8 +52,7 @@ SAMPLE* newOfLength(std::int32_t length) {
 /// Makes room for `count` values before `position`; false (reported) when that cannot be.
 bool openGap(SAMPLE* sample, std::int32_t position, std::int32_t count) {
     const std::int32_t length = sample->length;
-    if (position < 0 || position > length) {
-        SAMPLE_error();
+    if (refused(position < 0 || position > length, SAMPLE_error)) {
         return false;
     }
     SAMPLE_setLength(sample, wrapAdd(length, count));
@@ -78,8 +77,7 @@ SAMPLE* SAMPLE_new() {
 }
 
 SAMPLE* SAMPLE_fromBytes(const std::int8_t* bytes, std::int32_t count) {
-    if (bytes == nullptr || count < 0) {
-        SAMPLE_error();
+    if (refused(bytes == nullptr || count < 0, SAMPLE_error)) {
         return nullptr;
     }
     SAMPLE* const sample = newOfLength(count);
@@ -90,16 +88,14 @@ SAMPLE* SAMPLE_fromBytes(const std::int8_t* bytes, std::int32_t count) {
 }
 
 SAMPLE* SAMPLE_clone(const SAMPLE* src) {
-    if (!hasData(src)) {
-        SAMPLE_error();
+    if (refused(!hasData(src), SAMPLE_error)) {
         return nullptr;
     }
     return SAMPLE_slice(src, 0, src->length);
 }
 
 SAMPLE* SAMPLE_slice(const SAMPLE* sample, std::int32_t from, std::int32_t to) {
-    if (!hasData(sample)) {
-        SAMPLE_error();
+    if (refused(!hasData(sample), SAMPLE_error)) {
         return nullptr;
     }
     const std::int32_t start = std::clamp(from, 0, sample->length);
@@ -112,16 +108,14 @@ SAMPLE* SAMPLE_slice(const SAMPLE* sample, std::int32_t from, std::int32_t to) {
 }
 
 void SAMPLE_setCapacity(SAMPLE* sample, std::int32_t count) {
-    if (sample == nullptr || count < 0) {
-        SAMPLE_error();
+    if (refused(sample == nullptr || count < 0, SAMPLE_error)) {
         return;
     }
     if (count == sample->capacity) {
         return;
     }
     std::int32_t* const data = count == 0 ? nullptr : allocateArray<std::int32_t>(count);
-    if (data == nullptr && count != 0) {
-        SAMPLE_error();
+    if (refused(data == nullptr && count != 0, SAMPLE_error)) {
         return;
     }
     sample->capacity = count;
@@ -132,8 +126,7 @@ void SAMPLE_setCapacity(SAMPLE* sample, std::int32_t count) {
 }
 
 void SAMPLE_setLength(SAMPLE* sample, std::int32_t length) {
-    if (sample == nullptr || length < 0) {
-        SAMPLE_error();
+    if (refused(sample == nullptr || length < 0, SAMPLE_error)) {
         return;
     }
     if (sample->capacity < length) {
@@ -145,24 +138,21 @@ void SAMPLE_setLength(SAMPLE* sample, std::int32_t length) {
 }
 
 std::int32_t SAMPLE_get(const SAMPLE* sample, std::int32_t index) {
-    if (!hasIndex(sample, index)) {
-        SAMPLE_error();
+    if (refused(!hasIndex(sample, index), SAMPLE_error)) {
         return 0;
     }
     return sample->data[index];
 }
 
 void SAMPLE_set(SAMPLE* sample, std::int32_t index, std::int32_t value) {
-    if (!hasIndex(sample, index)) {
-        SAMPLE_error();
+    if (refused(!hasIndex(sample, index), SAMPLE_error)) {
         return;
     }
     sample->data[index] = value;
 }
 
 void SAMPLE_append(SAMPLE* sample, std::int32_t value) {
-    if (!hasData(sample)) {
-        SAMPLE_error();
+    if (refused(!hasData(sample), SAMPLE_error)) {
         return;
     }
     if (sample->length >= sample->capacity) {
@@ -174,8 +164,7 @@ void SAMPLE_append(SAMPLE* sample, std::int32_t value) {
 }
 
 void SAMPLE_insert(SAMPLE* sample, const SAMPLE* other, std::int32_t position) {
-    if (!hasData(sample) || !hasData(other)) {
-        SAMPLE_error();
+    if (refused(!hasData(sample) || !hasData(other), SAMPLE_error)) {
         return;
     }
     const std::int32_t count = other->length;
@@ -193,8 +182,7 @@ void SAMPLE_insert(SAMPLE* sample, const SAMPLE* other, std::int32_t position) {
 }
 
 void SAMPLE_insertValue(SAMPLE* sample, std::int32_t value, std::int32_t index) {
-    if (!hasData(sample)) {
-        SAMPLE_error();
+    if (refused(!hasData(sample), SAMPLE_error)) {
         return;
     }
     if (openGap(sample, index, 1)) {
@@ -203,8 +191,7 @@ void SAMPLE_insertValue(SAMPLE* sample, std::int32_t value, std::int32_t index) 
 }
 
 void SAMPLE_removeAt(SAMPLE* sample, std::int32_t index) {
-    if (!hasIndex(sample, index)) {
-        SAMPLE_error();
+    if (refused(!hasIndex(sample, index), SAMPLE_error)) {
         return;
     }
     --sample->length;
@@ -212,8 +199,7 @@ void SAMPLE_removeAt(SAMPLE* sample, std::int32_t index) {
 }
 
 std::int32_t SAMPLE_find(const SAMPLE* sample, std::int32_t value, std::int32_t start) {
-    if (!hasData(sample) || start < 0) {
-        SAMPLE_error();
+    if (refused(!hasData(sample) || start < 0, SAMPLE_error)) {
         return -1;
     }
     for (std::int32_t i = start; i < sample->length; ++i) {
@@ -226,25 +212,23 @@ std::int32_t SAMPLE_find(const SAMPLE* sample, std::int32_t value, std::int32_t 
 
 void SAMPLE_copy(const SAMPLE* src, SAMPLE* dst, std::int32_t count, std::int32_t srcStart,
                  std::int32_t dstStart) {
-    if (!hasRange(src, srcStart, count) || !hasRange(dst, dstStart, count)) {
-        SAMPLE_error();
+    if (refused(!hasRange(src, srcStart, count) || !hasRange(dst, dstStart, count), SAMPLE_error)) {
         return;
     }
     move(src->data + srcStart, count, dst->data + dstStart);
 }
 
 void SAMPLE_clear(SAMPLE* sample) {
-    if (!hasData(sample)) {
-        SAMPLE_error();
+    if (refused(!hasData(sample), SAMPLE_error)) {
         return;
     }
     std::fill_n(sample->data, sample->length, 0);
 }
 
 std::int32_t SAMPLE_equals(const SAMPLE* a, const SAMPLE* b) {
-    if (!hasData(a) || !hasData(b) ||
-        !std::equal(a->data, a->data + a->length, b->data, b->data + b->length)) {
-        SAMPLE_error();
+    if (refused(!hasData(a) || !hasData(b) ||
+                    !std::equal(a->data, a->data + a->length, b->data, b->data + b->length),
+                SAMPLE_error)) {
         return 0;
     }
     return 1;

@@ -4,6 +4,7 @@
 // The arithmetic of SAMPLE: every value of a sample, or every pair of two. Products and sums wrap at 32 bits,
 // quotients truncate towards 0, shifts round down. The loops are plain, so that the compiler vectorises them.
 #include "audio/sample.h"
+#include "foundation/report.h"
 #include "foundation/wide.h"
 #include "foundation/wrap.h"
 
@@ -25,8 +26,7 @@ bool hasData(const SAMPLE* sample) {
 /// sample[i] = operation(sample[i]); reported when there is no data.
 template <typename Operation>
 void change(SAMPLE* sample, Operation operation) {
-    if (!hasData(sample)) {
-        SAMPLE_error();
+    if (refused(!hasData(sample), SAMPLE_error)) {
         return;
     }
     runWide([data = sample->data, length = sample->length, operation] {
@@ -37,8 +37,7 @@ void change(SAMPLE* sample, Operation operation) {
 /// a[i] = operation(a[i], b[i]) as far as both reach; reported when one has no data.
 template <typename Operation>
 void combine(SAMPLE* a, const SAMPLE* b, Operation operation) {
-    if (!hasData(a) || !hasData(b)) {
-        SAMPLE_error();
+    if (refused(!hasData(a) || !hasData(b), SAMPLE_error)) {
         return;
     }
     runWide([to = a->data, from = b->data, length = std::min(a->length, b->length), operation] {
@@ -85,8 +84,7 @@ void SAMPLE_multiply(SAMPLE* a, const SAMPLE* b) {
 }
 
 void SAMPLE_mixScaled(SAMPLE* a, const SAMPLE* b, std::int32_t n, std::int32_t d) {
-    if (d == 0) {
-        SAMPLE_error();
+    if (refused(d == 0, SAMPLE_error)) {
         return;
     }
     if (d == -1) {
@@ -108,8 +106,7 @@ void SAMPLE_scale(SAMPLE* sample, std::int32_t factor) {
 }
 
 void SAMPLE_divide(SAMPLE* sample, std::int32_t divisor) {
-    if (divisor == 0) {
-        SAMPLE_error();
+    if (refused(divisor == 0, SAMPLE_error)) {
         return;
     }
     if (divisor == -1) {
@@ -120,32 +117,28 @@ void SAMPLE_divide(SAMPLE* sample, std::int32_t divisor) {
 }
 
 void SAMPLE_shiftRight(SAMPLE* sample, std::int32_t count) {
-    if (count < 0 || count > mostShift) {
-        SAMPLE_error();
+    if (refused(count < 0 || count > mostShift, SAMPLE_error)) {
         return;
     }
     change(sample, [shift = count % mostShift](std::int32_t value) { return value >> shift; });
 }
 
 void SAMPLE_shiftLeft(SAMPLE* sample, std::int32_t count) {
-    if (count < 0 || count > mostShift) {
-        SAMPLE_error();
+    if (refused(count < 0 || count > mostShift, SAMPLE_error)) {
         return;
     }
     change(sample, [shift = count % mostShift](std::int32_t value) { return wrapShl(value, shift); });
 }
 
 std::int32_t SAMPLE_min(const SAMPLE* sample) {
-    if (!hasValues(sample)) {
-        SAMPLE_error();
+    if (refused(!hasValues(sample), SAMPLE_error)) {
         return 0;
     }
     return reduce(*sample, [](std::int32_t x, std::int32_t y) { return std::min(x, y); });
 }
 
 std::int32_t SAMPLE_max(const SAMPLE* sample) {
-    if (!hasValues(sample)) {
-        SAMPLE_error();
+    if (refused(!hasValues(sample), SAMPLE_error)) {
         return 0;
     }
     return reduce(*sample, [](std::int32_t x, std::int32_t y) { return std::max(x, y); });
@@ -155,8 +148,7 @@ void SAMPLE_normalize(SAMPLE* sample, std::int32_t peak) {
     const std::int64_t magnitude = hasValues(sample) ? std::max(std::abs(std::int64_t{SAMPLE_min(sample)}),
                                                                 std::abs(std::int64_t{SAMPLE_max(sample)}))
                                                      : 0;
-    if (magnitude == 0) {
-        SAMPLE_error();
+    if (refused(magnitude == 0, SAMPLE_error)) {
         return;
     }
     // A 32.32 factor, truncated. Its product with a value stays within peak, so 64 bits hold it; unsigned for
@@ -169,14 +161,12 @@ void SAMPLE_normalize(SAMPLE* sample, std::int32_t peak) {
 }
 
 void SAMPLE_rescale(SAMPLE* sample, std::int32_t low, std::int32_t high) {
-    if (!hasValues(sample)) {
-        SAMPLE_error();
+    if (refused(!hasValues(sample), SAMPLE_error)) {
         return;
     }
     const std::int64_t least = SAMPLE_min(sample);
     const std::int64_t range = SAMPLE_max(sample) - least;
-    if (range == 0) {
-        SAMPLE_error();
+    if (refused(range == 0, SAMPLE_error)) {
         return;
     }
     // low + (value - least) * (high - low) / range, truncated; magnitudes, since the product fills 64 bits.

@@ -3,6 +3,7 @@
 //
 // The values of a SAMPLE as raw bytes in an open file, one to four a value, in either order.
 #include "audio/sample.h"
+#include "foundation/report.h"
 
 #include <algorithm>
 
@@ -26,8 +27,8 @@ std::int32_t shiftOf(std::int32_t position, std::int32_t bytes, char endian) {
 
 std::int32_t SAMPLE_readRaw(SAMPLE* sample, std::FILE* file, std::int32_t bytes, char endian,
                             std::int32_t count) {
-    if (sample == nullptr || sample->data == nullptr || file == nullptr || !isRawForm(bytes, endian)) {
-        SAMPLE_error();
+    if (refused(sample == nullptr || sample->data == nullptr || file == nullptr || !isRawForm(bytes, endian),
+                SAMPLE_error)) {
         return 0;
     }
     const std::int32_t lengthBefore = sample->length;
@@ -48,8 +49,8 @@ std::int32_t SAMPLE_readRaw(SAMPLE* sample, std::FILE* file, std::int32_t bytes,
 }
 
 std::int32_t SAMPLE_writeRaw(const SAMPLE* sample, std::FILE* file, std::int32_t bytes, char endian) {
-    if (sample == nullptr || sample->data == nullptr || file == nullptr || !isRawForm(bytes, endian)) {
-        SAMPLE_error();
+    if (refused(sample == nullptr || sample->data == nullptr || file == nullptr || !isRawForm(bytes, endian),
+                SAMPLE_error)) {
         return 0;
     }
     const auto isWritten = [=](std::int32_t value) {
@@ -59,8 +60,9 @@ std::int32_t SAMPLE_writeRaw(const SAMPLE* sample, std::FILE* file, std::int32_t
         }
         return std::fwrite(group, static_cast<std::size_t>(bytes), 1, file) == 1;
     };
-    if (!std::all_of(sample->data, sample->data + sample->length, isWritten) || std::fflush(file) != 0) {
-        SAMPLE_error();
+    if (refused(!std::all_of(sample->data, sample->data + sample->length, isWritten) ||
+                    std::fflush(file) != 0,
+                SAMPLE_error)) {
         return 0;
     }
     return 1;

@@ -4,6 +4,7 @@
 // Where the values of a SAMPLE stand: rotation, resampling and the straight line.
 #include "audio/sample.h"
 #include "foundation/memory.h"
+#include "foundation/report.h"
 #include "foundation/wrap.h"
 
 #include <algorithm>
@@ -52,8 +53,7 @@ void rampSteep(std::int32_t* data, std::int64_t width, std::int64_t height, std:
 } // namespace
 
 void SAMPLE_rotate(SAMPLE* sample, std::int32_t amount) {
-    if (!hasValues(sample)) {
-        SAMPLE_error();
+    if (refused(!hasValues(sample), SAMPLE_error)) {
         return;
     }
     const std::int32_t up = positiveModulo(amount, sample->length);
@@ -62,8 +62,7 @@ void SAMPLE_rotate(SAMPLE* sample, std::int32_t amount) {
 }
 
 void SAMPLE_rotateLeft(SAMPLE* sample, std::int32_t amount) {
-    if (!hasValues(sample)) {
-        SAMPLE_error();
+    if (refused(!hasValues(sample), SAMPLE_error)) {
         return;
     }
     const std::int32_t down = positiveModulo(amount, sample->length);
@@ -71,14 +70,12 @@ void SAMPLE_rotateLeft(SAMPLE* sample, std::int32_t amount) {
 }
 
 void SAMPLE_resize(SAMPLE* sample, std::int32_t length) {
-    if (!hasValues(sample) || length < 0) {
-        SAMPLE_error();
+    if (refused(!hasValues(sample) || length < 0, SAMPLE_error)) {
         return;
     }
     const std::int32_t capacity = std::max(length, 1);
     std::int32_t* const data = allocateArray<std::int32_t>(capacity);
-    if (data == nullptr) {
-        SAMPLE_error();
+    if (refused(data == nullptr, SAMPLE_error)) {
         return;
     }
     for (std::int64_t i = 0; i < length; ++i) {
@@ -94,8 +91,7 @@ void SAMPLE_ramp(SAMPLE* sample, std::int32_t x1, std::int32_t y1, std::int32_t 
     // SAMPLE_rampKeepsValuesInPlace: one expects swapped indices to take their values along; the line starts
     // with y1 at the lower index whichever that is.
     const auto [low, high] = std::minmax(x1, x2);
-    if (!hasValues(sample) || low < 0 || high >= sample->length) {
-        SAMPLE_error();
+    if (refused(!hasValues(sample) || low < 0 || high >= sample->length, SAMPLE_error)) {
         return;
     }
     const std::int64_t width = std::int64_t{high} - low;

@@ -4,6 +4,7 @@
 // The text form of SAMPLE, "SAMPLE { 2\n-5\n7\n}\n": the length, then every value.
 #include "audio/sample.h"
 #include "foundation/memory.h"
+#include "foundation/report.h"
 #include "foundation/text.h"
 
 #include <cstdio>
@@ -58,13 +59,11 @@ SAMPLE* parse(const char* text) {
 } // namespace
 
 char* SAMPLE_toText(const SAMPLE* sample) {
-    if (sample == nullptr || sample->data == nullptr) {
-        SAMPLE_error();
+    if (refused(sample == nullptr || sample->data == nullptr, SAMPLE_error)) {
         return nullptr;
     }
     char* const text = allocateArray<char>((std::int64_t{sample->length} + 2) * charactersPerValue);
-    if (text == nullptr) {
-        SAMPLE_error();
+    if (refused(text == nullptr, SAMPLE_error)) {
         return nullptr;
     }
     if (sample->length == 0) {

@@ -88,8 +88,7 @@ std::int32_t drawNoise() {
 /// rounded down. Half a unit on top of the dividend keeps the quotient off the whole numbers by more than a
 /// double's rounding, so slope and offset have the same result.
 void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
-    if (sample == nullptr) {
-        SOUND_error();
+    if (refused(sample == nullptr, SOUND_error)) {
         return;
     }
     if (sample->length == 0) {
@@ -120,8 +119,7 @@ void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
 
 /// Multiplies by a gain that starts at `gain` and moves by 32768 over the whole sample, in direction `sign`.
 void runGain(SAMPLE* sample, std::int32_t gain, std::int32_t sign) {
-    if (sample == nullptr || sample->data == nullptr || sample->length == 0) {
-        SOUND_error();
+    if (refused(sample == nullptr || sample->data == nullptr || sample->length == 0, SOUND_error)) {
         return;
     }
     constexpr std::int32_t fullMove = 0x40000000;
@@ -138,13 +136,11 @@ void runGain(SAMPLE* sample, std::int32_t gain, std::int32_t sign) {
 } // namespace
 
 void SOUND_sine(SAMPLE* sample, std::int32_t frequency) {
-    if (sample == nullptr) {
-        SOUND_error();
+    if (refused(sample == nullptr, SOUND_error)) {
         return;
     }
     const SAMPLE* const table = requireSineTable();
-    if (table == nullptr || frequency < 1 || frequency >= SAMPLE_rate) {
-        SOUND_error();
+    if (refused(table == nullptr || frequency < 1 || frequency >= SAMPLE_rate, SOUND_error)) {
         return;
     }
     // A whole number of hertz moves the phase by whole entries, so it needs no fraction, and comes back to 0
@@ -162,8 +158,7 @@ void SOUND_sine(SAMPLE* sample, std::int32_t frequency) {
 }
 
 void SOUND_square(SAMPLE* sample, std::int32_t frequency) {
-    if (sample == nullptr || frequency < 1 || frequency > secondInFractions) {
-        SOUND_error();
+    if (refused(sample == nullptr || frequency < 1 || frequency > secondInFractions, SOUND_error)) {
         return;
     }
     const std::int32_t period = secondInFractions / frequency;
@@ -181,8 +176,7 @@ void SOUND_square(SAMPLE* sample, std::int32_t frequency) {
 }
 
 void SOUND_noise(SAMPLE* sample, std::int32_t rate) {
-    if (sample == nullptr) {
-        SOUND_error();
+    if (refused(sample == nullptr, SOUND_error)) {
         return;
     }
     std::int32_t value = drawNoise();

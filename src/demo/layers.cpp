@@ -7,7 +7,6 @@
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
-#include "vector/vec2d.h"
 
 #include <string_view>
 

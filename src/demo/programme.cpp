@@ -4,7 +4,6 @@
 
 #include "demo/scenes/beat.h"
 #include "demo/scenes/frames.h"
-#include "demo/state.h"
 #include "foundation/wrap.h"
 #include "image/rgb888.h"
 

@@ -8,7 +8,6 @@
 #include "demo/velm4030.h"
 #include "foundation/asset.h"
 #include "image/imgfx.h"
-#include "vector/vec2d.h"
 
 namespace velm {
 

@@ -4,6 +4,7 @@
 // Rings and discs by the midpoint algorithm, walked row by row, so that each row is clipped once.
 #include "effects/circle.h"
 #include "foundation/report.h"
+#include "foundation/wide.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 
@@ -45,10 +46,11 @@ void paintSpan(IMG& img, std::int64_t y, std::int64_t x1, std::int64_t x2, Touch
     if (y < 0 || y >= img.height) {
         return;
     }
-    std::uint32_t* const row = rowOf(img, y);
-    for (std::int64_t x = left; x <= right; ++x) {
-        touch(row[x]);
-    }
+    runWide([=, row = rowOf(img, y)] {
+        for (std::int64_t x = left; x <= right; ++x) {
+            touch(row[x]);
+        }
+    });
 }
 
 /// True when there is something to draw; a missing image is reported.

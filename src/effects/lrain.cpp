@@ -3,7 +3,6 @@
 #include "effects/lrain.h"
 
 #include "foundation/chance.h"
-#include "foundation/memory.h"
 #include "foundation/random.h"
 #include "foundation/record.h"
 #include "foundation/report.h"

@@ -25,16 +25,13 @@ consteval IDENTITY makeIdentity(const char* module, const char* second, const ch
                                 const char* fifth) {
     IDENTITY identity{};
     const auto pad = [](char(&field)[9], const char* word) {
-        for (char& character : field) {
-            character = ' ';
+        char padded[8] = {' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
+        for (int i = 0; word[i] != '\0'; ++i) {
+            padded[i] = word[i]; // a ninth character has no place, so it is no constant
         }
-        for (char* character = field; *word != '\0'; ++character, ++word) {
-            *character = *word;
+        for (int i = 0; i < 8; ++i) {
+            field[i] = padded[i];
         }
-        if (field[8] != ' ') { // never thrown: what throws is no constant
-            throw "more than 8 characters";
-        }
-        field[8] = '\0';
     };
     pad(identity.module, module);
     pad(identity.second, second);

@@ -93,13 +93,6 @@ void LIST_set(LIST* list, std::int32_t index, void* value) {
     list->items[index] = value;
 }
 
-void* LIST_get(const LIST* list, std::int32_t index) {
-    if (refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
-        return nullptr;
-    }
-    return list->items[index];
-}
-
 std::int32_t LIST_indexOf(const LIST* list, const void* value) {
     if (refused(list == nullptr || value == nullptr, LIST_error)) {
         return -1;

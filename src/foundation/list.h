@@ -10,6 +10,7 @@
 #pragma once
 
 #include "foundation/identity.h"
+#include "foundation/report.h"
 
 #include <cstdint>
 
@@ -40,9 +41,6 @@ void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_
 
 /// Replaces the element at `index` (0..count-1).
 void LIST_set(LIST* list, std::int32_t index, void* value);
-
-/// The element at `index`, or nullptr (reported) outside 0..count-1.
-void* LIST_get(const LIST* list, std::int32_t index);
 
 /// The first index that holds `value`, or -1. A nullptr value is reported, and the answer is -1.
 std::int32_t LIST_indexOf(const LIST* list, const void* value);
@@ -80,5 +78,11 @@ void LIST_delete(LIST** handle);
 
 /// Prints "LIST error" while LIST_verbose is set.
 void LIST_error();
+
+/// The element at `index`, or nullptr (reported) outside 0..count-1.
+inline void* LIST_get(const LIST* list, std::int32_t index) {
+    const bool isOutside = list == nullptr || index < 0 || index >= list->count;
+    return refused(isOutside, LIST_error) ? nullptr : list->items[index];
+}
 
 } // namespace velm

@@ -47,8 +47,7 @@ void IMG_setSize(IMG* img, std::int32_t width, std::int32_t height) {
     const bool sized = img != nullptr && width >= 0 && height >= 0;
     std::uint32_t* const pixels =
         sized ? allocateArray<std::uint32_t>(std::int64_t{width} * height) : nullptr;
-    if (pixels == nullptr) {
-        IMG_error();
+    if (refused(pixels == nullptr, IMG_error)) {
         return;
     }
     delete[] img->pixels;
@@ -58,8 +57,7 @@ void IMG_setSize(IMG* img, std::int32_t width, std::int32_t height) {
 }
 
 IMG* IMG_clone(const IMG* src) {
-    if (!hasPixels(src)) {
-        IMG_error();
+    if (refused(!hasPixels(src), IMG_error)) {
         return nullptr;
     }
     IMG* clone = IMG_newSized(src->width, src->height);
@@ -74,16 +72,14 @@ void IMG_delete(IMG** handle) {
 }
 
 void IMG_fill(IMG* img, std::uint32_t colour) {
-    if (!hasPixels(img)) {
-        IMG_error();
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     std::fill_n(img->pixels, pixelCount(img), colour);
 }
 
 void IMG_copy(const IMG* src, IMG* dst) {
-    if (!hasPixels(src) || !hasPixels(dst) || !sameSize(src, dst)) {
-        IMG_error();
+    if (refused(!hasPixels(src) || !hasPixels(dst) || !sameSize(src, dst), IMG_error)) {
         return;
     }
     if (src != dst) {
@@ -92,8 +88,7 @@ void IMG_copy(const IMG* src, IMG* dst) {
 }
 
 void IMG_putPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour) {
-    if (!hasPixels(img)) {
-        IMG_error();
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     if (x >= 0 && y >= 0 && x < img->width && y < img->height) {
@@ -102,8 +97,7 @@ void IMG_putPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour
 }
 
 std::uint32_t IMG_getPixel(const IMG* img, std::int32_t x, std::int32_t y) {
-    if (!hasPixels(img)) {
-        IMG_error();
+    if (refused(!hasPixels(img), IMG_error)) {
         return 0;
     }
     if (x < 0 || y < 0 || x >= img->width || y >= img->height) {
@@ -113,8 +107,7 @@ std::uint32_t IMG_getPixel(const IMG* img, std::int32_t x, std::int32_t y) {
 }
 
 void IMG_andMask(const IMG* mask, IMG* dst) {
-    if (!hasPixels(mask) || !hasPixels(dst)) {
-        IMG_error();
+    if (refused(!hasPixels(mask) || !hasPixels(dst), IMG_error)) {
         return;
     }
     runWide([from = mask->pixels, to = dst->pixels, count = std::min(pixelCount(mask), pixelCount(dst))] {
@@ -125,8 +118,7 @@ void IMG_andMask(const IMG* mask, IMG* dst) {
 }
 
 void IMG_addColour(IMG* img, std::uint32_t colour) {
-    if (!hasPixels(img)) {
-        IMG_error();
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     runWide([colour, pixels = img->pixels, count = pixelCount(img)] {
@@ -135,8 +127,7 @@ void IMG_addColour(IMG* img, std::uint32_t colour) {
 }
 
 void IMG_subColour(IMG* img, std::uint32_t colour) {
-    if (!hasPixels(img)) {
-        IMG_error();
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     runWide([colour, pixels = img->pixels, count = pixelCount(img)] {
@@ -145,8 +136,7 @@ void IMG_subColour(IMG* img, std::uint32_t colour) {
 }
 
 std::int32_t IMG_equal(const IMG* a, const IMG* b) {
-    if (!hasPixels(a) || !hasPixels(b)) {
-        IMG_error();
+    if (refused(!hasPixels(a) || !hasPixels(b), IMG_error)) {
         return 0;
     }
     if (!sameSize(a, b) || !std::equal(a->pixels, a->pixels + pixelCount(a), b->pixels)) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The transparent copies of IMG: rectangles, and rows and columns that wrap around the edge.
+#include "foundation/report.h"
 #include "foundation/wide.h"
 #include "foundation/wrap.h"
 #include "image/clip.h"
@@ -58,8 +59,7 @@ void copyWrapped(Line<const std::uint32_t> from, Line<std::uint32_t> to, std::in
 
 void IMG_blit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
               std::int32_t dstY, std::int32_t w, std::int32_t h) {
-    if (!canBlit(src, dst)) {
-        IMG_error();
+    if (refused(!canBlit(src, dst), IMG_error)) {
         return;
     }
     if (BlitArea area{srcX, srcY, dstX, dstY, w, h}; clipBlit(*src, *dst, area)) {
@@ -68,8 +68,7 @@ void IMG_blit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, st
 }
 
 void IMG_draw(const IMG* src, IMG* dst) {
-    if (src == nullptr) {
-        IMG_error();
+    if (refused(src == nullptr, IMG_error)) {
         return;
     }
     IMG_blit(src, dst, 0, 0, src->x, src->y, src->width, src->height);
@@ -77,8 +76,9 @@ void IMG_draw(const IMG* src, IMG* dst) {
 
 void IMG_copyRowWrapped(const IMG* src, IMG* dst, std::int32_t srcRow, std::int32_t dstRow,
                         std::int32_t offset) {
-    if (!canBlit(src, dst) || srcRow < 0 || srcRow >= src->height || dstRow < 0 || dstRow >= dst->height) {
-        IMG_error();
+    if (refused(!canBlit(src, dst) || srcRow < 0 || srcRow >= src->height || dstRow < 0 ||
+                    dstRow >= dst->height,
+                IMG_error)) {
         return;
     }
     copyWrapped({src->pixels + std::int64_t{srcRow} * src->width, 1, src->width},
@@ -87,9 +87,9 @@ void IMG_copyRowWrapped(const IMG* src, IMG* dst, std::int32_t srcRow, std::int3
 
 void IMG_copyColumnWrapped(const IMG* src, IMG* dst, std::int32_t srcColumn, std::int32_t dstColumn,
                            std::int32_t offset) {
-    if (!canBlit(src, dst) || srcColumn < 0 || srcColumn >= src->width || dstColumn < 0 ||
-        dstColumn >= dst->width) {
-        IMG_error();
+    if (refused(!canBlit(src, dst) || srcColumn < 0 || srcColumn >= src->width || dstColumn < 0 ||
+                    dstColumn >= dst->width,
+                IMG_error)) {
         return;
     }
     copyWrapped({src->pixels + srcColumn, src->width, src->height},

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The netpbm formats of IMG: P1 to P6 decoded from memory, P6 written to a file.
+#include "foundation/report.h"
 #include "foundation/text.h"
 #include "foundation/wide.h"
 #include "image/img.h"
@@ -290,20 +291,19 @@ IMG* IMG_fromPNM(const char* bytes) {
 }
 
 std::int32_t IMG_writePPM(const IMG* img, const char* path) {
-    if (img == nullptr || img->pixels == nullptr || path == nullptr || img->width == 0 || img->height == 0) {
-        IMG_error();
+    if (refused(img == nullptr || img->pixels == nullptr || path == nullptr || img->width == 0 ||
+                    img->height == 0,
+                IMG_error)) {
         return 0;
     }
     std::FILE* const file = std::fopen(path, "w");
-    if (file == nullptr) {
-        IMG_error();
+    if (refused(file == nullptr, IMG_error)) {
         return 0;
     }
     const bool written =
         std::fprintf(file, "P6\n# VELM(c)Q.V.N.\n%d %d\n255\n", img->width, img->height) > 0 &&
         writePixels(file, img);
-    if (std::fclose(file) != 0 || !written) {
-        IMG_error();
+    if (refused(std::fclose(file) != 0 || !written, IMG_error)) {
         return 0;
     }
     return 1;

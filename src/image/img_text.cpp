@@ -3,6 +3,7 @@
 //
 // The bracketed text form of IMG: "IMG{\nP3\n...}\n", six pixels a line, written and read.
 #include "foundation/memory.h"
+#include "foundation/report.h"
 #include "foundation/text.h"
 #include "image/img.h"
 #include "image/rgb888.h"
@@ -102,15 +103,13 @@ IMG* parse(const char* text) {
 } // namespace
 
 char* IMG_toText(const IMG* img) {
-    if (img == nullptr || img->pixels == nullptr) {
-        IMG_error();
+    if (refused(img == nullptr || img->pixels == nullptr, IMG_error)) {
         return nullptr;
     }
     const std::int64_t count = std::int64_t{img->width} * img->height;
     const std::int64_t size = charactersPerPixel * count + 26 + count / pixelsPerLine + 3;
     char* const text = allocateArray<char>(size);
-    if (text == nullptr) {
-        IMG_error();
+    if (refused(text == nullptr, IMG_error)) {
         return nullptr;
     }
     if (count == 0) {
@@ -135,8 +134,7 @@ IMG* IMG_fromText(const char* text) {
 }
 
 std::int32_t IMG_findAfter(const char* haystack, const char* needle) {
-    if (haystack == nullptr || needle == nullptr) {
-        IMG_error();
+    if (refused(haystack == nullptr || needle == nullptr, IMG_error)) {
         return 0;
     }
     std::size_t i = 0;

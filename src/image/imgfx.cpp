@@ -22,8 +22,7 @@ namespace {
 /// Applies row(from, to, n) to the clipped rectangle, or reports.
 template <typename Row>
 void combine(const IMG* src, IMG* dst, BlitArea area, Row row) {
-    if (!canBlit(src, dst)) {
-        IMGFX_error();
+    if (refused(!canBlit(src, dst), IMGFX_error)) {
         return;
     }
     if (clipBlit(*src, *dst, area)) {
@@ -34,8 +33,7 @@ void combine(const IMG* src, IMG* dst, BlitArea area, Row row) {
 /// Applies touch(pixel) along a line, or reports.
 template <typename Touch>
 void combineLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2, Touch touch) {
-    if (img == nullptr || img->pixels == nullptr) {
-        IMGFX_error();
+    if (refused(img == nullptr || img->pixels == nullptr, IMGFX_error)) {
         return;
     }
     forEachLinePixel(*img, x1, y1, x2, y2, touch);
@@ -76,8 +74,7 @@ void IMGFX_averageBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t
 }
 
 void IMGFX_invert(IMG* img) {
-    if (img == nullptr || img->pixels == nullptr) {
-        IMGFX_error();
+    if (refused(img == nullptr || img->pixels == nullptr, IMGFX_error)) {
         return;
     }
     runWide([pixels = img->pixels, count = std::int64_t{img->width} * img->height] {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The filters of IMGFX: every pixel of one image is made of a pixel of another and of its neighbours.
+#include "foundation/report.h"
 #include "foundation/wide.h"
 #include "image/clip.h"
 #include "image/img.h"
@@ -24,8 +25,7 @@ constexpr std::uint32_t allBytes = 0xFFFFFFFF;
 
 /// True when `src` can be filtered into `dst`; else it reports.
 bool canFilter(const IMG* src, const IMG* dst) {
-    if (!canBlit(src, dst) || src == dst || src->pixels == dst->pixels) {
-        IMGFX_error();
+    if (refused(!canBlit(src, dst) || src == dst || src->pixels == dst->pixels, IMGFX_error)) {
         return false;
     }
     return true;
@@ -200,8 +200,7 @@ void IMGFX_blur7(const IMG* src, IMG* dst) {
 }
 
 void IMGFX_blurRadius(const IMG* src, IMG* dst, std::int32_t radius) {
-    if (radius < 0 || radius > IMGFX_largestRadius) {
-        IMGFX_error();
+    if (refused(radius < 0 || radius > IMGFX_largestRadius, IMGFX_error)) {
         return;
     }
     filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {

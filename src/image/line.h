@@ -24,10 +24,10 @@ void walkLine(std::int64_t major, std::int64_t minor, Plot plot) {
         error -= minor;
         // IMG_lineRoundsEarly: one expects the side step at error < 0; it comes at error < 1, which decides
         // which pixel every half step of every drawing falls on.
-        if (error < 1) {
-            error += major;
-            ++across;
-        }
+        // Without a jump: a processor guesses wrongly at every other one.
+        const std::int64_t aside = error < 1 ? 1 : 0;
+        error += major & -aside;
+        across += aside;
     }
 }
 

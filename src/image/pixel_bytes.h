@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstdint>
 
 namespace velm {
@@ -34,7 +33,7 @@ using PixelBlock = std::array<std::uint8_t, pixelBlock * pixelBytes>;
 constexpr PixelBlock blockOf(std::uint32_t colour) {
     std::array<std::uint32_t, pixelBlock> pixels{};
     pixels.fill(colour);
-    return std::bit_cast<PixelBlock>(pixels);
+    return __builtin_bit_cast(PixelBlock, pixels); // emscripten's library has no std::bit_cast yet
 }
 
 inline constexpr PixelBlock keptBytes = blockOf(0xFFFFFF); ///< all but the top ones

@@ -4,6 +4,7 @@
 // What every implementation of the pointer shares: the record. Reading it is the machine's.
 #include "platform/xptr.h"
 
+#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "platform/xdpy.h"

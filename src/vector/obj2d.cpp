@@ -6,6 +6,7 @@
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
+#include "image/img.h"
 #include "vector/seg2d.h"
 #include "vector/vec2d.h"
 
@@ -79,8 +80,7 @@ void OBJ2D_addSegment(OBJ2D* obj, SEG2D* segment) {
                 OBJ2D_error)) {
         return;
     }
-    if (!makeRoom(obj->segments, 1) || !makeRoom(obj->points, 2)) {
-        OBJ2D_error();
+    if (refused(!makeRoom(obj->segments, 1) || !makeRoom(obj->points, 2), OBJ2D_error)) {
         return;
     }
     LIST_append(obj->segments, segment);
@@ -138,10 +138,9 @@ void OBJ2D_draw(const OBJ2D* obj, IMG* img) {
             OBJ2D_error();
             continue;
         }
-        VEC2D a = posed(*obj, *segment->a);
-        VEC2D b = posed(*obj, *segment->b);
-        const SEG2D line{&a, &b};
-        SEG2D_draw(&line, img);
+        const VEC2D a = posed(*obj, *segment->a);
+        const VEC2D b = posed(*obj, *segment->b);
+        IMG_drawLine(img, a.x, a.y, b.x, b.y, a.colour);
     }
 }
 

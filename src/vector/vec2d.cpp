@@ -62,13 +62,6 @@ std::int32_t VEC2D_lengthSquared(const VEC2D* point) {
     return wrapAdd(wrapMul(point->x, point->x), wrapMul(point->y, point->y));
 }
 
-void VEC2D_copy(const VEC2D* src, VEC2D* dst) {
-    if (refused(src == nullptr || dst == nullptr, VEC2D_error)) {
-        return;
-    }
-    *dst = *src;
-}
-
 void VEC2D_delete(VEC2D** handle) {
     deleteRecord(handle, VEC2D_error);
 }

@@ -10,6 +10,7 @@
 #pragma once
 
 #include "foundation/identity.h"
+#include "foundation/report.h"
 
 #include <cstdint>
 
@@ -40,13 +41,17 @@ void VEC2D_rotate(VEC2D* point, std::int32_t angle);
 /// x * x + y * y; -1 (reported) without a point.
 std::int32_t VEC2D_lengthSquared(const VEC2D* point);
 
-/// Copies the coordinates and the colour.
-void VEC2D_copy(const VEC2D* src, VEC2D* dst);
-
 /// Frees the point and stores nullptr in the handle.
 void VEC2D_delete(VEC2D** handle);
 
 /// Prints "VEC2D error" while VEC2D_verbose is set.
 void VEC2D_error();
+
+/// Copies the coordinates and the colour.
+inline void VEC2D_copy(const VEC2D* src, VEC2D* dst) {
+    if (!refused(src == nullptr || dst == nullptr, VEC2D_error)) {
+        *dst = *src;
+    }
+}
 
 } // namespace velm

@@ -22,14 +22,11 @@ protected:
             MUSIC_addInstrument(music, instrument);
         }
     }
-    void TearDown() override {
-        if (music->pattern != nullptr) {
-            SAMPLE_delete(&music->pattern);
-        }
-        MUSIC_delete(&music);
-    }
+    void TearDown() override { pattern = Pattern(music->pattern); } // which MUSIC_delete leaves
 
-    MUSIC* music = MUSIC_new();
+    using Pattern = Owned<SAMPLE_delete>;
+    Pattern pattern;
+    Owned<MUSIC_delete> music{MUSIC_new()};
 };
 
 /// Hits and spacing by the density drawn; 0 hits for a generator that draws none.
@@ -122,7 +119,7 @@ TEST_F(MusicTest, MUSIC_deleteLeavesPattern) {
     for (const int nth : {1, 2, 3, 4, 5, 6}) {
         expectFailure(nth, MUSIC_new);
     }
-    MUSIC* silent = MUSIC_new();
+    const Owned<MUSIC_delete> silent(MUSIC_new());
     const RANDOM before = *MUSIC_random;
     expectReports(MUSIC_verbose, 2, "MUSIC ERROR", [&] {
         MUSIC_addInstrument(music, nullptr), MUSIC_genRoll(nullptr), MUSIC_delete(nullptr);
@@ -131,13 +128,10 @@ TEST_F(MusicTest, MUSIC_deleteLeavesPattern) {
     EXPECT_EQ(MUSIC_random->counter, before.counter);
     EXPECT_EQ(silent->pattern, nullptr);
     EXPECT_EQ(music->instruments->count, 5);
-    MUSIC_delete(&silent);
     MUSIC_genSingle(music);
-    SAMPLE* pattern = music->pattern;
-    MUSIC_delete(&music);
+    pattern = Pattern(music->pattern);
+    music = Owned<MUSIC_delete>(MUSIC_new());
     EXPECT_EQ(pattern->length, barLength);
-    SAMPLE_delete(&pattern);
-    music = MUSIC_new();
 }
 
 } // namespace

@@ -4,10 +4,6 @@
 #include "audio/samples.h"
 #include "support/files.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-
 namespace velm::test {
 namespace {
 

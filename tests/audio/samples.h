@@ -10,8 +10,6 @@
 #include "audio/sample.h"
 #include "support/owned.h"
 
-#include <vector>
-
 namespace velm::test {
 
 using List = std::vector<std::int32_t>;

@@ -4,8 +4,6 @@
 #include "audio/sound.h"
 #include "foundation/chance.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <unistd.h>
 
 namespace velm::test {

@@ -3,7 +3,10 @@
 #include "demo/fps.h"
 #include "foundation/owned.h"
 #include "headless/headless.h"
+#include "platform/clock.h"
+#include "platform/timer.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace velm::test {
@@ -68,6 +71,28 @@ TEST_F(FpsTest, FPS_lowWordsOnly) {
     EXPECT_EQ(fps->elapsedMicros, 1000) << "exact across the wrap of the low word";
     frame(0x100000000LL + 7);
     EXPECT_EQ(fps->elapsedMicros, 7) << "a frame of 71 minutes looks short";
+}
+
+std::vector<std::int64_t> rung;
+
+TEST(Alarm, RingsInVirtualTime) {
+    const std::int64_t begin = CLOCK_now();
+    TIMER timer{.interval = 300, .handler = [](std::int32_t) { rung.push_back(CLOCK_now()); }, .repeat = 'y'};
+    TIMER_start(&timer);
+    CLOCK_sleep(299), CLOCK_sleep(601);
+    timer.interval = 1000000;
+    TIMER_start(&timer); // refused: the alarm before goes on
+    CLOCK_sleep(300);
+    timer = {.interval = 50, .handler = timer.handler, .repeat = 'n'};
+    TIMER_start(&timer);
+    CLOCK_sleep(1000);
+    timer.interval = 0;
+    TIMER_start(&timer);
+    CLOCK_sleep(1000);
+    std::signal(SIGALRM, SIG_DFL);
+    EXPECT_EQ(rung,
+              (std::vector<std::int64_t>{begin + 300, begin + 600, begin + 900, begin + 1200, begin + 1250}));
+    EXPECT_EQ(CLOCK_now(), begin + 3200);
 }
 
 } // namespace

@@ -6,10 +6,6 @@
 #include "demo_run.h"
 #include "support/allocation.h"
 
-#include <cstdio>
-#include <cstdlib>
-#include <gtest/gtest.h>
-#include <string_view>
 #include <sys/wait.h>
 #include <unistd.h>
 

@@ -5,11 +5,7 @@
 #include "demo/scenes/frames.h"
 #include "demo_run.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
 #include <set>
-#include <string>
-#include <vector>
 
 namespace velm::test {
 namespace {

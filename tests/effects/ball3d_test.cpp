@@ -1,13 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "effects/ball3d.h"
-#include "foundation/chance.h"
 #include "foundation/sine.h"
 #include "image/rgb888.h"
 #include "support/owned.h"
-
-#include <algorithm>
-#include <cstdlib>
 
 namespace velm::test {
 namespace {
@@ -35,19 +31,6 @@ std::string plainBall(const BALL3D& ball, IMG* target) {
         }
     }
     return shade <= 255 ? "" : "min=" + std::to_string(lowest) + " max=" + std::to_string(highest);
-}
-
-TEST(Ball3d, DrawsItsNumbersInOrder) {
-    chanceSeed(8810);
-    const Ball ball(BALL3D_new());
-    const long after = chance();
-    chanceSeed(8810);
-    for (const std::int32_t number : {ball->x, ball->y, ball->z, ball->radius}) {
-        EXPECT_EQ(number, chance() % 256);
-    }
-    EXPECT_EQ(ball->colour, chance());
-    EXPECT_EQ(ball->colour2, chance());
-    EXPECT_EQ(after, chance());
 }
 
 TEST(Ball3d, BALL3D_lastShadeDecidesAndBALL3D_greySpills) {

@@ -4,8 +4,6 @@
 #include "image/rgb888.h"
 #include "support/owned.h"
 
-#include <cmath>
-#include <cstdlib>
 #include <set>
 #include <span>
 

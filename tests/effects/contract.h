@@ -58,10 +58,7 @@ void expectContract(const EffectVerbs<Record>& verbs, std::uint8_t& verbose, con
         i < 30 ? frame(alone, screens[0]) : (frame(first, screens[1]), frame(second, screens[2]));
     }
     for (std::int32_t i = 0; i < 30; ++i) {
-        frame(alone, screens[0]);
-    }
-    for (std::int32_t i = 0; i < 30; ++i) {
-        frame(first, screens[1]);
+        frame(alone, screens[0]), frame(first, screens[1]);
     }
     EXPECT_EQ(allocationCount(), before);
     EXPECT_EQ(difference(screens[0], screens[1]), "") << "a like effect disturbed it";

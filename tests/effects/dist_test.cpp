@@ -58,5 +58,18 @@ TEST(Dist, DrawAsThePlainRule) {
     expectPlain<DISTY>(Owned<DISTY_delete>(DISTY_new()), DISTY_draw, DISTY_advance);
 }
 
+TEST(Dist, APictureBentIntoItselfIsReadAsItChanges) {
+    const Owned<DISTY_delete> dist(DISTY_new());
+    const Picture fast(noise(40, 30, 3));
+    const Picture slow(noise(40, 30, 3));
+    dist->source = fast;
+    dist->x = 3;
+    DISTY_draw(dist, fast);
+    for (std::int32_t c = 0; c < 37; ++c) {
+        IMG_copyColumnWrapped(slow, slow, c, c + 3, 16 * SINE_entry((c + 1) * 16) >> 16);
+    }
+    EXPECT_EQ(difference(fast, slow), "");
+}
+
 } // namespace
 } // namespace velm::test

@@ -9,10 +9,8 @@
 #include "effects/scroll.h"
 #include "effects/sinedots.h"
 #include "foundation/chance.h"
-#include "support/owned.h"
 #include "vector/cursor.h"
 #include "vector/font.h"
-#include "vector/vec2d.h"
 
 namespace velm::test {
 namespace {

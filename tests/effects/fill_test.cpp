@@ -3,8 +3,6 @@
 #include "effects/fill.h"
 #include "support/owned.h"
 
-#include <cstdlib>
-
 namespace velm::test {
 namespace {
 

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "audio/sample.h"
 #include "effects/flashpix.h"
 #include "support/owned.h"
 
@@ -47,29 +46,10 @@ TEST(Flashpix, FillsTheShapeAndNothingElse) {
                             [](const FLASHPIX_SPARK& s) { return s.x >= 0 && s.x < 2 && s.y == 0; }));
 }
 
-TEST(Flashpix, ASparkRisesFadesAndWaitsWhenItIsNotToBeLit) {
-    const Owned<SAMPLE_delete> hues(SAMPLE_new());
-    SAMPLE_append(hues, 0x00C000);
+TEST(Flashpix, ASparkWaitsWhenItIsNotToBeLit) {
     const Sparks sparks(FLASHPIX_new());
-    sparks->hues = hues;
-    sparks->shortest = sparks->longest = 20, sparks->width = sparks->height = 1, sparks->glintShare = 0;
     FLASHPIX_setCount(sparks, 1);
-    sparks->sparks->age = 19;
-    std::uint32_t before = 0;
-    std::int32_t brightest = -1;
-    for (std::int32_t frame = 0; frame < 19; ++frame) {
-        FLASHPIX_advance(sparks);
-        const Picture screen(IMG_newSized(3, 3));
-        FLASHPIX_draw(sparks, screen);
-        const std::uint32_t now = screen->pixels[0];
-        EXPECT_EQ(now & 0xFF00FF, 0U);
-        EXPECT_GT(now, 0U) << frame;
-        brightest = now == 0x00C000 ? frame : brightest;
-        EXPECT_TRUE(frame <= 4 ? now >= before : now <= before) << frame;
-        before = now;
-    }
-    EXPECT_GE(brightest, 3);
-    EXPECT_LE(brightest, 5);
+    sparks->shortest = sparks->longest = 20, sparks->sparks->life = 20;
     sparks->lit = 0, sparks->sparks->age = 19;
     for (std::int32_t frame = 0; frame < 100; ++frame) {
         FLASHPIX_advance(sparks);

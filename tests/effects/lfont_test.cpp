@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "effects/line_font.h"
 #include "foundation/chance.h"
-#include "foundation/list.h"
-#include "vector/seg2d.h"
-#include "vector/vec2d.h"
 
 namespace velm::test {
 namespace {

@@ -11,7 +11,6 @@
 #include "effects/lfont.h"
 #include "support/owned.h"
 #include "vector/objects.h"
-#include "vector/vec2d.h"
 
 namespace velm::test {
 

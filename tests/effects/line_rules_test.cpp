@@ -1,58 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What rain, leaping figures, breathing lines and rays keep to, whatever chance they had.
+// What leaping figures, breathing lines, rays and stars keep to at the ends of their ranges.
 #include "audio/sample.h"
 #include "effects/archpath.h"
 #include "effects/lradial.h"
-#include "effects/lrain.h"
+#include "effects/lstar.h"
 #include "effects/sineline.h"
+#include "foundation/chance.h"
 #include "support/owned.h"
-
-#include <algorithm>
-#include <cstdlib>
-#include <memory>
 
 namespace velm::test {
 namespace {
-
-TEST(Lrain, EndsOnTheGroundInARing) {
-    const Owned<LRAIN_delete> rain(LRAIN_new());
-    rain->gust = 0;
-    std::int32_t landed = 0;
-    for (std::int32_t frame = 0; frame < 300; ++frame) {
-        LRAIN_advance(rain);
-        for (std::int32_t i = 0; i < rain->count; ++i) {
-            ASSERT_LT(rain->drops[i].y >> 16, 192 + (64 * rain->drops[i].near >> 8)) << frame;
-        }
-        for (const LRAIN_RING& ring : rain->rings) {
-            const bool isNew = ring.age == 0;
-            landed += isNew ? 1 : 0;
-            ASSERT_TRUE(!isNew || (ring.y >= 192 && ring.y < 256));
-        }
-    }
-    EXPECT_GT(landed, 300);
-}
-
-TEST(Archpath, LeapsFromWhereItLanded) {
-    const Owned<ARCHPATH_delete> path(ARCHPATH_new());
-    std::int32_t landings = 0;
-    std::int32_t highest = path->ground;
-    ARCHPATH_POSE last = path->trail[0];
-    for (std::int32_t frame = 0; frame < 45 * 40; ++frame) {
-        const std::int32_t goal = path->to;
-        const bool lands = ARCHPATH_advance(path);
-        const ARCHPATH_POSE& pose = path->trail[0];
-        ASSERT_LE(std::abs(pose.x - last.x), (224 - 32) / 45 + 1) << "no leap of the leap, frame " << frame;
-        ASSERT_TRUE(pose.x >= 32 && pose.x <= 224 && pose.y <= path->ground);
-        ASSERT_TRUE(!lands || (pose.x == goal && pose.y == path->ground && path->from == goal));
-        landings += lands ? 1 : 0;
-        highest = std::min(highest, pose.y);
-        last = pose;
-    }
-    EXPECT_EQ(landings, 40);
-    EXPECT_TRUE(highest >= path->ground - path->rise && highest < path->ground - path->rise * 3 / 4);
-}
 
 TEST(Archpath, LeapsWhereCoordinatesEnd) {
     const Owned<ARCHPATH_delete> path(ARCHPATH_new());
@@ -101,6 +60,25 @@ TEST(Lradial, DrawsTheLengthsItIsGiven) {
             ASSERT_EQ(IMG_getPixel(screen, x, 128), expected) << x;
         }
     }
+}
+
+TEST(Lstar, ClipsAndStaysInItsWorld) {
+    chanceSeed(5);
+    const Owned<LSTAR_delete> sky(LSTAR_new());
+    const Picture screen(IMG_newSized(64, 48));
+    std::int32_t most = 0;
+    for (const std::int32_t speed : {700, -5000, 0x7FFFFFFF}) {
+        sky->speed = speed, sky->x = speed == 700 ? 32 : -40;
+        for (std::int32_t frame = 0; frame < 200; ++frame, LSTAR_advance(sky)) {
+            IMG_fill(screen, 0);
+            LSTAR_draw(sky, screen), LSTAR_drawPolygons(sky, screen);
+            most = std::max(most, lit(screen));
+            for (std::int32_t i = 0; i < sky->count; ++i) {
+                ASSERT_TRUE(sky->stars[i].z >= LSTAR_near && sky->stars[i].z < LSTAR_far);
+            }
+        }
+    }
+    EXPECT_GT(most, 100);
 }
 
 } // namespace

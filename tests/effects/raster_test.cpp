@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "effects/raster.h"
 #include "foundation/chance.h"
-#include "image/rgb888.h"
 #include "support/owned.h"
-
-#include <cstdlib>
-#include <filesystem>
-#include <vector>
 
 namespace velm::test {
 namespace {
@@ -58,27 +53,6 @@ TEST(Raster, RASTER_advanceStopsAtEnd) {
         bars->speed = speed;
         RASTER_advance(bars);
         EXPECT_EQ(bars->position, to) << from << " by " << speed;
-    }
-}
-
-TEST(Raster, PaintsRowsAndColumns) {
-    const Bars bars(newBars(7));
-    for (const std::int32_t position : {0, 0x6FFFF, 0x70000, -0x18000}) {
-        bars->position = position;
-        const Picture old(noise(20, 30, 1));
-        const Picture rows(noise(20, 30, 1));
-        const Picture columns(noise(20, 30, 1));
-        const Picture blended(noise(20, 30, 1));
-        RASTER_draw(bars, rows);
-        RASTER_drawVertical(bars, columns);
-        RASTER_drawBlend(bars, blended, 77);
-        const std::int32_t first = (position >> 16) + 7;
-        for (std::int32_t i = 0; i < 20 * 30; ++i) {
-            const std::uint32_t colour = bars->colours[(first + i / 20) % 7];
-            ASSERT_EQ(rows->pixels[i], colour);
-            ASSERT_EQ(columns->pixels[i], bars->colours[(first + i % 20) % 7]);
-            ASSERT_EQ(blended->pixels[i], RGB888_mix(old->pixels[i], colour, 77));
-        }
     }
 }
 

@@ -28,27 +28,6 @@ void plainDots(const SINEDOTS& dots, IMG* target, Plot plot) {
     }
 }
 
-TEST(Sinedots, DrawsItsNumbersInOrder) {
-    chanceSeed(7);
-    const Dots dots(SINEDOTS_new());
-    const int after = chance();
-    chanceSeed(7);
-    for (std::int32_t k = 0; k < 3; ++k) {
-        EXPECT_EQ(dots->phase[k].x, chance() % 1024);
-        EXPECT_EQ(dots->phase[k].y, chance() % 1024);
-        EXPECT_EQ(dots->speed[k].x, chance() % (12 - 2 * k) + 1);
-        EXPECT_EQ(dots->speed[k].y, chance() % (12 - 2 * k) + 1);
-        EXPECT_EQ(dots->step[k].x, chance() % 16 + 5 + k);
-        EXPECT_EQ(dots->step[k].y, chance() % 16 + 6 + k);
-    }
-    EXPECT_EQ(after, chance());
-    dots->phase[0].x = 1020, dots->speed[0].x = 12;
-    dots->phase[2].y = 3, dots->speed[2].y = -5;
-    SINEDOTS_advance(dots);
-    EXPECT_EQ(dots->phase[0].x, 8);
-    EXPECT_EQ(dots->phase[2].y, 1022);
-}
-
 TEST(Sinedots, SINEDOTS_depthTakesNextFieldAndDrawsAsThePlainRule) {
     const Dots dots(SINEDOTS_new());
     for (const std::int32_t count : {1, 1000, 1024, 1025, 5000, 16384}) {

@@ -63,25 +63,6 @@ TEST(Sinescan, ShiftsScansAndTurnsOverLineByLine) {
     }
 }
 
-TEST(Sinescan, ATwisterShowsTheSidesThatFaceTheViewer) {
-    const Picture source(IMG_newSized(4, 4));
-    IMG_fill(source, 0xFFFFFF);
-    const Scan scan(straight(source));
-    scan->way = SINESCAN_WAY::twister;
-    scan->width = scan->height = 64;
-    scan->shade = 256;
-    const auto lookAt = [&](std::int32_t turn, std::int32_t x) {
-        const Picture screen(IMG_newSized(256, 256));
-        scan->turn = turn;
-        SINESCAN_draw(scan, screen);
-        return IMG_getPixel(screen, x, 128);
-    };
-    EXPECT_GE(lookAt(-128, 128), 0xFEFEFEU) << "one side alone, straight on";
-    EXPECT_EQ(lookAt(-128, 128 + 34), 0U) << "beside it";
-    EXPECT_GT(lookAt(0, 128 + 40), 0U) << "a corner ahead, so the column is as wide as its diagonal";
-    EXPECT_LT(lookAt(-90, 128), lookAt(-120, 128)) << "it darkens as it turns away";
-}
-
 TEST(Sinescan, StaysInsideWhateverTheWavesDo) {
     Images random(6);
     const Picture source(noise(33, 9, 7));

@@ -9,8 +9,6 @@
 #include "effects/lscroll.h"
 #include "effects/wordzoom.h"
 
-#include <cmath>
-
 namespace velm::test {
 namespace {
 

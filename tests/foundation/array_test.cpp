@@ -3,8 +3,6 @@
 #include "foundation/array.h"
 #include "support/owned.h"
 
-#include <memory>
-
 namespace velm::test {
 namespace {
 

@@ -6,14 +6,7 @@
 #include "support/files.h"
 #include "support/owned.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <dirent.h>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
 
 namespace velm::test {
 namespace {

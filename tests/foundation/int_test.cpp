@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/int.h"
-#include "support/capture_stdout.h"
-
-#include <limits>
+#include "support/test.h"
 
 namespace velm::test {
 namespace {

@@ -3,9 +3,6 @@
 #include "foundation/list.h"
 #include "support/owned.h"
 
-#include <gtest/gtest.h>
-#include <string>
-
 namespace velm::test {
 namespace {
 

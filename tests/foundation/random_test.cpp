@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
+#include "foundation/chance.h"
 #include "foundation/random.h"
 #include "support/owned.h"
-
-#include <gtest/gtest.h>
-#include <string_view>
+#include "support/test.h"
 
 namespace velm::test {
 namespace {
@@ -54,6 +53,21 @@ TEST(Random, AMissingRecordIsReported) {
     for (const auto draw : draws) {
         expectReports(RANDOM_verbose, 1, "RANDOM error", [draw] { EXPECT_EQ(draw(nullptr), 0); });
     }
+}
+
+TEST(Chance, DrawsTheNumbersOfTheGnuLibrary) {
+#ifdef __GLIBC__
+    for (const unsigned int seed : {0U, 1U, 8810U, 273880913U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
+        chanceSeed(seed);
+        srandom(seed);
+        for (int i = 0; i < 1000000; ++i) {
+            ASSERT_EQ(chance(), random()) << "draw " << i << " of seed " << seed;
+        }
+    }
+#endif
+    chanceSeed(1); // what the first draws are where there is no such library to ask
+    EXPECT_EQ(chance(), 1804289383);
+    EXPECT_EQ(chance(), 846930886);
 }
 
 } // namespace

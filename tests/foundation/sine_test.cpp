@@ -3,9 +3,6 @@
 #include "foundation/sine.h"
 #include "support/owned.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
 #include <numbers>
 
 namespace velm::test {

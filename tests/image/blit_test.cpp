@@ -3,13 +3,8 @@
 //
 // Every loop that runs over whole rows against the plain rule, pixel by pixel, on random images and
 // rectangles.
-#include "image/img.h"
 #include "image/imgfx.h"
 #include "support/owned.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
-#include <limits>
 
 namespace velm::test {
 namespace {

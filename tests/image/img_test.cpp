@@ -1,12 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "image/img.h"
 #include "image/imgfx.h"
 #include "image/rgb888.h"
 #include "support/owned.h"
-
-#include <gtest/gtest.h>
-#include <string>
 
 namespace velm::test {
 namespace {

@@ -1,36 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "image/img.h"
-#include "support/allocation.h"
-#include "support/capture_stdout.h"
 #include "support/files.h"
-#include "support/images.h"
-
-#include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <gtest/gtest.h>
-#include <memory>
-#include <string>
+#include "support/owned.h"
 
 namespace velm::test {
 namespace {
 
-/// Calls a reader with exactly these bytes: they stand at the end of a heap block of their own, so that a
-/// sanitizer sees a read past them.
-template <typename Read>
-IMG* fromBlock(const std::string& bytes, Read read) {
-    const auto block = std::make_unique<char[]>(bytes.size());
-    std::memcpy(block.get(), bytes.data(), bytes.size());
-    return read(block.get());
-}
-
+/// Reads exactly these bytes: they stand at the end of a heap block of their own, so that a sanitizer sees a
+/// read past them.
 IMG* decode(const std::string& bytes) {
-    return fromBlock(bytes, [&](const char* block) { return IMG_fromPNM(block, bytes.size()); });
+    return IMG_fromPNM(std::vector(bytes.begin(), bytes.end()).data(), bytes.size());
 }
 
 IMG* decodeUnsized(const std::string& bytes) {
-    return fromBlock(bytes, [](const char* block) { return IMG_fromPNM(block); });
+    return IMG_fromPNM(std::vector(bytes.begin(), bytes.end()).data());
 }
 
 /// The size and the pixels as text, or "none".
@@ -102,13 +85,10 @@ TEST(Pnm, IMG_bitmapSetIsWhite) {
 }
 
 TEST(Pnm, IMG_bitmapWidthRoundsUp) {
-    IMG* img = decode(std::string("P4 10 2\n\xFF\x3F\x00\xC0", 12));
-    ASSERT_NE(img, nullptr);
-    EXPECT_EQ(img->width, 16);
-    EXPECT_EQ(img->height, 2);
+    const Picture img(decode(std::string("P4 10 2\n\xFF\x3F\x00\xC0", 12)));
+    ASSERT_TRUE(img != nullptr && img->width == 16 && img->height == 2);
     EXPECT_EQ(IMG_getPixel(img, 15, 0), 0xFFFFFFU) << "fill bits are pixels";
     EXPECT_EQ(IMG_getPixel(img, 8, 0), 0U);
-    IMG_delete(&img);
     EXPECT_EQ(decoded("P1 1 1 10000000").substr(0, 11), "8x1: FFFFFF");
 }
 
@@ -142,11 +122,7 @@ TEST(Pnm, RandomBytesNeverCrash) {
         for (std::int32_t i = images.number(0, 30); i > 0; --i) {
             bytes += alphabet[images.number(0, sizeof alphabet - 2)];
         }
-        IMG* img = decode(bytes);
-        pictures += img != nullptr ? 1 : 0;
-        if (img != nullptr) {
-            IMG_delete(&img);
-        }
+        pictures += Picture(decode(bytes)) != nullptr ? 1 : 0;
     }
     EXPECT_GT(pictures, 100U);
 }
@@ -159,8 +135,7 @@ protected:
 };
 
 TEST_F(PnmFile, WritesP6ToTheByte) {
-    Images images(3);
-    IMG* img = images.image(2, 1);
+    const Picture img(IMG_newSized(2, 1));
     img->pixels[0] = 0x0A0D00;
     img->pixels[1] = 0xFF8001;
     ASSERT_EQ(IMG_writePPM(img, path("a.ppm").c_str()), 1);
@@ -174,13 +149,11 @@ TEST_F(PnmFile, WritesP6ToTheByte) {
         IMG_setSize(img, width, height);
         EXPECT_EQ(IMG_writePPM(img, path("a.ppm").c_str()), 0);
     }
-    IMG_delete(&img);
 }
 
 /// Their tools read what we write, and we read what they write, in every format.
 TEST_F(PnmFile, AgreesWithNetpbm) {
-    Images images(11);
-    IMG* img = images.image(24, 9);
+    const Picture img(noise(24, 9, 11));
     ASSERT_EQ(IMG_writePPM(img, path("ours.ppm").c_str()), 1);
     const std::string convert =
         "cd " + folder.path +
@@ -190,45 +163,34 @@ TEST_F(PnmFile, AgreesWithNetpbm) {
     ASSERT_EQ(std::system(convert.c_str()), 0) << "netpbm is missing";
     const auto read = [this](const char* name) { return decode(contents(path(name))); };
     for (const char* name : {"p3", "p6"}) {
-        IMG* theirs = read(name);
+        const Picture theirs(read(name));
         ASSERT_NE(theirs, nullptr) << name;
         EXPECT_EQ(difference(theirs, img), "") << name;
-        IMG_delete(&theirs);
     }
     const char* pairs[][2] = {{"p5", "p2"}, {"p4", "p1"}};
     for (const auto& [binary, text] : pairs) {
-        IMG* first = read(binary);
-        IMG* second = read(text);
+        const Picture first(read(binary));
+        const Picture second(read(text));
         ASSERT_TRUE(first != nullptr && second != nullptr) << binary;
         EXPECT_EQ(difference(first, second), "") << binary;
-        IMG_delete(&first);
-        IMG_delete(&second);
     }
-    IMG_delete(&img);
 }
 
 TEST(Text, DumpsSixPixelsALineAndReadsThemBack) {
-    IMG* img = IMG_newSized(1, 1);
-    img->pixels[0] = 0x0A0B0C;
-    char* text = IMG_toText(img);
-    EXPECT_STREQ(text, "IMG{\nP3\n1 1\n255\n 10  11  12\n}\n");
-    delete[] text;
-    IMG_setSize(img, 0, 0);
-    text = IMG_toText(img);
-    EXPECT_STREQ(text, "IMG{}");
-    delete[] text;
-    IMG_delete(&img);
+    const auto textOf = [](const IMG* img) {
+        return std::string(std::unique_ptr<char[]>(IMG_toText(img)).get());
+    };
+    const Picture pixel(IMG_newSized(1, 1));
+    pixel->pixels[0] = 0x0A0B0C;
+    EXPECT_EQ(textOf(pixel), "IMG{\nP3\n1 1\n255\n 10  11  12\n}\n");
+    EXPECT_EQ(textOf(Picture(IMG_newSized(0, 0))), "IMG{}");
     for (const std::int32_t width : {1, 5, 6, 7, 12}) {
-        Images images(static_cast<std::uint32_t>(width));
-        img = images.image(width, 3);
-        text = IMG_toText(img);
-        EXPECT_EQ(std::count(text, text + std::strlen(text), '\n'), 4 + (width * 3 + 5) / 6 + 1);
-        IMG* back = IMG_fromText(text);
+        const Picture img(noise(width, 3, static_cast<std::uint32_t>(width)));
+        const std::string text = textOf(img);
+        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 4 + (width * 3 + 5) / 6 + 1);
+        const Picture back(IMG_fromText(text.c_str()));
         ASSERT_NE(back, nullptr);
         EXPECT_EQ(difference(back, img), "");
-        delete[] text;
-        IMG_delete(&img);
-        IMG_delete(&back);
     }
     EXPECT_EQ(described(IMG_fromText("IMG{P3\n1 1\n9\n4294967297 18446744073709551618 3}")), "1x1: 010203");
 }

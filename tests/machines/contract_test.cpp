@@ -4,7 +4,6 @@
 // What demo and effects rely on, whatever machine is behind the seam: the same cases for each of them.
 #include "foundation/list.h"
 #include "hands.h"
-#include "image/img.h"
 #include "platform/clock.h"
 #include "platform/dsp.h"
 #include "platform/xdpy.h"
@@ -14,7 +13,6 @@
 #include "process.h"
 #include "support/owned.h"
 
-#include <algorithm>
 #include <csignal>
 
 namespace velm::test {
@@ -115,6 +113,12 @@ TEST_F(MachineTest, GivesKeysOneAPollInTheirOrder) {
 TEST_F(MachineTest, XPTR_firstMotionWins) {
     const Owned<XPTR_delete> pointer(XPTR_new());
     EXPECT_EQ(pointer->x + pointer->y + pointer->buttons, 0);
+    const auto pollUntil = [&](auto holds) {
+        ASSERT_TRUE(eventually([&] {
+            XPTR_poll(pointer);
+            return holds();
+        }));
+    };
     hands().point(190, 190); // where it comes in may be no motion yet
     ASSERT_TRUE(eventually([&] {
         XPTR_query(pointer);
@@ -122,16 +126,9 @@ TEST_F(MachineTest, XPTR_firstMotionWins) {
     }));
     XPTR_flush(pointer);
     hands().point(200, 210);
-    ASSERT_TRUE(eventually([&] {
-        XPTR_poll(pointer);
-        return pointer->x == 200 && pointer->y == 210;
-    }));
-    hands().point(20, 30);
-    hands().point(120, 130);
-    ASSERT_TRUE(eventually([&] {
-        XPTR_poll(pointer);
-        return pointer->x != 200;
-    }));
+    pollUntil([&] { return pointer->x == 200 && pointer->y == 210; });
+    hands().point(20, 30), hands().point(120, 130);
+    pollUntil([&] { return pointer->x != 200; });
     EXPECT_EQ(pointer->x, 20);
     EXPECT_EQ(pointer->y, 30);
     XPTR_query(pointer);

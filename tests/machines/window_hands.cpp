@@ -6,9 +6,6 @@
 #include "pulse_server.h"
 #include "x11_session.h"
 
-#include <algorithm>
-#include <cstdlib>
-
 namespace velm::test {
 namespace {
 

@@ -19,6 +19,13 @@ const sizes = {
     wide: { width: 2560, height: 1440 },
 };
 
+/** True where a fiftieth of the picture is of a colour, as the logo is not. */
+const isColoured = `(() => { const copy = new OffscreenCanvas(256, 256).getContext("2d");
+    copy.drawImage(document.getElementById("picture"), 0, 0);
+    const { data } = copy.getImageData(0, 0, 256, 256);
+    return data.filter((value, i) => i % 4 === 1 && Math.abs(value - data[i + 1]) > 64).length > 1310; })()`;
+const arrived = "Promise.allSettled(document.getAnimations().map((animation) => animation.finished)).then(() => {})";
+
 /** The states of the page, each from the one before. */
 const states = {
     intro: async () => {},
@@ -32,6 +39,7 @@ const states = {
         await tab.click("#play");
         await tab.until("document.body.classList.contains('playing')");
         await tab.press("Tab"); // the bar stays while it has the keys
+        await tab.until(isColoured);
     },
     "list while playing": (tab) => tab.press("Enter"),
 };
@@ -45,11 +53,11 @@ const browser = await Browser.start();
 for (const [size, look] of Object.entries(sizes)) {
     for (const scheme of ["dark", "light"]) {
         const media = { "prefers-color-scheme": scheme, "prefers-reduced-motion": size === "wide" ? "reduce" : "no-preference" };
-        const tab = await browser.open(`${pathToFileURL(page)}#extra-9`, { ...look, media });
+        const tab = await browser.open(`${pathToFileURL(page)}#extra-5`, { ...look, media });
         await tab.run(source);
         for (const [state, reach] of Object.entries(states)) {
             await reach(tab);
-            await new Promise((goOn) => setTimeout(goOn, 400)); // what slides in has arrived
+            await tab.run(arrived);
             const name = `${size} ${scheme} ${state}`;
             for (const finding of await findings(tab)) {
                 check(false, `${name}: ${finding}`);

@@ -11,8 +11,9 @@ import { mkdtempSync, rmSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 
+// Root and most containers have no sandbox to offer, and the page is our own.
 const options = [
-    "--headless=new", "--remote-debugging-pipe", "--no-first-run", "--disable-gpu", "--disable-dev-shm-usage",
+    "--headless=new", "--no-sandbox", "--remote-debugging-pipe", "--no-first-run", "--disable-gpu", "--disable-dev-shm-usage",
     "--disable-background-networking", "--disable-component-update", "--hide-scrollbars", "--mute-audio",
 ];
 
@@ -20,8 +21,7 @@ export class Browser {
     static async start(...more) {
         const browser = new Browser();
         browser.profile = mkdtempSync(join(tmpdir(), "velm-page-"));
-        const sandbox = process.getuid() === 0 ? ["--no-sandbox"] : []; // root can have none
-        browser.process = spawn("chromium", [...options, ...sandbox, ...more, `--user-data-dir=${browser.profile}`], {
+        browser.process = spawn("chromium", [...options, ...more, `--user-data-dir=${browser.profile}`], {
             stdio: ["ignore", "ignore", "ignore", "pipe", "pipe"],
         });
         browser.answers = new Map();
@@ -132,7 +132,7 @@ class Tab {
     }
 
     /** Waits until an expression is true. */
-    async until(expression, seconds = 20) {
+    async until(expression, seconds = 60) {
         const end = Date.now() + 1000 * seconds;
         while (!(await this.run(expression))) {
             if (Date.now() > end) {

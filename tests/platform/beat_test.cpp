@@ -3,10 +3,7 @@
 //
 // How long frames last on a display that has a beat of its own.
 #include "platform/beat.h"
-
-#include <cmath>
-#include <gtest/gtest.h>
-#include <vector>
+#include "support/test.h"
 
 namespace velm {
 namespace {

@@ -3,13 +3,7 @@
 //
 // Where the picture stands on a screen, and how it is enlarged.
 #include "platform/enlarge.h"
-#include "support/images.h"
 #include "support/owned.h"
-
-#include <algorithm>
-#include <cstring>
-#include <gtest/gtest.h>
-#include <vector>
 
 namespace velm {
 namespace {

@@ -1,10 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "platform/gain.h"
-
-#include <gtest/gtest.h>
-#include <numeric>
-#include <vector>
+#include "support/test.h"
 
 namespace velm {
 namespace {

@@ -5,9 +5,6 @@
 #include "platform/pace.h"
 #include "support/images.h"
 
-#include <gtest/gtest.h>
-#include <limits>
-
 namespace velm {
 namespace {
 

@@ -8,15 +8,12 @@
 #include "platform/xsnd.h"
 #include "support/owned.h"
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdarg>
-#include <cstring>
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <unistd.h>
-#include <vector>
 
 namespace velm::test {
 namespace {

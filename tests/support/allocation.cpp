@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/allocation.h"
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <new>
 
 namespace {

@@ -7,7 +7,7 @@
 //     EXPECT_EQ(IMG_new(), nullptr);
 #pragma once
 
-#include <cstdint>
+#include "support/test.h"
 
 namespace velm::test {
 

@@ -8,11 +8,7 @@
 //     EXPECT_EQ(contents(folder / "a.ppm").substr(0, 2), "P6");
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
+#include "support/test.h"
 
 namespace velm::test {
 

@@ -4,9 +4,6 @@
 
 #include "foundation/wide.h"
 
-#include <algorithm>
-#include <cstdio>
-
 namespace velm::test {
 
 namespace {

@@ -8,10 +8,9 @@
 #pragma once
 
 #include "image/img.h"
+#include "support/test.h"
 
-#include <cstdint>
 #include <random>
-#include <string>
 
 namespace velm::test {
 

@@ -8,9 +8,7 @@
 #pragma once
 
 #include "foundation/owned.h"
-#include "image/img.h"
 #include "support/allocation.h"
-#include "support/capture_stdout.h"
 #include "support/images.h"
 
 namespace velm::test {

@@ -9,11 +9,7 @@
 #include "x11_session.h"
 
 #include <X11/Xutil.h>
-#include <cstdlib>
-#include <filesystem>
-#include <gtest/gtest.h>
 #include <unistd.h>
-#include <vector>
 
 namespace velm::test {
 namespace {
@@ -75,20 +71,7 @@ protected:
 };
 
 TEST_F(DisplayTest, TheWindowHasItsTitleSizeAndPlace) {
-    ::Window root = 0;
-    int x = -1;
-    int y = -1;
-    unsigned int width = 0;
-    unsigned int height = 0;
-    unsigned int borderWidth = 0;
-    unsigned int depth = 0;
-    ASSERT_NE(XGetGeometry(session.connection, window, &root, &x, &y, &width, &height, &borderWidth, &depth),
-              0);
-    EXPECT_EQ(x, 0);
-    EXPECT_EQ(y, 0);
-    EXPECT_EQ(width, 256U);
-    EXPECT_EQ(height, 256U);
-    EXPECT_EQ(borderWidth, 2U);
+    EXPECT_EQ(session.placeOf(window), (Session::Place{border, border, windowSize, windowSize}));
     EXPECT_EQ(std::to_string(display->depth), testDepth());
 }
 

@@ -7,8 +7,6 @@
 #include "process.h"
 #include "x11_session.h"
 
-#include <cstdlib>
-
 namespace velm::test {
 namespace {
 
@@ -41,25 +39,6 @@ protected:
     }
     Session session{server().display()};
 };
-
-TEST_F(KeysTest, ReachTheirTargets) {
-    press("space");
-    EXPECT_EQ(demo.control, controlNextPart);
-    press("6");
-    EXPECT_EQ(demo.fps->targetRate, 60);
-    press("5");
-    EXPECT_EQ(demo.fps->targetRate, 30);
-    press("w");
-    EXPECT_EQ(demo.clearMode, ClearMode::white);
-    press("q");
-    EXPECT_EQ(demo.background, 0xFFFFFFU);
-    press("b");
-    EXPECT_EQ(demo.blur, 1);
-    press("g");
-    EXPECT_EQ(demo.glare, 1);
-    press("f");
-    EXPECT_EQ(settings.fadeOn, 0);
-}
 
 TEST_F(KeysTest, TheArrowsOfAnyKeymapMoveTheSelectionAndNothingElseDoes) {
     demo.dirListing = DIR_new();

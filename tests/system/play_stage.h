@@ -13,16 +13,8 @@
 #include "process.h"
 #include "x11_session.h"
 
-#include <algorithm>
 #include <csignal>
-#include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <map>
-#include <memory>
-#include <string_view>
 
 namespace velm::test {
 
@@ -98,6 +90,32 @@ public:
         ASSERT_NE(window, 0U);
     }
 
+    /// Presses Escape, at which the player leaves without a word.
+    void leave() const {
+        session.press("Escape");
+        EXPECT_EQ(player->waitForExit(), 0);
+        EXPECT_EQ(player->errors(), "");
+    }
+
+    /// Starts a window manager, which ends with the stage.
+    void bringManager() {
+        const std::string started = temporaryFile();
+        manager = std::make_unique<Child>(
+            std::vector<std::string>{"openbox", "--sm-disable", "--startup", "rm " + started},
+            Environment{{"DISPLAY", server.display()}});
+        ASSERT_TRUE(eventually([&] { return !std::filesystem::exists(started); }));
+    }
+
+    /// A green window of the test's.
+    [[nodiscard]] ::Window makeWindow(int x, int y, unsigned int width, unsigned int height) const {
+        ::Display* const display = session.connection;
+        const ::Window made =
+            XCreateSimpleWindow(display, DefaultRootWindow(display), x, y, width, height, 0, 0, 0x00FF00);
+        XMapRaised(display, made);
+        XSync(display, False);
+        return made;
+    }
+
     /// Pictures sent so far.
     [[nodiscard]] std::ptrdiff_t puts() const {
         const std::string log = contents(spyLog);
@@ -169,6 +187,7 @@ public:
     Session session;
     Environment more; ///< of the player's
     std::string spyLog = temporaryFile();
+    std::unique_ptr<Child> manager;
     std::unique_ptr<Child> player;
     ::Window window = 0;
 };

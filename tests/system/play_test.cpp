@@ -7,14 +7,6 @@
 #include "play_stage.h"
 #include "support/owned.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <memory>
-
 namespace velm::test {
 namespace {
 
@@ -41,9 +33,7 @@ TEST_P(PlayFrames, AreTheDemosBitForBitOnEveryWayToTheServer) {
         stage.pause();
         stage.expectShown(2, 0, 0);
         EXPECT_EQ(stage.shown(2, 0, 0), static_cast<std::size_t>(stage.puts())) << "that of the same number";
-        stage.session.press("Escape");
-        EXPECT_EQ(stage.player->waitForExit(), 0);
-        EXPECT_EQ(stage.player->errors(), "");
+        stage.leave();
         EXPECT_EQ(stage.player->output(), "sound: none\n");
     }
 }
@@ -68,12 +58,7 @@ TEST(Play, TheWindowSuitsTheScreenAndCanBeResizedAlsoDuringAPause) {
         stage.expectShown(size.scale, size.left, size.top);
     }
     // A cover that goes away leaves nothing of its own.
-    const ::Window cover =
-        XCreateSimpleWindow(stage.session.connection, DefaultRootWindow(stage.session.connection), 50, 300,
-                            200, 200, 0, 0, 0x00FF00);
-    XMapRaised(stage.session.connection, cover);
-    XSync(stage.session.connection, False);
-    XDestroyWindow(stage.session.connection, cover);
+    XDestroyWindow(stage.session.connection, stage.makeWindow(50, 300, 200, 200));
     XSync(stage.session.connection, False);
     stage.expectShown(2, 4, 244);
     XDestroyWindow(stage.session.connection, stage.window);
@@ -116,10 +101,7 @@ TEST(Play, ThePointerIsThatOfThePicture) {
 
 TEST(Play, AManagerFillsTheScreenHidesResizesAndCloses) {
     Stage stage("24", "1280x1050", {});
-    const std::string started = temporaryFile();
-    const Child manager({"openbox", "--sm-disable", "--startup", "rm " + started},
-                        {{"DISPLAY", stage.server.display()}});
-    ASSERT_TRUE(eventually([&] { return !std::filesystem::exists(started); }));
+    stage.bringManager();
     stage.play({"--fullscreen"});
     EXPECT_TRUE(eventually([&] {
         return stage.session.placeOf(stage.window) == Session::Place{0, 0, 1280, 1050};
@@ -134,8 +116,7 @@ TEST(Play, AManagerFillsTheScreenHidesResizesAndCloses) {
     testing::Test::RecordProperty("processorPercent", static_cast<int>(100 * share));
     stage.pause();
     stage.expectShown(4, 128, 13);
-    stage.session.press("Escape");
-    EXPECT_EQ(stage.player->waitForExit(), 0);
+    stage.leave();
 
     stage.play({"--scale", "2"});
     const std::string id = std::to_string(stage.window);
@@ -156,17 +137,14 @@ TEST(Play, AManagerFillsTheScreenHidesResizesAndCloses) {
 
 TEST(Play, WithoutAManagerItFillsTheScreenAndHasTheKeyboard) {
     Stage stage("24", "800x600", {});
-    const ::Window other = XCreateSimpleWindow(
-        stage.session.connection, DefaultRootWindow(stage.session.connection), 0, 0, 10, 10, 0, 0, 0);
-    XMapWindow(stage.session.connection, other);
+    const ::Window other = stage.makeWindow(0, 0, 10, 10);
     XSetInputFocus(stage.session.connection, other, RevertToPointerRoot, CurrentTime);
     XSync(stage.session.connection, False);
     stage.play({"--fullscreen"});
     EXPECT_EQ(stage.session.placeOf(stage.window), (Session::Place{0, 0, 800, 600}));
     stage.pause();
     stage.expectShown(2, 144, 44);
-    stage.session.press("Escape");
-    EXPECT_EQ(stage.player->waitForExit(), 0);
+    stage.leave();
     ::Window focus = 0;
     int revert = 0;
     XGetInputFocus(stage.session.connection, &focus, &revert);

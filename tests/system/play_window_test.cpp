@@ -70,21 +70,15 @@ TEST(PlayKeys, ThatAreHeldActOnce) {
     ASSERT_EQ(std::system("sleep 1.2"), 0); // the server repeats a key after 0.66 s, 25 times a second
     EXPECT_EQ(stage.puts(), before) << "the pause stays";
     stage.session.xdotool({"keyup", "p"});
-    stage.session.press("Escape");
-    EXPECT_EQ(stage.player->waitForExit(), 0);
+    stage.leave();
 }
 
 TEST(PlayWindow, SaysWhatItIsAndFillsTheScreenAtAKeyWithAManagerAndWithout) {
     for (const bool managed : {true, false}) {
         SCOPED_TRACE(managed);
         Stage stage("24", "800x600");
-        const std::string started = temporaryFile();
-        std::unique_ptr<Child> manager;
         if (managed) {
-            manager = std::make_unique<Child>(
-                std::vector<std::string>{"openbox", "--sm-disable", "--startup", "rm " + started},
-                Environment{{"DISPLAY", stage.server.display()}});
-            ASSERT_TRUE(eventually([&] { return !std::filesystem::exists(started); }));
+            stage.bringManager();
         }
         stage.play({"--scale", "1"});
         XClassHint names{};
@@ -105,8 +99,7 @@ TEST(PlayWindow, SaysWhatItIsAndFillsTheScreenAtAKeyWithAManagerAndWithout) {
             stage.session.press(key);
             EXPECT_TRUE(eventually([&] { return stage.session.placeOf(stage.window) == before; }));
         }
-        stage.session.press("Escape");
-        EXPECT_EQ(stage.player->waitForExit(), 0);
+        stage.leave();
     }
 }
 
@@ -130,8 +123,7 @@ TEST(PlayWindow, TheRestingPointerLeavesTheFullScreenAndTheScreenSaverWaits) {
     XScreenSaverInfo* const saver = XScreenSaverAllocInfo();
     XScreenSaverQueryInfo(stage.session.connection, DefaultRootWindow(stage.session.connection), saver);
     EXPECT_NE(saver->state, ScreenSaverOn);
-    stage.session.press("Escape");
-    EXPECT_EQ(stage.player->waitForExit(), 0);
+    stage.leave();
     EXPECT_TRUE(eventually([&] {
         XScreenSaverQueryInfo(stage.session.connection, DefaultRootWindow(stage.session.connection), saver);
         return saver->state == ScreenSaverOn;
@@ -139,22 +131,12 @@ TEST(PlayWindow, TheRestingPointerLeavesTheFullScreenAndTheScreenSaverWaits) {
     XFree(saver);
 }
 
-/// A window of the test's, as a screen saver's daemon has one.
-::Window makeWindow(const Stage& stage, unsigned int width, unsigned int height) {
-    ::Display* const display = stage.session.connection;
-    const ::Window window =
-        XCreateSimpleWindow(display, DefaultRootWindow(display), 20, 30, width, height, 0, 0, 0x00FF00);
-    XMapWindow(display, window);
-    XSync(display, False);
-    return window;
-}
-
 TEST(PlaySaver, DrawsIntoAWindowOfAnothersFollowsItAndEndsWithIt) {
     Stage stage("24", "640x480");
     ::Display* const display = stage.session.connection;
     for (const bool byVariable : {false, true}) {
         SCOPED_TRACE(byVariable);
-        stage.window = makeWindow(stage, 300, 280);
+        stage.window = stage.makeWindow(20, 30, 300, 280);
         char number[24];
         std::snprintf(number, sizeof number, "0x%lx", stage.window);
         stage.more = {{"XSCREENSAVER_WINDOW", byVariable ? number : ""}};
@@ -187,7 +169,7 @@ TEST(PlaySaver, OnTheRootItDrawsIntoWhatStandsInForIt) {
     stage.window = DefaultRootWindow(display);
     for (const bool hasStandIn : {false, true}) {
         if (hasStandIn) {
-            stage.window = makeWindow(stage, 400, 300);
+            stage.window = stage.makeWindow(20, 30, 400, 300);
             XChangeProperty(display, stage.window, XInternAtom(display, "__SWM_VROOT", False),
                             XInternAtom(display, "WINDOW", False), 32, PropModeReplace,
                             reinterpret_cast<const unsigned char*>(&stage.window), 1);
@@ -226,9 +208,7 @@ TEST(PlayWayland, ItIsNativeWhereTheCompositorHasASeatAndGoesOnToX11WhereItHasNo
         stage.more = seatless.environment();
         stage.play({"--scale", "2"});
         EXPECT_TRUE(eventually([&] { return stage.runsAt(2, 0, 0); }));
-        stage.session.press("Escape");
-        EXPECT_EQ(stage.player->waitForExit(), 0);
-        EXPECT_EQ(stage.player->errors(), "");
+        stage.leave();
     }
     const Compositor compositor(stage, {"--backend=x11-backend.so", "--shell=kiosk-shell.so", "--use-pixman",
                                         "--width=640", "--height=600"});

@@ -4,12 +4,9 @@
 
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
-#include <filesystem>
 #include <random>
 #include <stdexcept>
-#include <string_view>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <thread>

@@ -10,10 +10,7 @@
 
 #include "support/files.h"
 
-#include <string>
 #include <sys/types.h>
-#include <utility>
-#include <vector>
 
 namespace velm::test {
 

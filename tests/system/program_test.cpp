@@ -7,20 +7,12 @@
 #include "running_demo.h"
 
 #include <X11/keysym.h>
-#include <algorithm>
 #include <arpa/inet.h>
-#include <array>
 #include <csignal>
-#include <cstring>
-#include <filesystem>
-#include <gtest/gtest.h>
-#include <string>
-#include <string_view>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <thread>
 #include <unistd.h>
-#include <vector>
 
 namespace velm::test {
 namespace {

@@ -2,11 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "pulse_server.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <gtest/gtest.h>
-
 namespace velm::test {
 
 namespace {

@@ -11,11 +11,6 @@
 
 #include "process.h"
 
-#include <cstdint>
-#include <memory>
-#include <string>
-#include <vector>
-
 namespace velm::test {
 
 using Sound = std::vector<std::int16_t>;

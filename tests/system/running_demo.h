@@ -13,13 +13,8 @@
 #include "process.h"
 #include "x11_session.h"
 
-#include <filesystem>
-#include <fstream>
 #include <optional>
-#include <string>
 #include <unistd.h>
-#include <utility>
-#include <vector>
 
 namespace velm::test {
 

@@ -13,8 +13,6 @@
 #include "pulse_server.h"
 #include "x11_session.h"
 
-#include <string>
-
 namespace velm::test {
 
 class SoundServer : public testing::Test, protected PulseServer {

@@ -6,7 +6,6 @@
 
 #include <X11/Xutil.h>
 #include <X11/extensions/Xfixes.h>
-#include <algorithm>
 #include <stdexcept>
 
 namespace velm::test {
@@ -72,22 +71,6 @@ void Session::xdotool(std::vector<std::string> arguments) const {
     if (runTool(arguments, {{"DISPLAY", name}}) != 0) {
         throw std::runtime_error("xdotool failed");
     }
-}
-
-void Session::press(const std::string& key) const {
-    xdotool({"key", key});
-}
-
-void Session::movePointer(int x, int y) const {
-    xdotool({"mousemove", std::to_string(x), std::to_string(y)});
-}
-
-void Session::clickDown(int button) const {
-    xdotool({"mousedown", std::to_string(button)});
-}
-
-void Session::clickUp(int button) const {
-    xdotool({"mouseup", std::to_string(button)});
 }
 
 void Session::send(::Window window, XEvent event, long mask, int times) const {

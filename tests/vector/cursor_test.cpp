@@ -3,8 +3,6 @@
 #include "support/owned.h"
 #include "vector/cursor.h"
 
-#include <limits>
-
 namespace velm::test {
 
 TEST(Cursor, WrapsAtBothEnds) {

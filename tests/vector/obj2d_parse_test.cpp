@@ -1,16 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "foundation/list.h"
 #include "objects.h"
 #include "support/allocation.h"
-#include "support/capture_stdout.h"
-#include "vector/obj2d.h"
-#include "vector/vec2d.h"
 
-#include <algorithm>
-#include <memory>
 #include <random>
-#include <string_view>
 
 namespace velm::test {
 namespace {

@@ -1,11 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
-#include "foundation/list.h"
 #include "objects.h"
 #include "support/owned.h"
-#include "vector/obj2d.h"
-#include "vector/seg2d.h"
-#include "vector/vec2d.h"
 
 namespace velm::test {
 namespace {

@@ -4,8 +4,6 @@
 #include "vector/seg2d.h"
 #include "vector/vec2d.h"
 
-#include <limits>
-
 namespace velm::test {
 namespace {
 

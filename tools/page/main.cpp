@@ -5,6 +5,7 @@
 //
 //     main(["extra-9"]), main(["only", "schedule"]), main([])
 #include "demo/programme.h"
+#include "demo/scenes.h"
 #include "demo/velm4030.h"
 #include "page/page.h"
 #include "platform/gain.h"

@@ -5,7 +5,6 @@
 #include "demo/state.h"
 #include "platform/layout.h"
 #include "platform/sound_queue.h"
-#include "platform/xkbd.h"
 #include "web/web.h"
 
 #include <algorithm>

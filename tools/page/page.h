@@ -8,6 +8,7 @@
 #pragma once
 
 #include "demo/programme.h"
+#include "demo/scenes.h"
 
 #include <cstdint>
 

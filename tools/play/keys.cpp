@@ -3,6 +3,7 @@
 #include "play/keys.h"
 
 #include "desktop/desktop.h"
+#include "image/img.h"
 #include "play/overlay.h"
 #include "play/snapshot.h"
 

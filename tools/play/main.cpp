@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // velm4030-play: the demo as today's desktops want it.
+#include "demo/programme.h"
+#include "demo/scenes.h"
 #include "demo/velm4030.h"
 #include "desktop/desktop.h"
 #include "play/keys.h"

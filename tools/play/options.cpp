@@ -3,6 +3,7 @@
 #include "play/options.h"
 
 #include "common/arguments.h"
+#include "demo/scenes.h"
 #include "platform/gain.h"
 #include "play/keys.h"
 

@@ -5,6 +5,7 @@
 #include "demo/assets.h"
 #include "desktop/desktop.h"
 #include "effects/lfont.h"
+#include "foundation/asset.h"
 #include "foundation/owned.h"
 #include "platform/clock.h"
 #include "play/keys.h"

@@ -13,10 +13,10 @@
 //     void VELM4030_sceneSky() { play({}, 600, acts); }
 #pragma once
 
-#include "demo/scenes/curves.h"
-#include "demo/scenes/frames.h"
+#include "demo/scenes/curves.h" // IWYU pragma: export
+#include "demo/scenes/frames.h" // IWYU pragma: export
 #include "foundation/memory.h"
-#include "foundation/owned.h"
+#include "foundation/owned.h" // IWYU pragma: export
 
 #include <cstdint>
 

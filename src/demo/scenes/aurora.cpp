@@ -4,9 +4,6 @@
 
 #include "foundation/chance.h"
 #include "foundation/sine.h"
-#include "foundation/wrap.h"
-#include "image/img.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <array>

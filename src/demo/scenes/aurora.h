@@ -9,7 +9,6 @@
 #pragma once
 
 #include "demo/scenes/curves.h"
-#include "effects/raster.h"
 #include "foundation/owned.h"
 
 #include <cstdint>

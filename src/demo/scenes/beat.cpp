@@ -3,7 +3,6 @@
 #include "demo/scenes/beat.h"
 
 #include "demo/scenes/curves.h"
-#include "demo/state.h"
 
 #include <cstdint>
 

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/blossom.h"
 
-#include "foundation/random.h"
-
 #include <algorithm>
 
 namespace velm {

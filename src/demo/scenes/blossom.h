@@ -8,6 +8,7 @@
 #pragma once
 
 #include "demo/scenes/acts.h"
+#include "foundation/sine.h"
 
 #include <cstdint>
 

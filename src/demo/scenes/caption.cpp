@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/caption.h"
 
-#include "demo/state.h"
-
 namespace velm {
 
 void drawCaption(LFONT* pen, const Caption& caption) {

@@ -8,8 +8,6 @@
 #pragma once
 
 #include "demo/scenes/curves.h"
-#include "effects/lfont.h"
-#include "vector/vec2d.h"
 
 #include <cstdint>
 #include <limits>

@@ -3,7 +3,6 @@
 #include "demo/scenes/composition_lines.h"
 
 #include "demo/scenes/curves.h"
-#include "demo/state.h"
 #include "effects/rect.h"
 #include "foundation/sine.h"
 

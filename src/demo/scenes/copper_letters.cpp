@@ -3,7 +3,6 @@
 #include "demo/scenes/copper_letters.h"
 
 #include "demo/scenes/curves.h"
-#include "demo/state.h"
 
 namespace velm {
 

@@ -8,9 +8,9 @@
 //     340..400
 #pragma once
 
-#include "demo/state.h"
-#include "foundation/wrap.h"
-#include "image/rgb888.h"
+#include "demo/state.h"      // IWYU pragma: export
+#include "foundation/wrap.h" // IWYU pragma: export
+#include "image/rgb888.h"    // IWYU pragma: export
 
 #include <algorithm>
 #include <cstdint>

@@ -10,9 +10,10 @@
 //     });
 #pragma once
 
-#include "demo/scenes/shared.h"
-#include "demo/state.h"
-#include "demo/velm4030.h"
+#include "demo/scenes/shared.h" // IWYU pragma: export
+#include "demo/scenes/table.h"  // IWYU pragma: export
+#include "demo/state.h"         // IWYU pragma: export
+#include "demo/velm4030.h"      // IWYU pragma: export
 
 #include <cstdint>
 

@@ -4,9 +4,7 @@
 
 #include "foundation/chance.h"
 #include "foundation/sine.h"
-#include "image/img.h"
 #include "image/imgfx.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 

@@ -5,8 +5,8 @@
 #include "effects/circle.h"
 #include "foundation/chance.h"
 #include "foundation/sine.h"
+#include "foundation/wide.h"
 #include "image/imgfx.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <cstring>
@@ -52,6 +52,14 @@ void paintMoon(IMG* moon) {
 /// dst := min(255, dst + colour * weight / 256)
 std::uint32_t lit(std::uint32_t dst, std::uint32_t colour, std::int32_t weight) {
     return RGB888_add(dst, RGB888_mix(0, colour, static_cast<std::uint32_t>(weight)));
+}
+
+bool isBlack(const std::uint32_t* pixels, std::int32_t count) {
+    std::uint32_t all = 0;
+    for (std::int32_t i = 0; i < count; ++i) {
+        all |= pixels[i];
+    }
+    return all == 0;
 }
 
 } // namespace
@@ -107,30 +115,49 @@ void PondView::mirror(const IMG* source, std::int32_t axis, std::int32_t weight)
         const std::uint32_t* const from = rowOf(*source, 2 * axis - 1 - y);
         std::uint32_t* const to = rowOf(*surface, y - top);
         const std::int32_t light = weight - weight * (y - axis) / axis;
-        for (std::int32_t x = 0; x < source->width; ++x) {
-            if (from[x] != 0) {
+        runWide([=, width = source->width] {
+            for (std::int32_t x = 0; x < width; ++x) {
                 to[x] = lit(to[x], from[x], light);
             }
-        }
+        });
     }
+}
+
+/// Adds what a row of the window shows of a row of the plane and the next: rows far away are denser than
+/// the window's. `count` pixels, at most a block, from column `left` on.
+void PondView::layBlock(const Row& row, const IMG& flat, std::uint32_t* to, std::int32_t left,
+                        std::int32_t count) const {
+    const std::uint32_t* const from = rowOf(flat, row.v);
+    const std::uint32_t* const behind = from + flat.width;
+    std::uint32_t seen[block];
+    std::int32_t light[block];
+    for (std::int32_t i = 0; i < count; ++i) {
+        const std::int32_t x = left + i;
+        const std::int32_t u = middle + (((x - middle) * row.step) >> 8);
+        seen[i] = RGB888_add(from[u], behind[u]);
+        light[i] = std::min(edge[static_cast<std::size_t>(u)], edge[static_cast<std::size_t>(x)]);
+    }
+    if (isBlack(seen, count)) {
+        return;
+    }
+    runWide([=, &seen, &light, weight = row.light] {
+        for (std::int32_t i = 0; i < count; ++i) {
+            to[left + i] = lit(to[left + i], seen[i], light[i] * weight >> 8);
+        }
+    });
 }
 
 /// Adds a plane in perspective.
 void PondView::lay(const IMG* flat) {
     for (std::int32_t below = 0; below < water; ++below) {
         const Row row = rowAt(below);
-        const std::uint32_t* const from = rowOf(*flat, row.v);
-        const std::uint32_t* const behind =
-            from + flat->width; // the rows far away are denser than the window's
+        if (isBlack(rowOf(*flat, row.v), 2 * flat->width)) {
+            continue;
+        }
         std::uint32_t* const to = rowOf(*surface, horizon - top + below);
         const std::int32_t reach = std::min(middle, (middle - 1) * 256 / row.step);
-        for (std::int32_t x = middle - reach; x < middle + reach; ++x) {
-            const std::int32_t u = middle + (((x - middle) * row.step) >> 8);
-            if ((from[u] | behind[u]) != 0) {
-                const std::int32_t light =
-                    std::min(edge[static_cast<std::size_t>(u)], edge[static_cast<std::size_t>(x)]);
-                to[x] = lit(to[x], RGB888_add(from[u], behind[u]), light * row.light >> 8);
-            }
+        for (std::int32_t left = middle - reach; left < middle + reach; left += block) {
+            layBlock(row, *flat, to, left, std::min(block, middle + reach - left));
         }
     }
 }

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "demo/scenes/acts.h"
+#include "foundation/sine.h"
 
 #include <array>
 #include <cstdint>
@@ -50,9 +51,13 @@ private:
     static constexpr std::int32_t top = horizon - 8; ///< first row of `surface`, which bends down from there
     static constexpr std::int32_t moonReach = 75; ///< from the moon's middle to the end of its halo, pixels
 
+    static constexpr std::int32_t block = 32; ///< pixels that are looked at together
+
     static Row rowAt(std::int32_t below);
     void drawMoon();
     void mirror(const IMG* source, std::int32_t axis, std::int32_t weight);
+    void layBlock(const Row& row, const IMG& flat, std::uint32_t* to, std::int32_t left,
+                  std::int32_t count) const;
     void lay(const IMG* flat);
 
     Picture sky{IMG_newSized(256, horizon)};                  ///< with the stars

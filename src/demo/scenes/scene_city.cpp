@@ -7,7 +7,6 @@
 // clear sky the town goes to bed. On a white background it is drawn in ink.
 #include "demo/scenes/acts.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/glow.h"
 #include "demo/scenes/towers.h"
 #include "demo/scenes/water.h"

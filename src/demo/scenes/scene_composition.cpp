@@ -10,7 +10,6 @@
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
 #include "demo/scenes/composition_lines.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/letters.h"
 #include "demo/scenes/polished_floor.h"
 #include "effects/rect.h"

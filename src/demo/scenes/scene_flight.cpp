@@ -9,14 +9,11 @@
 #include "demo/scenes/aurora.h"
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/globe.h"
 #include "demo/scenes/hoops.h"
 #include "effects/circle.h"
 #include "effects/lstar.h"
-#include "foundation/sine.h"
 #include "image/imgfx.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <string_view>

@@ -9,7 +9,6 @@
 #include "demo/scenes/acts.h"
 #include "demo/scenes/beat.h"
 #include "demo/scenes/blossom.h"
-#include "demo/scenes/curves.h"
 #include "foundation/sine.h"
 
 #include <algorithm>

@@ -88,10 +88,9 @@ void drawMesh() {
     OBJ2D_draw(demo.meshView, demo.screen);
 }
 
-GridRow pointsOfRow(std::int32_t row) {
+void liftRow(GridRow& points, std::int32_t row) {
     const MeshWave& alongRows = settings.meshWave1;
     const MeshWave& alongColumns = settings.meshWave2;
-    GridRow points{};
     const std::int32_t rowLift =
         SINE_entry(alongRows.frequency * row + alongRows.phase) * alongRows.amplitude;
     for (std::int32_t c = 0; c < columns(); ++c) {
@@ -100,7 +99,6 @@ GridRow pointsOfRow(std::int32_t row) {
         points[static_cast<std::size_t>(c)] = {settings.meshStepX * c + settings.meshStepY * row,
                                                settings.meshStepY * row + ((rowLift + columnLift) >> 15)};
     }
-    return points;
 }
 
 void joinPoints(std::int32_t index, GridPoint from, GridPoint to) {
@@ -116,16 +114,21 @@ void joinPoints(std::int32_t index, GridPoint from, GridPoint to) {
 /// of a row or column links a point to itself.
 void deformMesh() {
     const std::int32_t rows = settings.meshRows;
-    GridRow points = pointsOfRow(0);
+    std::array<GridRow, 2> lifted; // this row and the next, in turns
+    liftRow(lifted[0], 0);
     for (std::int32_t r = 0; r < rows; ++r) {
-        const GridRow below = r < rows - 1 ? pointsOfRow(r + 1) : points;
-        for (std::int32_t c = 0; c < columns(); ++c) {
-            const GridPoint here = points[static_cast<std::size_t>(c)];
-            const GridPoint right = points[static_cast<std::size_t>(std::min(c + 1, columns() - 1))];
-            joinPoints(columns() * r + c, here, right);
-            joinPoints(columns() * (rows + r) + c, here, below[static_cast<std::size_t>(c)]);
+        const GridRow& points = lifted[static_cast<std::size_t>(r % 2)];
+        GridRow& next = lifted[static_cast<std::size_t>((r + 1) % 2)];
+        const bool isLast = r == rows - 1;
+        if (!isLast) {
+            liftRow(next, r + 1);
         }
-        points = below;
+        for (std::int32_t c = 0; c < columns(); ++c) {
+            const auto at = static_cast<std::size_t>(c);
+            const GridPoint right = points[static_cast<std::size_t>(std::min(c + 1, columns() - 1))];
+            joinPoints(columns() * r + c, points[at], right);
+            joinPoints(columns() * (rows + r) + c, points[at], isLast ? points[at] : next[at]);
+        }
     }
 }
 

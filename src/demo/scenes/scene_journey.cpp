@@ -8,7 +8,6 @@
 #include "demo/scenes/acts.h"
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/glow.h"
 #include "demo/scenes/letters.h"
 #include "demo/scenes/panorama.h"

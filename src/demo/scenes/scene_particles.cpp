@@ -6,7 +6,6 @@
 // glass breaks, and the word of stone stands.
 #include "demo/scenes/acts.h"
 #include "demo/scenes/beat.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/vessels.h"
 #include "demo/scenes/world_view.h"
 #include "effects/partixel.h"

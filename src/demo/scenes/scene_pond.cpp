@@ -8,11 +8,9 @@
 #include "demo/scenes/acts.h"
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/pond_view.h"
 #include "effects/circle.h"
 #include "foundation/sine.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 

@@ -10,13 +10,11 @@
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
 #include "demo/scenes/copper_letters.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/enlarge.h"
 #include "demo/scenes/letters.h"
 #include "effects/backmove.h"
 #include "effects/circle.h"
 #include "foundation/sine.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <string_view>

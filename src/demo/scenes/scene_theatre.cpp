@@ -7,7 +7,6 @@
 #include "demo/scenes/acts.h"
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/letters.h"
 #include "demo/scenes/theatre_house.h"
 #include "demo/scenes/theatre_props.h"

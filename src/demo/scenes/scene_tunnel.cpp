@@ -7,7 +7,6 @@
 #include "demo/scenes/acts.h"
 #include "demo/scenes/beat.h"
 #include "demo/scenes/caption.h"
-#include "demo/scenes/curves.h"
 #include "demo/scenes/tunnel_dust.h"
 #include "effects/flashpix.h"
 #include "effects/rect.h"

@@ -10,6 +10,8 @@
 #include "demo/scenes/caption.h"
 #include "demo/scenes/point_field.h"
 #include "demo/scenes/words_cast.h"
+#include "effects/lscrlxyz.h"
+#include "effects/lscroll.h"
 #include "foundation/sine.h"
 
 #include <algorithm>

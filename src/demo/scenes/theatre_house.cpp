@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/theatre_house.h"
 
-#include "demo/scenes/curves.h"
 #include "effects/rect.h"
 #include "foundation/root.h"
 #include "foundation/sine.h"

@@ -5,6 +5,7 @@
 #include "demo/scenes/curves.h"
 #include "demo/scenes/theatre_house.h"
 #include "foundation/chance.h"
+#include "foundation/sine.h"
 
 #include <algorithm>
 #include <array>

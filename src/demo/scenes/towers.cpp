@@ -5,7 +5,6 @@
 #include "demo/scenes/beat.h"
 #include "demo/scenes/curves.h"
 #include "effects/rect.h"
-#include "foundation/random.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/water.h"
 
-#include "demo/state.h"
+#include "demo/scenes/curves.h"
 #include "foundation/sine.h"
 
 namespace velm {

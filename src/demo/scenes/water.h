@@ -7,8 +7,6 @@
 //     drawWater({.shore = 152, .ripple = 23 * frame}); // after all that is to be mirrored
 #pragma once
 
-#include "demo/scenes/curves.h"
-
 #include <cstdint>
 
 namespace velm {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/words_cast.h"
 
+#include "effects/line_text.h"
 #include "foundation/sine.h"
 
 #include <algorithm>

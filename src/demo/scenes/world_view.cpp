@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "demo/scenes/world_view.h"
 
-#include "demo/scenes/curves.h"
 #include "foundation/sine.h"
+#include "foundation/wide.h"
+#include "image/pixel_bytes.h"
 
 #include <algorithm>
 #include <array>
@@ -149,32 +150,71 @@ std::uint32_t shade(const Spot& spot, bool isInside, std::int32_t depth, const W
 /// Heat rises, spreads and cools; each spark renews it.
 void spreadHeat(IMG& heat, const IMG& world) {
     constexpr std::uint32_t cooling = 5;
-    const std::int32_t width = heat.width;
-    for (std::int32_t y = 0; y + 1 < heat.height; ++y) {
-        std::uint32_t* const row = rowOf(heat, y);
-        const std::uint32_t* const below = row + width;
-        const std::uint32_t* const things = rowOf(world, y);
-        for (std::int32_t x = 1; x + 1 < width; ++x) {
-            const std::uint32_t warm = (below[x - 1] + 2 * below[x] + below[x + 1]) / 4;
-            const std::uint32_t spark = (things[x] & 0xFFFF) == 0 ? (things[x] >> 16) * 3 / 4 : 0;
-            row[x] = std::max(spark, std::max(warm, cooling) - cooling);
+    runWide([=, row = heat.pixels, things = world.pixels, width = heat.width, height = heat.height] {
+        for (std::int64_t y = 0; y + 1 < height; ++y) {
+            for (std::int64_t i = y * width + 1; i < (y + 1) * width - 1; ++i) {
+                const std::uint32_t below = row[i + width - 1] + 2 * row[i + width] + row[i + width + 1];
+                const std::uint32_t spark = (things[i] & 0xFFFF) == 0 ? (things[i] >> 16) * 3 / 4 : 0;
+                row[i] = std::max(spark, std::max(below / 4, cooling) - cooling);
+            }
         }
-    }
+    });
 }
 
 /// A row of the wall by the light of the fire, which shines most where it burns.
 void lightWall(std::uint32_t* shown, const std::uint32_t* wall, std::int32_t y, const WorldLight& light) {
     const std::int32_t near = std::max(0, curveFull - 2 * std::abs(y - 176));
     const std::uint32_t glow = curveDim(0x401404, light.firelight * near / curveFull);
-    std::transform(wall, wall + settings.windowWidth, shown,
-                   [glow](std::uint32_t brick) { return RGB888_add(brick, glow); });
+    std::copy_n(wall, settings.windowWidth, shown);
+    if (glow != 0) {
+        runWide([=, width = settings.windowWidth] { combineBytes(glow, shown, width, byteSum); });
+    }
 }
 
 /// What the pool shows of the picture above, `depth` below its surface.
 std::uint32_t mirrored(const Spot& spot, std::int32_t depth, std::int32_t frame) {
     const std::int32_t fromY = spot.y - 2 * depth - 1;
     const std::int32_t fromX = spot.x + SINE_scaled(1 + depth / 8, 90 * spot.y + 20 * frame);
-    return IMG_getPixel(demo.screen, fromX, fromY);
+    return fromX < 0 || fromX >= spot.pitch || fromY < 0 ? 0 : rowOf(*demo.screen, fromY)[fromX];
+}
+
+/// A row of all that a picture is made of.
+struct Strip {
+    std::uint32_t* shown; ///< the wall so far
+    const std::uint32_t *things, *inside, *warmth;
+    std::uint32_t* depths;
+};
+
+constexpr std::int32_t block = 32; ///< pixels that are looked at together; the window has whole ones
+
+/// True where nothing but the wall is seen for a block from x on.
+bool isBare(const Strip& strip, std::int32_t x) {
+    constexpr std::uint32_t coolest = 8; // fire is black up to here
+    static_assert(fireShades[coolest] == 0);
+    std::uint32_t seen = 0;
+    for (std::int32_t i = x; i < x + block; ++i) {
+        seen |= strip.things[i] | (strip.warmth[i] > coolest ? 1 : 0);
+    }
+    return seen == 0;
+}
+
+/// Draws what is at column x, and the fire there.
+void drawSpot(const Strip& strip, const Spot& spot, const WorldLight& light) {
+    constexpr std::int32_t mirrorWeight = 110;
+    std::uint32_t& shown = strip.shown[spot.x];
+    std::uint32_t& depth = strip.depths[spot.x];
+    const auto deep = static_cast<std::int32_t>(depth);
+    const bool isWater = *spot.at == waterBlue;
+    if (*spot.at != 0) {
+        shown = shade(spot, strip.inside[spot.x] != 0, deep, light, shown);
+        if (isWater && spot.y >= poolTop && deep > 1) {
+            shown = curveMix(shown, mirrored(spot, deep, light.frame), mirrorWeight);
+        }
+    }
+    depth = isWater ? depth + 1 : 0;
+    if (const std::uint32_t fire = fireShades[strip.warmth[spot.x] & 0xFF]; fire != 0) {
+        shown = RGB888_add(shown, fire);
+    }
 }
 
 } // namespace
@@ -188,29 +228,19 @@ WorldView::WorldView(void (*build)(IMG* wall))
       heat(newWindowPicture()), depths(IMG_newSized(settings.windowWidth, 1)) {}
 
 void shadeWorld(WorldView& view, const IMG& world, const IMG& vessels, const WorldLight& light) {
-    constexpr std::int32_t mirrorWeight = 110;
     spreadHeat(*view.heat, world);
     IMG_fill(view.depths, 0);
     for (std::int32_t y = 0; y < world.height; ++y) {
-        std::uint32_t* const shown = rowOf(*demo.screen, y);
-        const std::uint32_t* const things = rowOf(world, y);
-        const std::uint32_t* const inside = rowOf(vessels, y);
-        const std::uint32_t* const warmth = rowOf(*view.heat, y);
-        lightWall(shown, rowOf(*view.wall, y), y, light);
-        for (std::int32_t x = 0; x < world.width; ++x) {
-            std::uint32_t& depth = view.depths->pixels[x];
-            const auto deep = static_cast<std::int32_t>(depth);
-            const bool isWater = things[x] == waterBlue;
-            if (things[x] != 0) {
-                const Spot spot = {things + x, x, y, world.width};
-                shown[x] = shade(spot, inside[x] != 0, deep, light, shown[x]);
-                if (isWater && y >= poolTop && deep > 1) {
-                    shown[x] = curveMix(shown[x], mirrored(spot, deep, light.frame), mirrorWeight);
-                }
+        const Strip strip = {rowOf(*demo.screen, y), rowOf(world, y), rowOf(vessels, y), rowOf(*view.heat, y),
+                             view.depths->pixels};
+        lightWall(strip.shown, rowOf(*view.wall, y), y, light);
+        for (std::int32_t left = 0; left < world.width; left += block) {
+            if (isBare(strip, left)) {
+                std::fill_n(strip.depths + left, block, 0);
+                continue;
             }
-            depth = isWater ? depth + 1 : 0;
-            if (const std::uint32_t fire = fireShades[warmth[x] & 0xFF]; fire != 0) {
-                shown[x] = RGB888_add(shown[x], fire);
+            for (std::int32_t x = left; x < left + block; ++x) {
+                drawSpot(strip, {strip.things + x, x, y, world.width}, light);
             }
         }
     }
