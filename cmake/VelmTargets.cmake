@@ -43,15 +43,16 @@ function(velm_library name)
   endforeach()
 endfunction()
 
-# velm_embed(TARGET HEADER FILE...): every file becomes one constant of the target, named after the file; the header
-# declares them.
+# velm_embed(TARGET HEADER [PREFIX NAME_] FILE...): every file becomes one constant of the target, named after the file
+# behind the prefix; the header declares them.
 function(velm_embed target header)
-  foreach(input IN LISTS ARGN)
+  cmake_parse_arguments(ARG "" "PREFIX" "" ${ARGN})
+  foreach(input IN LISTS ARG_UNPARSED_ARGUMENTS)
     get_filename_component(file "${input}" NAME)
     get_filename_component(name "${input}" NAME_WE)
     set(generated "${CMAKE_CURRENT_BINARY_DIR}/assets/${file}.cpp")
     add_custom_command(OUTPUT "${generated}"
-      COMMAND "${CMAKE_COMMAND}" "-DINPUT=${input}" "-DOUTPUT=${generated}" "-DNAME=${name}" "-DHEADER=${header}"
+      COMMAND "${CMAKE_COMMAND}" "-DINPUT=${input}" "-DOUTPUT=${generated}" "-DNAME=${ARG_PREFIX}${name}" "-DHEADER=${header}"
         -P "${PROJECT_SOURCE_DIR}/cmake/EmbedAsset.cmake"
       DEPENDS "${input}" "${PROJECT_SOURCE_DIR}/cmake/EmbedAsset.cmake"
       COMMENT "Embedding ${file}" VERBATIM)

@@ -7,7 +7,7 @@ set -euo pipefail
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-echo 'set(GRAPHVIZ_EXTERNAL_LIBS FALSE)' >"$work/CMakeGraphVizOptions.cmake"
+printf 'set(GRAPHVIZ_EXTERNAL_LIBS FALSE)\nset(GRAPHVIZ_IGNORE_TARGETS "velm_archive.*")\n' >"$work/CMakeGraphVizOptions.cmake"
 cmake -S "$1" -B "$work" -G Ninja -DVELM_BUILD_TESTS=OFF "--graphviz=$work/links.dot" >"$work/log" || {
     cat "$work/log" >&2
     exit 1

@@ -20,7 +20,7 @@ inside apt-get install -y -q --no-install-recommends xvfb xauth >/dev/null
 # Once to fetch what they depend on, so that the comparison below sees the packages alone.
 inside sh -c 'dpkg --unpack /tmp/packages/*' >/dev/null
 inside apt-get install -y -q --no-install-recommends -f >/dev/null
-inside dpkg --purge velm4030-play velm4030 >/dev/null
+inside dpkg --purge libvelm-dev velm4030-play velm4030 >/dev/null
 files >"$root/tmp/before"
 
 inside sh -c 'dpkg --install /tmp/packages/*'
@@ -36,7 +36,13 @@ inside timeout 10 xvfb-run -a velm4030 || status=$?
 
 inside xvfb-run -a velm4030-play --frames 60 --sound none
 
-inside dpkg --purge velm4030-play velm4030
+# The library and what it depends on, if it is among the packages, make a program.
+if compgen -G "$root/tmp/packages/libvelm-dev_*" >/dev/null; then
+    inside sh -c 'c++ -std=c++20 /usr/share/doc/libvelm-dev/examples/01_pixel.cpp -o /tmp/pixel -I/usr/include/velm \
+        -Wl,--start-group -lvelm -lvelm-headless -Wl,--end-group && VELM_FRAMES=10 /tmp/pixel && rm /tmp/pixel'
+fi
+
+inside dpkg --purge libvelm-dev velm4030-play velm4030
 files >"$root/tmp/after"
 diff "$root/tmp/before" "$root/tmp/after"
 echo 'Installed, started and removed without a trace.'

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 #include "foundation/report.h"
+#include "headless/environment.h"
 #include "headless/headless.h"
 #include "image/img.h"
 #include "platform/clock.h"
@@ -61,6 +62,7 @@ void CLOCK_alarm(std::uint32_t delay, std::uint32_t interval) {
 }
 
 XDPY* XDPY_open() {
+    takeEnvironment();
     return XDPY_make(windowDepth);
 }
 

@@ -9,6 +9,8 @@
 #include "foundation/report.h"
 #include "foundation/wrap.h"
 
+#include <initializer_list>
+
 namespace velm {
 
 const IDENTITY MUSIC_identity = makeIdentity("MUSIC", "ZENDORAK", "CODE", "C", "20150412");
@@ -193,6 +195,28 @@ void MUSIC_blend(MUSIC* music, std::int32_t n) {
         SAMPLE_add(music->bar, music->pattern);
         SAMPLE_divide(music->bar, n);
     }
+}
+
+void MUSIC_compose(MUSIC* music, std::int32_t number) {
+    constexpr std::int32_t blendWeight = 8;
+    switch (number & 7) {
+    case 0:
+        MUSIC_genSingle(music);
+        break;
+    case 1:
+        MUSIC_genSingleFaded(music);
+        break;
+    case 2:
+        MUSIC_genRoll(music);
+        break;
+    case 3:
+        MUSIC_genRepeatFaded(music);
+        break;
+    default:
+        MUSIC_genRepeat(music);
+        break;
+    }
+    MUSIC_blend(music, blendWeight);
 }
 
 void MUSIC_delete(MUSIC** handle) {

@@ -62,6 +62,10 @@ void MUSIC_genRoll(MUSIC* music);
 /// bar = (bar * (n - 1) + pattern) / n, once there is a pattern and when n > 1.
 void MUSIC_blend(MUSIC* music, std::int32_t n);
 
+/// Composes on: one of the five patterns, by the low three bits of a number of any generator, half of the
+/// time a repeat, and blends it in with a weight of 1/8.
+void MUSIC_compose(MUSIC* music, std::int32_t number);
+
 /// Frees the bar, the instruments and the record and stores nullptr in the handle. The pattern is not freed.
 void MUSIC_delete(MUSIC** handle);
 

@@ -40,30 +40,6 @@ void clearScreen() {
     }
 }
 
-/// Composes a new pattern with a generator chosen at random, half of the time a repeat, and blends it into
-/// the bar.
-void compose() {
-    constexpr std::int32_t blendWeight = 8;
-    switch (RANDOM_next(demo.random) & 7) {
-    case 0:
-        MUSIC_genSingle(demo.music);
-        break;
-    case 1:
-        MUSIC_genSingleFaded(demo.music);
-        break;
-    case 2:
-        MUSIC_genRoll(demo.music);
-        break;
-    case 3:
-        MUSIC_genRepeatFaded(demo.music);
-        break;
-    default:
-        MUSIC_genRepeat(demo.music);
-        break;
-    }
-    MUSIC_blend(demo.music, blendWeight);
-}
-
 } // namespace
 
 void VELM4030_rasterLayer() {
@@ -137,7 +113,7 @@ void VELM4030_musicLayer() {
     }
     MUSIC_tick(demo.music);
     if (demo.music->tick % demo.music->period == 0) {
-        compose();
+        MUSIC_compose(demo.music, RANDOM_next(demo.random));
     }
     if (demo.sound->queue != nullptr && demo.sound->queue->count < barsQueued) {
         LIST_append(demo.sound->queue, demo.music->bar);

@@ -14,7 +14,6 @@ namespace velm {
 
 namespace {
 
-constexpr std::int32_t runLength = 256; ///< entries of each of the ramp's six runs
 constexpr std::int32_t entriesPerHue = 4;
 constexpr std::int32_t rasterColours = hueCount * entriesPerHue;
 constexpr std::int32_t rasterSpeed = -131072;      ///< -2.0 rows per frame in 16.16
@@ -55,20 +54,8 @@ void makePalette() {
 void VELM4030_hueRampSetup() {
     demo.hueRamp = SAMPLE_new();
     SAMPLE_setLength(demo.hueRamp, hueCount);
-    for (std::int32_t i = 0; i < runLength; ++i) {
-        const std::int32_t runs[] = {
-            0x00FF00 + i,         // green to cyan
-            0x00FFFF - 256 * i,   // cyan to blue
-            (i << 16) | 0x0000FF, // blue to magenta
-            0xFF00FF - i,         // magenta to red
-            0xFF0000 + 256 * i,   // red to yellow
-            0xFFFF00 - (i << 16), // yellow to green
-        };
-        std::int32_t index = i;
-        for (const std::int32_t colour : runs) {
-            SAMPLE_set(demo.hueRamp, index, colour);
-            index += runLength;
-        }
+    for (std::int32_t i = 0; i < hueCount; ++i) {
+        SAMPLE_set(demo.hueRamp, i, static_cast<std::int32_t>(RGB888_hue(i)));
     }
 }
 

@@ -25,6 +25,7 @@
 #include "foundation/list.h"
 #include "foundation/random.h"
 #include "image/img.h"
+#include "image/rgb888.h"
 #include "platform/kbd.h"
 #include "platform/xdpy.h"
 #include "platform/xkbd.h"
@@ -45,8 +46,8 @@ inline constexpr std::uint8_t controlExit = 1; ///< bit of DemoState::control: E
 inline constexpr std::uint8_t controlNextPart =
     2;                                         ///< bit of DemoState::control: the scene ends after this frame
 inline constexpr std::uint8_t overlayRate = 1; ///< bit of DemoState::overlay: the frame rate is shown
-inline constexpr std::uint8_t overlaySpare = 2; ///< bit of DemoState::overlay: read by nothing
-inline constexpr std::int32_t hueCount = 1536;  ///< colours of the hue ramp: six runs of 256
+inline constexpr std::uint8_t overlaySpare = 2;           ///< bit of DemoState::overlay: read by nothing
+inline constexpr std::int32_t hueCount = RGB888_hueCount; ///< colours of the hue ramp
 
 /// How `screen` is prepared once it has been presented.
 enum class ClearMode : std::uint8_t { black, white, background, fade };

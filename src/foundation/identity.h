@@ -7,10 +7,6 @@
 //     const IDENTITY LIST_identity = makeIdentity("LIST", "20150611", "ZENDORAK", "C", "CODE");
 #pragma once
 
-#include <algorithm>
-#include <iterator>
-#include <string_view>
-
 namespace velm {
 
 /// Five words of 8 characters, padded with spaces and closed by a NUL each. The module's word comes first;
@@ -25,13 +21,17 @@ struct IDENTITY {
 };
 
 /// Pads the five words. A word longer than 8 characters does not compile.
-consteval IDENTITY makeIdentity(std::string_view module, std::string_view second, std::string_view third,
-                                std::string_view fourth, std::string_view fifth) {
+consteval IDENTITY makeIdentity(const char* module, const char* second, const char* third, const char* fourth,
+                                const char* fifth) {
     IDENTITY identity{};
-    const auto pad = [](char(&field)[9], std::string_view word) {
-        std::fill(std::begin(field), std::end(field) - 1, ' ');
-        std::copy(word.begin(), word.end(), std::begin(field));
-        field[8] = '\0';
+    const auto pad = [](char(&field)[9], const char* word) {
+        char padded[8] = {' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
+        for (int i = 0; word[i] != '\0'; ++i) {
+            padded[i] = word[i]; // a ninth character has no place, so it is no constant
+        }
+        for (int i = 0; i < 8; ++i) {
+            field[i] = padded[i];
+        }
     };
     pad(identity.module, module);
     pad(identity.second, second);

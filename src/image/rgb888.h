@@ -9,7 +9,6 @@
 
 #include "foundation/identity.h"
 
-#include <algorithm>
 #include <cstdint>
 
 namespace velm {
@@ -55,7 +54,27 @@ inline constexpr std::int32_t RGB888_fullWeight = 256; ///< the weight of all of
 
 /// A colour at a weight, its share of light, 0..256; what lies beyond counts as the nearer of the two.
 constexpr std::uint32_t RGB888_dim(std::uint32_t c, std::int32_t weight) {
-    return RGB888_mix(0, c, static_cast<std::uint32_t>(std::clamp(weight, 0, RGB888_fullWeight)));
+    const std::int32_t kept = weight < 0 ? 0 : weight > RGB888_fullWeight ? RGB888_fullWeight : weight;
+    return RGB888_mix(0, c, static_cast<std::uint32_t>(kept));
+}
+
+inline constexpr std::int32_t RGB888_hueCount = 1536; ///< colours of the hue circle: six runs of 256
+
+/// Colour `index` of the hue circle, any index going round: from green by way of cyan, blue, magenta, red and
+/// yellow back to green.
+constexpr std::uint32_t RGB888_hue(std::int32_t index) {
+    constexpr std::int32_t run = 256;
+    const std::int32_t place = (index % RGB888_hueCount + RGB888_hueCount) % RGB888_hueCount;
+    const auto i = static_cast<std::uint32_t>(place % run);
+    const std::uint32_t colours[] = {
+        0x00FF00 + i,         // green to cyan
+        0x00FFFF - 256 * i,   // cyan to blue
+        (i << 16) | 0x0000FF, // blue to magenta
+        0xFF00FF - i,         // magenta to red
+        0xFF0000 + 256 * i,   // red to yellow
+        0xFFFF00 - (i << 16), // yellow to green
+    };
+    return colours[place / run];
 }
 
 /// Red and blue exchanged, green kept.

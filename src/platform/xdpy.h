@@ -36,6 +36,10 @@ extern XDPY_DUMP XDPY_dump;
 /// The record of the open window, nullptr without one. XDPY_open and XDPY_close set it.
 extern XDPY* XDPY_current;
 
+/// Frames that the window had shown before this program began to draw into it: 0, but on a machine that
+/// changes programs under an open window.
+inline std::int32_t XDPY_framesBefore = 0;
+
 /// Connects to the default display and maps the window at (0, 0). Without a display it prints one line that
 /// names it and ends the program with status 1; so does a connection that is lost later on. nullptr
 /// (reported) on other failures.

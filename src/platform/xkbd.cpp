@@ -9,6 +9,8 @@
 #include "foundation/report.h"
 #include "platform/xdpy.h"
 
+#include <cstdlib>
+
 namespace velm {
 
 const IDENTITY XKBD_identity = makeIdentity("XKBD", "XWINDOWS", "20150226", "ZENDORAK", "CODE");

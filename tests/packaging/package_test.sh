@@ -21,7 +21,8 @@ touch "$work/root/var/lib/dpkg"/{status,available}
 (cd "$build" && cpack -B "$work" >"$work/cpack.log") || fail "$(cat "$work/cpack.log")"
 demo=$(echo "$work"/velm4030_*.deb)
 play=$(echo "$work"/velm4030-play_*.deb)
-for package in "$demo" "$play"; do
+dev=$(echo "$work"/libvelm-dev_*.deb)
+for package in "$demo" "$play" "$dev"; do
     [ "$(stat -c %s "$package")" -lt "$mebibyte" ] || fail "$package has 1 MiB or more"
 done
 # The C++ library and X11, nothing else; SDL comes with the player.
@@ -72,5 +73,13 @@ while read -r arguments; do
     "$root/usr/bin/velm4030-play" $arguments --list >"$work/list" || fail "velm4030-play refuses $arguments"
 done <"$work/arguments"
 
-run_dpkg --purge velm4030-play velm4030 || fail "$(cat "$work/dpkg.log")"
+# The library is for the compiler, of this system and of others: see tests/kit for its use.
+run_dpkg --install "$dev" || fail "$(cat "$work/dpkg.log")"
+[[ ", $(dpkg-deb --field "$dev" Depends)" == *', g++, libx11-dev, libsdl2-dev'* ]] ||
+    fail "the library needs $(dpkg-deb --field "$dev" Depends)"
+for program in velm4030-new velm4030-live; do
+    [ -s "$root/usr/share/man/man1/$program.1.gz" ] || fail "$program has no man page"
+done
+
+run_dpkg --purge libvelm-dev velm4030-play velm4030 || fail "$(cat "$work/dpkg.log")"
 (cd "$root" && find . -not -path './var/*' | sort) | diff "$work/before" - || fail "the removal left files"

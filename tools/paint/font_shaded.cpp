@@ -12,6 +12,7 @@
 #include "paint/strokes.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <string_view>
 

@@ -14,6 +14,7 @@
 #include "paint/strokes.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace velm::paint {
 

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The VELM4030 developers
+// SPDX-License-Identifier: MIT
+#include "workshop/program.h"
+
+#include "platform/clock.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace velm {
+
+namespace {
+
+constexpr std::int64_t nanosPerSecond = 1000000000;
+constexpr std::int64_t patience = 2000000; ///< microseconds that a frame may take
+constexpr int cannotStart = 127;
+
+/// In the new process: only what may be called between fork and exec.
+[[noreturn]] void become(char** arguments, int log, int channel) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    setpgid(0, 0);
+    const int nothing = open("/dev/null", O_RDONLY);
+    dup2(nothing, STDIN_FILENO);
+    if (log >= 0) {
+        dup2(log, STDOUT_FILENO);
+        dup2(log, STDERR_FILENO);
+    }
+    if (channel >= 0) {
+        fcntl(channel, F_SETFD, 0);
+    }
+    execvp(arguments[0], arguments);
+    _exit(cannotStart);
+}
+
+int makeMemory() {
+    const int descriptor = memfd_create("velm4030-live", MFD_CLOEXEC);
+    if (descriptor < 0 || ftruncate(descriptor, sizeof(Channel)) != 0) {
+        std::perror("velm4030-live");
+        std::exit(EXIT_FAILURE);
+    }
+    return descriptor;
+}
+
+Channel* mapChannel(int descriptor, std::int32_t frame) {
+    void* const memory = mmap(nullptr, sizeof(Channel), PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
+    if (memory == MAP_FAILED) {
+        std::perror("velm4030-live");
+        std::exit(EXIT_FAILURE);
+    }
+    auto* const channel = static_cast<Channel*>(memory);
+    sem_init(&channel->asked, 1, 0);
+    sem_init(&channel->drawn, 1, 0);
+    channel->frame = frame;
+    return channel;
+}
+
+} // namespace
+
+Process::Process(const std::vector<std::string>& arguments, int log, int channel) {
+    std::vector<char*> words;
+    for (const std::string& argument : arguments) {
+        words.push_back(const_cast<char*>(argument.c_str()));
+    }
+    words.push_back(nullptr);
+    if (channel >= 0) {
+        setenv(channelVariable, std::to_string(channel).c_str(), 1);
+    }
+    group = fork();
+    if (group == 0) {
+        become(words.data(), log, channel);
+    }
+    if (group < 0) {
+        ended = cannotStart;
+    } else {
+        setpgid(group, group);
+    }
+}
+
+Process::~Process() {
+    if (group > 0 && !ended) {
+        kill(-group, SIGKILL);
+        while (waitpid(group, nullptr, 0) < 0 && errno == EINTR) {
+        }
+    }
+}
+
+bool Process::hasEnded() {
+    int status = 0;
+    if (!ended && waitpid(group, &status, WNOHANG) == group) {
+        constexpr int signalBase = 128;
+        ended = WIFSIGNALED(status) ? signalBase + WTERMSIG(status) : WEXITSTATUS(status);
+        kill(-group, SIGKILL); // whatever it has left
+    }
+    return ended.has_value();
+}
+
+Program::Program(const std::string& path, std::int32_t frame)
+    : descriptor(makeMemory()), channel(mapChannel(descriptor, frame)), askedAt(CLOCK_now()),
+      process({path}, -1, descriptor) {
+    close(descriptor);
+}
+
+Program::~Program() {
+    munmap(channel, sizeof(Channel));
+}
+
+bool Program::hasDrawn(std::int64_t millis) {
+    constexpr std::int64_t nanosPerMilli = 1000000;
+    timespec until{};
+    clock_gettime(CLOCK_MONOTONIC, &until);
+    const std::int64_t nanos = until.tv_nsec + millis * nanosPerMilli;
+    until.tv_sec += nanos / nanosPerSecond;
+    until.tv_nsec = nanos % nanosPerSecond;
+    return sem_clockwait(&channel->drawn, CLOCK_MONOTONIC, &until) == 0;
+}
+
+void Program::ask(std::int32_t frame) {
+    channel->frame = frame;
+    channel->samples = 0;
+    askedAt = CLOCK_now();
+    sem_post(&channel->asked);
+}
+
+std::string Program::failure() {
+    constexpr int signalBase = 128;
+    if (process.hasEnded()) {
+        const int status = process.status();
+        return status > signalBase ? std::string("crashed: ") + strsignal(status - signalBase)
+                                   : "ended with status " + std::to_string(status);
+    }
+    return CLOCK_now() - askedAt > patience ? "gave no frame for two seconds" : "";
+}
+
+} // namespace velm
