@@ -76,6 +76,7 @@ public:
 
     /// Starts the player and waits until the demo is past its logo.
     void start(std::vector<std::string> arguments) {
+        numbersAt(depth); // takes a while, and the player soon runs beyond the captured frames
         std::ofstream(spyLog, std::ios::trunc);
         arguments.insert(arguments.begin(), {VELM_PLAYER, "schedule"});
         player = std::make_unique<Child>(arguments, spied(server.display(), spyLog, more));
