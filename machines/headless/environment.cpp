@@ -3,6 +3,7 @@
 #include "headless/environment.h"
 
 #include "headless/headless.h"
+#include "image/img.h"
 #include "image/rgb888.h"
 
 #include <cstdio>

@@ -5,7 +5,6 @@
 #include "demo/scenes/beat.h"
 #include "demo/scenes/frames.h"
 #include "foundation/wrap.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <random>

@@ -6,7 +6,6 @@
 #include "demo/state.h"
 #include "demo/velm4030.h"
 #include "foundation/chance.h"
-#include "image/rgb888.h"
 
 #include <cstdlib>
 

@@ -25,10 +25,7 @@ constexpr std::uint32_t allBytes = 0xFFFFFFFF;
 
 /// True when `src` can be filtered into `dst`; else it reports.
 bool canFilter(const IMG* src, const IMG* dst) {
-    if (refused(!canBlit(src, dst) || src == dst || src->pixels == dst->pixels, IMGFX_error)) {
-        return false;
-    }
-    return true;
+    return !refused(!canBlit(src, dst) || src == dst || src->pixels == dst->pixels, IMGFX_error);
 }
 
 /// The pixels from `first` on of row y; what lies outside the image is black.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "kit/kit.h"
 
+#include "foundation/asset.h"
 #include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"

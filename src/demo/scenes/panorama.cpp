@@ -5,7 +5,6 @@
 #include "demo/state.h"
 #include "foundation/owned.h"
 #include "foundation/wrap.h"
-#include "image/rgb888.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -6,7 +6,6 @@
 #include "demo/scenes/frames.h"
 #include "foundation/chance.h"
 #include "foundation/memory.h"
-#include "image/rgb888.h"
 
 namespace velm {
 
