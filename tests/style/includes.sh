@@ -8,7 +8,8 @@
 set -euo pipefail
 cd -- "$1"
 read -ra sdl <<<"$(pkg-config --cflags sdl2)"
-include-what-you-use -std=c++20 '-DVELM_VERSION=""' -Isrc -Imachines -Itools "${sdl[@]}" -Xiwyu --no_comments \
+definitions=('-DVELM_VERSION=""' '-DVELM_INCLUDE_FOLDER=""' '-DVELM_LIBRARY_FOLDER=""')
+include-what-you-use -std=c++20 "${definitions[@]}" -Isrc -Imachines -Itools "${sdl[@]}" -Xiwyu --no_comments \
     -Xiwyu --no_fwd_decls -Xiwyu --mapping_file=tests/style/includes.imp "$2" 2>&1 |
     awk '/ error: / { print; found = 1; next }
         / should add these lines:$/ { file = $1; section = "lacks"; next }

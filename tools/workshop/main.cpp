@@ -4,8 +4,10 @@
 // velm4030-live: plays source files, and plays them anew as soon as one is saved.
 #include "common/arguments.h"
 #include "demo/instruments.h"
+#include "demo/scenes.h"
 #include "desktop/desktop.h"
 #include "kit/kit.h"
+#include "platform/channel.h"
 #include "platform/clock.h"
 #include "platform/gain.h"
 #include "workshop/sources.h"

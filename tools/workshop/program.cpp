@@ -68,6 +68,7 @@ Channel* mapChannel(int descriptor, std::int32_t frame) {
 
 Process::Process(const std::vector<std::string>& arguments, int log, int channel) {
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments) {
         words.push_back(const_cast<char*>(argument.c_str()));
     }

@@ -9,6 +9,7 @@
 #pragma once
 
 #include "kit/kit.h"
+#include "platform/channel.h"
 #include "workshop/program.h"
 
 #include <memory>
