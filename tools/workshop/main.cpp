@@ -34,9 +34,8 @@ LiveOptions parseOptions(int argc, char** argv) {
     LiveOptions options;
     CLI::App app("Plays a source file, and plays it anew as soon as it is saved.");
     app.footer(
-        "A file that does not compile changes nothing; the first error stands in the window's last line, and "
-        "all\n"
-        "of them on the terminal. CXX and CXXFLAGS name another compiler and more flags. Escape leaves.");
+        "A file that does not compile changes nothing; the first error stands in the window's last line,\n"
+        "all of them on the terminal. CXX and CXXFLAGS name another compiler and more flags. Escape leaves.");
     app.set_version_flag("--version", std::string(program) + " " VELM_VERSION);
     app.add_option("FILE", options.sources, "the sources of one program on kit/kit.h")
         ->required()

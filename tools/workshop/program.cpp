@@ -24,6 +24,7 @@ namespace {
 constexpr std::int64_t nanosPerSecond = 1000000000;
 constexpr std::int64_t patience = 2000000; ///< microseconds that a frame may take
 constexpr int cannotStart = 127;
+constexpr int signalBase = 128; ///< statuses from here on are signals, as in a shell
 
 /// In the new process: only what may be called between fork and exec.
 [[noreturn]] void become(char** arguments, int log, int channel) {
@@ -98,7 +99,6 @@ Process::~Process() {
 bool Process::hasEnded() {
     int status = 0;
     if (!ended && waitpid(group, &status, WNOHANG) == group) {
-        constexpr int signalBase = 128;
         ended = WIFSIGNALED(status) ? signalBase + WTERMSIG(status) : WEXITSTATUS(status);
         kill(-group, SIGKILL); // whatever it has left
     }
@@ -133,7 +133,6 @@ void Program::ask(std::int32_t frame) {
 }
 
 std::string Program::failure() {
-    constexpr int signalBase = 128;
     if (process.hasEnded()) {
         const int status = process.status();
         return status > signalBase ? std::string("crashed: ") + strsignal(status - signalBase)

@@ -11,16 +11,18 @@ namespace velm {
 
 namespace {
 
-/// Sound of the program's own takes the place of the tune, from the next sample on.
+/// Sound of the program's own takes the place of the tune, from the next sample on. A program that writes
+/// astray may have written anything into the channel.
 void playSound(KIT& kit, const Channel& channel) {
-    if (channel.samples == 0 || kit.sound == nullptr) {
+    const std::int32_t samples = std::min(channel.samples, Channel::mostSamples);
+    if (samples <= 0 || kit.sound == nullptr) {
         return;
     }
     kit.music = nullptr;
     LIST_setCount(kit.sound->queue, 0);
     kit.sound->position = 0;
     if (kit.sound->fd >= 0) {
-        DSP_write(kit.sound->fd, channel.sound, channel.samples);
+        DSP_write(kit.sound->fd, channel.sound, samples);
     }
 }
 
