@@ -16,7 +16,7 @@ trap 'rm -f "$authority"' EXIT
 } >"$authority"
 export XAUTHORITY=$authority
 
-exec 3< <(exec env -u LD_PRELOAD Xvfb -displayfd 1 -screen 0 "${VELM_SCREEN:-640x480}x24" -nolisten tcp -auth "$authority" 2>/dev/null)
+exec 3< <(exec env -u LD_PRELOAD Xvfb -displayfd 1 -screen 0 "${VELM_SCREEN:-640x480}x24" -nolisten tcp -noreset -auth "$authority" 2>/dev/null)
 server=$!
 read -r display <&3 || {
     echo 'Xvfb did not start.' >&2

@@ -39,7 +39,9 @@ bool Canvas::draw(const IMG& frame, const Layout& layout) {
     const bool drawn = renderer != nullptr ? drawTexture(frame, layout)
                        : pixels            ? drawRows(frame, layout)
                                            : drawSurface(frame, layout);
-    former.assign(frame.pixels, frame.pixels + std::int64_t{frame.width} * frame.height);
+    if (isFresh) {
+        former.assign(frame.pixels, frame.pixels + std::int64_t{frame.width} * frame.height);
+    }
     isFresh = !drawn;
     return drawn;
 }

@@ -96,9 +96,11 @@ bool endsWithin(std::chrono::milliseconds time) {
     return parting.changed.wait_for(lock, time, [] { return parting.isAsked; });
 }
 
-/// Keeps a device open, and opens it again when it is lost, until the program ends.
+/// Keeps a device open, and opens it again when it is lost, until the program ends. To ask all that may
+/// answer is work, so who hears nothing asks ever less often.
 void keepSound() {
     quietAlsa();
+    std::chrono::milliseconds patience = 500ms;
     do {
         if (const SDL_AudioDeviceID device = openAny(); device != 0) {
             queue.clear();
@@ -107,8 +109,10 @@ void keepSound() {
             }
             SDL_CloseAudioDevice(device);
             SDL_AudioQuit();
+            patience = 500ms;
         }
-    } while (!endsWithin(1s));
+        patience = std::min<std::chrono::milliseconds>(2 * patience, 8s);
+    } while (!endsWithin(patience));
     const std::lock_guard lock(parting.mutex);
     parting.isDone = true;
     parting.changed.notify_all();

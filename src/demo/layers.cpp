@@ -4,9 +4,11 @@
 // The layers that the scenes share, in the order in which a frame meets them.
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "foundation/list.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
+#include "vector/obj2d.h"
 
 #include <string_view>
 
@@ -77,9 +79,11 @@ void VELM4030_logoLettersLayer() {
     const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
     LFONT_place(pen, settings.lettersX, settings.lettersY, 1);
     std::int32_t k = 0;
+    std::uint32_t colour = 0;
     for (const char letter : std::string_view("VELM")) {
         const std::int32_t hue = wrapAdd(frame, 192 - 64 * k) % demo.hueRamp->length;
-        LFONT_setColour(pen, static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue)));
+        colour = static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
+        OBJ2D_setColour(static_cast<OBJ2D*>(LIST_get(pen->glyphs, letter)), colour);
         // VELM4030_lettersBounce: one expects a swing about the line; only the upper half of the wave is
         // used.
         const std::int32_t angle = wrapAdd(wrapMul(17, frame), 96 - 32 * k) & (SINE_tableMask >> 1);
@@ -88,6 +92,7 @@ void VELM4030_logoLettersLayer() {
         LFONT_drawChar(pen);
         ++k;
     }
+    LFONT_setColour(pen, colour); // the whole font keeps the last letter's
 }
 
 void VELM4030_postLayer() {

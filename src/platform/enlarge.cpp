@@ -5,15 +5,20 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#include <vector>
+#include <span>
 
 namespace velm {
 
 namespace {
 
-/// A pixel is moved as so many bytes; the compiler makes one word of them.
-template <std::size_t bytes>
-void spreadRow(const std::vector<std::uint32_t>& pixels, std::int32_t scale, char* to) {
+/// Pixels of a row that are written together, or not at all.
+constexpr std::int32_t blockWidth = 16;
+
+/// A pixel is moved as so many bytes; the compiler makes one word of them, and of the squares' usual widths
+/// one more. 0 stands for any other.
+template <std::size_t bytes, std::int32_t knownScale>
+void spreadRow(std::span<const std::uint32_t> pixels, std::int32_t anyScale, char* to) {
+    const std::int32_t scale = knownScale == 0 ? anyScale : knownScale;
     for (const std::uint32_t pixel : pixels) {
         for (std::int32_t i = 0; i < scale; ++i) {
             constexpr std::size_t unused =
@@ -24,8 +29,14 @@ void spreadRow(const std::vector<std::uint32_t>& pixels, std::int32_t scale, cha
     }
 }
 
-using SpreadRow = void (*)(const std::vector<std::uint32_t>&, std::int32_t, char*);
-constexpr SpreadRow spreads[] = {spreadRow<1>, spreadRow<2>, spreadRow<3>, spreadRow<4>};
+using SpreadRow = void (*)(std::span<const std::uint32_t>, std::int32_t, char*);
+
+SpreadRow spreadFor(std::int32_t bytes, std::int32_t scale) {
+    constexpr SpreadRow any[] = {spreadRow<1, 0>, spreadRow<2, 0>, spreadRow<3, 0>, spreadRow<4, 0>};
+    constexpr SpreadRow words[] = {spreadRow<4, 0>, spreadRow<4, 1>, spreadRow<4, 2>, spreadRow<4, 3>,
+                                   spreadRow<4, 4>};
+    return bytes == 4 && scale < static_cast<std::int32_t>(std::size(words)) ? words[scale] : any[bytes - 1];
+}
 
 /// The part of a frame that fits: a window smaller than the picture shows its middle, a larger one shows all.
 Part partThatFits(const IMG& frame, const Layout& layout, const Raster& raster) {
@@ -37,30 +48,37 @@ Part partThatFits(const IMG& frame, const Layout& layout, const Raster& raster) 
 
 } // namespace
 
-Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster,
-             std::span<const std::uint32_t> former) {
+Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster, std::span<std::uint32_t> former) {
     const Part part = partThatFits(frame, layout, raster);
     const Part place{std::max(layout.left, 0), std::max(layout.top, 0), part.width * layout.scale,
                      part.height * layout.scale};
     const bool isOurs = raster.pixels.isOurs();
-    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(part.width));
-    const std::size_t rowBytes =
-        static_cast<std::size_t>(place.width) * static_cast<std::size_t>(raster.pixels.bytes);
-    char* to = raster.first + place.y * raster.pitch + std::ptrdiff_t{place.x} * raster.pixels.bytes;
-    for (std::int32_t y = part.y; y < part.y + part.height; ++y, to += layout.scale * raster.pitch) {
+    const SpreadRow spread = spreadFor(raster.pixels.bytes, layout.scale);
+    const std::int32_t squareBytes = layout.scale * raster.pixels.bytes;
+    char* rows = raster.first + place.y * raster.pitch + std::ptrdiff_t{place.x} * raster.pixels.bytes;
+    for (std::int32_t y = part.y; y < part.y + part.height; ++y, rows += layout.scale * raster.pitch) {
         const std::int64_t first = std::int64_t{y} * frame.width + part.x;
         const std::uint32_t* const row = frame.pixels + first;
-        if (!former.empty() && std::equal(row, row + part.width, former.begin() + first)) {
-            continue;
-        }
-        std::copy(row, row + part.width, pixels.begin());
-        if (!isOurs) {
-            std::transform(row, row + part.width, pixels.begin(),
-                           [&raster](std::uint32_t pixel) { return raster.pixels.of(pixel); });
-        }
-        spreads[raster.pixels.bytes - 1](pixels, layout.scale, to);
-        for (std::int32_t copy = 1; copy < layout.scale; ++copy) {
-            std::memcpy(to + copy * raster.pitch, to, rowBytes);
+        for (std::int32_t x = 0; x < part.width; x += blockWidth) {
+            const std::int32_t count = std::min(blockWidth, part.width - x);
+            if (!former.empty()) {
+                std::uint32_t* const before = &former[static_cast<std::size_t>(first + x)];
+                if (std::equal(row + x, row + x + count, before)) {
+                    continue;
+                }
+                std::copy_n(row + x, count, before);
+            }
+            std::uint32_t pixels[blockWidth];
+            std::copy_n(row + x, count, pixels);
+            if (!isOurs) {
+                std::transform(pixels, pixels + count, pixels,
+                               [&raster](std::uint32_t pixel) { return raster.pixels.of(pixel); });
+            }
+            char* const to = rows + x * squareBytes;
+            spread({pixels, static_cast<std::size_t>(count)}, layout.scale, to);
+            for (std::int32_t copy = 1; copy < layout.scale; ++copy) {
+                std::memcpy(to + copy * raster.pitch, to, static_cast<std::size_t>(count * squareBytes));
+            }
         }
     }
     return place;

@@ -74,16 +74,18 @@ TEST(Enlarge, EveryPixelBecomesASquareInTheScreensLayoutAndNothingElseChanges) {
     EXPECT_EQ(layouts[4].of(0xFF8001), 0x3FF80804U) << "more bits repeat the high ones";
 }
 
-TEST(Enlarge, ARowAsItWasStaysAndEveryOtherIsDrawn) {
+TEST(Enlarge, OnlyWhatChangedIsDrawn) {
     test::Images random(4031);
-    const Owned<IMG_delete> before(random.image(9, 8));
+    constexpr std::int32_t columns = 40;
+    constexpr std::int32_t rows = 8;
+    const Owned<IMG_delete> before(random.image(columns, rows));
     const Owned<IMG_delete> after(IMG_clone(before));
-    after->pixels[9 * 2 + 1] = 0x102030;
-    after->pixels[9 * 7 + 8] = 0x405060;
-    const std::span former(before->pixels, 9 * 8);
+    after->pixels[columns * 2 + 1] = 0x102030;
+    after->pixels[columns * 2 + 5] = 0x102030;
+    after->pixels[columns * 7 + 38] = 0x405060;
     const Layout layouts[] = {{1, -1, -2}, {3, 2, 1}};
     for (const Layout& layout : layouts) {
-        constexpr std::int32_t width = 31;
+        constexpr std::int32_t width = 123;
         constexpr std::int32_t height = 26;
         constexpr std::uint32_t untouched = 0x777777;
         std::vector<std::uint32_t> pixels(width * height, untouched);
@@ -93,13 +95,17 @@ TEST(Enlarge, ARowAsItWasStaysAndEveryOtherIsDrawn) {
         std::vector<std::uint32_t> whole = pixels;
         enlarge(*after, layout,
                 {reinterpret_cast<char*>(whole.data()), width, height, width * 4, raster.pixels});
+        std::vector<std::uint32_t> former(before->pixels, before->pixels + columns * rows);
         enlarge(*after, layout, raster, former);
         EXPECT_EQ(pixels, whole) << layout.scale;
+        EXPECT_TRUE(std::equal(former.begin() + columns, former.end(), after->pixels + columns))
+            << layout.scale;
+        former.assign(before->pixels, before->pixels + columns * rows);
         std::fill(pixels.begin(), pixels.end(), untouched);
         enlarge(*after, layout, raster, former);
         const auto drawn = static_cast<std::int32_t>(pixels.size()) -
                            static_cast<std::int32_t>(std::count(pixels.begin(), pixels.end(), untouched));
-        EXPECT_EQ(drawn, layout.scale == 1 ? 2 * 8 : 2 * 3 * 9 * 3) << "two rows";
+        EXPECT_EQ(drawn, layout.scale == 1 ? 16 + 7 : (16 + 8) * 3 * 3) << "two blocks, the last cut off";
     }
 }
 
