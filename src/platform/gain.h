@@ -30,7 +30,7 @@ inline void GAIN_apply(std::span<std::int16_t> samples, double factor) {
     using Limits = std::numeric_limits<std::int16_t>;
     for (std::int16_t& sample : samples) {
         const double louder = std::clamp<double>(sample * factor, Limits::min(), Limits::max());
-        sample = static_cast<std::int16_t>(std::lround(louder));
+        sample = static_cast<std::int16_t>(louder + std::copysign(0.5, louder));
     }
 }
 
