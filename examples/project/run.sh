@@ -31,7 +31,8 @@ film() {
 
 page() {
     local library
-    library=$(dirname "$(dirname "$(realpath "$(command -v velm4030-new)")")")
+    library=$(command -v velm4030-new) || { echo 'Where is libvelm? VELM_PREFIX=FOLDER tells.' >&2 && exit 1; }
+    library=$(dirname "$(dirname "$(realpath "$library")")")
     command -v em++ >/dev/null || { echo 'This needs emscripten; as root: apt-get install emscripten' >&2 && exit 1; }
     # Debian's emscripten has parts of its own in the system's folder for node.
     export NODE_PATH=/usr/share/nodejs${NODE_PATH:+:$NODE_PATH}
