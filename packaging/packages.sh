@@ -13,7 +13,8 @@ test_packages=("${package_packages[@]}" "${player_packages[@]}" clang libclang-r
     libxfixes-dev libxss-dev ffmpeg netpbm openbox pulseaudio pulseaudio-utils libpulsedsp sox weston xdotool xvfb)
 web_packages=(emscripten cmake ninja-build)
 web_test_packages=("${web_packages[@]}" "${player_packages[@]}" chromium)
-lint_packages=(clang-format clang-tidy iwyu libbenchmark-dev appstream desktop-file-utils doxygen
+bench_packages=("${player_packages[@]}" libbenchmark-dev)
+lint_packages=("${bench_packages[@]}" clang-format clang-tidy iwyu appstream desktop-file-utils doxygen
     graphviz lintian man-db mandoc)
 # The JACK that STK would bring by itself would put the one out that sound servers use.
 peer_packages=("${build_packages[@]}" pkgconf libcairo2-dev libjack-jackd2-dev libnetpbm-dev libopencv-core-dev

@@ -1,23 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The tutorial's effect on the demo's screen: docs/effects.md quotes the declaration and the row below.
+// The tutorial's effect on the demo's screen.
 #include "demo/demo_run.h"
 #include "demo/scenes.h"
 #include "support/owned.h"
 
 #include <set>
 
-namespace velm {
-
-void VELM4030_scenePlasma(); ///< 600 frames
-
-namespace test {
+namespace velm::test {
 namespace {
-
-constexpr SCENE scenes[] = {
-    {"plasma", "a sea of colour", VELM4030_scenePlasma, "plasma"},
-};
 
 TEST(Tutorial, TheSceneShowsAMovingSeaUntilSpace) {
     startDemo();
@@ -28,7 +20,7 @@ TEST(Tutorial, TheSceneShowsAMovingSeaUntilSpace) {
         middles.push_back(IMG_getPixel(&frame, frame.width / 2, frame.height / 2));
     };
     pressAt(headless.frames + 40, ' ');
-    scenes[0].run();
+    SCENE_find("plasma")->run();
     headless.onFrame = nullptr;
     ASSERT_EQ(middles.size(), 40U);
     for (const std::set<std::uint32_t>& frame : colours) {
@@ -38,5 +30,4 @@ TEST(Tutorial, TheSceneShowsAMovingSeaUntilSpace) {
 }
 
 } // namespace
-} // namespace test
-} // namespace velm
+} // namespace velm::test

@@ -43,7 +43,7 @@ for program in "$root"/usr/bin/*; do
     name=$(basename "$program")
     readelf -dW "$program" | grep BIND_NOW >/dev/null || fail "$name binds its symbols late"
     readelf -sW --dyn-syms "$program" | grep __stack_chk_fail >/dev/null || fail "$name has no guarded stack"
-    [ -s "$root/usr/share/man/man6/$name.6.gz" ] || fail "$name has no man page"
+    [ -s "$root/usr/share/man/man1/$name.1.gz" ] || fail "$name has no man page"
 done
 for file in applications/velm4030-play.desktop xscreensaver/config/velm4030-play.xml \
     metainfo/org.velm4030.velm4030.metainfo.xml doc/velm4030/copyright \

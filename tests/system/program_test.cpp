@@ -194,6 +194,21 @@ TEST(Program, WithoutADisplayItSaysSoAndLeaves) {
     }
 }
 
+TEST(Program, AnswersQuestionsWithoutADisplayAndTakesNoOtherArgument) {
+    const std::pair<const char*, const char*> answers[] = {
+        {"--help", "flashes"}, {"-h", "Escape"}, {"--version", "velm4030 "}};
+    for (const auto& [question, answer] : answers) {
+        Child demo({VELM_PROGRAM, question}, {{"DISPLAY", ""}});
+        EXPECT_EQ(demo.waitForExit(), 0) << question;
+        EXPECT_NE(demo.output().find(answer), std::string::npos) << demo.output();
+        EXPECT_EQ(demo.errors(), "");
+    }
+    Child demo({VELM_PROGRAM, "extra-9"}, {{"DISPLAY", ""}});
+    EXPECT_EQ(demo.waitForExit(), 2);
+    EXPECT_EQ(demo.output(), "");
+    EXPECT_EQ(demo.errors(), "velm4030: no such argument: 'extra-9'; --help tells more\n");
+}
+
 TEST(Program, ADisplayThatIsLostWhileItConnectsIsOneThatCannotBeOpened) {
     const XServer server("24");
     const ShortLivedDisplay display(server);

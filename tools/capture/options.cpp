@@ -132,15 +132,16 @@ CaptureOptions parseOptions(int argc, char** argv) {
     std::string scene;
     std::string keys;
     std::string pointers;
-    CLI::App app("The VELM4030 demo without a screen, in virtual time, as fast as the machine goes.");
+    CLI::App app(std::string("The VELM4030 demo as files: frames, checksums, sound and films, as fast as the "
+                             "machine goes.\n") +
+                 flashingText);
     app.set_version_flag("--version", "velm4030-capture " VELM_VERSION);
-    takeFrames(
-        *app.add_option("--frames", options.frames, "how many presentations, the start-up logo included")
-             ->required());
+    takeFrames(*app.add_option("--frames", options.frames, "how many frames, the logo at the start included")
+                    ->required());
     CLI::Option* const one = app.add_option(
-        "--scene", scene, "this scene again and again instead of the schedule: " + sceneNames());
+        "--scene", scene, "plays this scene, again and again, instead of the schedule: " + sceneNames());
     takeScene(*one, options.scene);
-    app.add_flag("--tour", options.tour, "all scenes one after the other instead of the schedule")
+    app.add_flag("--tour", options.tour, "plays all scenes, one after the other, instead of the schedule")
         ->excludes(one);
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60"));
     app.add_option("--keys", keys,

@@ -26,6 +26,10 @@ std::optional<Number> numberOf(const std::string& text) {
     return whole ? std::optional(number) : std::nullopt;
 }
 
+/// What nobody who is sensitive to it should come upon unwarned.
+inline constexpr const char* flashingText = "Warning: the scene interlude-a flashes, up to five times a "
+                                            "second, and nine times at 60 frames per second.";
+
 /// "default, interlude-a, ..., schedule"
 std::string sceneNames();
 

@@ -17,11 +17,11 @@ namespace velm {
 bool actOnKey(PROGRAMME& programme, const std::string& key);
 
 /// Lines of at most 31 characters, as many as fit on a picture.
-inline constexpr const char* keysText = "Escape     fades out and leaves\n"
+inline constexpr const char* keysText = "Escape     fades out and quits\n"
                                         "Space      next part\n"
                                         "Left Right scene before, after\n"
                                         "F11        full screen\n"
-                                        "F12        keeps the picture\n"
+                                        "F12        saves the picture\n"
                                         "+ -        volume\n"
                                         "h F1       these keys\n"
                                         "p          pause\n"
@@ -34,6 +34,6 @@ inline constexpr const char* keysText = "Escape     fades out and leaves\n"
                                         "w f        clear mode, fade\n"
                                         "q          black or white\n"
                                         "s          another view\n"
-                                        "e d        turn the drum\n";
+                                        "e d        turn the name drum\n";
 
 } // namespace velm

@@ -80,34 +80,34 @@ PlayOptions parseOptions(int argc, char** argv) {
     bool isMixed = false;
     constexpr int mostScale = 16;
     constexpr int mostVolume = 100;
-    CLI::App app("The VELM4030 demo, enlarged or full screen, with sound through what the desktop has.");
+    CLI::App app(std::string("The VELM4030 demo, enlarged or full screen, with the desktop's own sound.\n") +
+                 flashingText);
     app.footer(std::string("Keys:\n") + keysText);
     app.set_version_flag("--version", std::string(desktopProgram) + " " VELM_VERSION);
-    takeScenes(*app.add_option("SCENE", scenes, "these scenes, again and again; all of them unless given")
+    takeScenes(*app.add_option("SCENE", scenes, "the scenes to play, again and again (all)")
                     ->expected(0, PROGRAMME::mostParts));
-    app.add_flag("--list", list, "names the scenes and leaves");
-    app.add_flag("--shuffle", isMixed, "mixes their order");
+    app.add_flag("--list", list, "lists the scenes and quits");
+    app.add_flag("--shuffle", isMixed, "plays the scenes in mixed order");
     CLI::Option* const scale =
-        app.add_option("--scale", wanted.scale, "enlargement, without smoothing (what suits the screen)")
+        app.add_option("--scale", wanted.scale,
+                       "size of the window, in multiples of 256 pixels (what suits the screen)")
             ->check(CLI::Range(1, mostScale));
     CLI::Option* const full =
-        app.add_flag("--fullscreen", wanted.fullScreen, "fills the screen, in whole multiples")
-            ->excludes(scale);
+        app.add_flag("--fullscreen", wanted.fullScreen, "fills the screen")->excludes(scale);
     CLI::Option* const root =
         app.add_flag("--root", wanted.root, "draws on the X11 root window, silent unless --sound is given");
-    app.add_option("--window-id", window, "draws into this X11 window of another program, likewise")
+    app.add_option("--window-id", window, "draws into another program's X11 window, likewise")
         ->check(
             [](const std::string& text) { return windowOf(text) > 0 ? "" : "not a window: '" + text + "'"; })
         ->excludes(scale, full, root);
     root->excludes(scale, full);
     app.add_option("--sound", sound, "where the sound goes (auto, the first that answers)")
         ->check(CLI::IsMember(soundNames()));
-    app.add_option("--volume", wanted.volume, "of the sound, per cent (100)")
+    app.add_option("--volume", wanted.volume, "volume of the sound, in percent (100)")
         ->check(CLI::Range(0, mostVolume));
-    takeGain(
-        *app.add_option("--gain", wanted.gain, "decibels by which the sound is raised (12; 0 as it is)"));
+    takeGain(*app.add_option("--gain", wanted.gain, "how much louder the sound gets, in decibels (12)"));
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
-    takeFrames(*app.add_option("--frames", options.frames, "leaves after so many presentations"));
+    takeFrames(*app.add_option("--frames", options.frames, "quits after so many frames"));
     parseOrLeave(app, desktopProgram, argc, argv);
     if (list) {
         listScenes();

@@ -17,7 +17,7 @@ namespace velm {
 struct PlayOptions {
     PROGRAMME programme;      ///< what to show, in which order
     std::int32_t rate = 30;   ///< frames per second at the start
-    std::uint32_t frames = 0; ///< leaves after so many presentations; 0 for never
+    std::uint32_t frames = 0; ///< quits after so many; 0 for never
     Desktop desktop;          ///< window, full screen or foreign window, and sound
 };
 

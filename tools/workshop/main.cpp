@@ -36,14 +36,15 @@ LiveOptions parseOptions(int argc, char** argv) {
     CLI::App app("Plays a source file, and plays it anew as soon as it is saved.");
     app.footer(
         "A file that does not compile changes nothing; the first error stands in the window's last line,\n"
-        "all of them on the terminal. CXX and CXXFLAGS name another compiler and more flags. Escape leaves.");
+        "all of them on the terminal. CXX and CXXFLAGS name another compiler and more flags. Escape quits.");
     app.set_version_flag("--version", std::string(program) + " " VELM_VERSION);
     app.add_option("FILE", options.sources, "the sources of one program on kit/kit.h")
         ->required()
         ->check(CLI::ExistingFile);
     app.add_option("--prefix", options.prefix, "where libvelm is installed (where this program is)")
         ->check(CLI::ExistingDirectory);
-    app.add_option("--scale", desktop.scale, "enlargement, without smoothing (what suits the screen)")
+    app.add_option("--scale", desktop.scale,
+                   "size of the window, in multiples of 256 pixels (what suits the screen)")
         ->check(CLI::Range(1, mostScale));
     app.add_flag("--silent", options.isSilent, "no sound, neither the tune nor the program's");
     parseOrLeave(app, program, argc, argv);
