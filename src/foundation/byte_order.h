@@ -9,6 +9,7 @@
 
 #include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <type_traits>
 
 namespace velm {
@@ -24,7 +25,7 @@ constexpr Word lowByteFirst(Word word, std::endian own = std::endian::native) {
     auto rest = static_cast<Bits>(word);
     Bits turned = 0;
     for (std::size_t i = 0; i < sizeof word; ++i) {
-        turned = static_cast<Bits>(turned << bitsPerByte | (rest & 0xFFU));
+        turned = static_cast<Bits>(std::uint64_t{turned} << bitsPerByte | (rest & 0xFFU));
         rest = static_cast<Bits>(rest >> bitsPerByte);
     }
     return static_cast<Word>(turned);
