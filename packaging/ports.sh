@@ -5,7 +5,7 @@
 # packaging/ports.sh [PORT...]: builds velm4030-capture for other processors with Debian's cross compilers, and for this one
 # with both compilers at every optimisation, and runs 200 frames of each scene with sound, blurred from frame 100 on and
 # glaring from frame 150 on, under qemu where it has to. Every checksum and every sample must be that of g++ -O3 here. Prints a
-# table and fails when anything differs. It takes half an hour on two cores and is run by hand before a release; builds
+# table and fails when anything differs. It builds the capture a dozen times, so it is run by hand before a release; builds
 # and files stay in build/ports.
 #
 # A port is a processor (arm64 armhf riscv64 s390x, the last with its high byte first) or a compiler with an optimisation
