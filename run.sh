@@ -6,6 +6,7 @@
 # without /dev/dsp it plays through a sound server, or silent.
 # ./run.sh tour [ARGUMENT...]: the same for the player, velm4030-play, which shows all scenes and finds the sound itself.
 # ./run.sh web [PORT]: builds the page and serves it on this machine, at the port 4030 unless another one is named.
+# ./run.sh live FILE.cpp: plays a source file, and plays it anew whenever it is saved.
 # ./run.sh ARGUMENT...: the player with these arguments ("--help" names them).
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")"
@@ -19,9 +20,19 @@ serve_page() {
     exec python3 -m http.server --bind 127.0.0.1 --directory build/web "$1"
 }
 
-if [ "${1:-}" = web ]; then
-    serve_page "${2:-4030}"
-fi
+# velm4030-live beside the library that it compiles against, in the build folder.
+play_live() {
+    packaging/need.sh "${player_packages[@]}"
+    cmake --preset release -DVELM_BUILD_TESTS=OFF -DVELM_BUILD_TOOLS=ON >/dev/null
+    cmake --build --preset release --target velm_dev -- --quiet
+    cmake --install build/release --component dev --prefix build/release/kit >/dev/null
+    exec build/release/kit/bin/velm4030-live "$@"
+}
+
+case ${1:-} in
+web) serve_page "${2:-4030}" ;;
+live) shift && play_live "$@" ;;
+esac
 if [ $# -eq 0 ]; then
     program=velm4030
     tools=OFF

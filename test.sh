@@ -4,7 +4,7 @@
 #
 # ./test.sh: installs what is missing, builds everything twice, optimised and under the sanitizers, and runs all tests of
 # both builds side by side. CTest's summary of all of them comes last.
-# ./test.sh web: the page alone, in Chromium, against what velm4030-capture gives.
+# ./test.sh web: the pages alone, in Chromium: the demo's against what velm4030-capture gives, and those of the kit.
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")"
 . packaging/packages.sh
@@ -14,8 +14,8 @@ test_web() {
     command -v npm >/dev/null || packaging/need.sh npm
     [ -e build/release/CMakeCache.txt ] ||
         cmake --preset release -DVELM_BUILD_TESTS=OFF -DVELM_BUILD_TOOLS=ON >/dev/null
-    echo "Building velm4030-capture and the page"
-    cmake --build --preset release --target velm4030-capture -- --quiet
+    echo "Building velm4030-capture, the library and the page"
+    cmake --build --preset release --target velm4030-capture velm_dev -- --quiet
     cmake --preset web -DVELM_BUILD_TESTS=ON >/dev/null
     cmake --build --preset web -- --quiet
     npm install --prefix build/web --no-save --no-audit --no-fund --silent axe-core@4.14.1

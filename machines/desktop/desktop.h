@@ -56,7 +56,7 @@ inline constexpr const char* desktopSounds[] = {"pipewire", "pulseaudio", "alsa"
 /// What is in their place where there is none.
 inline constexpr const char* noSound = "none";
 
-/// The program's name, for what it says.
+/// The demo's program on this machine.
 inline constexpr const char* desktopProgram = "velm4030-play";
 
 /// The menu entry's name, by which Wayland's desktops find the icon.

@@ -4,6 +4,7 @@
 
 #include "desktop/desktop.h"
 #include "desktop/x11.h"
+#include "platform/program.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -53,8 +54,8 @@ void openVideo() {
     if (SDL_WasInit(SDL_INIT_VIDEO) != 0) {
         return;
     }
-    SDL_setenv("SDL_VIDEO_X11_WMCLASS", "VELM4030", 0);
-    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", desktopEntry, 0);
+    SDL_setenv("SDL_VIDEO_X11_WMCLASS", programNames.title, 0);
+    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", programNameOr(desktopEntry), 0);
     const bool isForeign = desktop.foreign != 0 || desktop.root;
     if (isForeign) { // a screen saver must not hold itself off, and ends when it is told to
         SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
@@ -77,7 +78,7 @@ bool isX11() {
 }
 
 void giveUp(const char* what, const char* detail) {
-    std::fprintf(stderr, "%s: %s \"%s\"\n", desktopProgram, what, detail);
+    std::fprintf(stderr, "%s: %s \"%s\"\n", programNameOr(desktopProgram), what, detail);
     std::exit(1);
 }
 

@@ -9,6 +9,7 @@
 #include "desktop/x11.h"
 #include "foundation/report.h"
 #include "platform/icon.h"
+#include "platform/program.h"
 #include "platform/xdpy.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ SDL_Window* makeWindow() {
     const std::int32_t scale =
         desktop.scale > 0 ? desktop.scale : scaleForScreen(pictureSize, pictureSize, room.w, room.h);
     const auto place = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned int>(monitor)));
-    return SDL_CreateWindow("VELM4030", place, place, pictureSize * scale, pictureSize * scale,
+    return SDL_CreateWindow(programNames.title, place, place, pictureSize * scale, pictureSize * scale,
                             SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "x11/display.h"
 
+#include "platform/program.h"
 #include "platform/xdpy.h"
 
 #include <cstdio>
@@ -70,7 +71,7 @@ X11ErrorTrap::~X11ErrorTrap() {
 }
 
 void x11Say(const char* what, const char* detail) {
-    std::fprintf(stderr, "velm4030: %s \"%s\"\n", what, detail);
+    std::fprintf(stderr, "%s: %s \"%s\"\n", programNameOr("velm4030"), what, detail);
 }
 
 void x11GiveUp(const char* what, const char* detail) {

@@ -3,11 +3,13 @@
 #include "x11/properties.h"
 
 #include "platform/icon.h"
+#include "platform/program.h"
 #include "x11/display.h"
 
 #include <X11/Xatom.h>
 #include <X11/Xutil.h>
 #include <array>
+#include <string>
 #include <unistd.h>
 
 namespace velm {
@@ -49,9 +51,9 @@ void describeIcon() {
 } // namespace
 
 void x11Describe() {
-    char name[] = "velm4030";
-    char kind[] = "VELM4030";
-    XClassHint hint{name, kind};
+    std::string name = programNameOr("velm4030");
+    std::string kind = programNames.title;
+    XClassHint hint{name.data(), kind.data()};
     XSetClassHint(x11Display.connection, x11Display.window, &hint);
     describeProcess();
     describeIcon();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/report.h"
 #include "image/img.h"
+#include "platform/program.h"
 #include "platform/xdpy.h"
 #include "x11/display.h"
 #include "x11/events.h"
@@ -98,7 +99,7 @@ XDPY* XDPY_open() {
     XFlush(x11Display.connection);
     XDPY_selectInput();
     XDPY_resize(display, windowSize, windowSize);
-    XStoreName(x11Display.connection, x11Display.window, "VELM4030");
+    XStoreName(x11Display.connection, x11Display.window, programNames.title);
     XFlush(x11Display.connection);
     awaitWindowManager();
     return display;

@@ -9,8 +9,11 @@
 #include "foundation/wrap.h"
 #include "kit/fonts.h"
 #include "platform/clock.h"
+#include "platform/program.h"
 #include "vector/obj2d.h"
 #include "vector/vec2d.h"
+
+#include <cerrno>
 
 namespace velm {
 
@@ -54,9 +57,16 @@ SAMPLE* makeHues() {
     return hues;
 }
 
+void takeNameOfFile() {
+    if (programNames.name == nullptr) {
+        programNames = {program_invocation_short_name, program_invocation_short_name};
+    }
+}
+
 /// The window first: what follows asks for it.
 bool makeWhole(KIT& kit) {
     const std::int64_t refusals = refusedAllocations;
+    takeNameOfFile();
     chanceSeed(1);
     kit.display = XDPY_open();
     kit.keyboard = XKBD_new();

@@ -62,9 +62,9 @@ struct KIT {
 extern const IDENTITY KIT_identity;
 extern std::uint8_t KIT_verbose;
 
-/// Opens the window and makes all that the record names, and begins chance() anew, so that every run is the
-/// same. Without a display the program ends with one line and status 1; nullptr (reported) without memory.
-/// Without a sound device everything works and nothing is heard.
+/// Opens the window, which has the program's name (see program.h), and makes all that the record names, and
+/// begins chance() anew, so that every run is the same. Without a display the program ends with one line and
+/// status 1; nullptr (reported) without memory. Without a sound device everything works and nothing is heard.
 KIT* KIT_new();
 
 /// Shows what has been drawn, plays, waits for the next frame's time, takes a key, and clears the screen.

@@ -210,7 +210,8 @@ TEST_F(ScenesTest, EndAtOnceWhereverTheirSetUpRunsOutOfMemory) {
         headless.onFrame = [&light](const IMG& frame) {
             light = *std::max_element(frame.pixels, frame.pixels + 256 * 256);
         };
-        for (std::int64_t nth = 1; nth <= made; nth += nth < 200 ? 1 : 97) { // the palette is 1536 appends
+        for (std::int64_t nth = 1; nth <= made;
+             nth += sparing * (nth < 200 ? 1 : 97)) { // the palette is 1536 appends
             dropAll();
             const FailingAllocation failure(nth);
             EXPECT_EQ(presentationsOf(scene, begin + 9), begin + 1)

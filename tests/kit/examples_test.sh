@@ -45,7 +45,7 @@ for machine in x11 desktop; do
         $(PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name velm.pc)") pkg-config --cflags --libs "velm-$machine")
     status=0
     env -u DISPLAY -u WAYLAND_DISPLAY SDL_VIDEODRIVER=x11 "$work/pixel-$machine" 2>"$work/log" || status=$?
-    [ "$status $(wc -l <"$work/log")" = '1 1' ] || fail "$machine without a display: $(cat "$work/log")"
+    [ "$status $(wc -l <"$work/log") $(cut -d: -f1 "$work/log")" = "1 1 pixel-$machine" ] || fail "$machine without a display: $(cat "$work/log")"
 done
 echo 'find_package(velm 2 REQUIRED)' >>"$work/examples/CMakeLists.txt"
 if cmake -S "$work/examples" -B "$work/build" >"$work/log" 2>&1; then

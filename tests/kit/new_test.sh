@@ -42,10 +42,14 @@ grep -rq '@NAME@' . && fail 'the name is missing somewhere'
 build/my_Demo-1 &
 program=$!
 for ((tenths = 0; tenths < 200; ++tenths)); do
-    window=$(xdotool search --name '^VELM4030$' 2>/dev/null) && break
+    window=$(xdotool search --name '^my_Demo-1$' 2>/dev/null) && break
     sleep 0.1
 done
 [ -n "$window" ] || fail 'no window'
 xdotool key --window "$window" Escape || true
 xdotool windowfocus "$window" key Escape || true
 wait "$program" || fail 'Escape does not end it'
+# What it says about its display begins with its name, too.
+if said=$(env -u DISPLAY -u WAYLAND_DISPLAY SDL_VIDEODRIVER=x11 build/my_Demo-1 2>&1) || [[ $said != 'my_Demo-1: '* ]]; then
+    fail "without a display: $said"
+fi

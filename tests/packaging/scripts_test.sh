@@ -25,18 +25,19 @@ for script in run.sh test.sh .ci/run packaging/package.sh; do
 done
 
 # What run.sh starts, with a build that is done already.
-rm -rf "$work/run" && mkdir -p "$work/run/packaging" "$work/run/build/release" "$work/run/bin"
+rm -rf "$work/run" && mkdir -p "$work/run/packaging" "$work/run/build/release/kit/bin" "$work/run/bin"
 cp "$source/run.sh" "$work/run"
 cp "$source/packaging/packages.sh" "$work/run/packaging"
-for program in velm4030 velm4030-play; do
+for program in velm4030 velm4030-play kit/bin/velm4030-live; do
     printf '#!/bin/sh\necho "%s $*"\n' "$program" >"$work/run/build/release/$program"
 done
 printf '#!/bin/sh\n' | tee "$work/run/packaging/need.sh" "$work/run/bin/cmake" >"$work/run/bin/pactl"
-chmod +x "$work/run/packaging/need.sh" "$work/run/bin"/* "$work/run/build/release"/*
+chmod +x "$work/run/packaging/need.sh" "$work/run/bin"/* "$work/run/build/release"/velm* "$work/run/build/release/kit/bin"/*
 run() { DISPLAY=:none PATH="$work/run/bin:$PATH" LD_PRELOAD='' "$work/run/run.sh" "$@" 2>/dev/null; }
 [[ "$(run)" == *"./run.sh tour shows all"*$'\n'"velm4030 " ]] || fail "run.sh: $(run)"
 [ "$(run tour)" = "velm4030-play " ] || fail "run.sh tour: $(run tour)"
 [ "$(run tour --scale 2)" = "velm4030-play --scale 2" ] || fail "run.sh tour --scale 2: $(run tour --scale 2)"
+[ "$(run live my.cpp)" = "kit/bin/velm4030-live my.cpp" ] || fail "run.sh live my.cpp: $(run live my.cpp)"
 [ "$(run extra-9)" = "velm4030-play extra-9" ] || fail "run.sh extra-9: $(run extra-9)"
 
 printf '#!/bin/sh\necho "python3 $*"\n' >"$work/run/bin/python3"

@@ -35,6 +35,10 @@ public:
     AskedAllocations& operator=(const AskedAllocations&) = delete;
 };
 
+/// Who refuses one allocation after another takes every so manieth: under the sanitizers each costs much
+/// more.
+constexpr std::int32_t sparing = VELM_IS_SANITIZED ? 5 : 1;
+
 /// Frees what the project allocates during the call and keeps, and gives how many those were: for leaks that
 /// are kept on purpose.
 std::int64_t keptBy(void (*call)());

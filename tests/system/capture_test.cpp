@@ -336,9 +336,9 @@ TEST_F(CaptureTest, AWavFileBeyond4GiBTellsItsLength) {
 
 TEST_F(CaptureTest, AFilmsSoundLiesWhereItsPicturesAre) {
     const std::vector<std::vector<std::string>> films = {
-        {"--frames", "633", "--keys", "100:0,250:0"},
-        {"--frames", "400", "--keys", "100:6"},
-        {"--frames", "400", "--keys", "100:5", "--rate", "60"},
+        {"--frames", "300", "--keys", "100:0,200:0"},
+        {"--frames", "200", "--keys", "80:6"},
+        {"--frames", "200", "--keys", "80:5", "--rate", "60"},
         {"--frames", "200", "--rate", "60", "--block", "2942"}};
     for (std::vector<std::string> film : films) {
         film.insert(film.end(), {"--mp4", path("mp4"), "--scale", "1"});
@@ -346,15 +346,15 @@ TEST_F(CaptureTest, AFilmsSoundLiesWhereItsPicturesAre) {
         EXPECT_GT(duration("mp4", "v:0"), 2);
         EXPECT_NEAR(duration("mp4", "v:0"), duration("mp4", "a:0"), 0.1) << film[3];
     }
-    // Five seconds without sound; the device is handed what comes after them right after what came before.
-    ASSERT_EQ(capture({"--frames", "900", "--keys", "650:0,800:0", "--mp4", path("mp4"), "--scale", "1",
+    // Three seconds without sound; the device is handed what comes after them right after what came before.
+    ASSERT_EQ(capture({"--frames", "450", "--keys", "250:0,350:0", "--mp4", path("mp4"), "--scale", "1",
                        "--gain", "0", "--audio", path("wav")}),
               0);
     ASSERT_EQ(shell("ffmpeg -v error -i mp4 -f s16le film.pcm; ffmpeg -v error -i wav -f s16le wav.pcm"), 0);
     const std::vector<std::int16_t> film = samples("film.pcm");
     const std::vector<std::int16_t> sound = samples("wav.pcm");
-    constexpr std::size_t muted = (650 - 33) * 1470; // samples
-    constexpr std::size_t gap = 150 * 1470;
+    constexpr std::size_t muted = (250 - 33) * 1470; // samples
+    constexpr std::size_t gap = 100 * 1470;
     constexpr std::size_t second = 44100;
     const auto quiet = [](std::int16_t value) { return std::abs(value) < 8; };
     ASSERT_GT(film.size(), muted + gap + 2 * second);
@@ -365,10 +365,10 @@ TEST_F(CaptureTest, AFilmsSoundLiesWhereItsPicturesAre) {
 }
 
 TEST_F(CaptureTest, FilmsAreLouderAndWavFilesExact) {
-    ASSERT_EQ(capture({"--frames", "700", "--audio", path("exact"), "--mp4", path("mp4"), "--scale", "1"}),
+    ASSERT_EQ(capture({"--frames", "300", "--audio", path("exact"), "--mp4", path("mp4"), "--scale", "1"}),
               0);
-    ASSERT_EQ(capture({"--frames", "700", "--audio", path("loud"), "--gain", "12"}), 0);
-    ASSERT_EQ(capture({"--frames", "700", "--audio", path("same"), "--gain", "0"}), 0);
+    ASSERT_EQ(capture({"--frames", "300", "--audio", path("loud"), "--gain", "12"}), 0);
+    ASSERT_EQ(capture({"--frames", "300", "--audio", path("same"), "--gain", "0"}), 0);
     ASSERT_EQ(
         shell("for f in exact loud mp4; do ffmpeg -v error -i $f -f s16le $f.pcm; done; cmp exact same"), 0);
     const std::vector<std::int16_t> exact = samples("exact.pcm");

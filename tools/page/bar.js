@@ -1,26 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What stands over the picture: the bar, which goes when nobody has moved for a while, the two lists, and the
-// line that says something.
+// What stands over the picture: the bar, which goes when nobody has moved for a while, lists, and the line that
+// says something.
 //
-//     const bar = new Bar({ next() { ... }, ... });
-//     bar.tell({ scene: "extra-9", ... });
+//     const bar = new Bar({ mute() { ... }, volume(percent) { ... }, ... });
+//     bar.tell({ volume: 100, pressed: { mute: false } });
 "use strict";
 
 class Bar {
-    /** `acts` has a function for each button, and for the volume and the choice of a scene. */
-    constructor(acts) {
+    /** `volume` takes percents; of the other acts each has a button of its name. */
+    constructor({ volume, ...acts }) {
         this.element = document.getElementById("bar");
         this.told = {};
-        for (const name of ["previous", "pause", "next", "mute", "rate", "full"]) {
-            this.button(name).addEventListener("click", acts[name]);
+        for (const [name, act] of Object.entries(acts)) {
+            this.button(name).addEventListener("click", act);
         }
         this.volume = document.getElementById("volume");
-        this.volume.addEventListener("input", () => acts.volume(Number(this.volume.value)));
-        this.scenes = new List("scene-list", ".scenes-button");
-        this.keys = new List("key-list", ".keys-button");
-        this.choose = acts.choose;
+        this.volume.addEventListener("input", () => volume(Number(this.volume.value)));
         // A button that was clicked gives the keys back to the demo; one that was reached by key keeps them.
         this.element.addEventListener("pointerup", () => setTimeout(() => this.giveKeysBack()));
     }
@@ -35,43 +32,10 @@ class Bar {
         return document.getElementById(name);
     }
 
-    /** Lists scenes of a name, a text and a place among the thumbnails. */
-    listScenes(scenes) {
-        const sheet = `url(${document.getElementById("thumbnails").src})`;
-        const list = document.querySelector("#scene-list ol");
-        list.replaceChildren(...scenes.map((scene, place) => this.sceneItem(scene, place, sheet)));
-    }
-
-    sceneItem(scene, place, sheet) {
-        const item = document.createElement("li");
-        const button = item.appendChild(document.createElement("button"));
-        button.type = "button";
-        const picture = button.appendChild(document.createElement("span"));
-        picture.className = "thumbnail";
-        picture.style.backgroundImage = sheet;
-        picture.style.backgroundPosition = `${-64 * (place % 4)}px ${-64 * Math.floor(place / 4)}px`;
-        button.appendChild(document.createElement("b")).textContent = scene.name;
-        button.appendChild(document.createElement("span")).textContent = scene.text;
-        button.addEventListener("click", () => {
-            this.scenes.close();
-            this.choose(place);
-        });
-        return item;
-    }
-
     /** Shows the state of what plays, where it has changed. */
     tell(state) {
         const told = this.told;
         this.told = state;
-        if (state.scene !== told.scene) {
-            document.getElementById("scene-name").textContent = state.scene;
-            document.getElementById("scene-text").textContent = state.text;
-            this.scenes.mark(state.number);
-        }
-        if (state.rate !== told.rate) {
-            this.button("rate").textContent = state.rate;
-            this.button("rate").setAttribute("aria-label", `${state.rate} frames a second`);
-        }
         if (state.volume !== told.volume) {
             this.volume.value = state.volume;
         }
@@ -132,12 +96,6 @@ class List {
 
     close() {
         this.dialog.close();
-    }
-
-    mark(place) {
-        this.dialog.querySelectorAll("li button").forEach((button, i) => {
-            i === place ? button.setAttribute("aria-current", "true") : button.removeAttribute("aria-current");
-        });
     }
 
     static isOpen() {

@@ -1,13 +1,14 @@
-#!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
-"""fold.py PAGE OUTPUT FOLDER...: folds the files that a page names, from the first folder that has them, into the page.
+"""fold.py KIND TITLE PROGRAM OUTPUT FOLDER...: page.html as the page of a program, for a demo or a project.
 
-Style and scripts become their text, WebAssembly its gzip in base 64, pictures data. A picture NAME.png may stand there
+Keeps what is between {KIND} and {end}, and folds the files that the page names, from the first folder that has them, into
+the page. Style and scripts become their text, WebAssembly its gzip in base 64, pictures data. A picture NAME.png may stand there
 as NAME.pam.
 """
 import base64
 import gzip
+import html
 import pathlib
 import re
 import struct
@@ -64,10 +65,17 @@ class Fold:
         return re.sub(r'<script([^>]*) src="([^"]+)"></script>', self.script, text)
 
 
+def variant(text, kind, title, program):
+    """The page of a kind, with the names that stand in it."""
+    text = re.sub(r"\{(demo|project)\}(.*?)\{end\}", lambda m: m[2] if m[1] == kind else "", text, flags=re.DOTALL)
+    return text.replace("@TITLE@", html.escape(title)).replace("@PROGRAM@", program).replace("@KIND@", kind)
+
+
 def main():
-    page, output, *folders = sys.argv[1:]
+    kind, title, program, output, *folders = sys.argv[1:]
     fold = Fold(folders)
-    pathlib.Path(output).write_text(fold.page(pathlib.Path(page).read_text(encoding="utf-8")), encoding="utf-8")
+    page = fold.page(variant(fold.find("page.html").read_text(encoding="utf-8"), kind, title, program))
+    pathlib.Path(output).write_text(page, encoding="utf-8")
 
 
 main()

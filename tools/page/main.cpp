@@ -7,7 +7,7 @@
 #include "demo/programme.h"
 #include "demo/scenes.h"
 #include "demo/velm4030.h"
-#include "page/page.h"
+#include "page/tour.h"
 #include "platform/gain.h"
 #include "web/web.h"
 

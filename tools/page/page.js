@@ -1,17 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// The page: brings the program, the picture, the sound and the bar together, and the address with the scene.
+// A page: brings the program, the picture, the sound and the bar together. What its program has beyond a picture and
+// a sound, a class on top of it shows: DemoPage (demo.js), ProjectPage (project.js).
+//
+//     openPage(ProjectPage);
 "use strict";
 
 class Page {
     /** Prepares everything that Play needs, so that the first picture comes at once. */
-    static async open() {
-        const page = new Page();
-        page.program = await Program.load(document.getElementById("wasm").textContent);
-        await page.prepareRun();
-        page.build();
-        return page;
+    async open() {
+        this.program = await Program.load(document.getElementById("wasm").textContent);
+        await this.prepareRun();
+        this.build();
     }
 
     constructor() {
@@ -29,61 +30,51 @@ class Page {
             end: () => this.leave(),
         });
         this.module = this.run.module;
-        this.scenes = Array.from({ length: this.module._pageSceneCount() }, (_, i) => ({
-            name: this.run.text(this.module._pageSceneName(i)),
-            text: this.run.text(this.module._pageSceneText(i)),
-        }));
     }
 
-    build() {
-        const stage = document.getElementById("stage");
-        this.screen = new Screen(stage, document.getElementById("picture"), (width, height) => [
-            this.module._pageScale(width, height),
-            this.module._pageLeft(width, height),
-            this.module._pageTop(width, height),
-        ]);
-        this.bar = new Bar({
-            previous: () => this.press("ArrowLeft"),
-            next: () => this.press("ArrowRight"),
-            pause: () => this.press("p"),
-            rate: () => this.press(this.module._pageRate() === 60 ? "5" : "6"),
+    /** What the buttons of the bar do, by their names. */
+    acts() {
+        return {
             mute: () => this.mute(),
             full: () => this.toggleFull(),
             volume: (volume) => this.setVolume(volume),
-            choose: (scene) => this.choose(scene),
-        });
-        this.bar.listScenes(this.scenes);
+        };
+    }
+
+    /** Keys that are the page's own; the others are the program's. */
+    keys() {
+        const full = () => this.toggleFull();
+        return { F11: full, "Alt+Enter": full, F12: () => this.isPlaying && this.screen.keep() };
+    }
+
+    /** A finger has swiped to the right (-1) or to the left (1). */
+    swipe() {}
+
+    build() {
+        const stage = document.getElementById("stage");
+        this.screen = new Screen(stage, document.getElementById("picture"), (...sizes) => [
+            this.module._pageScale(...sizes),
+            this.module._pageLeft(...sizes),
+            this.module._pageTop(...sizes),
+        ]);
+        this.bar = new Bar(this.acts());
         this.pointer = new Pointer(stage, {
             point: (event) => this.point(event),
             button: (number, isHeld) => this.module._pageButton(number, isHeld),
             tap: () => (document.body.classList.contains("awake") ? this.bar.sleep() : this.bar.wake()),
-            swipe: (steps) => this.press(steps > 0 ? "ArrowRight" : "ArrowLeft"),
+            swipe: (steps) => this.swipe(steps),
         });
-        this.takeKeys();
-        this.showStill();
+        this.keyboard = new Keyboard(this.keys(), (key) => this.isPlaying && this.press(key));
         document.getElementById("play").addEventListener("click", () => this.play());
-        document.getElementById("play").disabled = false;
-        addEventListener("hashchange", () => this.followAddress());
-        addEventListener("visibilitychange", () => this.speaker && this.speaker.rest(document.hidden));
+        addEventListener("visibilitychange", () => this.rest(document.hidden));
         addEventListener("fullscreenchange", () => this.isPlaying && this.tell());
         addEventListener("focusin", () => this.isPlaying && this.bar.wake());
+        this.invite();
     }
 
-    takeKeys() {
-        const help = () => this.bar.keys.toggle();
-        const full = () => this.toggleFull();
-        const louder = () => this.changeVolume(5);
-        const quieter = () => this.changeVolume(-5);
-        const keep = () => this.isPlaying && this.screen.keep();
-        this.keyboard = new Keyboard(
-            {
-                h: help, H: help, F1: help,
-                F11: full, "Alt+Enter": full,
-                F12: keep,
-                "+": louder, "=": louder, "-": quieter,
-            },
-            (key) => this.isPlaying && this.press(key),
-        );
+    /** Waits for Play. */
+    invite() {
+        document.getElementById("play").disabled = false;
     }
 
     /** A key for the program, as if it had been pressed. */
@@ -98,12 +89,7 @@ class Page {
         this.module._pagePoint(...this.screen.placeOf(event));
     }
 
-    /** The words of the address: "#extra-9", or "#only=extra-9". */
-    static wordsOfAddress() {
-        return location.hash.slice(1).split("=").filter((word) => word !== "");
-    }
-
-    async play() {
+    async play(words = []) {
         document.getElementById("play").disabled = true;
         this.speaker = new Speaker(this.module._pageSamplesAhead(), (report) =>
             this.module._pageHeard(report.waiting, report.received),
@@ -114,7 +100,7 @@ class Page {
         document.body.classList.add("playing");
         document.getElementById("bar").hidden = false;
         this.bar.wake();
-        this.run.start(Page.wordsOfAddress());
+        this.run.start(words);
     }
 
     /** Waits for the sound, but not for long: a picture without is better than none. */
@@ -124,7 +110,14 @@ class Page {
         await Promise.race([this.speaker.open().catch(sayNone), patience.then(sayNone)]);
     }
 
-    /** The program has ended, by Escape: back to the beginning, with a new one. */
+    /** Sound that waits goes on with the pictures. */
+    rest(rests) {
+        if (this.speaker !== null) {
+            this.speaker.rest(rests);
+        }
+    }
+
+    /** The program has ended: back to the beginning, with a new one. */
     async leave() {
         this.isPlaying = false;
         this.speaker.close();
@@ -134,70 +127,23 @@ class Page {
         document.body.classList.remove("playing", "awake");
         document.getElementById("bar").hidden = true;
         await this.prepareRun();
-        this.showStill();
-        document.getElementById("play").disabled = false;
+        this.invite();
         document.getElementById("play").focus();
     }
 
-    showStill() {
-        const still = document.getElementById("still");
-        still.decode().then(() => this.isPlaying || this.screen.showStill(still));
+    /** What the bar shows: the volume, and which buttons are pressed. */
+    state() {
+        return { volume: this.volume, pressed: { mute: this.isMuted, full: document.fullscreenElement !== null } };
     }
 
-    /** Tells the bar and the address what plays now. */
     tell() {
-        const number = this.module._pageScene();
-        const scene = number < 0 ? { name: "schedule", text: "" } : this.scenes[number];
-        const rate = this.module._pageRate();
-        this.bar.tell({
-            number,
-            scene: scene.name,
-            text: scene.text,
-            rate,
-            volume: this.volume,
-            pressed: {
-                pause: this.module._pageIsPaused() !== 0,
-                mute: this.isMuted,
-                full: document.fullscreenElement !== null,
-            },
-        });
-        if (this.told !== number) {
-            this.told = number;
-            this.tellAddress(scene.name);
-        }
-    }
-
-    tellAddress(name) {
-        if (!Page.wordsOfAddress().includes(name)) {
-            history.replaceState(null, "", `#${name}`);
-        }
-    }
-
-    followAddress() {
-        const wanted = this.scenes.findIndex((scene) => Page.wordsOfAddress().includes(scene.name));
-        if (wanted >= 0 && this.isPlaying && wanted !== this.module._pageScene()) {
-            this.module._pageGoTo(wanted);
-        }
-    }
-
-    choose(scene) {
-        if (this.isPlaying) {
-            this.module._pageGoTo(scene);
-        } else {
-            history.replaceState(null, "", `#${this.scenes[scene].name}`);
-            this.play();
-        }
+        this.bar.tell(this.state());
     }
 
     mute() {
         this.isMuted = !this.isMuted;
         this.setVolume(this.volume);
         this.tell();
-    }
-
-    changeVolume(by) {
-        this.setVolume(Math.min(Math.max(this.volume + by, 0), 100));
-        this.bar.say(`volume ${this.volume} %`);
     }
 
     setVolume(volume) {
@@ -217,7 +163,12 @@ class Page {
 }
 
 let page;
-Page.open().then((opened) => (page = opened)).catch((problem) => {
-    document.getElementById("play").textContent = "This browser is too old";
-    throw problem;
-});
+
+/** Opens the one page of the document. */
+function openPage(Kind) {
+    page = new Kind();
+    page.open().catch((problem) => {
+        document.getElementById("play").textContent = "This browser is too old";
+        throw problem;
+    });
+}

@@ -39,10 +39,13 @@ class Program {
 class Run {
     constructor(page) {
         this.page = page;
+        this.isHeld = false;
+        this.held = () => {}; // what goes on when it is let go
+        this.isWaiting = false;
     }
 
     start(words) {
-        this.module.callMain(words);
+        this.goOn(() => this.module.callMain(words));
     }
 
     text(pointer) {
@@ -57,25 +60,42 @@ class Run {
         return this.page.play(samples);
     }
 
-    /** A hidden page has no frames, so the demo rests until it is seen again. */
+    /** Holds the program at its next frame, or lets it go on. */
+    hold(isHeld) {
+        this.isHeld = isHeld;
+        if (!isHeld) {
+            this.held();
+            this.held = () => {};
+        }
+    }
+
+    /** A hidden page has no frames, so the program rests until it is seen again. */
     onNextFrame(goOn) {
-        requestAnimationFrame(() => this.goOn(goOn));
+        this.isWaiting = true;
+        requestAnimationFrame(() => {
+            if (this.isHeld) {
+                this.held = () => this.onNextFrame(goOn);
+            } else {
+                this.goOn(goOn);
+            }
+        });
     }
 
     onTime(milliseconds, goOn) {
+        this.isWaiting = true;
         setTimeout(() => this.goOn(goOn), milliseconds);
     }
 
+    /** A program that does not wait again has ended. */
     goOn(goOn) {
+        this.isWaiting = false;
         try {
             goOn();
         } catch (thrown) {
             if (thrown.name !== "ExitStatus") {
                 throw thrown;
             }
-            this.page.end();
-            return;
         }
-        this.page.frame();
+        this.isWaiting ? this.page.frame() : this.page.end();
     }
 }

@@ -8,7 +8,7 @@
 "use strict";
 
 class Screen {
-    /** `layoutIn(width, height)` gives the scale, the left and the top of the picture in so many pixels. */
+    /** `layoutIn` gives scale, left and top of a picture of a width and a height in a window of a width and a height. */
     constructor(stage, canvas, layoutIn) {
         this.stage = stage;
         this.canvas = canvas;
@@ -33,9 +33,10 @@ class Screen {
     }
 
     layOut() {
-        const ratio = window.devicePixelRatio;
+        const ratio = devicePixelRatio;
         const place = this.stage.getBoundingClientRect();
-        const [scale, left, top] = this.layoutIn(Math.floor(place.width * ratio), Math.floor(place.height * ratio));
+        const size = [Math.floor(place.width * ratio), Math.floor(place.height * ratio)];
+        const [scale, left, top] = this.layoutIn(this.canvas.width, this.canvas.height, ...size);
         const style = this.canvas.style;
         style.width = `${(this.canvas.width * scale) / ratio}px`;
         style.height = `${(this.canvas.height * scale) / ratio}px`;
@@ -58,7 +59,7 @@ class Screen {
         this.canvas.toBlob((picture) => {
             const link = document.createElement("a");
             link.href = URL.createObjectURL(picture);
-            link.download = "velm4030.png";
+            link.download = `${document.title.toLowerCase()}.png`;
             link.click();
             setTimeout(() => URL.revokeObjectURL(link.href), 1000);
         });

@@ -10,6 +10,7 @@
 #include "platform/channel.h"
 #include "platform/clock.h"
 #include "platform/gain.h"
+#include "platform/program.h"
 #include "workshop/sources.h"
 #include "workshop/stage.h"
 
@@ -116,6 +117,7 @@ void play(const LiveOptions& options) {
 
 int main(int argc, char** argv) {
     desktop.gain = GAIN_usual;
+    programNames.name = program;
     const LiveOptions options = parseOptions(argc, argv);
     if (options.isSilent) {
         desktop.sound = noSound;
