@@ -2,16 +2,13 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# packaging/package.sh: installs what is missing, builds from a clean folder and leaves the Debian package in
-# build/package. The same checkout gives the same package, to the byte.
+# packaging/package.sh: installs what is missing, builds from a clean folder and leaves the Debian packages in
+# build/package. The same sources give the same packages, to the byte, with git or without.
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")/.."
 . packaging/packages.sh
 
 packaging/need.sh "${package_packages[@]}"
-if epoch=$(git log -1 --format=%ct 2>/dev/null); then
-    export SOURCE_DATE_EPOCH="$epoch"
-fi
 rm -rf build/package
 cmake --preset package >/dev/null
 cmake --build --preset package -- --quiet

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# The Debian 12 packages that the project needs, by purpose. Sourced by run.sh, test.sh, .ci/run, package.sh
-# and bench/peers.sh.
+# The Debian 12 packages that the project needs, by purpose. Sourced by run.sh, test.sh, .ci/run, package.sh,
+# ports.sh and bench/peers.sh.
 # shellcheck disable=SC2034
 build_packages=(g++ cmake ninja-build libx11-dev)
 tool_packages=(libcli11-dev libdeflate-dev libsdl2-dev pkg-config zlib1g-dev)
@@ -19,3 +19,5 @@ lint_packages=("${bench_packages[@]}" clang-format clang-tidy iwyu appstream des
 # The JACK that STK would bring by itself would put the one out that sound servers use.
 peer_packages=("${build_packages[@]}" pkgconf libcairo2-dev libjack-jackd2-dev libnetpbm-dev libopencv-core-dev
     libopencv-imgproc-dev libpixman-1-dev libsdl2-dev libstb-dev libstk-dev libvolk2-dev)
+ports_packages=(g++ clang cmake ninja-build libcli11-dev g++-aarch64-linux-gnu g++-arm-linux-gnueabihf g++-riscv64-linux-gnu
+    g++-s390x-linux-gnu qemu-user)

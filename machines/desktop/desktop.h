@@ -59,4 +59,7 @@ inline constexpr const char* noSound = "none";
 /// The demo's program on this machine.
 inline constexpr const char* desktopProgram = "velm4030-play";
 
+/// The menu entry's name, by which Wayland's desktops find the icon.
+inline constexpr const char* desktopEntry = "org.velm4030.velm4030";
+
 } // namespace velm

@@ -55,7 +55,7 @@ void openVideo() {
         return;
     }
     SDL_setenv("SDL_VIDEO_X11_WMCLASS", programNames.title, 0);
-    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", programNameOr(desktopProgram), 0); // the menu entry's name
+    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", programNameOr(desktopEntry), 0);
     const bool isForeign = desktop.foreign != 0 || desktop.root;
     if (isForeign) { // a screen saver must not hold itself off, and ends when it is told to
         SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");

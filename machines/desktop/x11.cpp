@@ -5,6 +5,7 @@
 #include "desktop/video.h"
 
 #include <SDL_syswm.h>
+#include <bit>
 #include <cstdlib>
 #include <dlfcn.h>
 
@@ -170,6 +171,8 @@ bool putRows(SDL_Window* window, char* rows, SDL_Point size) {
     if (image == nullptr) {
         return false;
     }
+    // The rows are words of this machine; those of the server may be turned.
+    image->byte_order = std::endian::native == std::endian::little ? LSBFirst : MSBFirst;
     xlib().put(x11.display, x11.window, DefaultGCOfScreen(attributes.screen), image, 0, 0, 0, 0, width,
                height);
     xlib().sync(x11.display, False);

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "headless/environment.h"
 
+#include "foundation/byte_order.h"
 #include "headless/headless.h"
 #include "image/img.h"
 #include "image/rgb888.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <sstream>
@@ -96,7 +98,10 @@ void takeEnvironment() {
     }
     if (const std::string path = variable("VELM_AUDIO"); !path.empty()) {
         headless.onSound = [output = Output(path)](std::span<const std::int16_t> block) {
-            output.write(block.data(), block.size_bytes());
+            std::vector<std::int16_t> samples(block.size());
+            std::transform(block.begin(), block.end(), samples.begin(),
+                           [](std::int16_t sample) { return lowByteFirst(sample); });
+            output.write(samples.data(), block.size_bytes());
         };
     }
     forEachWord(variable("VELM_KEYS"), takeKey);

@@ -7,7 +7,7 @@
 //
 // VELM_FRAMES   the program ends with status 0 after so many presentations
 // VELM_VIDEO    a file for all frames: three bytes a pixel, red, green and blue
-// VELM_AUDIO    a file for the sound: signed 16-bit mono, 44100 a second
+// VELM_AUDIO    a file for the sound: signed 16-bit mono, low byte first, 44100 a second
 // VELM_KEYS     key presses, FRAME:CHARACTER or FRAME:=KEYCODE, with spaces between them
 // VELM_POINTER  pointer movements, FRAME:X:Y:BUTTONS, with spaces between them
 #pragma once

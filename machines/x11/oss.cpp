@@ -16,16 +16,25 @@ namespace {
 // device has always been opened with this word.
 constexpr int openFlags = 0x1401;
 
-constexpr bool isSystems(DspRequest request, unsigned long number) {
-    return static_cast<unsigned long>(request) == number;
+/// The system's number of a request. Most processors' is the one of DspRequest; MIPS, PowerPC and SPARC mark
+/// requests that are answered by other bits.
+constexpr unsigned long numberOf(DspRequest request) {
+    switch (request) {
+    case DspRequest::reset:
+        return SNDCTL_DSP_RESET;
+    case DspRequest::speed:
+        return SNDCTL_DSP_SPEED;
+    case DspRequest::stereo:
+        return SNDCTL_DSP_STEREO;
+    case DspRequest::blockSize:
+        return SNDCTL_DSP_GETBLKSIZE;
+    case DspRequest::format:
+        return SNDCTL_DSP_SETFMT;
+    case DspRequest::toPlay:
+        return SNDCTL_DSP_GETODELAY;
+    }
+    return 0;
 }
-
-static_assert(isSystems(DspRequest::reset, SNDCTL_DSP_RESET) &&
-              isSystems(DspRequest::speed, SNDCTL_DSP_SPEED) &&
-              isSystems(DspRequest::stereo, SNDCTL_DSP_STEREO) &&
-              isSystems(DspRequest::blockSize, SNDCTL_DSP_GETBLKSIZE) &&
-              isSystems(DspRequest::format, SNDCTL_DSP_SETFMT) &&
-              isSystems(DspRequest::toPlay, SNDCTL_DSP_GETODELAY));
 
 } // namespace
 
@@ -39,7 +48,7 @@ std::int32_t OSS_open(const char* path) {
 }
 
 std::int32_t OSS_request(std::int32_t device, DspRequest request, std::int32_t* word) {
-    const int answer = ioctl(device, static_cast<unsigned long>(request), word);
+    const int answer = ioctl(device, numberOf(request), word);
     if (request == DspRequest::blockSize && (*word <= 0 || *word > OSS_largestBlock)) {
         return -1;
     }

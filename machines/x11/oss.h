@@ -21,7 +21,8 @@ inline constexpr std::int32_t OSS_largestBlock = 1 << 20;
 /// Makes a request: a negative number when it is refused, or when the driver names a block beyond reason.
 std::int32_t OSS_request(std::int32_t device, DspRequest request, std::int32_t* word);
 
-/// Hands over a block, once, waiting while the device is full: the bytes taken, or -1.
+/// Hands over a block of samples, low byte first, once, waiting while the device is full: the bytes taken, or
+/// -1.
 std::int32_t OSS_write(std::int32_t device, const std::int16_t* block, std::int32_t samples);
 
 /// Closes the device. A negative descriptor is none, and nothing happens.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "x11/oss_thread.h"
 
+#include "foundation/byte_order.h"
 #include "foundation/memory.h"
 #include "x11/oss.h"
 
@@ -112,7 +113,8 @@ bool OSS_callWrite(OssThread* thread, const std::int16_t* block, std::int32_t sa
         thread->block = room;
         thread->capacity = samples;
     }
-    std::copy_n(block, samples, thread->block);
+    std::transform(block, block + samples, thread->block,
+                   [](std::int16_t sample) { return lowByteFirst(sample); });
     thread->samples = samples;
     make(thread, [](OssThread& own) { return OSS_write(own.device, own.block, own.samples); });
     return true;

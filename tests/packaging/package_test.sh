@@ -45,7 +45,7 @@ for program in "$root"/usr/bin/*; do
     readelf -sW --dyn-syms "$program" | grep __stack_chk_fail >/dev/null || fail "$name has no guarded stack"
     [ -s "$root/usr/share/man/man1/$name.1.gz" ] || fail "$name has no man page"
 done
-for file in applications/velm4030-play.desktop xscreensaver/config/velm4030-play.xml \
+for file in applications/org.velm4030.velm4030.desktop xscreensaver/config/velm4030-play.xml \
     metainfo/org.velm4030.velm4030.metainfo.xml doc/velm4030/copyright \
     doc/velm4030/README.md doc/velm4030/changelog.gz doc/velm4030/changelog.Debian.gz doc/velm4030-play/copyright; do
     grep -qxF "./share/$file" <<<"$installed" || fail "$file is missing in $installed"
@@ -54,7 +54,7 @@ for size in 16 24 32 48 64 128 256; do
     icon=$root/usr/share/icons/hicolor/${size}x$size/apps/velm4030.png
     [[ "$(pngtopnm "$icon" | pnmfile)" == *" $size by $size "* ]] || fail "$icon is not $size by $size"
 done
-starts=$(sed -n 's/^Exec=//p' "$root/usr/share/applications/velm4030-play.desktop")
+starts=$(sed -n 's/^Exec=//p' "$root/usr/share/applications/org.velm4030.velm4030.desktop")
 [ -x "$root/usr/bin/$starts" ] || fail "the menu starts $starts, which is not installed"
 "$root/usr/bin/velm4030-capture" --frames 3 --quiet --crc "$work/installed.crc"
 "$build/velm4030-capture" --frames 3 --quiet --crc "$work/built.crc"
@@ -80,6 +80,20 @@ run_dpkg --install "$dev" || fail "$(cat "$work/dpkg.log")"
 for program in velm4030-new velm4030-live; do
     [ -s "$root/usr/share/man/man1/$program.1.gz" ] || fail "$program has no man page"
 done
+
+# Stores find a program by one name, and offer all that is there.
+application=$(sed -n 's|.*<id>\(.*\)</id>.*|\1|p' "$root"/usr/share/metainfo/*.xml)
+[ -e "$root/usr/share/applications/$application.desktop" ] || fail "no menu entry $application"
+diff <(sed -n 's|.*<binary>\(.*\)</binary>.*|\1|p' "$root"/usr/share/metainfo/*.xml) <(ls "$root/usr/bin") ||
+    fail "the metainfo (<) offers other programs than are installed (>)"
+
+# What is read on a system leads nowhere else: pages in Markdown and in HTML.
+links=0
+while IFS=: read -r page link; do
+    links=$((links + 1))
+    [ -e "$(dirname "$page")/$link" ] || fail "$page links to $link, which is not installed"
+done < <(grep -rHoP '(\]\(|(href|src)=")\K[^)#:"]+(?=[)#"])' --include=*.md --include=*.html "$root/usr/share/doc")
+[ "$links" -ge 12 ] || fail "hardly a link in the installed pages"
 
 run_dpkg --purge libvelm-dev velm4030-play velm4030 || fail "$(cat "$work/dpkg.log")"
 (cd "$root" && find . -not -path './var/*' | sort) | diff "$work/before" - || fail "the removal left files"

@@ -4,6 +4,7 @@
 // The device of these tests is a real stream socket behind "/dev/dsp": only open and ioctl are taken over, so
 // that they can be watched; writes, short ones and failing ones included, are the system's own.
 #include "audio/sample.h"
+#include "foundation/byte_order.h"
 #include "foundation/list.h"
 #include "platform/xsnd.h"
 #include "support/owned.h"
@@ -112,6 +113,9 @@ protected:
         std::vector<std::int16_t> samples(1 << 16);
         const ssize_t bytes = recv(device.ends[1], samples.data(), 2 * samples.size(), MSG_DONTWAIT);
         samples.resize(static_cast<std::size_t>(std::max<ssize_t>(bytes, 0)) / 2);
+        for (std::int16_t& sample : samples) {
+            sample = lowByteFirst(sample);
+        }
         return samples;
     }
 

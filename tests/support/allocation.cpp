@@ -7,6 +7,7 @@
 namespace {
 
 std::int64_t allocations = 0;
+std::int64_t otherAllocations = 0; // the library's and the tests'
 std::int64_t failingAllocation = 0;
 bool (*isRefusedNow)() = nullptr;
 bool isKeeping = false;
@@ -33,6 +34,7 @@ void release(void* memory) {
 }
 
 void* allocateOrThrow(std::size_t size) {
+    ++otherAllocations;
     void* memory = std::malloc(size == 0 ? 1 : size);
     if (memory == nullptr) {
         throw std::bad_alloc();
@@ -71,6 +73,10 @@ namespace velm::test {
 
 std::int64_t allocationCount() {
     return allocations;
+}
+
+std::int64_t everyAllocationCount() {
+    return allocations + otherAllocations;
 }
 
 FailingAllocation::FailingAllocation(std::int64_t nth) {

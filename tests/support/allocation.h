@@ -14,6 +14,9 @@ namespace velm::test {
 /// How often the project's allocations (new with std::nothrow) were asked for memory so far.
 std::int64_t allocationCount();
 
+/// How often anybody was: the standard library counts, too.
+std::int64_t everyAllocationCount();
+
 /// While it lives, the nth allocation counted from its construction (1 is the next one) gives nullptr.
 class FailingAllocation {
 public:

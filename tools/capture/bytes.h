@@ -7,29 +7,23 @@
 //     file.write(lowByteFirst<std::uint32_t>(pixels));
 #pragma once
 
-#include <bit>
+#include "foundation/byte_order.h"
+
 #include <cstddef>
-#include <cstdint>
+#include <cstring>
 #include <span>
-#include <type_traits>
 #include <vector>
 
 namespace velm {
 
 template <typename Word>
 std::vector<std::byte> lowByteFirst(std::span<const Word> words) {
-    if constexpr (std::endian::native == std::endian::little) {
-        const auto bytes = std::as_bytes(words);
-        return {bytes.begin(), bytes.end()};
-    }
-    constexpr int bitsPerByte = 8;
-    std::vector<std::byte> bytes(words.size() * sizeof(Word));
+    std::vector<std::byte> bytes(words.size_bytes());
     std::byte* next = bytes.data();
     for (const Word word : words) {
-        for (std::size_t i = 0; i < sizeof(Word); ++i) {
-            *next++ =
-                static_cast<std::byte>(static_cast<std::make_unsigned_t<Word>>(word) >> (bitsPerByte * i));
-        }
+        const Word turned = lowByteFirst(word);
+        std::memcpy(next, &turned, sizeof turned);
+        next += sizeof turned;
     }
     return bytes;
 }

@@ -3,16 +3,16 @@
 #include "capture/frame_outputs.h"
 
 #include "capture/console.h"
+#include "capture/crc/crc.h"
 #include "capture/temporary_file.h"
 #include "image/img.h"
 
 #include <filesystem>
-#include <libdeflate.h>
 
 namespace velm {
 
 void Checksums::frame(const Frame& frame) {
-    const std::uint32_t sum = libdeflate_crc32(0, frame.bytes.data(), frame.bytes.size());
+    const std::uint32_t sum = crcOf(frame.bytes);
     char line[32];
     const int length = std::snprintf(line, sizeof line, "%u %08x\n", frame.number, sum);
     file.write(std::as_bytes(std::span(line, static_cast<std::size_t>(length))));

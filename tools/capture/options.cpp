@@ -149,10 +149,11 @@ CaptureOptions parseOptions(int argc, char** argv) {
         ->check([&options](const std::string& text) { return parseKeys(text, options.keys); });
     app.add_option("--pointer", pointers, "FRAME:X:Y:BUTTONS,... moves the pointer after a frame")
         ->check([&options](const std::string& text) { return parsePointers(text, options.pointers); });
-    app.add_option("--raw", options.raw, "every frame as 256 x 256 words 0x00RRGGBB; - for standard output");
+    app.add_option("--raw", options.raw,
+                   "every frame as 256 x 256 words 0x00RRGGBB, low byte first; - for standard output");
     app.add_option("--ppm", options.ppmFolder, "every frame as a numbered P6 file in this folder");
     app.add_option("--crc", options.crc,
-                   "a line a frame, number and CRC-32 of its words; - for standard output");
+                   "a line a frame, number and CRC-32 of those bytes; - for standard output");
     app.add_option("--audio", options.audio, "what the sound device is handed, as a WAV file");
     app.add_option("--block", options.block,
                    "bytes of the sound driver's block (what a frame lasts at --rate)")

@@ -3,6 +3,7 @@
 #include "workshop/program.h"
 
 #include "platform/clock.h"
+#include "workshop/wait/wait.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -10,7 +11,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -21,7 +21,6 @@ namespace velm {
 
 namespace {
 
-constexpr std::int64_t nanosPerSecond = 1000000000;
 constexpr std::int64_t patience = 2000000; ///< microseconds that a frame may take
 constexpr int cannotStart = 127;
 constexpr int signalBase = 128; ///< statuses from here on are signals, as in a shell
@@ -116,13 +115,7 @@ Program::~Program() {
 }
 
 bool Program::hasDrawn(std::int64_t millis) {
-    constexpr std::int64_t nanosPerMilli = 1000000;
-    timespec until{};
-    clock_gettime(CLOCK_MONOTONIC, &until);
-    const std::int64_t nanos = until.tv_nsec + millis * nanosPerMilli;
-    until.tv_sec += nanos / nanosPerSecond;
-    until.tv_nsec = nanos % nanosPerSecond;
-    return sem_clockwait(&channel->drawn, CLOCK_MONOTONIC, &until) == 0;
+    return awaitPost(channel->drawn, millis);
 }
 
 void Program::ask(std::int32_t frame) {
