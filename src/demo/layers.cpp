@@ -4,11 +4,9 @@
 // The layers that the scenes share, in the order in which a frame meets them.
 #include "demo/state.h"
 #include "demo/velm4030.h"
-#include "foundation/list.h"
 #include "foundation/sine.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
-#include "vector/obj2d.h"
 
 #include <string_view>
 

@@ -54,7 +54,7 @@ Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster, std::
                      part.height * layout.scale};
     const bool isOurs = raster.pixels.isOurs();
     const SpreadRow spread = spreadFor(raster.pixels.bytes, layout.scale);
-    const std::int32_t squareBytes = layout.scale * raster.pixels.bytes;
+    const std::ptrdiff_t squareBytes = std::ptrdiff_t{layout.scale} * raster.pixels.bytes;
     char* rows = raster.first + place.y * raster.pitch + std::ptrdiff_t{place.x} * raster.pixels.bytes;
     for (std::int32_t y = part.y; y < part.y + part.height; ++y, rows += layout.scale * raster.pitch) {
         const std::int64_t first = std::int64_t{y} * frame.width + part.x;
