@@ -38,6 +38,30 @@ SpreadRow spreadFor(std::int32_t bytes, std::int32_t scale) {
     return bytes == 4 && scale < static_cast<std::int32_t>(std::size(words)) ? words[scale] : any[bytes - 1];
 }
 
+/// Writes a block of a row as squares from `to` on: one row is spread out, the others are its copies.
+void writeSquares(std::span<const std::uint32_t> block, std::int32_t scale, const Raster& raster, char* to) {
+    std::uint32_t pixels[blockWidth];
+    std::copy(block.begin(), block.end(), pixels);
+    if (!raster.pixels.isOurs()) {
+        std::transform(block.begin(), block.end(), pixels,
+                       [&raster](std::uint32_t pixel) { return raster.pixels.of(pixel); });
+    }
+    spreadFor(raster.pixels.bytes, scale)({pixels, block.size()}, scale, to);
+    const std::size_t bytes = block.size() * static_cast<std::size_t>(scale * raster.pixels.bytes);
+    for (std::int32_t copy = 1; copy < scale; ++copy) {
+        std::memcpy(to + copy * raster.pitch, to, bytes);
+    }
+}
+
+/// Brings `former` up to a block of its row, and tells whether there was anything to bring.
+bool takeChange(std::span<const std::uint32_t> block, std::span<std::uint32_t> former) {
+    if (std::equal(block.begin(), block.end(), former.begin())) {
+        return false;
+    }
+    std::copy(block.begin(), block.end(), former.begin());
+    return true;
+}
+
 /// The part of a frame that fits: a window smaller than the picture shows its middle, a larger one shows all.
 Part partThatFits(const IMG& frame, const Layout& layout, const Raster& raster) {
     const std::int32_t x = std::max(-layout.left, 0) / layout.scale;
@@ -52,32 +76,16 @@ Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster, std::
     const Part part = partThatFits(frame, layout, raster);
     const Part place{std::max(layout.left, 0), std::max(layout.top, 0), part.width * layout.scale,
                      part.height * layout.scale};
-    const bool isOurs = raster.pixels.isOurs();
-    const SpreadRow spread = spreadFor(raster.pixels.bytes, layout.scale);
     const std::ptrdiff_t squareBytes = std::ptrdiff_t{layout.scale} * raster.pixels.bytes;
     char* rows = raster.first + place.y * raster.pitch + std::ptrdiff_t{place.x} * raster.pixels.bytes;
     for (std::int32_t y = part.y; y < part.y + part.height; ++y, rows += layout.scale * raster.pitch) {
-        const std::int64_t first = std::int64_t{y} * frame.width + part.x;
-        const std::uint32_t* const row = frame.pixels + first;
+        const std::size_t first = static_cast<std::size_t>(y) * static_cast<std::size_t>(frame.width);
         for (std::int32_t x = 0; x < part.width; x += blockWidth) {
-            const std::int32_t count = std::min(blockWidth, part.width - x);
-            if (!former.empty()) {
-                std::uint32_t* const before = &former[static_cast<std::size_t>(first + x)];
-                if (std::equal(row + x, row + x + count, before)) {
-                    continue;
-                }
-                std::copy_n(row + x, count, before);
-            }
-            std::uint32_t pixels[blockWidth];
-            std::copy_n(row + x, count, pixels);
-            if (!isOurs) {
-                std::transform(pixels, pixels + count, pixels,
-                               [&raster](std::uint32_t pixel) { return raster.pixels.of(pixel); });
-            }
-            char* const to = rows + x * squareBytes;
-            spread({pixels, static_cast<std::size_t>(count)}, layout.scale, to);
-            for (std::int32_t copy = 1; copy < layout.scale; ++copy) {
-                std::memcpy(to + copy * raster.pitch, to, static_cast<std::size_t>(count * squareBytes));
+            const std::size_t nth = first + static_cast<std::size_t>(part.x + x);
+            const auto count = static_cast<std::size_t>(std::min(blockWidth, part.width - x));
+            const std::span block(frame.pixels + nth, count);
+            if (former.empty() || takeChange(block, former.subspan(nth, count))) {
+                writeSquares(block, layout.scale, raster, rows + x * squareBytes);
             }
         }
     }

@@ -31,9 +31,8 @@ struct Part {
 };
 
 /// Writes what fits of a frame where its layout has it, and returns the part of the raster that it takes;
-/// nothing else of it changes. One row is spread out, and its copies are copied. Where the raster holds an
-/// earlier frame of the same size and layout, `former` has its pixels: only the blocks of 16 pixels with a
-/// change are written, there, too.
+/// nothing else of it changes. Where the raster holds an earlier frame of the same size and layout, `former`
+/// has its pixels: only the blocks of 16 pixels with a change are written, there, too.
 Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster,
              std::span<std::uint32_t> former = {});
 
