@@ -25,7 +25,7 @@ if [ "${1:-}" = web ]; then
     test_web
 fi
 packaging/need.sh "${test_packages[@]}"
-echo "The first time this builds for some ten minutes on two cores and takes 1 GB in build/; the tests take four."
+echo "On two cores this builds for some eight minutes the first time and takes 800 MB in build/; the tests take six."
 for preset in release sanitize; do
     echo "Building $preset"
     cmake --preset "$preset" >/dev/null
