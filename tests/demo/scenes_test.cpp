@@ -20,9 +20,8 @@
 
 namespace velm {
 
-/// The name of a scene, in what a failed test says.
-void PrintTo(const SCENE& scene,
-             std::ostream* out) { // NOLINT(misc-use-internal-linkage): GoogleTest finds it
+/// The name of a scene, in what a failed test says; GoogleTest finds it.
+void PrintTo(const SCENE& scene, std::ostream* out) {
     *out << scene.name;
 }
 
@@ -231,8 +230,8 @@ TEST_P(EveryScene, EndsAtOnceWithoutTheMemoryThatItNeeds) {
     headless.onFrame = [&light](const IMG& frame) {
         light = *std::max_element(frame.pixels, frame.pixels + 256 * 256);
     };
-    for (std::int64_t nth = 1; nth <= made;
-         nth += sparing * (nth < 200 ? 1 : 97)) { // the palette is 1536 appends
+    // The palette is 1536 appends.
+    for (std::int64_t nth = 1; nth <= made; nth += sparing * (nth < 200 ? 1 : 97)) {
         dropAll();
         const FailingAllocation failure(nth);
         EXPECT_EQ(presentations(begin + 9), begin + 1) << "without allocation " << nth << " of " << made;
@@ -269,7 +268,8 @@ TEST_P(EveryScene, LastsAsLongAsItShouldAndAllocatesNothingMeanwhile) {
     };
     headless.keys.reserve(1000);
     if (length == lengths.end()) {
-        EXPECT_LE(presentations(untilSpace), untilSpace);
+        const std::uint32_t shown = presentations(untilSpace);
+        EXPECT_TRUE(scene.name == "extra-1" ? shown == untilSpace : shown <= untilSpace) << shown;
     } else {
         scene.run();
         EXPECT_EQ(headless.frames - first, begin + length->second);
