@@ -91,7 +91,7 @@ class DemoPage extends Page {
         }
         if (rate !== this.told?.rate) {
             this.bar.button("rate").textContent = rate;
-            this.bar.button("rate").setAttribute("aria-label", `${rate} frames a second`);
+            this.bar.button("rate").setAttribute("aria-label", `${rate} frames per second`);
         }
         this.told = this.bar.told;
     }
