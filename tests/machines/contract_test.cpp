@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::int32_t windowSize = 256;
 constexpr char escape = 27;
+constexpr double slack = 10; ///< seconds by which a busy machine may be late
 
 volatile std::sig_atomic_t rung = 0; ///< alarms so far
 
@@ -184,7 +185,6 @@ TEST_F(MachineTest, RestsBrieflyAndMissesNoKey) {
     for (int i = 0; i < rests; ++i) {
         XKBD_rest(keyboard);
     }
-    constexpr double slack = 1;
     EXPECT_LT(secondsNow() - begin, rests * XKBD_longestRest / 1e6 + slack);
     hands().press("p");
     keyboard->text[0] = '\0';
@@ -209,7 +209,7 @@ TEST_F(MachineTest, TimeNeverRunsBackAndSleepsTakeTheirs) {
     }
     const std::int64_t slept = CLOCK_now() - last;
     EXPECT_GE(slept, frames * frame * 9 / 10);
-    EXPECT_LT(slept, frames * frame + 1000000);
+    EXPECT_LT(static_cast<double>(slept), frames * frame + 1e6 * slack);
 }
 
 TEST_F(MachineTest, RingsTheAlarmOnceOrOverAndOver) {
@@ -289,6 +289,20 @@ protected:
         }
     }
 
+    /// What XSND_play() takes in the middle one of so many frames, in seconds: on a busy machine some take
+    /// long.
+    [[nodiscard]] double usualWait(int frames) const {
+        std::vector<double> waits;
+        for (int frame = 0; frame < frames; ++frame) {
+            const double begin = secondsNow();
+            XSND_play(sound);
+            waits.push_back(secondsNow() - begin);
+        }
+        std::ranges::nth_element(waits, waits.begin() + frames / 2);
+        return waits[static_cast<std::size_t>(frames / 2)];
+    }
+    static constexpr double quick = 0.005; ///< a sixth of a frame
+
     /// True when a stretch of the noise was heard: a machine under load may miss some.
     [[nodiscard]] bool isHeard() const {
         const std::vector<std::int16_t> heard = hands().heard();
@@ -340,11 +354,8 @@ TEST_F(MachineSoundTest, WithoutADeviceNothingWaits) {
     hands().takeSoundAway();
     open();
     XSND_setFrameRate(sound, 60);
-    const double begin = secondsNow();
-    for (int frame = 0; frame < 100; ++frame) {
-        EXPECT_EQ(XSND_play(sound), 1);
-    }
-    EXPECT_LT(secondsNow() - begin, 2);
+    EXPECT_LT(usualWait(100), quick);
+    EXPECT_EQ(XSND_play(sound), 1);
     if (sound->fd < 0) { // else it waits for one that may come
         EXPECT_EQ(sound->block, nullptr);
         EXPECT_EQ(sound->samplesWritten, 0);
@@ -359,9 +370,7 @@ TEST_F(MachineSoundTest, ADeviceThatIsLostCostsOnlySilence) {
     constexpr int second = 30;
     play(second);
     hands().takeSoundAway();
-    const double begin = secondsNow();
-    play(2 * second);
-    EXPECT_LT(secondsNow() - begin, 5);
+    EXPECT_LT(usualWait(2 * second), quick);
 }
 
 } // namespace

@@ -123,12 +123,13 @@ public:
         return std::count(log.begin(), log.end(), '\n');
     }
 
-    void pause() {
+    void awaitStandstill() const {
+        ASSERT_TRUE(standsStill(*player, [this] { return puts(); })) << "pictures still come";
+    }
+
+    void pause() const {
         session.press("p");
-        ASSERT_TRUE(eventually([this] {
-            const std::ptrdiff_t before = puts();
-            return std::system("sleep 0.2") == 0 && puts() == before;
-        }));
+        awaitStandstill();
     }
 
     /// What a viewer sees of the window.

@@ -65,7 +65,7 @@ TEST(PlayKeys, ThatAreHeldActOnce) {
     Stage stage("24", "640x480");
     stage.play({"--scale", "1"});
     stage.session.xdotool({"keydown", "p"});
-    ASSERT_EQ(std::system("sleep 0.3"), 0);
+    stage.awaitStandstill();
     const std::ptrdiff_t before = stage.puts();
     ASSERT_EQ(std::system("sleep 1.2"), 0); // the server repeats a key after 0.66 s, 25 times a second
     EXPECT_EQ(stage.puts(), before) << "the pause stays";

@@ -78,6 +78,18 @@ double processorSecondsOf(pid_t pid) {
                : (std::stod(words[13]) + std::stod(words[14])) / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
+/// The number after a name in what the system tells about a process; 0 where there is none.
+long statusOf(pid_t pid, std::string_view name) {
+    std::ifstream status("/proc/" + std::to_string(pid) + "/status");
+    long number = 0;
+    for (std::string word; status >> word;) {
+        if (word == name) {
+            status >> number;
+        }
+    }
+    return number;
+}
+
 } // namespace
 
 Environment spied(const std::string& display, const std::string& log, const Environment& more) {
@@ -129,11 +141,8 @@ bool Child::isRunning() {
     if (!ended && waitpid(pid, &status, WNOHANG) == pid) {
         ended = true;
     }
-    std::ifstream memory("/proc/" + std::to_string(pid) + "/status");
-    for (std::string word; !ended && memory >> word;) {
-        if (word == "VmHWM:") {
-            memory >> peak;
-        }
+    if (!ended) {
+        peak = std::max(peak, statusOf(pid, "VmHWM:")); // which it has no more once it is dead
     }
     return !ended;
 }
@@ -157,6 +166,10 @@ double Child::processorSeconds() const {
         seconds += processorSecondsOf(child);
     }
     return seconds;
+}
+
+long Child::waits() const {
+    return statusOf(pid, "voluntary_ctxt_switches:");
 }
 
 XServer::XServer(const std::string& depth, const std::string& size, const std::vector<std::string>& more)

@@ -32,7 +32,7 @@ public:
     Child& operator=(const Child&) = delete;
 
     /// The exit status, 128 + the signal's number after a signal, or -1 when it still runs after `seconds`.
-    int waitForExit(double seconds = 30);
+    int waitForExit(double seconds = 60);
     [[nodiscard]] bool isRunning();
     void signal(int number) const;
 
@@ -42,6 +42,8 @@ public:
     [[nodiscard]] long peakKilobytes() const { return peak; }
     /// The processor time that it and its own children that still run have used, in seconds.
     [[nodiscard]] double processorSeconds() const;
+    /// How often it has given its processor away to wait for something.
+    [[nodiscard]] long waits() const;
     [[nodiscard]] pid_t id() const { return pid; }
 
 private:
@@ -75,6 +77,11 @@ int runTool(const std::vector<std::string>& arguments, const Environment& enviro
 template <typename Condition>
 bool eventually(Condition holds, double seconds = 60);
 
+/// True once `count` stays the same for a fifth of a second in which the program has waited twenty times for
+/// its next frame or key: on a busy machine nothing may happen for long although it runs.
+template <typename Count>
+bool standsStill(const Child& program, Count count);
+
 void pauseBriefly();
 double secondsNow();
 
@@ -88,6 +95,21 @@ bool eventually(Condition holds, double seconds) {
         pauseBriefly();
     }
     return true;
+}
+
+template <typename Count>
+bool standsStill(const Child& program, Count count) {
+    constexpr int manyWaits = 20;
+    constexpr double fifth = 0.2;
+    return eventually([&] {
+        const auto before = count();
+        const long waits = program.waits();
+        const double begin = secondsNow();
+        const auto isOver = [&] {
+            return program.waits() >= waits + manyWaits && secondsNow() >= begin + fifth;
+        };
+        return eventually(isOver, 10) && count() == before;
+    });
 }
 
 } // namespace velm::test

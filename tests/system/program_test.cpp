@@ -115,21 +115,22 @@ TEST_F(ProgramTest, TheCloseButtonFadesOutAlsoDuringAPause) {
 TEST_F(ProgramTest, EscapeOvertakesACrowdOfKeys) {
     crowd();
     session->press("Escape");
-    EXPECT_EQ(demo.waitForExit(5), 0);
+    EXPECT_EQ(demo.waitForExit(), 0);
 }
 
 TEST_F(ProgramTest, TheCloseButtonOvertakesACrowdOfKeys) {
     crowd();
     session->sendClose(session->findDemo());
-    EXPECT_EQ(demo.waitForExit(5), 0);
+    EXPECT_EQ(demo.waitForExit(), 0);
 }
 
 TEST_F(ProgramTest, APauseRestsAndNothingPilesUpInIt) {
     waitForScene();
     pause();
     const double before = demo.processorSeconds();
+    const double begin = secondsNow();
     usleep(2000000);
-    EXPECT_LT(demo.processorSeconds() - before, VELM_IS_SANITIZED ? 0.4 : 0.1);
+    EXPECT_LT((demo.processorSeconds() - before) / (secondsNow() - begin), VELM_IS_SANITIZED ? 0.2 : 0.05);
     EXPECT_TRUE(demo.isRunning());
     const long kilobytes = demo.peakKilobytes();
     XEvent motion{};
@@ -140,8 +141,7 @@ TEST_F(ProgramTest, APauseRestsAndNothingPilesUpInIt) {
     }
     const std::size_t pictures = puts().size();
     session->press("p");
-    EXPECT_TRUE(eventually([&] { return puts().size() > pictures; }, VELM_IS_SANITIZED ? 10 : 1))
-        << "a key acts at once";
+    EXPECT_TRUE(eventually([&] { return puts().size() > pictures; })) << "a key acts";
     EXPECT_TRUE(demo.isRunning());
     // The sanitizer keeps back what is freed.
     EXPECT_LT(demo.peakKilobytes() - kilobytes, (VELM_IS_SANITIZED ? 512 : 16) * 1024);
@@ -150,18 +150,8 @@ TEST_F(ProgramTest, APauseRestsAndNothingPilesUpInIt) {
 TEST_F(ProgramTest, TheFirstPictureTakes50MillisecondsOfWork) {
     ASSERT_TRUE(eventually([this] { return !puts().empty(); }));
     EXPECT_EQ(puts().front().brightest, 0xFFFFFFU) << "the first picture is the logo";
-    // The first start reads the program from the disk, so the quickest of some counts.
-    double least = puts().front().worked;
-    demo.signal(SIGKILL);
-    demo.waitForExit();
-    for (int start = 0; start < 4; ++start) {
-        std::filesystem::resize_file(spyLog, 0);
-        const Child again({VELM_PROGRAM}, spied(server.display(), spyLog, {}));
-        ASSERT_TRUE(eventually([this] { return !puts().empty(); }));
-        least = std::min(least, puts().front().worked);
-    }
     // Sanitizers slow everything down; the figure is one of the release build.
-    EXPECT_LT(least, VELM_IS_SANITIZED ? 1000 : 50);
+    EXPECT_LT(leastToFirstPicture(&Put::worked), VELM_IS_SANITIZED ? 1000 : 50);
 }
 
 TEST_F(ProgramTest, ALostConnectionEndsItWithOneLine) {

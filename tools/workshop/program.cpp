@@ -15,13 +15,17 @@
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
+#include <time.h>
 #include <unistd.h>
 
 namespace velm {
 
 namespace {
 
-constexpr std::int64_t patience = 2000000; ///< microseconds that a frame may take
+/// Microseconds that a frame may take of a processor, and in all: on a busy machine a version that works well
+/// may get few.
+constexpr std::int64_t longestWork = 2000000;
+constexpr std::int64_t longestWait = 10000000;
 constexpr int cannotStart = 127;
 constexpr int signalBase = 128; ///< statuses from here on are signals, as in a shell
 
@@ -95,6 +99,15 @@ Process::~Process() {
     }
 }
 
+std::int64_t Process::worked() const {
+    clockid_t clock{};
+    timespec time{};
+    if (clock_getcpuclockid(group, &clock) != 0 || clock_gettime(clock, &time) != 0) {
+        return 0;
+    }
+    return std::int64_t{time.tv_sec} * 1000000 + time.tv_nsec / 1000;
+}
+
 bool Process::hasEnded() {
     int status = 0;
     if (!ended && waitpid(group, &status, WNOHANG) == group) {
@@ -122,6 +135,7 @@ void Program::ask(std::int32_t frame) {
     channel->frame = frame;
     channel->samples = 0;
     askedAt = CLOCK_now();
+    workedBefore = process.worked();
     sem_post(&channel->asked);
 }
 
@@ -131,7 +145,10 @@ std::string Program::failure() {
         return status > signalBase ? std::string("crashed: ") + strsignal(status - signalBase)
                                    : "ended with status " + std::to_string(status);
     }
-    return CLOCK_now() - askedAt > patience ? "gave no frame for two seconds" : "";
+    if (process.worked() - workedBefore > longestWork) {
+        return "gave no frame in two seconds of work";
+    }
+    return CLOCK_now() - askedAt > longestWait ? "gave no frame for ten seconds" : "";
 }
 
 } // namespace velm

@@ -27,6 +27,8 @@ public:
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
 
+    /// The time that it has had a processor for, in microseconds.
+    [[nodiscard]] std::int64_t worked() const;
     [[nodiscard]] bool hasEnded();
     /// The exit status, or 128 + the number of the signal that ended it. Only after it has ended.
     [[nodiscard]] int status() const { return ended.value_or(-1); }
@@ -59,6 +61,7 @@ private:
     int descriptor;
     Channel* channel;
     std::int64_t askedAt; ///< CLOCK_now()
+    std::int64_t workedBefore = 0;
     Process process;
 };
 
