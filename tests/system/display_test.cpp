@@ -47,11 +47,12 @@ protected:
     [[nodiscard]] std::string seen(int left, int top, int x, int y) const {
         const unsigned int width = static_cast<unsigned int>(windowSize - x);
         const unsigned int height = static_cast<unsigned int>(windowSize - y);
+        const int depth = std::stoi(testDepth());
         const auto pixels = session.screen(left + x + border, top + y + border, width, height);
         for (std::size_t i = 0; i < pixels.size(); ++i) {
             const std::int32_t column = x + static_cast<std::int32_t>(i % width);
             const std::int32_t row = y + static_cast<std::int32_t>(i / width);
-            if (pixels[i] != onScreen(testDepth(), IMG_getPixel(frame, column, row))) {
+            if (pixels[i] != onScreen(depth, IMG_getPixel(frame, column, row))) {
                 return "pixel " + std::to_string(column) + ", " + std::to_string(row);
             }
         }

@@ -50,11 +50,12 @@ inline std::size_t checksum(const std::vector<unsigned long>& pixels) {
 inline const std::map<std::size_t, std::size_t>& numbersAt(const std::string& depth) {
     static std::map<std::string, std::map<std::size_t, std::size_t>> all;
     std::map<std::size_t, std::size_t>& numbers = all[depth];
+    const int bits = std::stoi(depth);
     const std::size_t first = numbers.empty() ? startFrames : captured().size();
     for (std::size_t i = first; i < captured().size(); ++i) {
         std::vector<unsigned long> shown(framePixels);
         std::ranges::transform(captured()[i], shown.begin(),
-                               [&depth](std::uint32_t pixel) { return onScreen(depth, pixel); });
+                               [bits](std::uint32_t pixel) { return onScreen(bits, pixel); });
         numbers.emplace(checksum(shown), i + 1);
     }
     return numbers;

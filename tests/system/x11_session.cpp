@@ -115,14 +115,14 @@ bool Session::cursorIsVisible() const {
     return visible;
 }
 
-unsigned long onScreen(const std::string& depth, std::uint32_t pixel) {
+unsigned long onScreen(int depth, std::uint32_t pixel) {
     const unsigned long red = (pixel >> 16) & 255;
     const unsigned long green = (pixel >> 8) & 255;
     const unsigned long blue = pixel & 255;
-    if (depth == "16") {
+    if (depth == 16) {
         return (red >> 3) << 11 | (green >> 2) << 5 | blue >> 3;
     }
-    if (depth == "30") {
+    if (depth == 30) {
         const auto widened = [](unsigned long value) { return value << 2 | value >> 6; };
         return widened(red) << 20 | widened(green) << 10 | widened(blue);
     }

@@ -71,6 +71,6 @@ private:
 };
 
 /// What a server of that depth must hold for a pixel of ours.
-unsigned long onScreen(const std::string& depth, std::uint32_t pixel);
+unsigned long onScreen(int depth, std::uint32_t pixel);
 
 } // namespace velm::test
