@@ -35,7 +35,7 @@ bool isAtMusic() {
 
 /// Glyphs are made alike, and so are instruments: of those, primes give each kind of allocation its turn.
 bool isChosen() {
-    return search.allocations % (sparing * (isAtLineFonts() ? 197 : isAtMusic() ? 23 : 1)) == 0;
+    return search.allocations % (isAtLineFonts() ? sparing * 197 : isAtMusic() ? sparing * 23 : 1) == 0;
 }
 
 void becomeChild(std::FILE* said) {
