@@ -2,8 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The VELM4030 developers
 # SPDX-License-Identifier: MIT
 #
-# ./test.sh: installs what is missing, builds everything twice, optimised and under the sanitizers, and runs all tests of
+# ./test.sh: installs what is missing, builds everything twice, optimised and under the sanitizers, and runs the tests of
 # both builds side by side. CTest's summary of all of them comes last.
+# ./test.sh whole: the same, and each scene from beginning to end under the sanitizers, too, which is two minutes more.
 # ./test.sh web: the pages alone, in Chromium: the demo's against what velm4030-capture gives, and those of the kit.
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")"
@@ -21,9 +22,13 @@ test_web() {
     exec ctest --preset web
 }
 
-if [ "${1:-}" = web ]; then
-    test_web
-fi
+left_out='lint|thorough'
+case ${1:-} in
+    '') ;;
+    whole) left_out=lint ;;
+    web) test_web ;;
+    *) echo "usage: ./test.sh [whole|web]" >&2 && exit 2 ;;
+esac
 packaging/need.sh "${test_packages[@]}"
 echo "On two cores this builds for some eight minutes the first time and takes 800 MB in build/; the tests take six."
 for preset in release sanitize; do
@@ -34,5 +39,5 @@ done
 
 # One run over both builds. Half of the tests mostly wait, so twice as many run as there are processors.
 echo 'subdirs(release sanitize)' >build/CTestTestfile.cmake
-ctest --test-dir build --output-on-failure -LE lint -j $((2 * $(nproc))) |
+ctest --test-dir build --output-on-failure -LE "$left_out" -j $((2 * $(nproc))) |
     awk '/^ *Start +[0-9]+: / { next } / Passed +[0-9.]+ sec$/ && ++passed % 50 { next } { print; fflush() }'

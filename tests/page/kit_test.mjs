@@ -111,8 +111,7 @@ async function meet(browser) {
     await tab.press("Tab"); // the bar stays while it has the keys
     await findings("while playing");
     await tab.run("by = (id) => document.getElementById(id); by('pause').click()");
-    const before = await tab.run("new Promise((goOn) => setTimeout(() => goOn(shown), 100))");
-    check((await tab.run("new Promise((goOn) => setTimeout(() => goOn(shown), 500))")) === before, "pause does not hold it");
+    await tab.until("new Promise((goOn) => { const before = shown; setTimeout(() => goOn(shown === before), 500); })");
     await tab.run("by('pause').click()");
     await goesOn();
     await tab.run("by('mute').click()");
