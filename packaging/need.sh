@@ -40,5 +40,8 @@ count() {
 
 echo "Installing ${missing[*]}" >&2
 "${as_root[@]}" apt-get update -qq >&2
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq -o Dpkg::Use-Pty=0 -o APT::Status-Fd=1 \
-    --no-install-recommends "${missing[@]}" | count
+# A package's own scripts must have a standard output to write to, which a progress on descriptor 1 would take from them;
+# and sudo closes all the others.
+# shellcheck disable=SC2016
+install='exec apt-get install -y -qq -o Dpkg::Use-Pty=0 -o APT::Status-Fd=3 --no-install-recommends "$@" 3>&1 >/dev/null'
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive sh -c "$install" sh "${missing[@]}" | count
