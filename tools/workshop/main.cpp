@@ -64,7 +64,8 @@ void writeLine(KIT& kit, const std::string& text) {
     const std::int32_t hidden = static_cast<std::int32_t>(text.size()) * cell + 2 * margin - Channel::size;
     constexpr std::int32_t rest = 30;
     const std::int32_t period = 2 * (std::max(hidden, 0) + rest);
-    const std::int32_t place = kit.frame % period;
+    constexpr std::int32_t framesPerStep = 2;
+    const std::int32_t place = kit.frame / framesPerStep % period;
     const std::int32_t moved = std::clamp(std::min(place, period - place) - rest / 2, 0, std::max(hidden, 0));
     LFONT_place(kit.smallPen, margin - moved, top, 1);
     LFONT_drawLine(kit.smallPen, text.c_str());
@@ -82,6 +83,15 @@ void interrupt(int) {
     isInterrupted = 1;
 }
 
+/// The window keeps up with programs of any rate, and the tune its own pace.
+void setRate(KIT& kit, MUSIC* tune) {
+    const std::int32_t times = Channel::mostRate / kit.rate;
+    KIT_setRate(&kit, Channel::mostRate);
+    if (tune != nullptr) {
+        tune->period *= times;
+    }
+}
+
 void play(const LiveOptions& options) {
     const Owned<KIT_delete> kit(KIT_new());
     Owned<MUSIC_delete> tune(options.isSilent ? nullptr : VELM4030_buildMusic());
@@ -89,6 +99,7 @@ void play(const LiveOptions& options) {
         std::exit(EXIT_FAILURE);
     }
     kit->music = tune;
+    setRate(*kit, tune);
     Workshop workshop(options.sources, options.prefix);
     Stage stage;
     std::string line = "compiling...";
@@ -111,6 +122,9 @@ void play(const LiveOptions& options) {
             std::fflush(stdout);
         }
         writeLine(*kit, line);
+    }
+    if (tune != nullptr && tune->pattern != nullptr) {
+        SAMPLE_delete(&tune->pattern); // MUSIC_delete leaves it
     }
 }
 

@@ -3,7 +3,6 @@
 #include "workshop/program.h"
 
 #include "platform/clock.h"
-#include "workshop/wait/wait.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -11,11 +10,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace velm {
@@ -44,28 +42,6 @@ constexpr int signalBase = 128; ///< statuses from here on are signals, as in a 
     }
     execvp(arguments[0], arguments);
     _exit(cannotStart);
-}
-
-int makeMemory() {
-    const int descriptor = memfd_create("velm4030-live", MFD_CLOEXEC);
-    if (descriptor < 0 || ftruncate(descriptor, sizeof(Channel)) != 0) {
-        std::perror("velm4030-live");
-        std::exit(EXIT_FAILURE);
-    }
-    return descriptor;
-}
-
-Channel* mapChannel(int descriptor, std::int32_t frame) {
-    void* const memory = mmap(nullptr, sizeof(Channel), PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
-    if (memory == MAP_FAILED) {
-        std::perror("velm4030-live");
-        std::exit(EXIT_FAILURE);
-    }
-    auto* const channel = static_cast<Channel*>(memory);
-    sem_init(&channel->asked, 1, 0);
-    sem_init(&channel->drawn, 1, 0);
-    channel->frame = frame;
-    return channel;
 }
 
 } // namespace
@@ -117,26 +93,17 @@ bool Process::hasEnded() {
     return ended.has_value();
 }
 
-Program::Program(const std::string& path, std::int32_t frame)
-    : descriptor(makeMemory()), channel(mapChannel(descriptor, frame)), askedAt(CLOCK_now()),
-      process({path}, -1, descriptor) {
-    close(descriptor);
-}
-
-Program::~Program() {
-    munmap(channel, sizeof(Channel));
-}
-
-bool Program::hasDrawn(std::int64_t millis) {
-    return awaitPost(channel->drawn, millis);
-}
+Program::Program(const std::string& path, std::int32_t frame, bool hasSound)
+    : window(frame, hasSound), process({path}, -1, window.descriptor()), waitsSince(CLOCK_now()) {}
 
 void Program::ask(std::int32_t frame) {
-    channel->frame = frame;
-    channel->samples = 0;
-    askedAt = CLOCK_now();
+    beginWait();
+    window.ask(frame);
+}
+
+void Program::beginWait() {
+    waitsSince = CLOCK_now();
     workedBefore = process.worked();
-    sem_post(&channel->asked);
 }
 
 std::string Program::failure() {
@@ -145,10 +112,13 @@ std::string Program::failure() {
         return status > signalBase ? std::string("crashed: ") + strsignal(status - signalBase)
                                    : "ended with status " + std::to_string(status);
     }
+    if (window.hasRested()) {
+        beginWait();
+    }
     if (process.worked() - workedBefore > longestWork) {
         return "gave no frame in two seconds of work";
     }
-    return CLOCK_now() - askedAt > longestWait ? "gave no frame for ten seconds" : "";
+    return CLOCK_now() - waitsSince > longestWait ? "gave no frame for ten seconds" : "";
 }
 
 } // namespace velm

@@ -7,7 +7,9 @@
 //     if (compiler.hasEnded()) { ... compiler.status() ... }
 #pragma once
 
-#include "platform/channel.h"
+// IWYU pragma: begin_exports
+#include "workshop/window_side.h"
+// IWYU pragma: end_exports
 
 #include <cstdint>
 #include <optional>
@@ -42,27 +44,22 @@ private:
 class Program {
 public:
     /// Starts it; `frame` is the number of its first frame.
-    Program(const std::string& path, std::int32_t frame);
-    ~Program();
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
+    Program(const std::string& path, std::int32_t frame, bool hasSound);
 
-    /// True once it has drawn what it was asked for, waiting `millis` at most.
-    [[nodiscard]] bool hasDrawn(std::int64_t millis);
-    /// What it has drawn, its sound, and where the next frame's keys and pointer go; the window's until
-    /// ask().
-    [[nodiscard]] Channel& drawn() const { return *channel; }
     /// Asks for another frame.
     void ask(std::int32_t frame);
+    /// What it has drawn, its sound, and where keys and pointer go.
+    [[nodiscard]] WindowSide& side() { return window; }
     /// Why it draws no more, in a few words, or "" while there is hope.
     [[nodiscard]] std::string failure();
 
 private:
-    int descriptor;
-    Channel* channel;
-    std::int64_t askedAt; ///< CLOCK_now()
-    std::int64_t workedBefore = 0;
+    void beginWait();
+
+    WindowSide window;
     Process process;
+    std::int64_t waitsSince;       ///< CLOCK_now() when it was asked, or when it was last seen in a pause
+    std::int64_t workedBefore = 0; ///< its processor time until then
 };
 
 } // namespace velm

@@ -2,43 +2,44 @@
 // SPDX-License-Identifier: MIT
 #include "workshop/stage.h"
 
+#include "platform/clock.h"
 #include "platform/dsp.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace velm {
 
 namespace {
 
-/// Sound of the program's own takes the place of the tune, from the next sample on. A program that writes
-/// astray may have written anything into the channel.
-void playSound(KIT& kit, const Channel& channel) {
-    const std::int32_t samples = std::min(channel.samples, Channel::mostSamples);
-    if (samples <= 0 || kit.sound == nullptr) {
-        return;
-    }
-    kit.music = nullptr;
-    LIST_setCount(kit.sound->queue, 0);
-    kit.sound->position = 0;
-    if (kit.sound->fd >= 0) {
-        DSP_write(kit.sound->fd, channel.sound, samples);
-    }
+bool hasSound(const KIT& kit) {
+    return kit.sound != nullptr && kit.sound->fd >= 0;
 }
 
-void handInput(const KIT& kit, Channel& channel) {
-    channel.text[0] = kit.key;
-    channel.text[1] = '\0';
-    channel.keycode = kit.keycode;
-    channel.x = kit.pointer->x;
-    channel.y = kit.pointer->y;
-    channel.buttons = kit.pointer->buttons;
+/// Hands over the key and the pointer of this frame.
+void passInput(const KIT& kit, WindowSide& side) {
+    if (kit.key != 0 || kit.keycode != 0) {
+        std::string text = kit.keyboard->text + 1; // what KIT_nextFrame leaves of a text
+        side.press(kit.key == 0 ? "" : kit.key + text, kit.keycode);
+    }
+    side.point({kit.pointer->x, kit.pointer->y, kit.pointer->buttons});
+}
+
+/// The samples that a frame of the window lasts, times the frames that were due since the last time: where
+/// the window cannot keep its rate, the sound does.
+std::size_t samplesDue(const KIT& kit, std::int64_t micros) {
+    constexpr std::int64_t microsPerSecond = 1000000;
+    constexpr std::int64_t most = 8;
+    const std::int64_t frames =
+        std::clamp<std::int64_t>((micros * kit.rate + microsPerSecond / 2) / microsPerSecond, 1, most);
+    return static_cast<std::size_t>(frames * kit.sound->blockSamples);
 }
 
 } // namespace
 
 void Stage::bringOn(const std::string& path, const KIT& kit) {
-    next = std::make_unique<Program>(path, kit.frame);
+    next = std::make_unique<Program>(path, frame, hasSound(kit));
 }
 
 bool Stage::hasChanged() {
@@ -51,32 +52,51 @@ void Stage::change() {
     changed = true;
 }
 
-void Stage::takeFrame(KIT& kit) {
-    Channel& channel = seen->drawn();
-    std::copy_n(channel.picture, Channel::size * Channel::size, picture->pixels);
-    playSound(kit, channel);
-    handInput(kit, channel);
-    seen->ask(kit.frame + 1);
+void Stage::takeFrame() {
+    std::ranges::copy(seen->side().picture(), picture->pixels);
+    seen->ask(++frame);
+}
+
+/// Sound of the program's own takes the place of the tune, from the next sample on, until it has been silent
+/// for a while.
+void Stage::passSound(KIT& kit) {
+    if (!hasSound(kit)) {
+        return;
+    }
+    const std::int64_t now = CLOCK_now();
+    const std::size_t most = samplesDue(kit, now - std::exchange(soundAt, now));
+    const auto play = [&kit](std::span<const std::int16_t> samples) {
+        return DSP_write(kit.sound->fd, samples.data(), static_cast<std::int32_t>(samples.size())) > 0;
+    };
+    const bool hasPlayed = seen != nullptr && seen->side().passSound(most, play) > 0;
+    silentFrames = hasPlayed ? 0 : std::min(silentFrames + 1, longSilence);
+    kit.music = silentFrames < longSilence ? nullptr : tune;
+    if (kit.music == nullptr) {
+        LIST_setCount(kit.sound->queue, 0);
+        kit.sound->position = 0;
+    }
 }
 
 std::string Stage::draw(KIT& kit) {
-    constexpr std::int64_t millis = 20;
+    constexpr std::int64_t micros = 8000; // half of a frame
     std::string news;
     if (tune == nullptr) {
         tune = kit.music;
     }
-    kit.music = tune;
-    if (next != nullptr && next->hasDrawn(0)) {
+    if (next != nullptr && next->side().hasDrawn(0)) {
         change();
-        takeFrame(kit);
-    } else if (seen != nullptr && seen->hasDrawn(millis)) {
-        takeFrame(kit);
-    } else if (seen != nullptr) {
+        takeFrame();
+    } else if (seen != nullptr && seen->side().hasDrawn(micros)) {
+        takeFrame();
+    }
+    if (seen != nullptr) {
+        passInput(kit, seen->side());
         news = seen->failure();
         if (!news.empty()) {
             seen = std::move(former);
         }
     }
+    passSound(kit);
     if (next != nullptr && news.empty()) {
         news = next->failure();
         if (!news.empty()) {

@@ -9,7 +9,6 @@
 #pragma once
 
 #include "kit/kit.h"
-#include "platform/channel.h"
 #include "workshop/program.h"
 
 #include <memory>
@@ -30,14 +29,21 @@ public:
     [[nodiscard]] bool hasChanged();
 
 private:
+    /// Frames of the window that a program is silent before the tune comes back.
+    static constexpr std::int32_t longSilence = Channel::mostRate / 2;
+
     void change();
-    void takeFrame(KIT& kit);
+    void takeFrame();
+    void passSound(KIT& kit);
 
     std::unique_ptr<Program> seen;
     std::unique_ptr<Program> next;
     std::unique_ptr<Program> former;
     Owned<IMG_delete> picture{IMG_newSized(Channel::size, Channel::size)}; ///< the last frame
-    MUSIC* tune = nullptr; ///< what the kit plays while the program plays nothing
+    MUSIC* tune = nullptr;                   ///< what the kit plays while the program plays nothing
+    std::int32_t frame = 0;                  ///< number of the frame that the seen version draws
+    std::int64_t soundAt = 0;                ///< CLOCK_now() when its sound was last taken
+    std::int32_t silentFrames = longSilence; ///< of the window, since it last gave some
     bool changed = false;
 };
 
