@@ -4,6 +4,7 @@
 // velm4030-live as it is installed, in a real window, with real saves. The program that it plays shows its
 // version and the number of its frame as one colour: 0xVVFFFF.
 #include "process.h"
+#include "pulse_server.h"
 #include "x11_session.h"
 
 #include <csignal>
@@ -23,8 +24,9 @@ protected:
 
     /// Writes a version that does something before each frame, beside the source, and moves it there as
     /// editors do.
-    void save(int version, const std::string& deed = "") const {
-        std::ofstream(folder / "new") << "#include \"kit/kit.h\"\n"
+    void save(int version, const std::string& deed = "", const std::string& headers = "") const {
+        std::ofstream(folder / "new") << headers
+                                      << "#include \"kit/kit.h\"\n"
                                          "int main() {\n"
                                          "    velm::KIT* kit = velm::KIT_new();\n"
                                          "    while (velm::KIT_nextFrame(kit)) {\n"
@@ -32,10 +34,17 @@ protected:
                                       << " << 16 | (kit->frame & 0xFFFF));\n    }\n}\n";
         fs::rename(folder / "new", folder / "main.cpp");
     }
-    void start() {
-        live = std::make_unique<Child>(
-            std::vector<std::string>{VELM_LIVE, "--silent", "--scale", "1", folder / "main.cpp"},
-            Environment{{"DISPLAY", server.display()}, {"TMPDIR", folder}, {"SDL_VIDEODRIVER", "x11"}});
+    /// Programs on a library with the sanitizers in it need them, too, and crash as any other one.
+    void start(const std::vector<std::string>& options = {"--silent"}, Environment more = {}) {
+        std::vector<std::string> command{VELM_LIVE, "--scale", "1", folder / "main.cpp"};
+        command.insert(command.end(), options.begin(), options.end());
+        more.insert(more.end(), {{"DISPLAY", server.display()},
+                                 {"TMPDIR", folder},
+                                 {"SDL_VIDEODRIVER", "x11"},
+                                 {"CXX", VELM_COMPILER},
+                                 {"CXXFLAGS", VELM_IS_SANITIZED ? "-fsanitize=address,undefined" : ""},
+                                 {"ASAN_OPTIONS", VELM_IS_SANITIZED ? "handle_segv=0:handle_abort=0" : ""}});
+        live = std::make_unique<Child>(command, more);
     }
     /// In the middle of the window.
     [[nodiscard]] unsigned long colour() const { return session.screen(128, 100, 1, 1)[0] & 0xFFFFFF; }
@@ -52,6 +61,16 @@ protected:
     [[nodiscard]] bool runsOn() const {
         const unsigned long now = frame();
         return eventually([&] { return frame() > now; }, 10);
+    }
+    /// Frames a second, over two seconds.
+    [[nodiscard]] double rate() const {
+        const unsigned long first = frame();
+        const double begin = secondsNow();
+        while (secondsNow() < begin + 2) {
+            pauseBriefly();
+        }
+        const unsigned long last = frame();
+        return static_cast<double>(last - first) / (secondsNow() - begin);
     }
     /// Child processes of the window that are there, dead ones, too.
     [[nodiscard]] std::size_t children() const {
@@ -93,7 +112,7 @@ TEST_F(Live, WhatFailsCostsTheNewVersionAlone) {
     EXPECT_TRUE(says("gave no frame"));
     EXPECT_EQ(version(), 2);
     EXPECT_TRUE(runsOn());
-    save(6, "return 3;");
+    save(6, "_exit(3);", "#include <unistd.h>\n");
     EXPECT_TRUE(says("ended with status 3"));
     save(7);
     EXPECT_TRUE(shows(7)) << live->errors();
@@ -108,7 +127,131 @@ TEST_F(Live, TheTutorialsFirstFilePlays) {
     EXPECT_TRUE(eventually([&] { return live->output().find("playing") != std::string::npos; }, 60));
     std::printf("the tutorial: %s", live->output().c_str());
     live->signal(SIGTERM);
-    EXPECT_EQ(live->waitForExit(), 0);
+    EXPECT_EQ(live->waitForExit(), 0) << live->errors();
+}
+
+TEST_F(Live, AProgramKeepsItsOwnRate) {
+    save(1, "if (kit->sound->fd >= 0) { return 1; } // the window is silent");
+    start();
+    ASSERT_TRUE(shows(1)) << live->errors();
+    double seen = 0;
+    const auto isNear = [&](double wanted) {
+        return eventually([&] { return std::abs((seen = rate()) - wanted) < wanted / 10; }, 30);
+    };
+    EXPECT_TRUE(isNear(30)) << seen;
+    save(2, "if (kit->rate == 30) { velm::KIT_setRate(kit, 60); }");
+    ASSERT_TRUE(shows(2)) << live->errors();
+    EXPECT_TRUE(isNear(60)) << seen;
+}
+
+// It may take its time, and rest for longer than the window waits for one that hangs.
+TEST_F(Live, AProgramGetsEveryKeyInOrder) {
+    constexpr double longerThanAnyWait = 11;
+    save(1, R"(
+        static int sum = 0;
+        const auto note = [kit](char key) {
+            sum = (sum * 3 + key) & 0xFFFF;
+            velm::IMG_fill(kit->screen, 1 << 16 | sum);
+        };
+        if (kit->key == 'p') {
+            for (char key = 0; key != 'g'; velm::XKBD_rest(kit->keyboard)) {
+                velm::XKBD_poll(kit->keyboard);
+                if ((key = std::exchange(kit->keyboard->text[0], 0)) != 0) { note(key); }
+            }
+        } else if (kit->key != 0) {
+            velm::CLOCK_sleep(500000);
+            note(kit->key);
+        }
+        kit->keeps = true;
+        continue;)",
+         "#include \"platform/clock.h\"\n#include <utility>\n");
+    start();
+    session.movePointer(128, 128);
+    const auto type = [this](const std::string& keys) {
+        std::vector<std::string> command{"key", "--delay", "1"};
+        for (const char key : keys) {
+            command.push_back(std::string(1, key));
+        }
+        session.xdotool(command);
+    };
+    unsigned long sum = 0;
+    const auto shows = [&](const std::string& keys) {
+        for (const char key : keys) {
+            sum = (sum * 3 + static_cast<unsigned long>(key)) & 0xFFFF;
+        }
+        return eventually([&] { return colour() == (1UL << 16 | sum); });
+    };
+    ASSERT_TRUE(eventually([this] { return live->output().find("playing") != std::string::npos; }));
+    type("abcabd");
+    EXPECT_TRUE(shows("abcabd"));
+    type("p");
+    const double end = secondsNow() + longerThanAnyWait;
+    EXPECT_TRUE(eventually([&] { return secondsNow() > end; }));
+    EXPECT_FALSE(hasLine()) << live->errors();
+    type("uvwugx");
+    EXPECT_TRUE(shows("uvwugx")) << "the pause is over";
+}
+
+TEST_F(Live, WhoWritesOverTheChannelIsAloneWithIt) {
+    save(1);
+    start({});
+    ASSERT_TRUE(shows(1)) << live->errors();
+    for (const char* const garbage : {"255", "1", "i * n"}) {
+        save(2,
+             std::string(R"(
+            static char* const channel = static_cast<char*>(
+                mmap(nullptr, sizeof(velm::Channel), PROT_READ | PROT_WRITE, MAP_SHARED,
+                     atoi(getenv(velm::channelVariable)), 0));
+            for (std::size_t i = 0; i < sizeof(velm::Channel); ++i) { channel[i] = )") +
+                 garbage + "; } if (++n == 1) { alarm(1); }",
+             "#include \"platform/channel.h\"\n#include <cstdlib>\n#include <sys/mman.h>\n#include "
+             "<unistd.h>\nint n;\n");
+        EXPECT_TRUE(says("crashed: ")) << garbage;
+        save(3);
+        EXPECT_TRUE(shows(3)) << garbage << live->errors();
+        EXPECT_TRUE(runsOn());
+    }
+    live->signal(SIGTERM);
+    EXPECT_EQ(live->waitForExit(), 0) << live->errors();
+}
+
+/// Half periods of a square wave in the longest stretch without a tenth of a second of silence: what a busy
+/// sound server loses is shorter.
+int longestWave(const Sound& heard, int halfPeriod) {
+    constexpr int silence = samplesPerSecond / 10;
+    int longest = 0;
+    int count = 0;
+    int length = 0;
+    for (std::size_t i = 1; i < heard.size(); ++i) {
+        ++length;
+        if ((heard[i] < 0) != (heard[i - 1] < 0)) {
+            count = length > silence ? 0 : count + (std::abs(length - halfPeriod) <= 1 ? 1 : 0);
+            longest = std::max(longest, count);
+            length = 0;
+        }
+    }
+    return longest;
+}
+
+TEST_F(Live, AProgramIsHeardWithoutABreak) {
+    constexpr int halfPeriod = 50;
+    constexpr int seconds = 5;
+    PulseServer sound;
+    sound.startServer();
+    save(1, R"(
+        if (kit->sound->queue->count == 0) {
+            static velm::SAMPLE* const wave = velm::SAMPLE_new();
+            for (int i = 0; wave->length < velm::SAMPLE_rate; ++i) {
+                velm::SAMPLE_append(wave, i / 50 % 2 == 0 ? 1000 : -1000);
+            }
+            velm::LIST_append(kit->sound->queue, wave);
+        }
+        if (kit->frame == 100) { velm::KIT_setRate(kit, 60); })");
+    start({}, sound.pulse);
+    EXPECT_TRUE(eventually([&] {
+        return longestWave(sound.recorded(), halfPeriod) >=
+               seconds * static_cast<int>(samplesPerSecond) / halfPeriod;
+    })) << longestWave(sound.recorded(), halfPeriod);
 }
 
 TEST_F(Live, TwentySavesInARowLeaveNothingBehind) {
