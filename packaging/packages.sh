@@ -9,7 +9,7 @@ build_packages=(g++ cmake ninja-build libx11-dev)
 tool_packages=(libcli11-dev libdeflate-dev libsdl2-dev pkg-config zlib1g-dev)
 player_packages=("${build_packages[@]}" "${tool_packages[@]}")
 package_packages=("${build_packages[@]}" "${tool_packages[@]}" dpkg-dev file)
-test_packages=("${package_packages[@]}" "${player_packages[@]}" clang libclang-rt-14-dev llvm libgtest-dev libgmock-dev
+test_packages=("${package_packages[@]}" "${player_packages[@]}" clang libclang-rt-dev llvm libgtest-dev libgmock-dev
     libxfixes-dev libxss-dev ffmpeg netpbm openbox pulseaudio pulseaudio-utils libpulsedsp sox weston xdotool xvfb)
 web_packages=(emscripten cmake ninja-build)
 web_test_packages=("${web_packages[@]}" "${player_packages[@]}" chromium)
