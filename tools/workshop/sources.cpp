@@ -139,6 +139,10 @@ bool Workshop::step() {
     const fs::path place = folder / std::to_string(version);
     made = compiler->status() == 0 ? (place / "program").string() : "";
     log = contentsOf(place / "log");
+    if (made.empty() && log.empty()) {
+        log =
+            "the compiler ended with status " + std::to_string(compiler->status()) + " and without a word\n";
+    }
     compiler.reset();
     return true;
 }
