@@ -60,5 +60,6 @@ measure 'velm4030, silent' "$build/velm4030"
 measure 'velm4030' env LD_PRELOAD="$device" "$build/velm4030"
 measure 'velm4030-play, 256 x 256, silent' "$build/velm4030-play" --scale 1 --sound none schedule
 measure 'velm4030-play, 256 x 256' "$build/velm4030-play" --scale 1 --sound pulseaudio schedule
+measure 'velm4030-play, 1024 x 1024, silent' "$build/velm4030-play" --scale 4 --sound none schedule
 measure 'velm4030-play, 768 x 768' "$build/velm4030-play" --scale 3 --sound pulseaudio schedule
 uptime

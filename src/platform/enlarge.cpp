@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/enlarge.h"
 
+#include "foundation/stream.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstring>
 #include <span>
+#include <vector>
 
 namespace velm {
 
@@ -38,18 +41,19 @@ SpreadRow spreadFor(std::int32_t bytes, std::int32_t scale) {
     return bytes == 4 && scale < static_cast<std::int32_t>(std::size(words)) ? words[scale] : any[bytes - 1];
 }
 
-/// Writes a block of a row as squares from `to` on: one row is spread out, the others are its copies.
-void writeSquares(std::span<const std::uint32_t> block, std::int32_t scale, const Raster& raster, char* to) {
+/// Writes a block of a row as squares from `to` on: one row is spread out in `squares`, all are its copies.
+void writeSquares(std::span<const std::uint32_t> block, std::int32_t scale, const Raster& raster,
+                  std::span<char> squares, char* to) {
     std::uint32_t pixels[blockWidth];
     std::copy(block.begin(), block.end(), pixels);
     if (!raster.pixels.isOurs()) {
         std::transform(block.begin(), block.end(), pixels,
                        [&raster](std::uint32_t pixel) { return raster.pixels.of(pixel); });
     }
-    spreadFor(raster.pixels.bytes, scale)({pixels, block.size()}, scale, to);
+    spreadFor(raster.pixels.bytes, scale)({pixels, block.size()}, scale, squares.data());
     const std::size_t bytes = block.size() * static_cast<std::size_t>(scale * raster.pixels.bytes);
-    for (std::int32_t copy = 1; copy < scale; ++copy) {
-        std::memcpy(to + copy * raster.pitch, to, bytes);
+    for (std::int32_t row = 0; row < scale; ++row) {
+        streamCopy(to + row * raster.pitch, squares.data(), bytes);
     }
 }
 
@@ -77,6 +81,7 @@ Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster, std::
     const Part place{std::max(layout.left, 0), std::max(layout.top, 0), part.width * layout.scale,
                      part.height * layout.scale};
     const std::ptrdiff_t squareBytes = std::ptrdiff_t{layout.scale} * raster.pixels.bytes;
+    std::vector<char> squares(static_cast<std::size_t>(blockWidth * squareBytes));
     char* rows = raster.first + place.y * raster.pitch + std::ptrdiff_t{place.x} * raster.pixels.bytes;
     for (std::int32_t y = part.y; y < part.y + part.height; ++y, rows += layout.scale * raster.pitch) {
         const std::size_t first = static_cast<std::size_t>(y) * static_cast<std::size_t>(frame.width);
@@ -85,10 +90,11 @@ Part enlarge(const IMG& frame, const Layout& layout, const Raster& raster, std::
             const auto count = static_cast<std::size_t>(std::min(blockWidth, part.width - x));
             const std::span block(frame.pixels + nth, count);
             if (former.empty() || takeChange(block, former.subspan(nth, count))) {
-                writeSquares(block, layout.scale, raster, rows + x * squareBytes);
+                writeSquares(block, layout.scale, raster, squares, rows + x * squareBytes);
             }
         }
     }
+    streamEnd();
     return place;
 }
 
