@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Copies to memory that somebody else reads, another process or a device, and copies too large for the caches.
-// Where the processor can, they go past its caches: what stood there is not fetched before it is written over,
-// and nothing that this process needs again is pushed out.
+// Copies to memory that somebody else reads, another process or a device, and copies too large for the
+// caches. Where the processor can, they go past its caches: what stood there is not fetched before it is
+// written over, and nothing that this process needs again is pushed out.
 //
 //     streamCopy(row, pixels, bytes);
 //     streamEnd();                          // before the other one is told
