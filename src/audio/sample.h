@@ -25,6 +25,14 @@ struct SAMPLE {
     std::int32_t* data; ///< owned; nullptr when the capacity is 0. Values past `length` keep what they held
 };
 
+/// True for a sample that can hold values, and for one that does.
+[[nodiscard]] inline bool hasData(const SAMPLE* sample) {
+    return sample != nullptr && sample->data != nullptr;
+}
+[[nodiscard]] inline bool hasValues(const SAMPLE* sample) {
+    return hasData(sample) && sample->length > 0;
+}
+
 extern const IDENTITY SAMPLE_identity;
 extern std::uint8_t SAMPLE_verbose;
 

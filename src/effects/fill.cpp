@@ -32,10 +32,6 @@ bool fits(const FILL& fill, const IMG* img) {
     return hasPixels(img) && img->width <= fill.width && img->height <= fill.height;
 }
 
-bool contains(const IMG& img, std::int32_t x, std::int32_t y) {
-    return x >= 0 && y >= 0 && x < img.width && y < img.height;
-}
-
 /// Makes everything dry, over another drawing or none.
 void forget(FILL& fill, const IMG* drawing) {
     std::fill_n(fill.map, std::int64_t{fill.width} * fill.height, 0U);
@@ -246,10 +242,7 @@ void FILL_advance(FILL* fill) {
 }
 
 bool FILL_isDone(const FILL* fill) {
-    if (refused(fill == nullptr, FILL_error)) {
-        return true;
-    }
-    return fill->first == fill->count;
+    return refused(fill == nullptr, FILL_error) ? true : fill->first == fill->count;
 }
 
 void FILL_draw(const FILL* fill, IMG* target) {

@@ -98,11 +98,8 @@ void LOGOFLY_draw(const LOGOFLY* logo) {
 }
 
 std::int32_t LOGOFLY_equals(const LOGOFLY* a, const LOGOFLY* b) {
-    if (refused(a == nullptr || b == nullptr, LOGOFLY_error)) {
-        return 0;
-    }
-    return a->phase == b->phase && a->speed == b->speed && a->letterStep == b->letterStep &&
-                   a->amplitude == b->amplitude
+    return !refused(a == nullptr || b == nullptr, LOGOFLY_error) && a->phase == b->phase &&
+                   a->speed == b->speed && a->letterStep == b->letterStep && a->amplitude == b->amplitude
                ? 1
                : 0;
 }

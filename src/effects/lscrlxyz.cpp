@@ -157,10 +157,7 @@ void LSCRLXYZ_setText(LSCRLXYZ* scroll, const char* text) {
 }
 
 std::int32_t LSCRLXYZ_length(const LSCRLXYZ* scroll) {
-    if (refused(scroll == nullptr, LSCRLXYZ_error)) {
-        return 0;
-    }
-    return Surface(*scroll).length;
+    return refused(scroll == nullptr, LSCRLXYZ_error) ? 0 : Surface(*scroll).length;
 }
 
 void LSCRLXYZ_fit(LSCRLXYZ* scroll) {

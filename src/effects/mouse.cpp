@@ -59,11 +59,8 @@ void MOUSE_draw(const MOUSE* mouse) {
 }
 
 std::int32_t MOUSE_equals(const MOUSE* a, const MOUSE* b) {
-    if (refused(a == nullptr || b == nullptr, MOUSE_error)) {
-        return 0;
-    }
-    return a->x == b->x && a->y == b->y && a->buttons == b->buttons && a->image == b->image &&
-                   a->target == b->target &&
+    return !refused(a == nullptr || b == nullptr, MOUSE_error) && a->x == b->x && a->y == b->y &&
+                   a->buttons == b->buttons && a->image == b->image && a->target == b->target &&
                    std::equal(std::begin(a->reserved), std::end(a->reserved), std::begin(b->reserved))
                ? 1
                : 0;

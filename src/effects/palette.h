@@ -16,7 +16,7 @@ namespace velm {
 /// Colour `index` of a palette, any index going round; white without a palette.
 inline std::uint32_t paletteColour(const SAMPLE* palette, std::int32_t index) {
     constexpr std::uint32_t white = 0xFFFFFF;
-    if (palette == nullptr || palette->data == nullptr || palette->length <= 0) {
+    if (!hasValues(palette)) {
         return white;
     }
     return static_cast<std::uint32_t>(palette->data[positiveModulo(index, palette->length)]);

@@ -39,7 +39,7 @@ bool isPureBlue(std::uint32_t pixel) {
 }
 
 bool isEmpty(const IMG& image, std::int32_t x, std::int32_t y) {
-    return x < 0 || y < 0 || x >= image.width || y >= image.height || rowOf(image, y)[x] == 0;
+    return !contains(image, x, y) || rowOf(image, y)[x] == 0;
 }
 
 void moveWater(IMG* image, std::int32_t x, std::int32_t y, std::int32_t step, std::uint32_t colour) {

@@ -92,13 +92,10 @@ RASTER* RASTER_load(const char* path) {
 
 void RASTER_setCount(RASTER* raster, std::int32_t count) {
     std::uint32_t* const colours = raster == nullptr ? nullptr : allocateColours(count);
-    if (refused(colours == nullptr, RASTER_error)) {
-        return;
+    if (adoptArray(raster, RASTER_error, &RASTER::colours, colours)) {
+        raster->count = count;
+        raster->position = 0;
     }
-    delete[] raster->colours;
-    raster->colours = colours;
-    raster->count = count;
-    raster->position = 0;
 }
 
 void RASTER_clear(RASTER* raster) {
@@ -122,8 +119,7 @@ void RASTER_smooth(RASTER* raster, std::int32_t radius) {
     for (std::int32_t k = raster->count; k >= 0; --k) {
         colours[k] = smoothed(*raster, k, radius);
     }
-    delete[] raster->colours;
-    raster->colours = colours;
+    adoptArray(raster, RASTER_error, &RASTER::colours, colours);
 }
 
 void RASTER_advance(RASTER* raster) {

@@ -33,27 +33,19 @@ IMG* IMG_new() {
 }
 
 IMG* IMG_newSized(std::int32_t width, std::int32_t height) {
-    IMG* img = newRecord<IMG>(IMG_error);
-    if (img != nullptr) {
-        IMG_setSize(img, width, height);
-        if (img->pixels == nullptr) {
-            IMG_delete(&img);
-        }
-    }
-    return img;
+    return newRecord<IMG>(IMG_error, IMG_delete, [=](IMG& img) {
+        IMG_setSize(&img, width, height);
+        return img.pixels != nullptr;
+    });
 }
 
 void IMG_setSize(IMG* img, std::int32_t width, std::int32_t height) {
     const bool sized = img != nullptr && width >= 0 && height >= 0;
-    std::uint32_t* const pixels =
-        sized ? allocateArray<std::uint32_t>(std::int64_t{width} * height) : nullptr;
-    if (refused(pixels == nullptr, IMG_error)) {
-        return;
+    auto* const pixels = sized ? allocateArray<std::uint32_t>(std::int64_t{width} * height) : nullptr;
+    if (adoptArray(img, IMG_error, &IMG::pixels, pixels)) {
+        img->width = width;
+        img->height = height;
     }
-    delete[] img->pixels;
-    img->pixels = pixels;
-    img->width = width;
-    img->height = height;
 }
 
 IMG* IMG_clone(const IMG* src) {
@@ -91,19 +83,13 @@ void IMG_putPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour
     if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
-    if (x >= 0 && y >= 0 && x < img->width && y < img->height) {
-        img->pixels[x + std::int64_t{y} * img->width] = colour;
+    if (contains(*img, x, y)) {
+        rowOf(*img, y)[x] = colour;
     }
 }
 
 std::uint32_t IMG_getPixel(const IMG* img, std::int32_t x, std::int32_t y) {
-    if (refused(!hasPixels(img), IMG_error)) {
-        return 0;
-    }
-    if (x < 0 || y < 0 || x >= img->width || y >= img->height) {
-        return 0;
-    }
-    return img->pixels[x + std::int64_t{y} * img->width];
+    return !refused(!hasPixels(img), IMG_error) && contains(*img, x, y) ? rowOf(*img, y)[x] : 0;
 }
 
 void IMG_andMask(const IMG* mask, IMG* dst) {

@@ -30,10 +30,8 @@ bool XPTR_isUsable(const XPTR* pointer) {
 }
 
 std::int32_t XPTR_equals(const XPTR* a, const XPTR* b) {
-    if (refused(a == nullptr || b == nullptr, XPTR_error)) {
-        return 0;
-    }
-    return a->x == b->x && a->y == b->y && a->buttons == b->buttons &&
+    return !refused(a == nullptr || b == nullptr, XPTR_error) && a->x == b->x && a->y == b->y &&
+                   a->buttons == b->buttons &&
                    std::equal(std::begin(a->reserved), std::end(a->reserved), std::begin(b->reserved))
                ? 1
                : 0;
