@@ -199,16 +199,6 @@ void WORDZOOM_advance(WORDZOOM* zoom) {
     }
 }
 
-bool WORDZOOM_isDone(const WORDZOOM* zoom) {
-    if (refused(zoom == nullptr || zoom->text == nullptr, WORDZOOM_error)) {
-        return true;
-    }
-    const bool flies = std::any_of(std::begin(zoom->flights), std::end(zoom->flights),
-                                   [](const WORDZOOM_FLIGHT& flight) { return flight.word != nullptr; });
-    WORDZOOM rest = *zoom;
-    return !flies && findWord(rest) == 0;
-}
-
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {
     if (refused(zoom == nullptr || zoom->glyphs == nullptr || !hasPixels(target), WORDZOOM_error)) {
         return;
