@@ -84,10 +84,7 @@ Draws begin(MUSIC* music, Hits hits) {
     if (music == nullptr || music->bar == nullptr || music->instruments == nullptr) {
         return {};
     }
-    if (refused(music->instruments->count == 0, MUSIC_error)) {
-        return {};
-    }
-    if (refused(!clearPattern(music), MUSIC_error)) {
+    if (refused(music->instruments->count == 0 || !clearPattern(music), MUSIC_error)) {
         return {};
     }
     const std::int32_t index = RANDOM_next(MUSIC_random) % music->instruments->count;

@@ -62,17 +62,15 @@ void LOGOFLY_randomize(LOGOFLY* logo) {
 }
 
 void LOGOFLY_advance(LOGOFLY* logo) {
-    if (refused(logo == nullptr, LOGOFLY_error)) {
-        return;
+    if (!refused(logo == nullptr, LOGOFLY_error)) {
+        logo->phase = wrapAdd(logo->phase, logo->speed) & bounceMask;
     }
-    logo->phase = wrapAdd(logo->phase, logo->speed) & bounceMask;
 }
 
 void LOGOFLY_advanceFull(LOGOFLY* logo) {
-    if (refused(logo == nullptr, LOGOFLY_error)) {
-        return;
+    if (!refused(logo == nullptr, LOGOFLY_error)) {
+        logo->phase = wrapAdd(logo->phase, logo->speed) & SINE_tableMask;
     }
-    logo->phase = wrapAdd(logo->phase, logo->speed) & SINE_tableMask;
 }
 
 void LOGOFLY_draw(const LOGOFLY* logo) {
@@ -91,7 +89,7 @@ void LOGOFLY_draw(const LOGOFLY* logo) {
         // LOGOFLY_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which no
         // font has a glyph.
         pen->character = signedByte(logo->text[i]);
-        pen->position->y = wrapSub(logo->y, wrapMul(SINE_entry(phase), logo->amplitude) >> 15);
+        pen->position->y = wrapSub(logo->y, SINE_scaled(logo->amplitude, phase));
         LFONT_drawChar(pen);
         phase = wrapAdd(phase, logo->letterStep) & bounceMask;
     }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "effects/partixel.h"
 
-#include "foundation/memory.h"
 #include "foundation/random.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
@@ -155,11 +154,8 @@ PARTIXEL* PARTIXEL_new() {
     if (PARTIXEL_random == nullptr) {
         PARTIXEL_random = RANDOM_new();
     }
-    PARTIXEL* const particles = PARTIXEL_random == nullptr ? nullptr : allocateRecord<PARTIXEL>();
-    if (particles == nullptr) {
-        PARTIXEL_error();
-    }
-    return particles;
+    return refused(PARTIXEL_random == nullptr, PARTIXEL_error) ? nullptr
+                                                               : newRecord<PARTIXEL>(PARTIXEL_error);
 }
 
 std::int32_t PARTIXEL_waterRight(PARTIXEL* water) {

@@ -66,10 +66,9 @@ std::uint32_t smoothed(const RASTER& raster, std::int64_t index, std::int64_t ra
 /// Opens and closes a file, or reports.
 void touch(const char* path, const char* mode) {
     std::FILE* file = path == nullptr ? nullptr : std::fopen(path, mode);
-    if (refused(file == nullptr, RASTER_error)) {
-        return;
+    if (!refused(file == nullptr, RASTER_error)) {
+        std::fclose(file);
     }
-    std::fclose(file);
 }
 
 } // namespace
@@ -206,10 +205,9 @@ RASTER* RASTER_clone(const RASTER* src) {
 }
 
 void RASTER_save(const RASTER* raster, const char* path) {
-    if (refused(raster == nullptr, RASTER_error)) {
-        return;
+    if (!refused(raster == nullptr, RASTER_error)) {
+        touch(path, "wb");
     }
-    touch(path, "wb");
 }
 
 void RASTER_delete(RASTER** handle) {

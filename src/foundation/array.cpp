@@ -96,10 +96,9 @@ std::int32_t ARRAY_grow(ARRAY* array) {
 }
 
 void ARRAY_push(ARRAY* array, const void* element) {
-    if (refused(array == nullptr || element == nullptr, ARRAY_error)) {
-        return;
+    if (!refused(array == nullptr || element == nullptr, ARRAY_error)) {
+        append(*array, element);
     }
-    append(*array, element);
 }
 
 void ARRAY_insert(ARRAY* array, const void* element, std::int32_t index) {
@@ -189,10 +188,10 @@ std::int32_t ARRAY_indexOf(const ARRAY* array, const void* element) {
 }
 
 std::int32_t ARRAY_equalAt(const ARRAY* array, const void* element, std::int32_t index) {
-    return !refused(!isIndex(array, index) || element == nullptr, ARRAY_error) &&
-                   std::memcmp(elementAt(*array, index), element, array->elementSize) == 0
-               ? 1
-               : 0;
+    return refused(!isIndex(array, index) || element == nullptr, ARRAY_error) ||
+                   std::memcmp(elementAt(*array, index), element, array->elementSize) != 0
+               ? 0
+               : 1;
 }
 
 std::int32_t ARRAY_equal(const ARRAY* a, const ARRAY* b) {

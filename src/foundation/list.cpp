@@ -77,10 +77,9 @@ void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_
 }
 
 void LIST_set(LIST* list, std::int32_t index, void* value) {
-    if (refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
-        return;
+    if (!refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
+        list->items[index] = value;
     }
-    list->items[index] = value;
 }
 
 std::int32_t LIST_indexOf(const LIST* list, const void* value) {

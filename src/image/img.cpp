@@ -89,7 +89,7 @@ void IMG_putPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour
 }
 
 std::uint32_t IMG_getPixel(const IMG* img, std::int32_t x, std::int32_t y) {
-    return !refused(!hasPixels(img), IMG_error) && contains(*img, x, y) ? rowOf(*img, y)[x] : 0;
+    return refused(!hasPixels(img), IMG_error) || !contains(*img, x, y) ? 0 : rowOf(*img, y)[x];
 }
 
 void IMG_andMask(const IMG* mask, IMG* dst) {

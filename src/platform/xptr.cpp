@@ -4,7 +4,6 @@
 // What every implementation of the pointer shares: the record. Reading it is the machine's.
 #include "platform/xptr.h"
 
-#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "platform/xdpy.h"
@@ -18,11 +17,7 @@ const IDENTITY XPTR_identity = makeIdentity("XPTR", "20150228", "XWINDOWS", "COD
 std::uint8_t XPTR_verbose = 0;
 
 XPTR* XPTR_make() {
-    XPTR* const pointer = XDPY_isOpen() ? allocateRecord<XPTR>() : nullptr;
-    if (pointer == nullptr) {
-        XPTR_error();
-    }
-    return pointer;
+    return refused(!XDPY_isOpen(), XPTR_error) ? nullptr : newRecord<XPTR>(XPTR_error);
 }
 
 bool XPTR_isUsable(const XPTR* pointer) {
@@ -38,10 +33,9 @@ std::int32_t XPTR_equals(const XPTR* a, const XPTR* b) {
 }
 
 void XPTR_copy(const XPTR* src, XPTR* dst) {
-    if (refused(src == nullptr || dst == nullptr, XPTR_error)) {
-        return;
+    if (!refused(src == nullptr || dst == nullptr, XPTR_error)) {
+        *dst = *src;
     }
-    *dst = *src;
 }
 
 XPTR* XPTR_clone(const XPTR* src) {
