@@ -103,14 +103,14 @@ void SAMPLE_setCapacity(SAMPLE* sample, std::int32_t count) {
     if (count == sample->capacity) {
         return;
     }
-    std::int32_t* const data = count == 0 ? nullptr : allocateArray<std::int32_t>(count);
+    std::int32_t* const data = count == 0 ? nullptr : allocateAligned<std::int32_t>(count);
     if (refused(data == nullptr && count != 0, SAMPLE_error)) {
         return;
     }
     sample->capacity = count;
     sample->length = std::min(sample->length, count);
     std::copy_n(sample->data, sample->length, data);
-    delete[] sample->data;
+    freeAligned(sample->data);
     sample->data = data;
 }
 
@@ -218,7 +218,7 @@ std::int32_t SAMPLE_equals(const SAMPLE* a, const SAMPLE* b) {
 }
 
 void SAMPLE_delete(SAMPLE** handle) {
-    deleteRecord(handle, SAMPLE_error, &SAMPLE::data);
+    deleteRecord(handle, SAMPLE_error, aligned(&SAMPLE::data));
 }
 
 void SAMPLE_error() {

@@ -70,14 +70,14 @@ void SAMPLE_resize(SAMPLE* sample, std::int32_t length) {
         return;
     }
     const std::int32_t capacity = std::max(length, 1);
-    std::int32_t* const data = allocateArray<std::int32_t>(capacity);
+    std::int32_t* const data = allocateAligned<std::int32_t>(capacity);
     if (refused(data == nullptr, SAMPLE_error)) {
         return;
     }
     for (std::int64_t i = 0; i < length; ++i) {
         data[i] = sample->data[i * sample->length / length];
     }
-    delete[] sample->data;
+    freeAligned(sample->data);
     sample->data = data;
     sample->length = length;
     sample->capacity = capacity;

@@ -72,6 +72,12 @@ auto deletedBy(void (*deletePart)(Part**), Part* Record::*part) {
     };
 }
 
+/// An owned array of deleteRecord that allocateAligned made.
+template <typename Record, typename Element>
+auto aligned(Element* Record::*array) {
+    return [=](Record& record) { freeAligned(record.*array); };
+}
+
 /// Frees one of the things that a record owns: an array, named by its member.
 template <typename Record, typename Element>
 void release(Record& record, Element* Record::*array) {

@@ -5,6 +5,7 @@
 #include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
+#include "foundation/stream.h"
 #include "foundation/wide.h"
 #include "image/pixel_bytes.h"
 
@@ -41,11 +42,15 @@ IMG* IMG_newSized(std::int32_t width, std::int32_t height) {
 
 void IMG_setSize(IMG* img, std::int32_t width, std::int32_t height) {
     const bool sized = img != nullptr && width >= 0 && height >= 0;
-    auto* const pixels = sized ? allocateArray<std::uint32_t>(std::int64_t{width} * height) : nullptr;
-    if (adoptArray(img, IMG_error, &IMG::pixels, pixels)) {
-        img->width = width;
-        img->height = height;
+    std::uint32_t* const pixels =
+        sized ? allocateAligned<std::uint32_t>(std::int64_t{width} * height) : nullptr;
+    if (refused(pixels == nullptr, IMG_error)) {
+        return;
     }
+    freeAligned(img->pixels);
+    img->pixels = pixels;
+    img->width = width;
+    img->height = height;
 }
 
 IMG* IMG_clone(const IMG* src) {
@@ -60,14 +65,14 @@ IMG* IMG_clone(const IMG* src) {
 }
 
 void IMG_delete(IMG** handle) {
-    deleteRecord(handle, IMG_error, &IMG::pixels);
+    deleteRecord(handle, IMG_error, aligned(&IMG::pixels));
 }
 
 void IMG_fill(IMG* img, std::uint32_t colour) {
     if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
-    std::fill_n(img->pixels, pixelCount(img), colour);
+    runWide([colour, pixels = img->pixels, count = pixelCount(img)] { std::fill_n(pixels, count, colour); });
 }
 
 void IMG_copy(const IMG* src, IMG* dst) {
@@ -75,7 +80,7 @@ void IMG_copy(const IMG* src, IMG* dst) {
         return;
     }
     if (src != dst) {
-        std::copy_n(src->pixels, pixelCount(src), dst->pixels);
+        copyApart(src->pixels, dst->pixels, pixelCount(src));
     }
 }
 

@@ -23,7 +23,7 @@ struct IMG {
     std::int32_t y = 0;              ///< placement row used by IMG_draw
     std::int32_t width = 16;         ///< pixels per row
     std::int32_t height = 16;        ///< number of rows
-    std::uint32_t* pixels = nullptr; ///< owned, width * height words; all 0 after creation and resizing
+    std::uint32_t* pixels = nullptr; ///< owned (freeAligned), width * height words; 0 when new
 };
 
 /// True when there is an image to draw into or to copy from.

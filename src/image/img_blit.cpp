@@ -15,8 +15,8 @@ namespace velm {
 namespace {
 
 /// Copies pixels, leaving out those that are 0.
-constexpr auto copyRow = [](const std::uint32_t* from, std::uint32_t* to, std::int32_t count) {
-    for (std::int32_t i = 0; i < count; ++i) {
+constexpr auto copyRow = [](const std::uint32_t* from, std::uint32_t* to, std::int64_t count) {
+    for (std::int64_t i = 0; i < count; ++i) {
         to[i] = from[i] != 0 ? from[i] : to[i];
     }
 };
