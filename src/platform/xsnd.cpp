@@ -5,7 +5,6 @@
 #include "platform/xsnd.h"
 
 #include "foundation/list.h"
-#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"

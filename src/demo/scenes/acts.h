@@ -18,6 +18,7 @@
 #include "foundation/memory.h"
 #include "foundation/owned.h" // IWYU pragma: export
 
+#include <algorithm>
 #include <cstdint>
 
 namespace velm {

@@ -14,7 +14,6 @@
 #include "effects/sinescan.h"
 #include "foundation/sine.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string_view>
