@@ -26,6 +26,14 @@ struct SAMPLE {
                            ///< what they held
 };
 
+/// True for a sample that can hold values, and for one that does.
+[[nodiscard]] inline bool hasData(const SAMPLE* sample) {
+    return sample != nullptr && sample->data != nullptr;
+}
+[[nodiscard]] inline bool hasValues(const SAMPLE* sample) {
+    return hasData(sample) && sample->length > 0;
+}
+
 extern const IDENTITY SAMPLE_identity;
 extern std::uint8_t SAMPLE_verbose;
 

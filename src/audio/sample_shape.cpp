@@ -14,10 +14,6 @@ namespace velm {
 
 namespace {
 
-bool hasValues(const SAMPLE* sample) {
-    return sample != nullptr && sample->data != nullptr && sample->length > 0;
-}
-
 /// The line over more indices than values: `error` counts down the height and crosses 1 where the value
 /// moves.
 void rampFlat(std::int32_t* data, std::int64_t width, std::int64_t height, std::int32_t y,

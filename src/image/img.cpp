@@ -34,14 +34,10 @@ IMG* IMG_new() {
 }
 
 IMG* IMG_newSized(std::int32_t width, std::int32_t height) {
-    IMG* img = newRecord<IMG>(IMG_error);
-    if (img != nullptr) {
-        IMG_setSize(img, width, height);
-        if (img->pixels == nullptr) {
-            IMG_delete(&img);
-        }
-    }
-    return img;
+    return newRecord<IMG>(IMG_error, IMG_delete, [=](IMG& img) {
+        IMG_setSize(&img, width, height);
+        return img.pixels != nullptr;
+    });
 }
 
 void IMG_setSize(IMG* img, std::int32_t width, std::int32_t height) {
@@ -92,19 +88,13 @@ void IMG_putPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour
     if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
-    if (x >= 0 && y >= 0 && x < img->width && y < img->height) {
-        img->pixels[x + std::int64_t{y} * img->width] = colour;
+    if (contains(*img, x, y)) {
+        rowOf(*img, y)[x] = colour;
     }
 }
 
 std::uint32_t IMG_getPixel(const IMG* img, std::int32_t x, std::int32_t y) {
-    if (refused(!hasPixels(img), IMG_error)) {
-        return 0;
-    }
-    if (x < 0 || y < 0 || x >= img->width || y >= img->height) {
-        return 0;
-    }
-    return img->pixels[x + std::int64_t{y} * img->width];
+    return refused(!hasPixels(img), IMG_error) || !contains(*img, x, y) ? 0 : rowOf(*img, y)[x];
 }
 
 void IMG_andMask(const IMG* mask, IMG* dst) {

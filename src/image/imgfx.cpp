@@ -35,7 +35,7 @@ void combine(const IMG* src, IMG* dst, BlitArea area, Row row) {
 /// Applies touch(pixel) along a line, or reports.
 template <typename Touch>
 void combineLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2, Touch touch) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMGFX_error)) {
+    if (refused(!hasPixels(img), IMGFX_error)) {
         return;
     }
     forEachLinePixel(*img, x1, y1, x2, y2, touch);
@@ -81,7 +81,7 @@ void IMGFX_averageBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t
 }
 
 void IMGFX_invert(IMG* img) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMGFX_error)) {
+    if (refused(!hasPixels(img), IMGFX_error)) {
         return;
     }
     runWide([pixels = img->pixels, count = std::int64_t{img->width} * img->height] {
@@ -90,17 +90,16 @@ void IMGFX_invert(IMG* img) {
 }
 
 void IMGFX_addPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour) {
-    if (img == nullptr || img->pixels == nullptr) {
+    if (!hasPixels(img)) {
         // IMGFX_addPixelReportsAsImg: one expects this module's reporter; a missing image is told by the
         // image module, whose flag decides whether the line comes.
         IMG_error();
         return;
     }
-    if (x < 0 || y < 0 || x >= img->width || y >= img->height) {
-        return;
+    if (contains(*img, x, y)) {
+        std::uint32_t& pixel = rowOf(*img, y)[x];
+        pixel = RGB888_add(pixel, colour);
     }
-    std::uint32_t& pixel = img->pixels[x + std::int64_t{y} * img->width];
-    pixel = RGB888_add(pixel, colour);
 }
 
 void IMGFX_addLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,

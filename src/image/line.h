@@ -40,9 +40,6 @@ void walkLine(std::int64_t major, std::int64_t minor, std::int64_t alongStep, st
 template <typename Touch>
 void forEachLinePixel(IMG& img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                       Touch touch) {
-    const auto contains = [&img](std::int64_t x, std::int64_t y) {
-        return x >= 0 && y >= 0 && x < img.width && y < img.height;
-    };
     const bool passesBy = (x1 < 0 && x2 < 0) || (y1 < 0 && y2 < 0) || (x1 >= img.width && x2 >= img.width) ||
                           (y1 >= img.height && y2 >= img.height);
     if (passesBy) {
@@ -55,7 +52,7 @@ void forEachLinePixel(IMG& img, std::int32_t x1, std::int32_t y1, std::int32_t x
     const std::int64_t major = steep ? std::abs(dy) : std::abs(dx);
     const std::int64_t minor = steep ? std::abs(dx) : std::abs(dy);
     const std::int64_t stride = img.width;
-    if (contains(x1, y1) && contains(x2, y2)) {
+    if (contains(img, x1, y1) && contains(img, x2, y2)) {
         const std::int64_t alongStep = steep ? signOf(dy) * stride : signOf(dx);
         const std::int64_t acrossStep = steep ? signOf(dx) : signOf(dy) * stride;
         walkLine(major, minor, alongStep, acrossStep,
@@ -65,7 +62,7 @@ void forEachLinePixel(IMG& img, std::int32_t x1, std::int32_t y1, std::int32_t x
     walkLine(major, minor, 0, 1, [&, along = std::int64_t{0}](std::int64_t across) mutable {
         const std::int64_t x = x1 + signOf(dx) * (steep ? across : along);
         const std::int64_t y = y1 + signOf(dy) * (steep ? along : across);
-        if (contains(x, y)) {
+        if (contains(img, x, y)) {
             touch(img.pixels[x + y * stride]);
         }
         ++along;
