@@ -125,30 +125,29 @@ void requirePlaces(const CaptureOptions& options) {
     }
 }
 
-} // namespace
+/// The options' own words, which are understood as they come.
+struct Words {
+    std::string scene, keys, pointers;
+};
 
-CaptureOptions parseOptions(int argc, char** argv) {
-    CaptureOptions options;
-    std::string scene;
-    std::string keys;
-    std::string pointers;
-    CLI::App app(std::string("The VELM4030 demo as files: frames, checksums, sound and films, as fast as the "
-                             "machine goes.\n") +
-                 flashingText);
-    app.set_version_flag("--version", "velm4030-capture " VELM_VERSION);
+void addShow(CLI::App& app, CaptureOptions& options, Words& words) {
     takeFrames(*app.add_option("--frames", options.frames, "how many frames, the logo at the start included")
                     ->required());
-    CLI::Option* const one = app.add_option(
-        "--scene", scene, "plays this scene, again and again, instead of the schedule: " + sceneNames());
+    CLI::Option* const one =
+        app.add_option("--scene", words.scene,
+                       "plays this scene, again and again, instead of the schedule: " + sceneNames());
     takeScene(*one, options.scene);
     app.add_flag("--tour", options.tour, "plays all scenes, one after the other, instead of the schedule")
         ->excludes(one);
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60"));
-    app.add_option("--keys", keys,
+    app.add_option("--keys", words.keys,
                    "FRAME:KEY,... presses a key (a character, esc, space, up, down) after a frame")
         ->check([&options](const std::string& text) { return parseKeys(text, options.keys); });
-    app.add_option("--pointer", pointers, "FRAME:X:Y:BUTTONS,... moves the pointer after a frame")
+    app.add_option("--pointer", words.pointers, "FRAME:X:Y:BUTTONS,... moves the pointer after a frame")
         ->check([&options](const std::string& text) { return parsePointers(text, options.pointers); });
+}
+
+void addOutputs(CLI::App& app, CaptureOptions& options) {
     app.add_option("--raw", options.raw,
                    "every frame as 256 x 256 words 0x00RRGGBB, low byte first; - for standard output");
     app.add_option("--ppm", options.ppmFolder, "every frame as a numbered P6 file in this folder");
@@ -164,6 +163,19 @@ CaptureOptions parseOptions(int argc, char** argv) {
     takeGain(*app.add_option(
         "--gain", options.gain,
         "decibels that the sound is raised by; 12 for a film, none for a WAV file unless given"));
+}
+
+} // namespace
+
+CaptureOptions parseOptions(int argc, char** argv) {
+    CaptureOptions options;
+    Words words;
+    CLI::App app(std::string("The VELM4030 demo as files: frames, checksums, sound and films, as fast as the "
+                             "machine goes.\n") +
+                 flashingText);
+    app.set_version_flag("--version", "velm4030-capture " VELM_VERSION);
+    addShow(app, options, words);
+    addOutputs(app, options);
     app.add_flag("--quiet", options.quiet, "no progress line");
     parseOrLeave(app, "velm4030-capture", argc, argv, [&options] {
         requirePlaces(options);

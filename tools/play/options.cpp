@@ -67,27 +67,23 @@ void takeSaverWindow(Desktop& wanted) {
     }
 }
 
-} // namespace
-
-PlayOptions parseOptions(int argc, char** argv) {
-    PlayOptions options;
-    Desktop& wanted = options.desktop;
-    wanted.gain = GAIN_usual;
+/// What is said beside the options themselves, before it is understood.
+struct Words {
     std::vector<std::string> scenes;
-    std::string window;
-    std::string sound;
+    std::string window, sound;
     bool list = false;
     bool isMixed = false;
-    constexpr int mostScale = 16;
-    constexpr int mostVolume = 100;
-    CLI::App app(std::string("The VELM4030 demo, enlarged or full screen, with the desktop's own sound.\n") +
-                 flashingText);
-    app.footer(std::string("Keys:\n") + keysText);
-    app.set_version_flag("--version", std::string(desktopProgram) + " " VELM_VERSION);
-    takeScenes(*app.add_option("SCENE", scenes, "the scenes to play, again and again (all)")
+};
+
+void addScenes(CLI::App& app, Words& words) {
+    takeScenes(*app.add_option("SCENE", words.scenes, "the scenes to play, again and again (all)")
                     ->expected(0, PROGRAMME::mostParts));
-    app.add_flag("--list", list, "lists the scenes and quits");
-    app.add_flag("--shuffle", isMixed, "plays the scenes in mixed order");
+    app.add_flag("--list", words.list, "lists the scenes and quits");
+    app.add_flag("--shuffle", words.isMixed, "plays the scenes in mixed order");
+}
+
+void addPlaces(CLI::App& app, Desktop& wanted, Words& words) {
+    constexpr int mostScale = 16;
     CLI::Option* const scale =
         app.add_option("--scale", wanted.scale,
                        "size of the window, in multiples of 256 pixels (what suits the screen)")
@@ -96,28 +92,48 @@ PlayOptions parseOptions(int argc, char** argv) {
         app.add_flag("--fullscreen", wanted.fullScreen, "fills the screen")->excludes(scale);
     CLI::Option* const root =
         app.add_flag("--root", wanted.root, "draws on the X11 root window, silent unless --sound is given");
-    app.add_option("--window-id", window, "draws into another program's X11 window, likewise")
+    app.add_option("--window-id", words.window, "draws into another program's X11 window, likewise")
         ->check(
             [](const std::string& text) { return windowOf(text) > 0 ? "" : "not a window: '" + text + "'"; })
         ->excludes(scale, full, root);
     root->excludes(scale, full);
-    app.add_option("--sound", sound, "where the sound goes (auto, the first that answers)")
+}
+
+void addSounds(CLI::App& app, Desktop& wanted, Words& words) {
+    constexpr int mostVolume = 100;
+    app.add_option("--sound", words.sound, "where the sound goes (auto, the first that answers)")
         ->check(CLI::IsMember(soundNames()));
     app.add_option("--volume", wanted.volume, "volume of the sound, in percent (100)")
         ->check(CLI::Range(0, mostVolume));
     takeGain(*app.add_option("--gain", wanted.gain, "how much louder the sound gets, in decibels (12)"));
+}
+
+} // namespace
+
+PlayOptions parseOptions(int argc, char** argv) {
+    PlayOptions options;
+    Words words;
+    Desktop& wanted = options.desktop;
+    wanted.gain = GAIN_usual;
+    CLI::App app(std::string("The VELM4030 demo, enlarged or full screen, with the desktop's own sound.\n") +
+                 flashingText);
+    app.footer(std::string("Keys:\n") + keysText);
+    app.set_version_flag("--version", std::string(desktopProgram) + " " VELM_VERSION);
+    addScenes(app, words);
+    addPlaces(app, wanted, words);
+    addSounds(app, wanted, words);
     takeRate(*app.add_option("--rate", options.rate, "frames per second at the start, 30 or 60 (30)"));
     takeFrames(*app.add_option("--frames", options.frames, "quits after so many frames"));
     parseOrLeave(app, desktopProgram, argc, argv);
-    if (list) {
+    if (words.list) {
         listScenes();
         std::exit(0);
     }
-    options.programme = programmeOf(scenes, isMixed);
-    wanted.foreign = windowOf(window);
+    options.programme = programmeOf(words.scenes, words.isMixed);
+    wanted.foreign = windowOf(words.window);
     takeSaverWindow(wanted);
     const bool isForeign = wanted.foreign != 0 || wanted.root;
-    wanted.sound = sound.empty() && isForeign ? noSound : sound == firstSound ? "" : sound;
+    wanted.sound = words.sound.empty() && isForeign ? noSound : words.sound == firstSound ? "" : words.sound;
     return options;
 }
 
