@@ -117,11 +117,10 @@ void takeInput(KIT& kit) {
 
 void deletePen(LFONT* pen) {
     if (pen != nullptr) {
-        LIST* glyphs = pen->glyphs;
-        LFONT_delete(&pen);
-        if (glyphs != nullptr) {
-            LIST_delete(&glyphs);
+        if (pen->glyphs != nullptr) {
+            OBJ2D_deleteParsed(&pen->glyphs);
         }
+        LFONT_delete(&pen);
     }
 }
 

@@ -89,6 +89,10 @@ void OBJ2D_deleteSegments(OBJ2D* obj);
 /// and strings stay allocated, as copies and other lists may hold them.
 void OBJ2D_delete(OBJ2D** handle);
 
+/// Frees a list from OBJ2D_parse with its objects, their segments and names, and stores nullptr in the
+/// handle. Only where nobody else holds any of them.
+void OBJ2D_deleteParsed(LIST** handle);
+
 /// Prints "OBJ2D error" while OBJ2D_verbose is set.
 void OBJ2D_error();
 

@@ -203,7 +203,7 @@ void skipDescription(Parser& parser) {
     restOfLine(parser);
 }
 
-/// Frees an object that never came to the list, with all that was read into it.
+/// Frees an object with all that was read into it.
 void discard(OBJ2D* obj) {
     delete[] obj->name;
     OBJ2D_deleteSegments(obj);
@@ -291,6 +291,18 @@ LIST* OBJ2D_parse(const char* text) {
         discard(parser.open);
     }
     return parser.objects;
+}
+
+void OBJ2D_deleteParsed(LIST** handle) {
+    if (refused(handle == nullptr || *handle == nullptr, OBJ2D_error)) {
+        return;
+    }
+    for (std::int32_t i = 0; i < (*handle)->count; ++i) {
+        if (auto* const obj = static_cast<OBJ2D*>(LIST_get(*handle, i)); obj != nullptr) {
+            discard(obj);
+        }
+    }
+    LIST_delete(handle);
 }
 
 } // namespace velm

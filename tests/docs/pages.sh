@@ -38,7 +38,7 @@ look() { # BUILD
     while IFS= read -r command; do
         bash -n <<<"$command" || echo "$command"
         for name in $(grep -oE -- '--target [a-z0-9_-]+' <<<"$command" | cut -d' ' -f2); do
-            [[ $name == fuzz || $name == bench_* ]] || grep -qx -- "$name" <<<"$targets" || echo "no target $name"
+            [[ $name == fuzz || $name == bench_* || $name == renew_drawings ]] || grep -qx -- "$name" <<<"$targets" || echo "no target $name"
         done
         for name in $(grep -oE -- '--preset [a-z]+' <<<"$command" | cut -d' ' -f2); do
             grep -qx -- "$name" <<<"$presets" || echo "no preset $name"

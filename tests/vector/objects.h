@@ -18,16 +18,7 @@ namespace velm::test {
 
 struct Objects {
     explicit Objects(const char* text) : list(OBJ2D_parse(text)) {}
-    ~Objects() {
-        for (std::int32_t i = 0; list != nullptr && i < list->count; ++i) {
-            if (OBJ2D* obj = (*this)[i]; obj != nullptr) {
-                delete[] obj->name;
-                OBJ2D_deleteSegments(obj);
-                OBJ2D_delete(&obj);
-            }
-        }
-        LIST_delete(&list);
-    }
+    ~Objects() { OBJ2D_deleteParsed(&list); }
     Objects(const Objects&) = delete;
     Objects& operator=(const Objects&) = delete;
 

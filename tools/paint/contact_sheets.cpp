@@ -26,20 +26,8 @@ constexpr std::int32_t enlargement = 4;
 constexpr std::int32_t margin = 8;
 constexpr std::uint32_t paper = 0x202028; ///< around the pictures, so that their black edges show
 
-void deleteObjects(LIST** list) {
-    for (std::int32_t i = 0; i < (*list)->count; ++i) {
-        auto* object = static_cast<OBJ2D*>(LIST_get(*list, i));
-        if (object != nullptr) {
-            delete[] object->name;
-            OBJ2D_deleteSegments(object);
-            OBJ2D_delete(&object);
-        }
-    }
-    LIST_delete(list);
-}
-
 /// Parsed drawings.
-using Objects = Owned<deleteObjects>;
+using Objects = Owned<OBJ2D_deleteParsed>;
 
 Objects parse(const std::string& text) {
     return Objects(OBJ2D_parse(text.c_str()));
