@@ -6,9 +6,11 @@
 #include "foundation/owned.h"
 #include "image/img.h"
 #include "image/imgfx.h"
+#include "platform/enlarge.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cstddef>
 #include <cstring>
 #include <random>
 #include <sstream>
@@ -39,6 +41,17 @@ void blitWhole(IMG* src, IMG* dst) {
     blit(src, dst, 0, 0, 0, 0, src->width, src->height);
 }
 
+/// Four times as large, to the size of `dst`.
+void enlargeWhole(IMG* src, IMG* dst) {
+    constexpr std::int32_t scale = 4;
+    constexpr std::int32_t pixelBytes = 4;
+    const IMG part{.width = dst->width / scale, .height = dst->height / scale, .pixels = src->pixels};
+    const Raster raster{reinterpret_cast<char*>(dst->pixels), dst->width, dst->height,
+                        std::ptrdiff_t{dst->width} * pixelBytes,
+                        PixelLayout(pixelBytes, 0xFF0000, 0x00FF00, 0x0000FF)};
+    enlarge(part, {scale, 0, 0}, raster);
+}
+
 struct Named {
     const char* name;
     Operation run;
@@ -62,6 +75,7 @@ constexpr Named operations[] = {
     {"subColour", [](IMG*, IMG* dst) { IMG_subColour(dst, colour); }},
     {"andMask", [](IMG* src, IMG* dst) { IMG_andMask(src, dst); }},
     {"invert", [](IMG*, IMG* dst) { IMGFX_invert(dst); }},
+    {"enlarge", enlargeWhole},
     {"equal", [](IMG*, IMG* dst) { benchmark::DoNotOptimize(IMG_equal(dst, dst)); }},
     {"blur", [](IMG* src, IMG* dst) { IMGFX_blur(src, dst); }},
     {"blur7", [](IMG* src, IMG* dst) { IMGFX_blur7(src, dst); }},

@@ -37,6 +37,7 @@ step ./run.sh film extra-9
 step ./test.sh
 step packaging/private_display.sh ./run.sh tour --frames 300
 step packaging/package.sh
+step '(cd build/release && cpack --config CPackSourceConfig.cmake >/dev/null && sha256sum velm4030-*.tar.gz)'
 step 'apt-get install -y -qq ./build/package/*.deb >/dev/null && velm4030-capture --tour --frames 300 --crc - --quiet | tail -n 1'
 step ./test.sh web
 step velm4030-new ../aurora

@@ -84,10 +84,7 @@ Draws begin(MUSIC* music, Hits hits) {
     if (music == nullptr || music->bar == nullptr || music->instruments == nullptr) {
         return {};
     }
-    if (refused(music->instruments->count == 0, MUSIC_error)) {
-        return {};
-    }
-    if (refused(!clearPattern(music), MUSIC_error)) {
+    if (refused(music->instruments->count == 0 || !clearPattern(music), MUSIC_error)) {
         return {};
     }
     const std::int32_t index = RANDOM_next(MUSIC_random) % music->instruments->count;
@@ -136,20 +133,14 @@ void genRepeat(MUSIC* music, Fade fade) {
 } // namespace
 
 MUSIC* MUSIC_new() {
-    MUSIC* music = newRecord<MUSIC>(MUSIC_error);
-    if (music == nullptr) {
-        return nullptr;
-    }
-    music->bar = SAMPLE_new();
-    SAMPLE_setLength(music->bar, MUSIC_barLength);
-    music->instruments = LIST_new();
-    requireGenerator();
-    if (music->bar == nullptr || music->bar->length != MUSIC_barLength || music->instruments == nullptr ||
-        MUSIC_random == nullptr) {
-        MUSIC_error();
-        MUSIC_delete(&music);
-    }
-    return music;
+    return newRecord<MUSIC>(MUSIC_error, MUSIC_delete, [](MUSIC& music) {
+        music.bar = SAMPLE_new();
+        SAMPLE_setLength(music.bar, MUSIC_barLength);
+        music.instruments = LIST_new();
+        requireGenerator();
+        const bool hasBar = music.bar != nullptr && music.bar->length == MUSIC_barLength;
+        return !refused(!hasBar || music.instruments == nullptr || MUSIC_random == nullptr, MUSIC_error);
+    });
 }
 
 void MUSIC_addInstrument(MUSIC* music, SAMPLE* instrument) {

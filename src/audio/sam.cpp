@@ -3,9 +3,9 @@
 #include "audio/sam.h"
 
 #include "audio/sample.h"
-#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
+#include "foundation/text.h"
 #include "foundation/wrap.h"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ namespace {
 constexpr std::int32_t widestValue = 32; // bits
 
 bool hasSample(const SAM* sam) {
-    return sam != nullptr && sam->sample != nullptr && sam->sample->data != nullptr;
+    return sam != nullptr && hasData(sam->sample);
 }
 
 bool isLooping(const SAM& sam) {
@@ -49,15 +49,8 @@ SAM* SAM_new() {
 }
 
 void SAM_setPath(SAM* sam, const char* path) {
-    const std::size_t size = path == nullptr ? 0 : std::strlen(path) + 1;
-    char* const copy =
-        sam == nullptr || size == 0 ? nullptr : allocateArray<char>(static_cast<std::int64_t>(size));
-    if (refused(copy == nullptr, SAM_error)) {
-        return;
-    }
-    std::memcpy(copy, path, size);
-    delete[] sam->path;
-    sam->path = copy;
+    char* const copy = sam == nullptr || path == nullptr ? nullptr : newText(path);
+    adoptArray(sam, SAM_error, &SAM::path, copy);
 }
 
 void SAM_setSample(SAM* sam, SAMPLE* sample) {
@@ -71,9 +64,7 @@ void SAM_setSample(SAM* sam, SAMPLE* sample) {
 }
 
 std::int32_t SAM_readLooped(SAM* sam, SAMPLE* dst) {
-    if (refused(!hasSample(sam) || dst == nullptr || dst->data == nullptr || dst == sam->sample ||
-                    !hasPlace(*sam),
-                SAM_error)) {
+    if (refused(!hasSample(sam) || !hasData(dst) || dst == sam->sample || !hasPlace(*sam), SAM_error)) {
         return 0;
     }
     const std::int32_t end = isLooping(*sam) ? sam->loopEnd : sam->sample->length;
@@ -95,17 +86,17 @@ std::int32_t SAM_readLooped(SAM* sam, SAMPLE* dst) {
 }
 
 std::int32_t SAM_isFinished(const SAM* sam) {
-    if (refused(sam == nullptr || sam->sample == nullptr, SAM_error)) {
-        return 0;
-    }
-    return !isLooping(*sam) && sam->state != 'p' && sam->position >= sam->sample->length ? 1 : 0;
+    return !refused(sam == nullptr || sam->sample == nullptr, SAM_error) && !isLooping(*sam) &&
+                   sam->state != 'p' && sam->position >= sam->sample->length
+               ? 1
+               : 0;
 }
 
 void SAM_normalize(SAM* sam) {
     constexpr std::int64_t peak = 0x3FFF8000; // 32767 * 32768
     const auto magnitude = [](std::int32_t value) { return std::abs(std::int64_t{value}); };
     const std::int64_t largest =
-        hasSample(sam) && sam->sample->length > 0
+        sam != nullptr && hasValues(sam->sample)
             ? std::max(magnitude(SAMPLE_min(sam->sample)), magnitude(SAMPLE_max(sam->sample)))
             : 0;
     if (refused(largest == 0, SAM_error)) {

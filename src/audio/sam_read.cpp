@@ -39,10 +39,7 @@ bool open(SAM* sam, const char* mode) {
     }
     close(sam);
     sam->file = std::fopen(sam->path, mode);
-    if (sam->file == nullptr) {
-        SAM_error();
-    }
-    return sam->file != nullptr;
+    return !refused(sam->file == nullptr, SAM_error);
 }
 
 std::int32_t refuse(SAM* sam, SAMPLE* sample = nullptr) {

@@ -31,16 +31,12 @@ Range rangeOf(const SAMPLE* sample) {
 }
 
 bool hasSample(const SAM* sam) {
-    return sam != nullptr && sam->sample != nullptr && sam->sample->data != nullptr;
+    return sam != nullptr && hasData(sam->sample);
 }
 
 /// Reports when there is nothing to write or nowhere to write it.
 bool canWrite(const SAM* sam) {
-    const bool can = hasSample(sam) && sam->file != nullptr;
-    if (!can) {
-        SAM_error();
-    }
-    return can;
+    return !refused(!hasSample(sam) || sam->file == nullptr, SAM_error);
 }
 
 /// Closes the file: 1, or 0 (reported) when it has not taken everything.
@@ -48,10 +44,7 @@ std::int32_t finish(SAM* sam, bool isWritten) {
     const bool isWhole = std::ferror(sam->file) == 0;
     const bool isClosed = std::fclose(sam->file) == 0;
     sam->file = nullptr;
-    if (refused(!isWritten || !isWhole || !isClosed, SAM_error)) {
-        return 0;
-    }
-    return 1;
+    return refused(!isWritten || !isWhole || !isClosed, SAM_error) ? 0 : 1;
 }
 
 bool writeText(const SAMPLE* sample, std::FILE* file) {

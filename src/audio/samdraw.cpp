@@ -26,7 +26,7 @@ bool canDraw(const SAMDRAW* draw) {
 }
 
 bool hasSample(const SAMDRAW& draw) {
-    return draw.source->sample != nullptr && draw.source->sample->data != nullptr;
+    return hasData(draw.source->sample);
 }
 
 /// SAMDRAW_swapLeavesSample: one expects the ends to be put in order, then into the sample; each is clamped

@@ -19,10 +19,6 @@ namespace {
 
 constexpr std::int32_t firstCapacity = 32;
 
-bool hasData(const SAMPLE* sample) {
-    return sample != nullptr && sample->data != nullptr;
-}
-
 bool hasIndex(const SAMPLE* sample, std::int32_t index) {
     return hasData(sample) && index >= 0 && index < sample->length;
 }
@@ -66,14 +62,10 @@ bool openGap(SAMPLE* sample, std::int32_t position, std::int32_t count) {
 } // namespace
 
 SAMPLE* SAMPLE_new() {
-    SAMPLE* sample = newRecord<SAMPLE>(SAMPLE_error);
-    if (sample != nullptr) {
-        SAMPLE_setCapacity(sample, firstCapacity);
-        if (sample->data == nullptr) {
-            SAMPLE_delete(&sample);
-        }
-    }
-    return sample;
+    return newRecord<SAMPLE>(SAMPLE_error, SAMPLE_delete, [](SAMPLE& sample) {
+        SAMPLE_setCapacity(&sample, firstCapacity);
+        return sample.data != nullptr;
+    });
 }
 
 SAMPLE* SAMPLE_fromBytes(const std::int8_t* bytes, std::int32_t count) {
@@ -88,10 +80,7 @@ SAMPLE* SAMPLE_fromBytes(const std::int8_t* bytes, std::int32_t count) {
 }
 
 SAMPLE* SAMPLE_clone(const SAMPLE* src) {
-    if (refused(!hasData(src), SAMPLE_error)) {
-        return nullptr;
-    }
-    return SAMPLE_slice(src, 0, src->length);
+    return refused(!hasData(src), SAMPLE_error) ? nullptr : SAMPLE_slice(src, 0, src->length);
 }
 
 SAMPLE* SAMPLE_slice(const SAMPLE* sample, std::int32_t from, std::int32_t to) {
@@ -114,14 +103,14 @@ void SAMPLE_setCapacity(SAMPLE* sample, std::int32_t count) {
     if (count == sample->capacity) {
         return;
     }
-    std::int32_t* const data = count == 0 ? nullptr : allocateArray<std::int32_t>(count);
+    std::int32_t* const data = count == 0 ? nullptr : allocateAligned<std::int32_t>(count);
     if (refused(data == nullptr && count != 0, SAMPLE_error)) {
         return;
     }
     sample->capacity = count;
     sample->length = std::min(sample->length, count);
     std::copy_n(sample->data, sample->length, data);
-    delete[] sample->data;
+    freeAligned(sample->data);
     sample->data = data;
 }
 
@@ -138,10 +127,7 @@ void SAMPLE_setLength(SAMPLE* sample, std::int32_t length) {
 }
 
 std::int32_t SAMPLE_get(const SAMPLE* sample, std::int32_t index) {
-    if (refused(!hasIndex(sample, index), SAMPLE_error)) {
-        return 0;
-    }
-    return sample->data[index];
+    return refused(!hasIndex(sample, index), SAMPLE_error) ? 0 : sample->data[index];
 }
 
 void SAMPLE_set(SAMPLE* sample, std::int32_t index, std::int32_t value) {
@@ -226,16 +212,13 @@ void SAMPLE_clear(SAMPLE* sample) {
 }
 
 std::int32_t SAMPLE_equals(const SAMPLE* a, const SAMPLE* b) {
-    if (refused(!hasData(a) || !hasData(b) ||
-                    !std::equal(a->data, a->data + a->length, b->data, b->data + b->length),
-                SAMPLE_error)) {
-        return 0;
-    }
-    return 1;
+    const bool areEqual =
+        hasData(a) && hasData(b) && std::equal(a->data, a->data + a->length, b->data, b->data + b->length);
+    return refused(!areEqual, SAMPLE_error) ? 0 : 1;
 }
 
 void SAMPLE_delete(SAMPLE** handle) {
-    deleteRecord(handle, SAMPLE_error, &SAMPLE::data);
+    deleteRecord(handle, SAMPLE_error, aligned(&SAMPLE::data));
 }
 
 void SAMPLE_error() {

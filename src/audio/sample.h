@@ -22,8 +22,17 @@ inline constexpr std::int32_t SAMPLE_rate = 44100; ///< values per second
 struct SAMPLE {
     std::int32_t length;   ///< values in use, 0 <= length <= capacity
     std::int32_t capacity; ///< values allocated
-    std::int32_t* data; ///< owned; nullptr when the capacity is 0. Values past `length` keep what they held
+    std::int32_t* data;    ///< owned (freeAligned); nullptr when the capacity is 0. Values past `length` keep
+                           ///< what they held
 };
+
+/// True for a sample that can hold values, and for one that does.
+[[nodiscard]] inline bool hasData(const SAMPLE* sample) {
+    return sample != nullptr && sample->data != nullptr;
+}
+[[nodiscard]] inline bool hasValues(const SAMPLE* sample) {
+    return hasData(sample) && sample->length > 0;
+}
 
 extern const IDENTITY SAMPLE_identity;
 extern std::uint8_t SAMPLE_verbose;

@@ -19,10 +19,6 @@ namespace {
 
 constexpr std::int32_t mostShift = 32;
 
-bool hasData(const SAMPLE* sample) {
-    return sample != nullptr && sample->data != nullptr;
-}
-
 /// sample[i] = operation(sample[i]); reported when there is no data.
 template <typename Operation>
 void change(SAMPLE* sample, Operation operation) {
@@ -67,10 +63,6 @@ std::int32_t reduce(const SAMPLE& sample, Operation operation) {
         result = std::accumulate(data + 1, data + length, data[0], operation);
     });
     return result;
-}
-
-bool hasValues(const SAMPLE* sample) {
-    return hasData(sample) && sample->length > 0;
 }
 
 } // namespace

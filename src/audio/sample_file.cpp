@@ -27,8 +27,7 @@ std::int32_t shiftOf(std::int32_t position, std::int32_t bytes, char endian) {
 
 std::int32_t SAMPLE_readRaw(SAMPLE* sample, std::FILE* file, std::int32_t bytes, char endian,
                             std::int32_t count) {
-    if (refused(sample == nullptr || sample->data == nullptr || file == nullptr || !isRawForm(bytes, endian),
-                SAMPLE_error)) {
+    if (refused(!hasData(sample) || file == nullptr || !isRawForm(bytes, endian), SAMPLE_error)) {
         return 0;
     }
     const std::int32_t lengthBefore = sample->length;
@@ -49,8 +48,7 @@ std::int32_t SAMPLE_readRaw(SAMPLE* sample, std::FILE* file, std::int32_t bytes,
 }
 
 std::int32_t SAMPLE_writeRaw(const SAMPLE* sample, std::FILE* file, std::int32_t bytes, char endian) {
-    if (refused(sample == nullptr || sample->data == nullptr || file == nullptr || !isRawForm(bytes, endian),
-                SAMPLE_error)) {
+    if (refused(!hasData(sample) || file == nullptr || !isRawForm(bytes, endian), SAMPLE_error)) {
         return 0;
     }
     const auto isWritten = [=](std::int32_t value) {
@@ -60,12 +58,9 @@ std::int32_t SAMPLE_writeRaw(const SAMPLE* sample, std::FILE* file, std::int32_t
         }
         return std::fwrite(group, static_cast<std::size_t>(bytes), 1, file) == 1;
     };
-    if (refused(!std::all_of(sample->data, sample->data + sample->length, isWritten) ||
-                    std::fflush(file) != 0,
-                SAMPLE_error)) {
-        return 0;
-    }
-    return 1;
+    const bool isWhole =
+        std::all_of(sample->data, sample->data + sample->length, isWritten) && std::fflush(file) == 0;
+    return refused(!isWhole, SAMPLE_error) ? 0 : 1;
 }
 
 } // namespace velm

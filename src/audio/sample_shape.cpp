@@ -14,10 +14,6 @@ namespace velm {
 
 namespace {
 
-bool hasValues(const SAMPLE* sample) {
-    return sample != nullptr && sample->data != nullptr && sample->length > 0;
-}
-
 /// The line over more indices than values: `error` counts down the height and crosses 1 where the value
 /// moves.
 void rampFlat(std::int32_t* data, std::int64_t width, std::int64_t height, std::int32_t y,
@@ -74,14 +70,14 @@ void SAMPLE_resize(SAMPLE* sample, std::int32_t length) {
         return;
     }
     const std::int32_t capacity = std::max(length, 1);
-    std::int32_t* const data = allocateArray<std::int32_t>(capacity);
+    std::int32_t* const data = allocateAligned<std::int32_t>(capacity);
     if (refused(data == nullptr, SAMPLE_error)) {
         return;
     }
     for (std::int64_t i = 0; i < length; ++i) {
         data[i] = sample->data[i * sample->length / length];
     }
-    delete[] sample->data;
+    freeAligned(sample->data);
     sample->data = data;
     sample->length = length;
     sample->capacity = capacity;

@@ -59,7 +59,7 @@ SAMPLE* parse(const char* text) {
 } // namespace
 
 char* SAMPLE_toText(const SAMPLE* sample) {
-    if (refused(sample == nullptr || sample->data == nullptr, SAMPLE_error)) {
+    if (refused(!hasData(sample), SAMPLE_error)) {
         return nullptr;
     }
     char* const text = allocateArray<char>((std::int64_t{sample->length} + 2) * charactersPerValue);

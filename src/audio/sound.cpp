@@ -119,7 +119,7 @@ void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
 
 /// Multiplies by a gain that starts at `gain` and moves by 32768 over the whole sample, in direction `sign`.
 void runGain(SAMPLE* sample, std::int32_t gain, std::int32_t sign) {
-    if (refused(sample == nullptr || sample->data == nullptr || sample->length == 0, SOUND_error)) {
+    if (refused(!hasValues(sample), SOUND_error)) {
         return;
     }
     constexpr std::int32_t fullMove = 0x40000000;

@@ -17,12 +17,10 @@
 namespace velm {
 
 struct FPS {
-    std::int32_t targetRate;   ///< frames per second wanted: 30 or 60
-    std::int32_t measuredRate; ///< 1000000 / elapsedMicros of the last frame; shown nowhere
-    std::int32_t
-        shownRate; ///< what the overlay shows: targetRate since the last frame that had time to spare
-    std::int32_t
-        sleepMicros; ///< what was left of the last frame's budget; may be negative, or more than all of it
+    std::int32_t targetRate;    ///< frames per second wanted: 30 or 60
+    std::int32_t measuredRate;  ///< 1000000 / elapsedMicros of the last frame; shown nowhere
+    std::int32_t shownRate;     ///< shown: targetRate at the last frame that had time to spare
+    std::int32_t sleepMicros;   ///< left of the last frame's budget; perhaps negative, or more than all of it
     std::int64_t startMicros;   ///< time at FPS_start
     std::int64_t endMicros;     ///< time at FPS_tick
     std::int64_t elapsedMicros; ///< the time between them, modulo 2^32 (about 35 minutes either way)

@@ -25,12 +25,8 @@ constexpr std::uint32_t secondSeed = 273880913;
 constexpr std::uint32_t ownGeneratorSeed = 0x6789ABCD;
 constexpr std::int32_t startRate = 30;
 
-IMG* decode(const ASSET& asset) {
-    return IMG_fromPNM(asset.bytes, asset.size);
-}
-
 IMG* decodeInverted(const ASSET& asset) {
-    IMG* const img = decode(asset);
+    IMG* const img = assets::decode(asset);
     IMGFX_invert(img);
     return img;
 }
@@ -63,10 +59,10 @@ void showLogo() {
 }
 
 void decodePictures() {
-    demo.pictureA = decode(assets::picture_a);
-    demo.pictureB = decode(assets::picture_b);
+    demo.pictureA = assets::decode(assets::picture_a);
+    demo.pictureB = assets::decode(assets::picture_b);
     demo.pictureMask = decodeInverted(assets::picture_mask);
-    demo.pictureWide = decode(assets::picture_wide);
+    demo.pictureWide = assets::decode(assets::picture_wide);
 }
 
 void makeLogoFly() {
@@ -89,7 +85,7 @@ void makeMouse() {
     if (demo.mouseTrail != nullptr) {
         demo.mouseTrail->pointer = demo.pointer;
         demo.mouseTrail->target = demo.screen;
-        demo.mouseTrail->image = decode(assets::pointer);
+        demo.mouseTrail->image = assets::decode(assets::pointer);
     }
 }
 

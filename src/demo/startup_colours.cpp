@@ -5,6 +5,7 @@
 // bars.
 #include "demo/state.h"
 #include "demo/velm4030.h"
+#include "effects/palette.h"
 #include "foundation/chance.h"
 
 #include <cstdlib>
@@ -51,11 +52,7 @@ void makePalette() {
 } // namespace
 
 void VELM4030_hueRampSetup() {
-    demo.hueRamp = SAMPLE_new();
-    SAMPLE_setLength(demo.hueRamp, hueCount);
-    for (std::int32_t i = 0; i < hueCount; ++i) {
-        SAMPLE_set(demo.hueRamp, i, static_cast<std::int32_t>(RGB888_hue(i)));
-    }
+    demo.hueRamp = newHues();
 }
 
 void VELM4030_rasterSetup() {

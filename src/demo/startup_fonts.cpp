@@ -15,10 +15,6 @@ namespace {
 
 constexpr std::int32_t cell = 16; ///< width and height of most glyphs, pixels
 
-IMG* decode(const ASSET& asset) {
-    return IMG_fromPNM(asset.bytes, asset.size);
-}
-
 FONT* makeFont(std::int32_t width, std::int32_t height, IMG* sheet) {
     FONT* const font = FONT_new();
     if (font != nullptr) {
@@ -108,15 +104,15 @@ LFONT* makePen(LIST* glyphs, std::int32_t spacing) {
 void VELM4030_bitmapFontSetup() {
     constexpr std::int32_t shadedWidth = 32;
     constexpr std::int32_t shadedHeight = 64;
-    IMG* const sheet = decode(assets::font_sheet);
-    IMG* const digits = decode(assets::digits_a);
+    IMG* const sheet = assets::decode(assets::font_sheet);
+    IMG* const digits = assets::decode(assets::digits_a);
     demo.fontBitmap1 = makeFont(cell, cell, sheet);
     demo.fontBitmap2 = makeFont(cell, cell, makeLightSheet(sheet));
-    demo.fontBitmap3 = makeFont(shadedWidth, shadedHeight, decode(assets::font_shaded));
+    demo.fontBitmap3 = makeFont(shadedWidth, shadedHeight, assets::decode(assets::font_shaded));
     demo.fontBitmap4 = makeFont(cell, cell, digits);
     demo.fontBitmap5 = makeFont(cell, cell, makeRollingStrip(digits));
-    demo.stripImage = decode(assets::strip);
-    demo.fontBitmap6 = makeFont(cell, cell, decode(assets::digits_b));
+    demo.stripImage = assets::decode(assets::strip);
+    demo.fontBitmap6 = makeFont(cell, cell, assets::decode(assets::digits_b));
 }
 
 void VELM4030_lineFontSetup() {

@@ -42,11 +42,10 @@
 
 namespace velm {
 
-inline constexpr std::uint8_t controlExit = 1; ///< bit of DemoState::control: Escape was pressed
-inline constexpr std::uint8_t controlNextPart =
-    2;                                         ///< bit of DemoState::control: the scene ends after this frame
-inline constexpr std::uint8_t overlayRate = 1; ///< bit of DemoState::overlay: the frame rate is shown
-inline constexpr std::uint8_t overlaySpare = 2;           ///< bit of DemoState::overlay: read by nothing
+inline constexpr std::uint8_t controlExit = 1;     ///< bit of DemoState::control: Escape was pressed
+inline constexpr std::uint8_t controlNextPart = 2; ///< bit of DemoState::control: the scene's last frame
+inline constexpr std::uint8_t overlayRate = 1;     ///< bit of DemoState::overlay: the frame rate is shown
+inline constexpr std::uint8_t overlaySpare = 2;    ///< bit of DemoState::overlay: read by nothing
 inline constexpr std::int32_t hueCount = RGB888_hueCount; ///< colours of the hue ramp
 
 /// How `screen` is prepared once it has been presented.

@@ -56,16 +56,13 @@ ARCHPATH_POSE poseOf(const ARCHPATH& path) {
 ARCHPATH* ARCHPATH_new() {
     return newRecord<ARCHPATH>(ARCHPATH_error, ARCHPATH_delete, [](ARCHPATH& path) {
         path.random = RANDOM_new();
-        if (refused(path.random == nullptr, ARCHPATH_error)) {
-            return false;
-        }
         ARCHPATH_randomize(&path);
-        return true;
+        return path.random != nullptr;
     });
 }
 
 void ARCHPATH_randomize(ARCHPATH* path) {
-    if (refused(path == nullptr, ARCHPATH_error)) {
+    if (refused(path == nullptr || path->random == nullptr, ARCHPATH_error)) {
         return;
     }
     path->random->counter = static_cast<std::uint32_t>(chance());

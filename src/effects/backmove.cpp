@@ -145,11 +145,6 @@ void BACKMOVE_drawAdd(const BACKMOVE* back, IMG* target) {
           [](std::uint32_t& pixel, std::uint32_t colour) { pixel = RGB888_add(pixel, colour); });
 }
 
-void BACKMOVE_drawAverage(const BACKMOVE* back, IMG* target) {
-    paint(back, target,
-          [](std::uint32_t& pixel, std::uint32_t colour) { pixel = RGB888_average(pixel, colour); });
-}
-
 void BACKMOVE_delete(BACKMOVE** handle) {
     deleteRecord(handle, BACKMOVE_error);
 }

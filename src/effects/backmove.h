@@ -64,9 +64,6 @@ void BACKMOVE_drawOver(const BACKMOVE* back, IMG* target);
 /// Adds the picture to the target, each channel stopping at 255.
 void BACKMOVE_drawAdd(const BACKMOVE* back, IMG* target);
 
-/// The mean, rounded down, of the picture and the target: what moved leaves a trail.
-void BACKMOVE_drawAverage(const BACKMOVE* back, IMG* target);
-
 /// Frees the record and stores nullptr in the handle; the picture is untouched.
 void BACKMOVE_delete(BACKMOVE** handle);
 

@@ -26,11 +26,6 @@ constexpr std::int32_t ringPoints = SINE_tableLength / 2;
 constexpr std::int32_t shadeDivisor = 9;
 constexpr std::int32_t brightest = 255;
 
-/// (entry * length) >> 15, in 32 bits.
-std::int32_t scaled(std::int32_t entry, std::int32_t length) {
-    return wrapMul(entry, length) >> 15;
-}
-
 /// A circle of latitude. All of its points lie in one row of the image.
 struct Ring {
     std::int32_t radius, offset; ///< pixels; the row is the ball's y + offset
@@ -39,14 +34,13 @@ struct Ring {
 };
 
 Ring ringOf(const BALL3D& ball, std::int32_t latitude) {
-    return {.radius = scaled(SINE_entry(latitude), ball.radius),
-            .offset = scaled(SINE_entry(latitude + SINE_quarter), ball.radius)};
+    return {.radius = SINE_scaled(ball.radius, latitude), .offset = SINE_cosineScaled(ball.radius, latitude)};
 }
 
 /// How much a point faces the light: the dot product by 9, cut towards zero.
 std::int32_t shadeOf(const BALL3D_LIGHT& light, const Ring& ring, std::int32_t longitude) {
-    const std::int32_t across = scaled(SINE_entry(longitude + SINE_quarter), ring.radius);
-    const std::int32_t nearness = scaled(SINE_entry(longitude), ring.radius);
+    const std::int32_t across = SINE_cosineScaled(ring.radius, longitude);
+    const std::int32_t nearness = SINE_scaled(ring.radius, longitude);
     const std::int32_t dot =
         wrapAdd(wrapAdd(wrapMul(light.x, across), wrapMul(light.y, ring.offset)), wrapMul(light.z, nearness));
     return dot / shadeDivisor;
@@ -75,7 +69,7 @@ void drawRing(const BALL3D& ball, const Ring& ring) {
     std::uint32_t* const row = rowOf(*ball.target, y);
     std::int32_t across[ringPoints + 1];
     for (std::int32_t v = 0; v < ringPoints; ++v) {
-        across[v] = scaled(SINE_entry(v + SINE_quarter), ring.radius);
+        across[v] = SINE_cosineScaled(ring.radius, v);
     }
     across[ringPoints] = ~across[ringPoints - 1]; // nothing follows the last point
     for (std::int32_t v = 0; v < ringPoints; ++v) {

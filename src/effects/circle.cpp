@@ -54,7 +54,7 @@ void bounce(std::int32_t& place, std::int32_t& speed, std::int32_t size) {
 
 /// Calls ring(body, radius in pixels) for every nested ring of every circle, the widest first, or reports.
 template <typename Ring>
-void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ring ring) {
+void forEachRing(const CIRCLE* circle, const IMG* target, Ring ring) {
     if (refused(circle == nullptr || circle->bodies == nullptr || !hasPixels(target), CIRCLE_error)) {
         return;
     }
@@ -62,7 +62,7 @@ void forEachRing(const CIRCLE* circle, const IMG* target, std::int32_t rings, Ri
     for (std::int32_t i = 0; i < circle->count; ++i) {
         const CIRCLE_BODY& body = circle->bodies[i];
         std::int32_t radius = wholeOf(body.radius);
-        for (std::int32_t k = 0; k < rings && radius >= 0; ++k) {
+        for (std::int32_t k = 0; k < circle->rings && radius >= 0; ++k) {
             ring(body, radius);
             radius -= spacing;
         }
@@ -107,34 +107,24 @@ void CIRCLE_advance(CIRCLE* circle) {
 }
 
 void CIRCLE_draw(const CIRCLE* circle, IMG* target) {
-    forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
-                [target](const CIRCLE_BODY& body, std::int32_t radius) {
-                    CIRCLE_drawRing(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
-                });
+    forEachRing(circle, target, [target](const CIRCLE_BODY& body, std::int32_t radius) {
+        CIRCLE_drawRing(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
+    });
 }
 
 void CIRCLE_drawAdd(const CIRCLE* circle, IMG* target) {
-    const std::int32_t largest = circle == nullptr ? 1 : std::clamp(circle->largest, 1, mostPixels);
-    forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
-                [=](const CIRCLE_BODY& body, std::int32_t radius) {
-                    const std::int32_t left = std::max(largest - radius, 0);
-                    const std::int32_t brightness = RGB888_fullWeight * left / largest;
-                    CIRCLE_addRing(target, wholeOf(body.x), wholeOf(body.y), radius,
-                                   RGB888_dim(body.colour, brightness));
-                });
-}
-
-void CIRCLE_drawDiscs(const CIRCLE* circle, IMG* target) {
-    forEachRing(circle, target, 1, [target](const CIRCLE_BODY& body, std::int32_t radius) {
-        CIRCLE_addDisc(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
+    forEachRing(circle, target, [=](const CIRCLE_BODY& body, std::int32_t radius) {
+        const std::int32_t largest = std::clamp(circle->largest, 1, mostPixels);
+        const std::int32_t left = std::max(largest - radius, 0);
+        const std::int32_t brightness = RGB888_fullWeight * left / largest;
+        CIRCLE_addRing(target, wholeOf(body.x), wholeOf(body.y), radius, RGB888_dim(body.colour, brightness));
     });
 }
 
 void CIRCLE_drawXor(const CIRCLE* circle, IMG* target) {
-    forEachRing(circle, target, circle == nullptr ? 0 : circle->rings,
-                [target](const CIRCLE_BODY& body, std::int32_t radius) {
-                    CIRCLE_xorDisc(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
-                });
+    forEachRing(circle, target, [target](const CIRCLE_BODY& body, std::int32_t radius) {
+        CIRCLE_xorDisc(target, wholeOf(body.x), wholeOf(body.y), radius, body.colour);
+    });
 }
 
 void CIRCLE_delete(CIRCLE** handle) {

@@ -59,9 +59,6 @@ void CIRCLE_draw(const CIRCLE* circle, IMG* target);
 /// Adds the rings, which dim as they grow and are gone at `largest`.
 void CIRCLE_drawAdd(const CIRCLE* circle, IMG* target);
 
-/// Adds every circle as a disc of its full colour: light falls where they meet.
-void CIRCLE_drawDiscs(const CIRCLE* circle, IMG* target);
-
 /// Exclusive-ors the nested rings as discs: they become bands, and the bands of two circles interfere.
 void CIRCLE_drawXor(const CIRCLE* circle, IMG* target);
 

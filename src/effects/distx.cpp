@@ -40,10 +40,9 @@ void DISTX_draw(DISTX* dist, IMG* target) {
 }
 
 void DISTX_advance(DISTX* dist) {
-    if (refused(dist == nullptr, DISTX_error)) {
-        return;
+    if (!refused(dist == nullptr, DISTX_error)) {
+        SINE_advance(&dist->wave);
     }
-    SINE_advance(&dist->wave);
 }
 
 void DISTX_delete(DISTX** handle) {

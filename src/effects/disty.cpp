@@ -78,10 +78,9 @@ void DISTY_draw(DISTY* dist, IMG* target) {
 }
 
 void DISTY_advance(DISTY* dist) {
-    if (refused(dist == nullptr, DISTY_error)) {
-        return;
+    if (!refused(dist == nullptr, DISTY_error)) {
+        SINE_advance(&dist->wave);
     }
-    SINE_advance(&dist->wave);
 }
 
 void DISTY_delete(DISTY** handle) {

@@ -21,8 +21,6 @@ std::uint8_t FILL_verbose = 0;
 
 namespace {
 
-constexpr std::int32_t endless = 0x7FFFFFFF; ///< a span that may become as long as its row
-
 // A word of the map: this bit, the seed's hue in 15 bits, the steps from the seed in 16.
 constexpr std::uint32_t filledBit = 0x80000000U;
 constexpr std::int32_t mostHue = 0x7FFF;
@@ -32,100 +30,51 @@ bool fits(const FILL& fill, const IMG* img) {
     return hasPixels(img) && img->width <= fill.width && img->height <= fill.height;
 }
 
-bool contains(const IMG& img, std::int32_t x, std::int32_t y) {
-    return x >= 0 && y >= 0 && x < img.width && y < img.height;
+/// True for a black pixel of the drawing that the map shows as dry.
+bool isDry(const FILL& fill, std::int32_t x, std::int32_t row) {
+    return rowOf(*fill.drawing, row)[x] == 0 && fill.map[x + std::int64_t{row} * fill.width] == 0;
 }
 
-/// Makes everything dry, over another drawing or none.
-void forget(FILL& fill, const IMG* drawing) {
-    std::fill_n(fill.map, std::int64_t{fill.width} * fill.height, 0U);
-    fill.first = fill.count = 0;
-    fill.drained = 0;
-    fill.drawing = drawing;
-}
-
-/// How spans take hold of an area of free and taken pixels. Every pixel is taken by one span only and every
-/// span takes one at least, so there are never more spans than pixels.
-///
-/// Area has isFree(x, row) and take(span).
-template <typename Area>
-class Spreading {
-public:
-    Spreading(FILL& record, std::int32_t areaWidth, std::int32_t areaHeight, Area& pixels)
-        : fill(record), width(areaWidth), height(areaHeight), area(pixels) {}
-
-    /// Takes the free pixels about (x, row) from `least` to `most` as one new span, and returns the last one.
-    /// (x, row) must be free.
-    std::int32_t take(std::int32_t x, std::int32_t row, std::int32_t least, std::int32_t most,
-                      const FILL_SPAN& from) {
-        FILL_SPAN span{x, x, row, std::min(from.age + 1, mostAge), from.hue};
-        while (span.left > least && area.isFree(span.left - 1, row)) {
-            --span.left;
-        }
-        while (span.right < most && area.isFree(span.right + 1, row)) {
-            ++span.right;
-        }
-        area.take(span);
-        fill.spans[fill.count++] = span;
-        return span.right;
+/// Takes the dry pixels about (x, row) from `least` to `most` as one new span, and returns the last one.
+/// (x, row) must be dry. Every pixel is taken by one span only and every span takes one at least, so there
+/// are never more spans than pixels.
+std::int32_t take(FILL& fill, std::int32_t x, std::int32_t row, std::int32_t least, std::int32_t most,
+                  const FILL_SPAN& from) {
+    FILL_SPAN span{x, x, row, std::min(from.age + 1, mostAge), from.hue};
+    while (span.left > least && isDry(fill, span.left - 1, row)) {
+        --span.left;
     }
+    while (span.right < most && isDry(fill, span.right + 1, row)) {
+        ++span.right;
+    }
+    const auto word =
+        filledBit | static_cast<std::uint32_t>(span.hue) << 16 | static_cast<std::uint32_t>(span.age);
+    std::fill_n(fill.map + span.left + std::int64_t{row} * fill.width, span.right - span.left + 1, word);
+    fill.spans[fill.count++] = span;
+    return span.right;
+}
 
-    /// Takes what a span touches: its row on both sides, and the rows above and below.
-    void spread(const FILL_SPAN& span, std::int32_t reach) {
-        const std::int32_t least = reach == endless ? 0 : std::max(0, span.left - reach);
-        const std::int32_t most = reach == endless ? width - 1 : std::min(width - 1, span.right + reach);
-        const std::int32_t before = span.left - 1;
-        const std::int32_t after = span.right + 1;
-        if (before >= 0 && area.isFree(before, span.row)) {
-            take(before, span.row, least, before, span);
-        }
-        if (after < width && area.isFree(after, span.row)) {
-            take(after, span.row, after, most, span);
-        }
-        for (const std::int32_t row : {span.row - 1, span.row + 1}) {
-            for (std::int32_t x = span.left; row >= 0 && row < height && x <= span.right; ++x) {
-                if (area.isFree(x, row)) {
-                    x = take(x, row, least, most, span);
-                }
+/// Takes what a span touches: its row up to `reach` pixels on both sides, and the rows above and below.
+void spread(FILL& fill, const FILL_SPAN& span, std::int32_t reach) {
+    const std::int32_t width = fill.drawing->width;
+    const std::int32_t least = std::max(0, span.left - reach);
+    const std::int32_t most = std::min(width - 1, span.right + reach);
+    const std::int32_t before = span.left - 1;
+    const std::int32_t after = span.right + 1;
+    if (before >= 0 && isDry(fill, before, span.row)) {
+        take(fill, before, span.row, least, before, span);
+    }
+    if (after < width && isDry(fill, after, span.row)) {
+        take(fill, after, span.row, after, most, span);
+    }
+    for (const std::int32_t row : {span.row - 1, span.row + 1}) {
+        for (std::int32_t x = span.left; row >= 0 && row < fill.drawing->height && x <= span.right; ++x) {
+            if (isDry(fill, x, row)) {
+                x = take(fill, x, row, least, most, span);
             }
         }
     }
-
-private:
-    FILL& fill;
-    std::int32_t width, height;
-    Area& area;
-};
-
-/// Pixels of one colour that take another one.
-struct ColourArea {
-    IMG& img;
-    std::uint32_t from, to;
-    std::int32_t taken;
-
-    [[nodiscard]] bool isFree(std::int32_t x, std::int32_t row) const { return rowOf(img, row)[x] == from; }
-    void take(const FILL_SPAN& span) {
-        std::fill_n(rowOf(img, span.row) + span.left, span.right - span.left + 1, to);
-        taken += span.right - span.left + 1;
-    }
-};
-
-/// Black pixels of a drawing that the map shows as dry.
-struct DryArea {
-    FILL& fill;
-
-    [[nodiscard]] bool isFree(std::int32_t x, std::int32_t row) const {
-        const IMG& img = *fill.drawing;
-        return img.pixels[x + std::int64_t{row} * img.width] == 0 &&
-               fill.map[x + std::int64_t{row} * fill.width] == 0;
-    }
-    void take(const FILL_SPAN& span) const {
-        const auto word =
-            filledBit | static_cast<std::uint32_t>(span.hue) << 16 | static_cast<std::uint32_t>(span.age);
-        std::fill_n(fill.map + span.left + std::int64_t{span.row} * fill.width, span.right - span.left + 1,
-                    word);
-    }
-};
+}
 
 /// Palette entry and brightness of a place that the colour reached after `age` steps. The brightness is a
 /// wave, 256 at its crests, that runs outwards twice as fast as the hues.
@@ -170,43 +119,24 @@ void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height) {
     fill->drawing = nullptr;
 }
 
-std::int32_t FILL_flood(FILL* fill, IMG* target, std::int32_t x, std::int32_t y, std::uint32_t colour) {
-    if (refused(fill == nullptr || fill->spans == nullptr || !fits(*fill, target), FILL_error)) {
-        return 0;
-    }
-    forget(*fill, nullptr);
-    const std::uint32_t from = IMG_getPixel(target, x, y);
-    if (!contains(*target, x, y) || from == colour) {
-        return 0;
-    }
-    ColourArea area{*target, from, colour, 0};
-    Spreading<ColourArea> spreading(*fill, target->width, target->height, area);
-    spreading.take(x, y, 0, target->width - 1, FILL_SPAN{});
-    // The last span spreads first: what is still to do stays short.
-    while (fill->count > 0) {
-        const FILL_SPAN span = fill->spans[--fill->count];
-        spreading.spread(span, endless);
-    }
-    return area.taken;
-}
-
 void FILL_begin(FILL* fill, const IMG* drawing) {
     if (refused(fill == nullptr || fill->map == nullptr || !fits(*fill, drawing), FILL_error)) {
         return;
     }
-    forget(*fill, drawing);
+    std::fill_n(fill->map, std::int64_t{fill->width} * fill->height, 0U);
+    fill->first = fill->count = 0;
+    fill->drained = 0;
+    fill->drawing = drawing;
 }
 
 bool FILL_pour(FILL* fill, std::int32_t x, std::int32_t y, std::int32_t hue) {
     if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return false;
     }
-    DryArea area{*fill};
-    if (!contains(*fill->drawing, x, y) || !area.isFree(x, y)) {
+    if (!contains(*fill->drawing, x, y) || !isDry(*fill, x, y)) {
         return false;
     }
-    const FILL_SPAN source{x, x, y, -1, hue & mostHue};
-    Spreading<DryArea>(*fill, fill->drawing->width, fill->drawing->height, area).take(x, y, x, x, source);
+    take(*fill, x, y, x, x, {x, x, y, -1, hue & mostHue});
     return true;
 }
 
@@ -234,22 +164,13 @@ void FILL_advance(FILL* fill) {
     if (refused(fill == nullptr || fill->drawing == nullptr, FILL_error)) {
         return;
     }
-    DryArea area{*fill};
-    Spreading<DryArea> spreading(*fill, fill->drawing->width, fill->drawing->height, area);
     // The first span spreads first, one pixel up and down and none or one more sideways by turns: a front
     // that is round enough, where whole rows at a time would show the trick.
     for (std::int32_t i = 0; i < fill->flow && fill->first < fill->count; ++i) {
         const FILL_SPAN span = fill->spans[fill->first++];
-        spreading.spread(span, span.age & 1);
+        spread(*fill, span, span.age & 1);
     }
     fill->phase = wrapAdd(fill->phase, fill->speed);
-}
-
-bool FILL_isDone(const FILL* fill) {
-    if (refused(fill == nullptr, FILL_error)) {
-        return true;
-    }
-    return fill->first == fill->count;
 }
 
 void FILL_draw(const FILL* fill, IMG* target) {

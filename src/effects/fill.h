@@ -3,7 +3,7 @@
 //
 // FILL pours colour into a drawing. Everything that is black takes colour, everything else is a wall; from
 // the seeds on, the colour spreads span by span, so many a frame, keeps to the walls, and goes on flowing
-// where it has come to stand. The same record also fills an area of a picture at once.
+// where it has come to stand.
 //
 //     FILL* fill = FILL_new();
 //     fill->palette = hues, FILL_begin(fill, outlines), FILL_pour(fill, 128, 128, 0);
@@ -51,11 +51,6 @@ FILL* FILL_new();
 /// filled. On failure it reports and leaves the record as it was.
 void FILL_setSize(FILL* fill, std::int32_t width, std::int32_t height);
 
-/// Fills at once: the connected area of pixels that have the colour of (x, y), up, down, left and right of
-/// it, becomes `colour`. Returns the number of pixels, 0 outside the image or where it has that colour.
-/// Forgets what was poured; a picture that is too large is reported.
-std::int32_t FILL_flood(FILL* fill, IMG* target, std::int32_t x, std::int32_t y, std::uint32_t colour);
-
 /// Takes a drawing, which must stay, and begins dry. A drawing that is too large is reported.
 void FILL_begin(FILL* fill, const IMG* drawing);
 
@@ -68,9 +63,6 @@ void FILL_randomize(FILL* fill);
 
 /// One frame: `flow` spans spread, and the colours move on.
 void FILL_advance(FILL* fill);
-
-/// True when there is nothing left that could spread.
-bool FILL_isDone(const FILL* fill);
 
 /// Paints what is filled and not drained; the rest of the target stays.
 void FILL_draw(const FILL* fill, IMG* target);

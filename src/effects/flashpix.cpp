@@ -100,8 +100,9 @@ void drawSpark(const FLASHPIX& flash, const FLASHPIX_SPARK& spark, IMG* target) 
 }
 
 std::int32_t litPixels(const IMG& img) {
-    const std::int64_t size = std::int64_t{img.width} * img.height;
-    return static_cast<std::int32_t>(size - std::count(img.pixels, img.pixels + size, 0U));
+    const auto pixels = pixelsOf(img);
+    return static_cast<std::int32_t>(
+        std::count_if(pixels.begin(), pixels.end(), [](std::uint32_t pixel) { return pixel != 0; }));
 }
 
 } // namespace
@@ -109,11 +110,8 @@ std::int32_t litPixels(const IMG& img) {
 FLASHPIX* FLASHPIX_new() {
     return newRecord<FLASHPIX>(FLASHPIX_error, FLASHPIX_delete, [](FLASHPIX& flash) {
         flash.random = RANDOM_new();
-        if (refused(flash.random == nullptr, FLASHPIX_error)) {
-            return false;
-        }
         FLASHPIX_setCount(&flash, flash.count);
-        return flash.sparks != nullptr;
+        return flash.random != nullptr && flash.sparks != nullptr;
     });
 }
 
@@ -150,7 +148,7 @@ void FLASHPIX_setShape(FLASHPIX* flash, const IMG* shape) {
 }
 
 void FLASHPIX_randomize(FLASHPIX* flash) {
-    if (refused(flash == nullptr, FLASHPIX_error)) {
+    if (refused(flash == nullptr || flash->random == nullptr, FLASHPIX_error)) {
         return;
     }
     flash->random->counter = static_cast<std::uint32_t>(chance());

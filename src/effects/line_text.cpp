@@ -5,6 +5,7 @@
 #include "foundation/fixed.h"
 #include "foundation/wrap.h"
 #include "image/imgfx.h"
+#include "vector/vec2d.h"
 
 #include <algorithm>
 #include <cstring>
@@ -55,10 +56,9 @@ const OBJ2D* glyphOf(const LIST* glyphs, std::uint8_t character) {
     return static_cast<const OBJ2D*>(LIST_get(glyphs, character));
 }
 
-void addStroke(IMG* target, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
-               std::uint32_t colour) {
+void addStroke(IMG* target, const VEC2D& from, const VEC2D& to, std::uint32_t colour) {
     if (colour != 0) {
-        IMGFX_addLine(target, x1, y1, x2, y2, colour);
+        IMGFX_addLine(target, from.x, from.y, to.x, to.y, colour);
     }
 }
 

@@ -47,9 +47,8 @@ std::int32_t scaleToFit(std::int32_t pixels, std::int32_t length, std::int32_t c
 /// The drawing of a character, or nullptr where the font has none.
 const OBJ2D* glyphOf(const LIST* glyphs, std::uint8_t character);
 
-/// Adds a stroke of light from (x1, y1) to (x2, y2); black costs nothing.
-void addStroke(IMG* target, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
-               std::uint32_t colour);
+/// Adds a stroke of light between two places; black costs nothing.
+void addStroke(IMG* target, const VEC2D& from, const VEC2D& to, std::uint32_t colour);
 
 /// Calls draw(a, b) with the two ends of every stroke, in the drawing's own units.
 template <typename Draw>

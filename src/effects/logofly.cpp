@@ -62,17 +62,15 @@ void LOGOFLY_randomize(LOGOFLY* logo) {
 }
 
 void LOGOFLY_advance(LOGOFLY* logo) {
-    if (refused(logo == nullptr, LOGOFLY_error)) {
-        return;
+    if (!refused(logo == nullptr, LOGOFLY_error)) {
+        logo->phase = wrapAdd(logo->phase, logo->speed) & bounceMask;
     }
-    logo->phase = wrapAdd(logo->phase, logo->speed) & bounceMask;
 }
 
 void LOGOFLY_advanceFull(LOGOFLY* logo) {
-    if (refused(logo == nullptr, LOGOFLY_error)) {
-        return;
+    if (!refused(logo == nullptr, LOGOFLY_error)) {
+        logo->phase = wrapAdd(logo->phase, logo->speed) & SINE_tableMask;
     }
-    logo->phase = wrapAdd(logo->phase, logo->speed) & SINE_tableMask;
 }
 
 void LOGOFLY_draw(const LOGOFLY* logo) {
@@ -91,18 +89,15 @@ void LOGOFLY_draw(const LOGOFLY* logo) {
         // LOGOFLY_bytesAreSigned: one expects codes 0..255; bytes from 128 on count as negative, for which no
         // font has a glyph.
         pen->character = signedByte(logo->text[i]);
-        pen->position->y = wrapSub(logo->y, wrapMul(SINE_entry(phase), logo->amplitude) >> 15);
+        pen->position->y = wrapSub(logo->y, SINE_scaled(logo->amplitude, phase));
         LFONT_drawChar(pen);
         phase = wrapAdd(phase, logo->letterStep) & bounceMask;
     }
 }
 
 std::int32_t LOGOFLY_equals(const LOGOFLY* a, const LOGOFLY* b) {
-    if (refused(a == nullptr || b == nullptr, LOGOFLY_error)) {
-        return 0;
-    }
-    return a->phase == b->phase && a->speed == b->speed && a->letterStep == b->letterStep &&
-                   a->amplitude == b->amplitude
+    return !refused(a == nullptr || b == nullptr, LOGOFLY_error) && a->phase == b->phase &&
+                   a->speed == b->speed && a->letterStep == b->letterStep && a->amplitude == b->amplitude
                ? 1
                : 0;
 }

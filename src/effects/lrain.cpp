@@ -88,11 +88,8 @@ void drawRing(const LRAIN& rain, const LRAIN_RING& ring, IMG* target) {
 LRAIN* LRAIN_new() {
     return newRecord<LRAIN>(LRAIN_error, LRAIN_delete, [](LRAIN& rain) {
         rain.random = RANDOM_new();
-        if (refused(rain.random == nullptr, LRAIN_error)) {
-            return false;
-        }
         LRAIN_setCount(&rain, rain.count);
-        return rain.drops != nullptr;
+        return rain.random != nullptr && rain.drops != nullptr;
     });
 }
 
@@ -103,7 +100,7 @@ void LRAIN_setCount(LRAIN* rain, std::int32_t count) {
 }
 
 void LRAIN_randomize(LRAIN* rain) {
-    if (refused(rain == nullptr, LRAIN_error)) {
+    if (refused(rain == nullptr || rain->random == nullptr, LRAIN_error)) {
         return;
     }
     rain->random->counter = static_cast<std::uint32_t>(chance());

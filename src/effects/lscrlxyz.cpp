@@ -135,8 +135,7 @@ void drawGlyph(const Surface& surface, const OBJ2D* glyph, std::int64_t u, std::
         VEC2D seenFrom{};
         VEC2D seenTo{};
         if (surface.project(from, seenFrom) && surface.project(to, seenTo)) {
-            const std::uint32_t colour = RGB888_dim(hue, surface.lightAt((from.z + to.z) / 2));
-            addStroke(target, seenFrom.x, seenFrom.y, seenTo.x, seenTo.y, colour);
+            addStroke(target, seenFrom, seenTo, RGB888_dim(hue, surface.lightAt((from.z + to.z) / 2)));
         }
     });
 }
@@ -150,24 +149,19 @@ LSCRLXYZ* LSCRLXYZ_new() {
 }
 
 void LSCRLXYZ_setText(LSCRLXYZ* scroll, const char* text) {
-    if (refused(scroll == nullptr || text == nullptr, LSCRLXYZ_error)) {
-        return;
+    if (!refused(scroll == nullptr || text == nullptr, LSCRLXYZ_error)) {
+        setText(scroll->text, text);
     }
-    setText(scroll->text, text);
 }
 
 std::int32_t LSCRLXYZ_length(const LSCRLXYZ* scroll) {
-    if (refused(scroll == nullptr, LSCRLXYZ_error)) {
-        return 0;
-    }
-    return Surface(*scroll).length;
+    return refused(scroll == nullptr, LSCRLXYZ_error) ? 0 : Surface(*scroll).length;
 }
 
 void LSCRLXYZ_fit(LSCRLXYZ* scroll) {
-    if (refused(scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0, LSCRLXYZ_error)) {
-        return;
+    if (!refused(scroll == nullptr || scroll->text.length <= 0 || scroll->cell <= 0, LSCRLXYZ_error)) {
+        scroll->scale = scaleToFit(LSCRLXYZ_length(scroll), scroll->text.length, scroll->cell);
     }
-    scroll->scale = scaleToFit(LSCRLXYZ_length(scroll), scroll->text.length, scroll->cell);
 }
 
 void LSCRLXYZ_randomize(LSCRLXYZ* scroll) {

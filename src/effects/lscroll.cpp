@@ -147,10 +147,9 @@ LSCROLL* LSCROLL_new() {
 }
 
 void LSCROLL_setText(LSCROLL* scroll, const char* text) {
-    if (refused(scroll == nullptr || text == nullptr, LSCROLL_error)) {
-        return;
+    if (!refused(scroll == nullptr || text == nullptr, LSCROLL_error)) {
+        setText(scroll->text, text);
     }
-    setText(scroll->text, text);
 }
 
 void LSCROLL_setLine(LSCROLL* scroll, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) {
@@ -215,12 +214,9 @@ void LSCROLL_draw(const LSCROLL* scroll, IMG* target) {
         const std::uint32_t hue = paletteColour(
             scroll->palette, wrapAdd(scroll->hue, wrapMul(placeOf(scroll->text, n), scroll->hueStep)));
         const std::uint32_t colour = RGB888_dim(hue, lightAt(*scroll, along));
-        forEachStroke(glyphOf(scroll->glyphs, characterOf(scroll->text, n)),
-                      [&](const VEC2D& a, const VEC2D& b) {
-                          const VEC2D from = pose.place(a);
-                          const VEC2D to = pose.place(b);
-                          addStroke(target, from.x, from.y, to.x, to.y, colour);
-                      });
+        forEachStroke(
+            glyphOf(scroll->glyphs, characterOf(scroll->text, n)),
+            [&](const VEC2D& a, const VEC2D& b) { addStroke(target, pose.place(a), pose.place(b), colour); });
     }
 }
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "effects/mouse.h"
 
-#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "image/img.h"
@@ -31,18 +30,13 @@ void copyState(const From& src, MOUSE& dst) {
 } // namespace
 
 MOUSE* MOUSE_new() {
-    MOUSE* mouse = XDPY_isOpen() ? allocateRecord<MOUSE>() : nullptr;
-    if (mouse == nullptr) {
-        MOUSE_error();
-    }
-    return mouse;
+    return refused(!XDPY_isOpen(), MOUSE_error) ? nullptr : newRecord<MOUSE>(MOUSE_error);
 }
 
 void MOUSE_update(MOUSE* mouse) {
-    if (refused(mouse == nullptr || mouse->pointer == nullptr, MOUSE_error)) {
-        return;
+    if (!refused(mouse == nullptr || mouse->pointer == nullptr, MOUSE_error)) {
+        copyState(*mouse->pointer, *mouse);
     }
-    copyState(*mouse->pointer, *mouse);
 }
 
 void MOUSE_draw(const MOUSE* mouse) {
@@ -59,11 +53,8 @@ void MOUSE_draw(const MOUSE* mouse) {
 }
 
 std::int32_t MOUSE_equals(const MOUSE* a, const MOUSE* b) {
-    if (refused(a == nullptr || b == nullptr, MOUSE_error)) {
-        return 0;
-    }
-    return a->x == b->x && a->y == b->y && a->buttons == b->buttons && a->image == b->image &&
-                   a->target == b->target &&
+    return !refused(a == nullptr || b == nullptr, MOUSE_error) && a->x == b->x && a->y == b->y &&
+                   a->buttons == b->buttons && a->image == b->image && a->target == b->target &&
                    std::equal(std::begin(a->reserved), std::end(a->reserved), std::begin(b->reserved))
                ? 1
                : 0;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "effects/partixel.h"
 
-#include "foundation/memory.h"
 #include "foundation/random.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
@@ -39,7 +38,7 @@ bool isPureBlue(std::uint32_t pixel) {
 }
 
 bool isEmpty(const IMG& image, std::int32_t x, std::int32_t y) {
-    return x < 0 || y < 0 || x >= image.width || y >= image.height || rowOf(image, y)[x] == 0;
+    return !contains(image, x, y) || rowOf(image, y)[x] == 0;
 }
 
 void moveWater(IMG* image, std::int32_t x, std::int32_t y, std::int32_t step, std::uint32_t colour) {
@@ -155,11 +154,8 @@ PARTIXEL* PARTIXEL_new() {
     if (PARTIXEL_random == nullptr) {
         PARTIXEL_random = RANDOM_new();
     }
-    PARTIXEL* const particles = PARTIXEL_random == nullptr ? nullptr : allocateRecord<PARTIXEL>();
-    if (particles == nullptr) {
-        PARTIXEL_error();
-    }
-    return particles;
+    return refused(PARTIXEL_random == nullptr, PARTIXEL_error) ? nullptr
+                                                               : newRecord<PARTIXEL>(PARTIXEL_error);
 }
 
 std::int32_t PARTIXEL_waterRight(PARTIXEL* water) {

@@ -66,10 +66,9 @@ std::uint32_t smoothed(const RASTER& raster, std::int64_t index, std::int64_t ra
 /// Opens and closes a file, or reports.
 void touch(const char* path, const char* mode) {
     std::FILE* file = path == nullptr ? nullptr : std::fopen(path, mode);
-    if (refused(file == nullptr, RASTER_error)) {
-        return;
+    if (!refused(file == nullptr, RASTER_error)) {
+        std::fclose(file);
     }
-    std::fclose(file);
 }
 
 } // namespace
@@ -92,13 +91,10 @@ RASTER* RASTER_load(const char* path) {
 
 void RASTER_setCount(RASTER* raster, std::int32_t count) {
     std::uint32_t* const colours = raster == nullptr ? nullptr : allocateColours(count);
-    if (refused(colours == nullptr, RASTER_error)) {
-        return;
+    if (adoptArray(raster, RASTER_error, &RASTER::colours, colours)) {
+        raster->count = count;
+        raster->position = 0;
     }
-    delete[] raster->colours;
-    raster->colours = colours;
-    raster->count = count;
-    raster->position = 0;
 }
 
 void RASTER_clear(RASTER* raster) {
@@ -122,8 +118,7 @@ void RASTER_smooth(RASTER* raster, std::int32_t radius) {
     for (std::int32_t k = raster->count; k >= 0; --k) {
         colours[k] = smoothed(*raster, k, radius);
     }
-    delete[] raster->colours;
-    raster->colours = colours;
+    adoptArray(raster, RASTER_error, &RASTER::colours, colours);
 }
 
 void RASTER_advance(RASTER* raster) {
@@ -210,10 +205,9 @@ RASTER* RASTER_clone(const RASTER* src) {
 }
 
 void RASTER_save(const RASTER* raster, const char* path) {
-    if (refused(raster == nullptr, RASTER_error)) {
-        return;
+    if (!refused(raster == nullptr, RASTER_error)) {
+        touch(path, "wb");
     }
-    touch(path, "wb");
 }
 
 void RASTER_delete(RASTER** handle) {

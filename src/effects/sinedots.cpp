@@ -79,8 +79,8 @@ public:
         for (std::int32_t i = 0; i < count; ++i) {
             const std::int32_t x = across.next();
             const std::int32_t y = down.next();
-            if (x >= 0 && y >= 0 && x < image.width && y < image.height) {
-                plot(image.pixels[x + std::int64_t{y} * image.width]);
+            if (contains(image, x, y)) {
+                plot(rowOf(image, y)[x]);
             }
         }
     }
@@ -121,11 +121,8 @@ std::uint32_t colourTimes(std::uint32_t colour, std::int64_t times) {
 SINEDOTS* SINEDOTS_new() {
     return newRecord<SINEDOTS>(SINEDOTS_error, SINEDOTS_delete, [](SINEDOTS& dots) {
         SINEDOTS_setCount(&dots, dots.count);
-        if (dots.dots == nullptr) {
-            return false;
-        }
         SINEDOTS_randomize(&dots);
-        return true;
+        return dots.dots != nullptr;
     });
 }
 
@@ -133,12 +130,9 @@ void SINEDOTS_setCount(SINEDOTS* dots, std::int32_t count) {
     std::int32_t* const storage = dots != nullptr && count >= 1
                                       ? allocateArray<std::int32_t>(std::int64_t{count} * wordsPerDot)
                                       : nullptr;
-    if (refused(storage == nullptr, SINEDOTS_error)) {
-        return;
+    if (adoptArray(dots, SINEDOTS_error, &SINEDOTS::dots, storage)) {
+        dots->count = count;
     }
-    delete[] dots->dots;
-    dots->dots = storage;
-    dots->count = count;
 }
 
 void SINEDOTS_randomize(SINEDOTS* dots) {

@@ -126,9 +126,7 @@ void drawWord(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, std::int32_t 
         pose.left = std::clamp(cell * twice / 2 - pose.middle, -outOfSight, outOfSight);
         const OBJ2D* const glyph = glyphOf(zoom.glyphs, static_cast<std::uint8_t>(flight.word[i]));
         forEachStroke(glyph, [&](const VEC2D& a, const VEC2D& b) {
-            const VEC2D from = pose.place(a);
-            const VEC2D to = pose.place(b);
-            addStroke(target, from.x, from.y, to.x, to.y, colour);
+            addStroke(target, pose.place(a), pose.place(b), colour);
         });
     }
 }
@@ -149,11 +147,8 @@ void drawFlight(const WORDZOOM& zoom, const WORDZOOM_FLIGHT& flight, IMG* target
 WORDZOOM* WORDZOOM_new() {
     return newRecord<WORDZOOM>(WORDZOOM_error, WORDZOOM_delete, [](WORDZOOM& zoom) {
         zoom.random = RANDOM_new();
-        if (refused(zoom.random == nullptr, WORDZOOM_error)) {
-            return false;
-        }
         WORDZOOM_randomize(&zoom);
-        return true;
+        return zoom.random != nullptr;
     });
 }
 
@@ -168,7 +163,7 @@ void WORDZOOM_setText(WORDZOOM* zoom, const char* text) {
 }
 
 void WORDZOOM_randomize(WORDZOOM* zoom) {
-    if (refused(zoom == nullptr, WORDZOOM_error)) {
+    if (refused(zoom == nullptr || zoom->random == nullptr, WORDZOOM_error)) {
         return;
     }
     zoom->hue = chance() & 0xFFFF;
@@ -197,16 +192,6 @@ void WORDZOOM_advance(WORDZOOM* zoom) {
         zoom->wait = 0;
         startWord(*zoom);
     }
-}
-
-bool WORDZOOM_isDone(const WORDZOOM* zoom) {
-    if (refused(zoom == nullptr || zoom->text == nullptr, WORDZOOM_error)) {
-        return true;
-    }
-    const bool flies = std::any_of(std::begin(zoom->flights), std::end(zoom->flights),
-                                   [](const WORDZOOM_FLIGHT& flight) { return flight.word != nullptr; });
-    WORDZOOM rest = *zoom;
-    return !flies && findWord(rest) == 0;
 }
 
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target) {

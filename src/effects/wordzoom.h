@@ -71,9 +71,6 @@ void WORDZOOM_randomize(WORDZOOM* zoom);
 /// a free place.
 void WORDZOOM_advance(WORDZOOM* zoom);
 
-/// True when no word flies and none will.
-bool WORDZOOM_isDone(const WORDZOOM* zoom);
-
 /// Adds the words to the target; a missing font is reported.
 void WORDZOOM_draw(const WORDZOOM* zoom, IMG* target);
 

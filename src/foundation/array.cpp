@@ -72,26 +72,18 @@ bool append(ARRAY& array, const void* element) {
 } // namespace
 
 ARRAY* ARRAY_new() {
-    ARRAY* array = newRecord<ARRAY>(ARRAY_error);
-    if (array != nullptr) {
-        array->data = allocateElements(array->capacity, array->elementSize);
-        if (array->data == nullptr) {
-            ARRAY_error();
-            ARRAY_delete(&array);
-        }
-    }
-    return array;
+    return newRecord<ARRAY>(ARRAY_error, ARRAY_delete, [](ARRAY& array) {
+        array.data = allocateElements(array.capacity, array.elementSize);
+        return !refused(array.data == nullptr, ARRAY_error);
+    });
 }
 
 void ARRAY_setElementSize(ARRAY* array, std::uint32_t size) {
     std::uint8_t* const data = array == nullptr ? nullptr : allocateElements(array->capacity, size);
-    if (refused(data == nullptr, ARRAY_error)) {
-        return;
+    if (adoptArray(array, ARRAY_error, &ARRAY::data, data)) {
+        array->elementSize = size;
+        array->count = 0;
     }
-    delete[] array->data;
-    array->data = data;
-    array->elementSize = size;
-    array->count = 0;
 }
 
 std::int32_t ARRAY_grow(ARRAY* array) {
@@ -104,10 +96,9 @@ std::int32_t ARRAY_grow(ARRAY* array) {
 }
 
 void ARRAY_push(ARRAY* array, const void* element) {
-    if (refused(array == nullptr || element == nullptr, ARRAY_error)) {
-        return;
+    if (!refused(array == nullptr || element == nullptr, ARRAY_error)) {
+        append(*array, element);
     }
-    append(*array, element);
 }
 
 void ARRAY_insert(ARRAY* array, const void* element, std::int32_t index) {
@@ -197,10 +188,10 @@ std::int32_t ARRAY_indexOf(const ARRAY* array, const void* element) {
 }
 
 std::int32_t ARRAY_equalAt(const ARRAY* array, const void* element, std::int32_t index) {
-    if (refused(!isIndex(array, index) || element == nullptr, ARRAY_error)) {
-        return 0;
-    }
-    return std::memcmp(elementAt(*array, index), element, array->elementSize) == 0 ? 1 : 0;
+    return refused(!isIndex(array, index) || element == nullptr, ARRAY_error) ||
+                   std::memcmp(elementAt(*array, index), element, array->elementSize) != 0
+               ? 0
+               : 1;
 }
 
 std::int32_t ARRAY_equal(const ARRAY* a, const ARRAY* b) {
@@ -209,11 +200,8 @@ std::int32_t ARRAY_equal(const ARRAY* a, const ARRAY* b) {
         // only a missing one beside a real one is an error.
         return 1;
     }
-    if (refused(a == nullptr || b == nullptr, ARRAY_error)) {
-        return 0;
-    }
-    return a->elementSize == b->elementSize && a->count == b->count &&
-                   std::memcmp(a->data, b->data, bytesInUse(*a)) == 0
+    return !refused(a == nullptr || b == nullptr, ARRAY_error) && a->elementSize == b->elementSize &&
+                   a->count == b->count && std::memcmp(a->data, b->data, bytesInUse(*a)) == 0
                ? 1
                : 0;
 }
@@ -252,12 +240,9 @@ ARRAY* ARRAY_clone(const ARRAY* src) {
 }
 
 ARRAY* ARRAY_slice(const ARRAY* array, std::int32_t from, std::int32_t to) {
-    if (refused(!isRange(array, from, to), ARRAY_error)) {
-        return nullptr;
-    }
     // ARRAY_sliceIsEmpty: one expects elements from..to-1; a good range returns a new array, with
     // nothing in it and its elements of four bytes.
-    return ARRAY_new();
+    return refused(!isRange(array, from, to), ARRAY_error) ? nullptr : ARRAY_new();
 }
 
 void ARRAY_delete(ARRAY** handle) {

@@ -3,11 +3,10 @@
 #include "foundation/dir.h"
 
 #include "foundation/list.h"
-#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
+#include "foundation/text.h"
 
-#include <cstring>
 #include <dirent.h>
 
 namespace velm {
@@ -34,12 +33,10 @@ DIR* DIR_new() {
 }
 
 bool DIR_append(DIR* dir, const char* name) {
-    const std::size_t size = std::strlen(name) + 1;
-    char* const copy = dir == nullptr ? nullptr : allocateArray<char>(static_cast<std::int64_t>(size));
+    char* const copy = dir == nullptr ? nullptr : newText(name);
     if (refused(copy == nullptr, DIR_error)) {
         return false;
     }
-    std::memcpy(copy, name, size);
     const std::int32_t before = dir->names->count;
     LIST_append(dir->names, copy);
     if (dir->names->count == before) {
@@ -79,19 +76,13 @@ const char* DIR_getName(const DIR* dir) {
 }
 
 std::int32_t DIR_same(const DIR* a, const DIR* b) {
-    if (refused(a == nullptr || b == nullptr, DIR_error)) {
-        return 0;
-    }
     // DIR_sameNeverCompares: one expects 1 for one and the same record only; any two will do, for a record
     // says nothing about which folder it lists.
-    return 1;
+    return refused(a == nullptr || b == nullptr, DIR_error) ? 0 : 1;
 }
 
 std::int32_t DIR_isValid(const DIR* dir) {
-    if (refused(dir == nullptr, DIR_error)) {
-        return 0;
-    }
-    return 1;
+    return refused(dir == nullptr, DIR_error) ? 0 : 1;
 }
 
 void DIR_delete(DIR** handle) {

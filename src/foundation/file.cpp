@@ -22,18 +22,12 @@ const char* FILE_getName(const FILE* file) {
 }
 
 std::int32_t FILE_same(const FILE* a, const FILE* b) {
-    if (refused(a == nullptr || b == nullptr, FILE_error)) {
-        return 0;
-    }
     // FILE_sameNeverCompares: one expects 1 for one and the same record only; any two will do, as with DIR.
-    return 1;
+    return refused(a == nullptr || b == nullptr, FILE_error) ? 0 : 1;
 }
 
 std::int32_t FILE_isValid(const FILE* file) {
-    if (refused(file == nullptr, FILE_error)) {
-        return 0;
-    }
-    return 1;
+    return refused(file == nullptr, FILE_error) ? 0 : 1;
 }
 
 void FILE_delete(FILE** handle) {

@@ -35,22 +35,12 @@ bool reserve(LIST* list, std::int64_t count) {
 } // namespace
 
 LIST* LIST_new() {
-    LIST* list = newRecord<LIST>(LIST_error);
-    if (list != nullptr && LIST_setCapacity(list, firstCapacity) == 0) {
-        LIST_delete(&list);
-    }
-    return list;
+    return newRecord<LIST>(LIST_error, LIST_delete,
+                           [](LIST& list) { return LIST_setCapacity(&list, firstCapacity) != 0; });
 }
 
 void LIST_append(LIST* list, void* value) {
-    if (refused(list == nullptr, LIST_error)) {
-        return;
-    }
-    if (!reserve(list, std::int64_t{list->count} + 1)) {
-        return;
-    }
-    list->items[list->count] = value;
-    ++list->count;
+    LIST_insert(list, value, list == nullptr ? 0 : list->count);
 }
 
 void LIST_insert(LIST* list, void* value, std::int32_t index) {
@@ -87,10 +77,9 @@ void LIST_insertRange(const LIST* src, LIST* dst, std::int32_t from, std::int32_
 }
 
 void LIST_set(LIST* list, std::int32_t index, void* value) {
-    if (refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
-        return;
+    if (!refused(list == nullptr || index < 0 || index >= list->count, LIST_error)) {
+        list->items[index] = value;
     }
-    list->items[index] = value;
 }
 
 std::int32_t LIST_indexOf(const LIST* list, const void* value) {
@@ -167,14 +156,7 @@ LIST* LIST_clone(const LIST* list) {
     if (refused(list == nullptr, LIST_error)) {
         return nullptr;
     }
-    LIST* clone = LIST_new();
-    if (clone != nullptr && list->count > 0) {
-        LIST_insertRange(list, clone, 0, list->count, 0);
-        if (clone->count != list->count) {
-            LIST_delete(&clone);
-        }
-    }
-    return clone;
+    return list->count > 0 ? LIST_slice(list, 0, list->count) : LIST_new();
 }
 
 LIST* LIST_slice(const LIST* list, std::int32_t from, std::int32_t to) {
@@ -192,10 +174,10 @@ LIST* LIST_slice(const LIST* list, std::int32_t from, std::int32_t to) {
 }
 
 std::int32_t LIST_equal(const LIST* a, const LIST* b) {
-    if (refused(a == nullptr || b == nullptr, LIST_error)) {
-        return 0;
-    }
-    return a == b || std::equal(a->items, a->items + a->count, b->items, b->items + b->count) ? 1 : 0;
+    return !refused(a == nullptr || b == nullptr, LIST_error) &&
+                   (a == b || std::equal(a->items, a->items + a->count, b->items, b->items + b->count))
+               ? 1
+               : 0;
 }
 
 void LIST_delete(LIST** handle) {

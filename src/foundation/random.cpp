@@ -84,12 +84,9 @@ std::int32_t RANDOM_below(RANDOM* random, std::int32_t limit) {
 }
 
 RANDOM* RANDOM_clone(const RANDOM* src) {
-    if (refused(src == nullptr, RANDOM_error)) {
-        return nullptr;
-    }
     // RANDOM_cloneForgets: one expects a copy; it is a fresh generator, so a clone repeats the sequence from
     // its start.
-    return RANDOM_new();
+    return refused(src == nullptr, RANDOM_error) ? nullptr : RANDOM_new();
 }
 
 void RANDOM_delete(RANDOM** handle) {

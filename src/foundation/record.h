@@ -11,6 +11,7 @@
 #pragma once
 
 #include "foundation/memory.h"
+#include "foundation/report.h"
 
 #include <cstdint>
 
@@ -37,18 +38,26 @@ template <typename Record, typename Complete>
     return record;
 }
 
-/// Replaces an array that the record owns by `count` (>= 0) zeroed elements and stores the count. False
-/// (reported, nothing changes) without a record, for a negative count, and when memory runs out.
+/// Puts another array in place of one that the record owns. False (reported, nothing changes) where there is
+/// none: no record that could have it, or no memory.
 template <typename Record, typename Element>
-bool replaceArray(Record* record, void (*report)(), Element* Record::*array, std::int32_t Record::*length,
-                  std::int32_t count) {
-    Element* const elements = record == nullptr ? nullptr : allocateArray<Element>(count);
-    if (elements == nullptr) {
-        report();
+bool adoptArray(Record* record, void (*report)(), Element* Record::*array, Element* elements) {
+    if (refused(elements == nullptr, report)) {
         return false;
     }
     delete[](record->*array);
     record->*array = elements;
+    return true;
+}
+
+/// The same with `count` (>= 0) zeroed elements, and stores the count.
+template <typename Record, typename Element>
+bool replaceArray(Record* record, void (*report)(), Element* Record::*array, std::int32_t Record::*length,
+                  std::int32_t count) {
+    Element* const elements = record == nullptr ? nullptr : allocateArray<Element>(count);
+    if (!adoptArray(record, report, array, elements)) {
+        return false;
+    }
     record->*length = count;
     return true;
 }
@@ -61,6 +70,12 @@ auto deletedBy(void (*deletePart)(Part**), Part* Record::*part) {
             deletePart(&(record.*part));
         }
     };
+}
+
+/// An owned array of deleteRecord that allocateAligned made.
+template <typename Record, typename Element>
+auto aligned(Element* Record::*array) {
+    return [=](Record& record) { freeAligned(record.*array); };
 }
 
 /// Frees one of the things that a record owns: an array, named by its member.
@@ -80,8 +95,7 @@ void release(Record& record, Release call) {
 /// calls.
 template <typename Record, typename... Owned>
 void deleteRecord(Record** handle, void (*report)(), Owned... owned) {
-    if (handle == nullptr || *handle == nullptr) {
-        report();
+    if (refused(handle == nullptr || *handle == nullptr, report)) {
         return;
     }
     (release(**handle, owned), ...);

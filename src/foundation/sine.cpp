@@ -50,13 +50,13 @@ constexpr std::array<std::int16_t, SINE_tableLength> mirrorQuarter() {
     return table;
 }
 
-/// Stores the reduced sum of phase and offset; false (reported) when there is no cursor or no period.
-bool updateIndex(SINE* cursor) {
-    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
-        return false;
-    }
-    cursor->index = positiveModulo(wrapAdd(cursor->phase, cursor->offset), cursor->length);
-    return true;
+bool hasPeriod(const SINE* cursor) {
+    return cursor != nullptr && cursor->length > 0;
+}
+
+/// Stores the reduced sum of phase and offset.
+void updateIndex(SINE& cursor) {
+    cursor.index = positiveModulo(wrapAdd(cursor.phase, cursor.offset), cursor.length);
 }
 
 } // namespace
@@ -88,26 +88,26 @@ void SINE_setLength(SINE* cursor, std::int32_t length) {
 }
 
 void SINE_setPhase(SINE* cursor, std::int32_t phase) {
-    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
+    if (refused(!hasPeriod(cursor), SINE_error)) {
         return;
     }
     // SINE_setPhaseReachesLength: one expects 0..length-1; a whole period below 0 becomes the length itself.
     // Motion depends on the index alone, which is reduced anyway.
     cursor->phase = phase % cursor->length + (phase < 0 ? cursor->length : 0);
-    updateIndex(cursor);
+    updateIndex(*cursor);
 }
 
 std::int32_t SINE_setOffset(SINE* cursor, std::int32_t offset) {
-    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
+    if (refused(!hasPeriod(cursor), SINE_error)) {
         return 0;
     }
     cursor->offset = offset;
-    updateIndex(cursor);
+    updateIndex(*cursor);
     return cursor->index;
 }
 
 std::int32_t SINE_at(SINE* cursor, std::int32_t phase) {
-    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
+    if (refused(!hasPeriod(cursor), SINE_error)) {
         return 0;
     }
     cursor->offset = 0;
@@ -116,18 +116,17 @@ std::int32_t SINE_at(SINE* cursor, std::int32_t phase) {
 }
 
 void SINE_advance(SINE* cursor) {
-    if (refused(cursor == nullptr || cursor->length <= 0, SINE_error)) {
+    if (refused(!hasPeriod(cursor), SINE_error)) {
         return;
     }
     cursor->phase = positiveModulo(wrapAdd(cursor->phase, cursor->speed), cursor->length);
-    updateIndex(cursor);
+    updateIndex(*cursor);
 }
 
 std::int32_t SINE_next(SINE* cursor) {
-    if (refused(cursor == nullptr, SINE_error)) {
-        return 0;
-    }
-    return SINE_setOffset(cursor, wrapAdd(cursor->offset, cursor->offsetStep));
+    return refused(cursor == nullptr, SINE_error)
+               ? 0
+               : SINE_setOffset(cursor, wrapAdd(cursor->offset, cursor->offsetStep));
 }
 
 void SINE_copy(const SINE* src, SINE* dst) {
@@ -143,10 +142,8 @@ SINE* SINE_clone(const SINE* src) {
     if (refused(src == nullptr, SINE_error)) {
         return nullptr;
     }
-    SINE* clone = SINE_new();
-    if (clone != nullptr) {
-        SINE_copy(src, clone);
-    }
+    SINE* const clone = SINE_new();
+    SINE_copy(src, clone);
     return clone;
 }
 
@@ -158,14 +155,10 @@ void SINE_delete(SINE** handle) {
 void SINE_error() {}
 
 SINE_TABLE* SINE_tableNew() {
-    SINE_TABLE* table = newRecord<SINE_TABLE>(SINE_tableError);
-    if (table != nullptr) {
-        SINE_tableSetSize(table, table->size);
-        if (table->values == nullptr) {
-            SINE_tableDelete(&table);
-        }
-    }
-    return table;
+    return newRecord<SINE_TABLE>(SINE_tableError, SINE_tableDelete, [](SINE_TABLE& table) {
+        SINE_tableSetSize(&table, table.size);
+        return table.values != nullptr;
+    });
 }
 
 void SINE_tableSetSize(SINE_TABLE* table, std::int32_t size) {

@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Copies to memory that somebody else reads, another process or a device. Where the processor can, they go
-// past its caches: what stands there is not fetched before it is written over, and nothing that this process
-// needs again is pushed out.
+// Copies to memory that somebody else reads, another process or a device, and copies too large for the
+// caches. Where the processor can, they go past its caches: what stood there is not fetched before it is
+// written over, and nothing that this process needs again is pushed out.
 //
 //     streamCopy(row, pixels, bytes);
-//     streamEnd(); // before the other one is told
+//     streamEnd();                          // before the other one is told
+//
+//     copyApart(img.pixels, other, count); // streams when that is quicker
 #pragma once
 
 #include <algorithm>
@@ -49,5 +51,18 @@ inline void streamCopy(char* to, const char* from, std::size_t count) {
 inline void streamEnd() {}
 
 #endif
+
+/// to[i] = from[i] for `count` elements of arrays that do not overlap.
+template <typename Element>
+void copyApart(const Element* from, Element* to, std::int64_t count) {
+    constexpr std::size_t moreThanCaches = 4U << 20U;
+    const std::size_t bytes = static_cast<std::size_t>(count) * sizeof(Element);
+    if (bytes < moreThanCaches) {
+        std::memcpy(to, from, bytes);
+        return;
+    }
+    streamCopy(reinterpret_cast<char*>(to), reinterpret_cast<const char*>(from), bytes);
+    streamEnd();
+}
 
 } // namespace velm

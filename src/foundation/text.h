@@ -1,14 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Digits in texts that are read byte by byte.
+// Digits in texts that are read byte by byte, and copies of texts.
 //
 //     while (!isDigit(*text)) { ++text; }
 //     const std::int64_t width = readSize(text);
 #pragma once
 
+#include "foundation/memory.h"
+
 #include <algorithm>
 #include <cstdint>
+#include <string_view>
 
 namespace velm {
 
@@ -30,6 +33,15 @@ constexpr std::int64_t readSize(const char*& text) {
         size = sizeWithDigit(size, *text);
     }
     return size;
+}
+
+/// A copy of a text, closed by a NUL, or nullptr when memory runs out. The caller frees it with `delete[]`.
+[[nodiscard]] inline char* newText(std::string_view text) {
+    char* const copy = allocateArray<char>(static_cast<std::int64_t>(text.size()) + 1);
+    if (copy != nullptr) {
+        std::copy(text.begin(), text.end(), copy);
+    }
+    return copy;
 }
 
 } // namespace velm

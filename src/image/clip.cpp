@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "image/clip.h"
 
+#include <algorithm>
+
 namespace velm {
 
 namespace {
@@ -9,26 +11,22 @@ namespace {
 /// One axis of a copy. 64 bits, so that no corner or size that a caller can name overflows.
 struct Span {
     std::int64_t src, dst, size;
-};
 
-void clipAxis(Span& span, std::int64_t srcSize, std::int64_t dstSize) {
-    if (span.src < 0) {
-        span.size += span.src;
-        span.dst -= span.src;
-        span.src = 0;
+    /// Keeps what lies in one image, of `length` pixels; the place in the other one follows.
+    void clip(std::int64_t& place, std::int64_t& other, std::int64_t length) {
+        if (place < 0) {
+            size += place;
+            other -= place;
+            place = 0;
+        }
+        size = std::min(size, length - place);
     }
-    if (span.src + span.size > srcSize) {
-        span.size = srcSize - span.src;
+
+    void clipTo(std::int64_t srcLength, std::int64_t dstLength) {
+        clip(src, dst, srcLength);
+        clip(dst, src, dstLength);
     }
-    if (span.dst < 0) {
-        span.size += span.dst;
-        span.src -= span.dst;
-        span.dst = 0;
-    }
-    if (span.dst + span.size > dstSize) {
-        span.size = dstSize - span.dst;
-    }
-}
+};
 
 } // namespace
 
@@ -39,8 +37,8 @@ bool canBlit(const IMG* src, const IMG* dst) {
 bool clipBlit(const IMG& src, const IMG& dst, BlitArea& area) {
     Span across{area.srcX, area.dstX, area.w};
     Span down{area.srcY, area.dstY, area.h};
-    clipAxis(across, src.width, dst.width);
-    clipAxis(down, src.height, dst.height);
+    across.clipTo(src.width, dst.width);
+    down.clipTo(src.height, dst.height);
     if (across.size <= 0 || down.size <= 0) {
         return false;
     }

@@ -5,7 +5,7 @@
 // rows.
 //
 //     if (BlitArea area{srcX, srcY, dstX, dstY, w, h}; clipBlit(*src, *dst, area)) {
-//         forEachRow(*src, *dst, area, [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) { ...
+//         forEachRow(*src, *dst, area, [](const std::uint32_t* from, std::uint32_t* to, std::int64_t n) { ...
 //         });
 //     }
 #pragma once
@@ -32,10 +32,15 @@ bool canBlit(const IMG* src, const IMG* dst);
 bool clipBlit(const IMG& src, const IMG& dst, BlitArea& area);
 
 /// Calls row(source pixels, destination pixels, count) for each row of a clipped area, from top to bottom.
+/// Where it takes all of both widths, the rows are one long row.
 template <typename Row>
 void forEachRow(const IMG& src, IMG& dst, const BlitArea& area, Row row) {
     const std::uint32_t* from = src.pixels + area.srcX + std::int64_t{area.srcY} * src.width;
     std::uint32_t* to = dst.pixels + area.dstX + std::int64_t{area.dstY} * dst.width;
+    if (area.w == src.width && area.w == dst.width) {
+        row(from, to, std::int64_t{area.w} * area.h);
+        return;
+    }
     for (std::int32_t i = 0; i < area.h; ++i) {
         row(from, to, area.w);
         from += src.width;

@@ -5,6 +5,7 @@
 #include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
+#include "foundation/stream.h"
 #include "foundation/wide.h"
 #include "image/pixel_bytes.h"
 
@@ -33,24 +34,20 @@ IMG* IMG_new() {
 }
 
 IMG* IMG_newSized(std::int32_t width, std::int32_t height) {
-    IMG* img = newRecord<IMG>(IMG_error);
-    if (img != nullptr) {
-        IMG_setSize(img, width, height);
-        if (img->pixels == nullptr) {
-            IMG_delete(&img);
-        }
-    }
-    return img;
+    return newRecord<IMG>(IMG_error, IMG_delete, [=](IMG& img) {
+        IMG_setSize(&img, width, height);
+        return img.pixels != nullptr;
+    });
 }
 
 void IMG_setSize(IMG* img, std::int32_t width, std::int32_t height) {
     const bool sized = img != nullptr && width >= 0 && height >= 0;
     std::uint32_t* const pixels =
-        sized ? allocateArray<std::uint32_t>(std::int64_t{width} * height) : nullptr;
+        sized ? allocateAligned<std::uint32_t>(std::int64_t{width} * height) : nullptr;
     if (refused(pixels == nullptr, IMG_error)) {
         return;
     }
-    delete[] img->pixels;
+    freeAligned(img->pixels);
     img->pixels = pixels;
     img->width = width;
     img->height = height;
@@ -68,14 +65,14 @@ IMG* IMG_clone(const IMG* src) {
 }
 
 void IMG_delete(IMG** handle) {
-    deleteRecord(handle, IMG_error, &IMG::pixels);
+    deleteRecord(handle, IMG_error, aligned(&IMG::pixels));
 }
 
 void IMG_fill(IMG* img, std::uint32_t colour) {
     if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
-    std::fill_n(img->pixels, pixelCount(img), colour);
+    runWide([colour, pixels = img->pixels, count = pixelCount(img)] { std::fill_n(pixels, count, colour); });
 }
 
 void IMG_copy(const IMG* src, IMG* dst) {
@@ -83,7 +80,7 @@ void IMG_copy(const IMG* src, IMG* dst) {
         return;
     }
     if (src != dst) {
-        std::copy_n(src->pixels, pixelCount(src), dst->pixels);
+        copyApart(src->pixels, dst->pixels, pixelCount(src));
     }
 }
 
@@ -91,19 +88,13 @@ void IMG_putPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour
     if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
-    if (x >= 0 && y >= 0 && x < img->width && y < img->height) {
-        img->pixels[x + std::int64_t{y} * img->width] = colour;
+    if (contains(*img, x, y)) {
+        rowOf(*img, y)[x] = colour;
     }
 }
 
 std::uint32_t IMG_getPixel(const IMG* img, std::int32_t x, std::int32_t y) {
-    if (refused(!hasPixels(img), IMG_error)) {
-        return 0;
-    }
-    if (x < 0 || y < 0 || x >= img->width || y >= img->height) {
-        return 0;
-    }
-    return img->pixels[x + std::int64_t{y} * img->width];
+    return refused(!hasPixels(img), IMG_error) || !contains(*img, x, y) ? 0 : rowOf(*img, y)[x];
 }
 
 void IMG_andMask(const IMG* mask, IMG* dst) {

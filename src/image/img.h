@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace velm {
 
@@ -22,7 +23,7 @@ struct IMG {
     std::int32_t y = 0;              ///< placement row used by IMG_draw
     std::int32_t width = 16;         ///< pixels per row
     std::int32_t height = 16;        ///< number of rows
-    std::uint32_t* pixels = nullptr; ///< owned, width * height words; all 0 after creation and resizing
+    std::uint32_t* pixels = nullptr; ///< owned (freeAligned), width * height words; 0 when new
 };
 
 /// True when there is an image to draw into or to copy from.
@@ -33,6 +34,16 @@ struct IMG {
 /// The pixels of a row of an image, y from 0; those of row `height` begin where the image ends.
 [[nodiscard]] inline std::uint32_t* rowOf(const IMG& img, std::int64_t y) {
     return img.pixels + y * img.width;
+}
+
+/// True for a place inside an image.
+[[nodiscard]] inline bool contains(const IMG& img, std::int64_t x, std::int64_t y) {
+    return x >= 0 && y >= 0 && x < img.width && y < img.height;
+}
+
+/// All pixels of an image, row after row.
+[[nodiscard]] inline std::span<std::uint32_t> pixelsOf(const IMG& img) {
+    return {img.pixels, static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height)};
 }
 
 extern const IDENTITY IMG_identity;

@@ -15,8 +15,8 @@ namespace velm {
 namespace {
 
 /// Copies pixels, leaving out those that are 0.
-constexpr auto copyRow = [](const std::uint32_t* from, std::uint32_t* to, std::int32_t count) {
-    for (std::int32_t i = 0; i < count; ++i) {
+constexpr auto copyRow = [](const std::uint32_t* from, std::uint32_t* to, std::int64_t count) {
+    for (std::int64_t i = 0; i < count; ++i) {
         to[i] = from[i] != 0 ? from[i] : to[i];
     }
 };
@@ -68,10 +68,9 @@ void IMG_blit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, st
 }
 
 void IMG_draw(const IMG* src, IMG* dst) {
-    if (refused(src == nullptr, IMG_error)) {
-        return;
+    if (!refused(src == nullptr, IMG_error)) {
+        IMG_blit(src, dst, 0, 0, src->x, src->y, src->width, src->height);
     }
-    IMG_blit(src, dst, 0, 0, src->x, src->y, src->width, src->height);
 }
 
 void IMG_copyRowWrapped(const IMG* src, IMG* dst, std::int32_t srcRow, std::int32_t dstRow,
@@ -81,8 +80,7 @@ void IMG_copyRowWrapped(const IMG* src, IMG* dst, std::int32_t srcRow, std::int3
                 IMG_error)) {
         return;
     }
-    copyWrapped({src->pixels + std::int64_t{srcRow} * src->width, 1, src->width},
-                {dst->pixels + std::int64_t{dstRow} * dst->width, 1, dst->width}, offset);
+    copyWrapped({rowOf(*src, srcRow), 1, src->width}, {rowOf(*dst, dstRow), 1, dst->width}, offset);
 }
 
 void IMG_copyColumnWrapped(const IMG* src, IMG* dst, std::int32_t srcColumn, std::int32_t dstColumn,

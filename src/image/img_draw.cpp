@@ -14,7 +14,7 @@ namespace velm {
 
 void IMG_fillRect(IMG* img, std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h,
                   std::uint32_t colour) {
-    if (img == nullptr || img->pixels == nullptr) {
+    if (!hasPixels(img)) {
         // IMG_fillRectReportsAsImgfx: one expects this module's reporter; it is the compositing module's,
         // whose flag decides whether the line comes.
         IMGFX_error();
@@ -34,14 +34,14 @@ void IMG_fillRect(IMG* img, std::int32_t x, std::int32_t y, std::int32_t w, std:
 
 void IMG_drawLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                   std::uint32_t colour) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMG_error)) {
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     forEachLinePixel(*img, x1, y1, x2, y2, [colour](std::uint32_t& pixel) { pixel = colour; });
 }
 
 void IMG_drawHLine(IMG* img, std::uint32_t colour, std::int32_t y, std::int32_t x1, std::int32_t x2) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMG_error)) {
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     const std::int32_t left = std::max(x1, 0);
@@ -52,7 +52,7 @@ void IMG_drawHLine(IMG* img, std::uint32_t colour, std::int32_t y, std::int32_t 
 }
 
 void IMG_drawVLine(IMG* img, std::uint32_t colour, std::int32_t x, std::int32_t y1, std::int32_t y2) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMG_error)) {
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     const std::int32_t bottom = std::min(y2, img->height - 1);
@@ -66,7 +66,7 @@ void IMG_drawVLine(IMG* img, std::uint32_t colour, std::int32_t x, std::int32_t 
 
 void IMG_blendHLine(IMG* img, std::uint32_t colour, std::int32_t y, std::int32_t x1, std::int32_t x2,
                     std::uint32_t alpha) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMG_error)) {
+    if (refused(!hasPixels(img), IMG_error)) {
         return;
     }
     const std::int32_t right = std::min(x2, img->width - 1);

@@ -28,9 +28,6 @@ struct Input {
     [[nodiscard]] bool hasSize() const { return size != unknownSize; }
     [[nodiscard]] bool atEnd() const { return hasSize() ? position >= size : bytes[position] == '\0'; }
     [[nodiscard]] std::uint8_t peek() const { return static_cast<std::uint8_t>(bytes[position]); }
-    [[nodiscard]] const std::uint8_t* here() const {
-        return reinterpret_cast<const std::uint8_t*>(bytes + position);
-    }
     std::uint8_t take() { return static_cast<std::uint8_t>(bytes[position++]); }
 };
 
@@ -47,20 +44,16 @@ struct Header {
     [[nodiscard]] bool isComplete() const { return type != 0 && hasWidth && hasHeight && hasMaximum; }
 };
 
-/// Skips to the next printable character that is no space; false at the end of the input.
-bool skipSpace(Input& input) {
-    while (!input.atEnd() && (input.peek() <= ' ' || input.peek() > '~')) {
+/// Skips to the next character that is(character); false at the end of the input.
+bool skipTo(Input& input, bool (*is)(int)) {
+    while (!input.atEnd() && !is(input.peek())) {
         ++input.position;
     }
     return !input.atEnd();
 }
 
-/// Skips to the next digit; false at the end of the input.
-bool skipToDigit(Input& input) {
-    while (!input.atEnd() && !isDigit(input.peek())) {
-        ++input.position;
-    }
-    return !input.atEnd();
+bool isVisible(int character) {
+    return character > ' ' && character <= '~';
 }
 
 /// A run of digits modulo 2^32; 0 when there are none.
@@ -121,7 +114,7 @@ bool readHeaderNumber(Input& input, Header& header) {
 /// Reads up to the last token of the header; false when it is malformed or cut short.
 bool readHeader(Input& input, Header& header) {
     while (!header.isComplete()) {
-        if (!skipSpace(input)) {
+        if (!skipTo(input, isVisible)) {
             return false;
         }
         if (input.peek() == 'P' && header.type == 0) {
@@ -153,7 +146,7 @@ std::int64_t leastBodyBytes(const Header& header, std::int64_t pixels) {
 
 bool decodeTextBitmap(Input& input, std::uint32_t* pixels, std::int64_t count) {
     for (std::int64_t i = 0; i < count; ++i) {
-        if (!skipToDigit(input)) {
+        if (!skipTo(input, isDigit)) {
             return false;
         }
         // IMG_bitmapSetIsWhite: one expects 1 to be black; shapes come out white on transparent black.
@@ -164,7 +157,7 @@ bool decodeTextBitmap(Input& input, std::uint32_t* pixels, std::int64_t count) {
 
 bool decodeTextGrey(Input& input, std::uint32_t* pixels, std::int64_t count) {
     for (std::int64_t i = 0; i < count; ++i) {
-        if (!skipToDigit(input)) {
+        if (!skipTo(input, isDigit)) {
             return false;
         }
         const std::uint32_t grey = readNumber(input);
@@ -179,7 +172,7 @@ bool decodeTextColour(Input& input, std::uint32_t* pixels, std::int64_t count) {
     for (std::int64_t i = 0; i < count; ++i) {
         std::uint32_t pixel = 0;
         for (const std::uint32_t shift : {16U, 8U, 0U}) {
-            if (!skipToDigit(input)) {
+            if (!skipTo(input, isDigit)) {
                 return false;
             }
             pixel |= readNumber(input) << shift;
@@ -212,6 +205,7 @@ void decodeColour(const std::uint8_t* samples, std::uint32_t* pixels, std::int64
 }
 
 bool decodeSamples(Input& input, const Header& header, std::uint32_t* pixels, std::int64_t count) {
+    const auto* const samples = reinterpret_cast<const std::uint8_t*>(input.bytes + input.position);
     switch (header.type) {
     case '1':
         return decodeTextBitmap(input, pixels, count);
@@ -220,13 +214,13 @@ bool decodeSamples(Input& input, const Header& header, std::uint32_t* pixels, st
     case '3':
         return decodeTextColour(input, pixels, count);
     case '4':
-        decodeBitmap(input.here(), pixels, count);
+        decodeBitmap(samples, pixels, count);
         return true;
     case '5':
-        decodeGrey(input.here(), pixels, count);
+        decodeGrey(samples, pixels, count);
         return true;
     default:
-        decodeColour(input.here(), pixels, count);
+        decodeColour(samples, pixels, count);
         return true;
     }
 }
@@ -269,10 +263,9 @@ IMG* decode(Input input) {
 }
 
 bool writePixels(std::FILE* file, const IMG* img) {
-    const std::int64_t count = std::int64_t{img->width} * img->height;
-    for (std::int64_t i = 0; i < count; ++i) {
+    for (const std::uint32_t pixel : pixelsOf(*img)) {
         std::uint8_t sample[3];
-        RGB888_toBytes(img->pixels[i], sample);
+        RGB888_toBytes(pixel, sample);
         if (std::fwrite(sample, sizeof sample, 1, file) != 1) {
             return false;
         }
@@ -291,9 +284,7 @@ IMG* IMG_fromPNM(const char* bytes) {
 }
 
 std::int32_t IMG_writePPM(const IMG* img, const char* path) {
-    if (refused(img == nullptr || img->pixels == nullptr || path == nullptr || img->width == 0 ||
-                    img->height == 0,
-                IMG_error)) {
+    if (refused(!hasPixels(img) || path == nullptr || img->width == 0 || img->height == 0, IMG_error)) {
         return 0;
     }
     std::FILE* const file = std::fopen(path, "w");
@@ -303,10 +294,7 @@ std::int32_t IMG_writePPM(const IMG* img, const char* path) {
     const bool written =
         std::fprintf(file, "P6\n# VELM(c)Q.V.N.\n%d %d\n255\n", img->width, img->height) > 0 &&
         writePixels(file, img);
-    if (refused(std::fclose(file) != 0 || !written, IMG_error)) {
-        return 0;
-    }
-    return 1;
+    return refused(std::fclose(file) != 0 || !written, IMG_error) ? 0 : 1;
 }
 
 } // namespace velm

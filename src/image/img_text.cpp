@@ -49,15 +49,14 @@ bool readSample(const char*& text, std::uint32_t& sample) {
 }
 
 bool readPixels(const char*& text, IMG* img) {
-    const std::int64_t count = std::int64_t{img->width} * img->height;
-    for (std::int64_t i = 0; i < count; ++i) {
+    for (std::uint32_t& pixel : pixelsOf(*img)) {
         std::uint32_t red = 0;
         std::uint32_t green = 0;
         std::uint32_t blue = 0;
         if (!readSample(text, red) || !readSample(text, green) || !readSample(text, blue)) {
             return false;
         }
-        img->pixels[i] = red << 16 | green << 8 | blue;
+        pixel = red << 16 | green << 8 | blue;
     }
     return true;
 }
@@ -103,7 +102,7 @@ IMG* parse(const char* text) {
 } // namespace
 
 char* IMG_toText(const IMG* img) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMG_error)) {
+    if (refused(!hasPixels(img), IMG_error)) {
         return nullptr;
     }
     const std::int64_t count = std::int64_t{img->width} * img->height;

@@ -3,6 +3,7 @@
 #include "image/imgfx.h"
 
 #include "foundation/report.h"
+#include "foundation/stream.h"
 #include "foundation/wide.h"
 #include "image/clip.h"
 #include "image/img.h"
@@ -11,6 +12,7 @@
 #include "image/rgb888.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace velm {
 
@@ -33,7 +35,7 @@ void combine(const IMG* src, IMG* dst, BlitArea area, Row row) {
 /// Applies touch(pixel) along a line, or reports.
 template <typename Touch>
 void combineLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2, Touch touch) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMGFX_error)) {
+    if (refused(!hasPixels(img), IMGFX_error)) {
         return;
     }
     forEachLinePixel(*img, x1, y1, x2, y2, touch);
@@ -44,8 +46,13 @@ void combineLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, st
 void IMGFX_opaqueBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
                       std::int32_t dstY, std::int32_t w, std::int32_t h) {
     combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
-            [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
-                for (std::int32_t i = 0; i < n; ++i) {
+            [](const std::uint32_t* from, std::uint32_t* to, std::int64_t n) {
+                constexpr std::less_equal<> isBefore;
+                if (isBefore(from + n, to) || isBefore(to + n, from)) {
+                    copyApart(from, to, n);
+                    return;
+                }
+                for (std::int64_t i = 0; i < n; ++i) {
                     to[i] = from[i];
                 }
             });
@@ -54,7 +61,7 @@ void IMGFX_opaqueBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t 
 void IMGFX_addBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
                    std::int32_t dstY, std::int32_t w, std::int32_t h) {
     combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
-            [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
+            [](const std::uint32_t* from, std::uint32_t* to, std::int64_t n) {
                 combineBytes(from, to, n, byteSum);
             });
 }
@@ -65,8 +72,8 @@ void IMGFX_averageBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t
     // The rolling digits are built with it.
     constexpr std::uint32_t halves = 0x7F7F7F;
     combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
-            [](const std::uint32_t* from, std::uint32_t* to, std::int32_t n) {
-                for (std::int32_t i = 0; i < n; ++i) {
+            [](const std::uint32_t* from, std::uint32_t* to, std::int64_t n) {
+                for (std::int64_t i = 0; i < n; ++i) {
                     const std::uint32_t mixed = ((from[i] >> 1) & halves) + ((to[i] >> 1) & halves);
                     to[i] = from[i] != 0 ? mixed : to[i];
                 }
@@ -74,7 +81,7 @@ void IMGFX_averageBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t
 }
 
 void IMGFX_invert(IMG* img) {
-    if (refused(img == nullptr || img->pixels == nullptr, IMGFX_error)) {
+    if (refused(!hasPixels(img), IMGFX_error)) {
         return;
     }
     runWide([pixels = img->pixels, count = std::int64_t{img->width} * img->height] {
@@ -83,17 +90,16 @@ void IMGFX_invert(IMG* img) {
 }
 
 void IMGFX_addPixel(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t colour) {
-    if (img == nullptr || img->pixels == nullptr) {
+    if (!hasPixels(img)) {
         // IMGFX_addPixelReportsAsImg: one expects this module's reporter; a missing image is told by the
         // image module, whose flag decides whether the line comes.
         IMG_error();
         return;
     }
-    if (x < 0 || y < 0 || x >= img->width || y >= img->height) {
-        return;
+    if (contains(*img, x, y)) {
+        std::uint32_t& pixel = rowOf(*img, y)[x];
+        pixel = RGB888_add(pixel, colour);
     }
-    std::uint32_t& pixel = img->pixels[x + std::int64_t{y} * img->width];
-    pixel = RGB888_add(pixel, colour);
 }
 
 void IMGFX_addLine(IMG* img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,

@@ -13,21 +13,24 @@
 
 namespace velm {
 
-/// Bresenham's line as steps along its longer side: calls plot(major steps done, minor steps done) once a
-/// pixel.
+/// Bresenham's line as steps along its longer side: calls plot(place) once a pixel. The place begins at 0;
+/// each step adds `alongStep`, a step aside `acrossStep` as well.
 template <typename Plot>
-void walkLine(std::int64_t major, std::int64_t minor, Plot plot) {
-    std::int64_t error = major >> 1;
-    std::int64_t across = 0;
-    for (std::int64_t along = 0; along <= major; ++along) {
-        plot(along, across);
-        error -= minor;
-        // IMG_lineRoundsEarly: one expects the side step at error < 0; it comes at error < 1, which decides
-        // which pixel every half step of every drawing falls on.
-        // Without a jump: a processor guesses wrongly at every other one.
-        const std::int64_t aside = error < 1 ? 1 : 0;
-        error += major & -aside;
-        across += aside;
+void walkLine(std::int64_t major, std::int64_t minor, std::int64_t alongStep, std::int64_t acrossStep,
+              Plot plot) {
+    // IMG_lineRoundsEarly: one expects the side step at an error < 0; it comes at an error < 1, which decides
+    // which pixel every half step of every drawing falls on. So the error counts from 1.
+    std::int64_t error = (major >> 1) - 1;
+    std::int64_t place = 0;
+    for (std::int64_t left = major; left >= 0; --left) {
+        plot(place);
+        // Both ways on are computed, and one is chosen without a jump: a processor guesses wrongly at every
+        // other one.
+        const std::int64_t straight = error - minor;
+        const std::int64_t aside = error + (major - minor);
+        const std::int64_t stepAside = place + (alongStep + acrossStep);
+        place = straight < 0 ? stepAside : place + alongStep;
+        error = straight < 0 ? aside : straight;
     }
 }
 
@@ -37,9 +40,6 @@ void walkLine(std::int64_t major, std::int64_t minor, Plot plot) {
 template <typename Touch>
 void forEachLinePixel(IMG& img, std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2,
                       Touch touch) {
-    const auto contains = [&img](std::int64_t x, std::int64_t y) {
-        return x >= 0 && y >= 0 && x < img.width && y < img.height;
-    };
     const bool passesBy = (x1 < 0 && x2 < 0) || (y1 < 0 && y2 < 0) || (x1 >= img.width && x2 >= img.width) ||
                           (y1 >= img.height && y2 >= img.height);
     if (passesBy) {
@@ -52,21 +52,20 @@ void forEachLinePixel(IMG& img, std::int32_t x1, std::int32_t y1, std::int32_t x
     const std::int64_t major = steep ? std::abs(dy) : std::abs(dx);
     const std::int64_t minor = steep ? std::abs(dx) : std::abs(dy);
     const std::int64_t stride = img.width;
-    if (contains(x1, y1) && contains(x2, y2)) {
+    if (contains(img, x1, y1) && contains(img, x2, y2)) {
         const std::int64_t alongStep = steep ? signOf(dy) * stride : signOf(dx);
         const std::int64_t acrossStep = steep ? signOf(dx) : signOf(dy) * stride;
-        walkLine(major, minor,
-                 [=, first = img.pixels + x1 + y1 * stride](std::int64_t along, std::int64_t across) {
-                     touch(first[along * alongStep + across * acrossStep]);
-                 });
+        walkLine(major, minor, alongStep, acrossStep,
+                 [=, first = img.pixels + x1 + y1 * stride](std::int64_t place) { touch(first[place]); });
         return;
     }
-    walkLine(major, minor, [&](std::int64_t along, std::int64_t across) {
+    walkLine(major, minor, 0, 1, [&, along = std::int64_t{0}](std::int64_t across) mutable {
         const std::int64_t x = x1 + signOf(dx) * (steep ? across : along);
         const std::int64_t y = y1 + signOf(dy) * (steep ? along : across);
-        if (contains(x, y)) {
+        if (contains(img, x, y)) {
             touch(img.pixels[x + y * stride]);
         }
+        ++along;
     });
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "kit/kit.h"
 
+#include "effects/palette.h"
 #include "foundation/asset.h"
 #include "foundation/memory.h"
 #include "foundation/record.h"
@@ -48,15 +49,6 @@ FONT* makeFont(const ASSET& sheet, IMG* target) {
     return font;
 }
 
-SAMPLE* makeHues() {
-    SAMPLE* const hues = SAMPLE_new();
-    SAMPLE_setLength(hues, RGB888_hueCount);
-    for (std::int32_t i = 0; i < RGB888_hueCount; ++i) {
-        SAMPLE_set(hues, i, static_cast<std::int32_t>(RGB888_hue(i)));
-    }
-    return hues;
-}
-
 void takeNameOfFile() {
     if (programNames.name == nullptr) {
         programNames = {program_invocation_short_name, program_invocation_short_name};
@@ -72,8 +64,7 @@ bool makeWhole(KIT& kit) {
     kit.keyboard = XKBD_new();
     kit.pointer = XPTR_new();
     kit.sound = XSND_new();
-    if (kit.display == nullptr || kit.keyboard == nullptr || kit.pointer == nullptr) {
-        KIT_error();
+    if (refused(kit.display == nullptr || kit.keyboard == nullptr || kit.pointer == nullptr, KIT_error)) {
         return false;
     }
     kit.screen = IMG_newSized(static_cast<std::int32_t>(kit.display->width),
@@ -81,7 +72,7 @@ bool makeWhole(KIT& kit) {
     kit.pen = makePen(assets::kit_font_medium, cell, kit.screen);
     kit.smallPen = makePen(assets::kit_font_small, smallCell, kit.screen);
     kit.font = makeFont(assets::kit_font_sheet, kit.screen);
-    kit.hues = makeHues();
+    kit.hues = newHues();
     return !refused(refusedAllocations != refusals, KIT_error);
 }
 

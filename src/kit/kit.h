@@ -48,10 +48,9 @@ struct KIT {
     LFONT* pen = nullptr;      ///< owned; writes lines of light, 16 by 16, into the screen
     LFONT* smallPen = nullptr; ///< owned; the same, 8 by 8
     FONT* font = nullptr;      ///< owned; writes pixels, 16 by 16, into the screen
-    SAMPLE* hues =
-        nullptr; ///< owned; RGB888_hueCount colours around the hue circle, for effects with a palette
-    XSND* sound = nullptr;  ///< owned; append SAMPLEs to `sound->queue`, they play one after the other
-    MUSIC* music = nullptr; ///< borrowed; while it is set, it is composed on and played
+    SAMPLE* hues = nullptr;    ///< owned; RGB888_hueCount colours around the hue circle, a palette
+    XSND* sound = nullptr;     ///< owned; append SAMPLEs to `sound->queue`, they play one after the other
+    MUSIC* music = nullptr;    ///< borrowed; while it is set, it is composed on and played
 
     XDPY* display = nullptr;  ///< owned; the window
     XKBD* keyboard = nullptr; ///< owned; KIT_nextFrame takes its keys

@@ -24,10 +24,7 @@ void KBD_dispatch(KBD* table) {
 }
 
 std::int32_t KBD_current(const KBD* table) {
-    if (refused(table == nullptr, KBD_error)) {
-        return 0;
-    }
-    return table->current;
+    return refused(table == nullptr, KBD_error) ? 0 : table->current;
 }
 
 std::int32_t KBD_flush(const KBD* table) {
@@ -38,10 +35,7 @@ std::int32_t KBD_flush(const KBD* table) {
 }
 
 std::int32_t KBD_same(const KBD* a, const KBD* b) {
-    if (refused(a == nullptr || b == nullptr, KBD_error)) {
-        return 0;
-    }
-    return 1;
+    return refused(a == nullptr || b == nullptr, KBD_error) ? 0 : 1;
 }
 
 void KBD_delete(KBD** handle) {

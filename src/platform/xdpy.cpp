@@ -62,24 +62,15 @@ void XDPY_dumpFrame(const IMG* img) {
 }
 
 const char* XDPY_getName(const XDPY* display) {
-    if (refused(display == nullptr || display != XDPY_current, XDPY_error)) {
-        return nullptr;
-    }
-    return "";
+    return refused(display == nullptr || display != XDPY_current, XDPY_error) ? nullptr : "";
 }
 
 std::int32_t XDPY_same(const XDPY* a, const XDPY* b) {
-    if (refused(a == nullptr || b == nullptr, XDPY_error)) {
-        return 0;
-    }
-    return a == b && a == XDPY_current ? 1 : 0;
+    return !refused(a == nullptr || b == nullptr, XDPY_error) && a == b && a == XDPY_current ? 1 : 0;
 }
 
 XDPY* XDPY_get(XDPY* display) {
-    if (refused(display == nullptr || display != XDPY_current, XDPY_error)) {
-        return nullptr;
-    }
-    return display;
+    return refused(display == nullptr || display != XDPY_current, XDPY_error) ? nullptr : display;
 }
 
 void XDPY_error() {

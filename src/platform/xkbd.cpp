@@ -24,15 +24,11 @@ constexpr std::int32_t textBytes = 9;
 XKBD* keyboardOfProcess = nullptr;
 
 XKBD* makeKeyboard() {
-    XKBD* keyboard = newRecord<XKBD>(XKBD_error);
-    if (keyboard != nullptr) {
-        keyboard->text = allocateArray<char>(textBytes);
-        if (keyboard->text == nullptr) {
-            XKBD_error();
-            deleteRecord(&keyboard, XKBD_error);
-        }
-    }
-    return keyboard;
+    const auto remove = [](XKBD** handle) { deleteRecord(handle, XKBD_error); };
+    return newRecord<XKBD>(XKBD_error, remove, [](XKBD& keyboard) {
+        keyboard.text = allocateArray<char>(textBytes);
+        return !refused(keyboard.text == nullptr, XKBD_error);
+    });
 }
 
 } // namespace
@@ -54,10 +50,7 @@ bool XKBD_isUsable(const XKBD* keyboard) {
 }
 
 const char* XKBD_getName(const XKBD* keyboard) {
-    if (refused(keyboard == nullptr, XKBD_error)) {
-        return nullptr;
-    }
-    return "XKBD";
+    return refused(keyboard == nullptr, XKBD_error) ? nullptr : "XKBD";
 }
 
 std::int32_t XKBD_getState(const XKBD* keyboard) {
@@ -68,10 +61,7 @@ std::int32_t XKBD_getState(const XKBD* keyboard) {
 }
 
 std::int32_t XKBD_same(const XKBD* a, const XKBD* b) {
-    if (refused(a == nullptr || b == nullptr, XKBD_error)) {
-        return 0;
-    }
-    return a == b ? 1 : 0;
+    return !refused(a == nullptr || b == nullptr, XKBD_error) && a == b ? 1 : 0;
 }
 
 std::int32_t XKBD_flush(const XKBD* keyboard) {

@@ -4,7 +4,6 @@
 // What every implementation of the pointer shares: the record. Reading it is the machine's.
 #include "platform/xptr.h"
 
-#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "platform/xdpy.h"
@@ -18,11 +17,7 @@ const IDENTITY XPTR_identity = makeIdentity("XPTR", "20150228", "XWINDOWS", "COD
 std::uint8_t XPTR_verbose = 0;
 
 XPTR* XPTR_make() {
-    XPTR* const pointer = XDPY_isOpen() ? allocateRecord<XPTR>() : nullptr;
-    if (pointer == nullptr) {
-        XPTR_error();
-    }
-    return pointer;
+    return refused(!XDPY_isOpen(), XPTR_error) ? nullptr : newRecord<XPTR>(XPTR_error);
 }
 
 bool XPTR_isUsable(const XPTR* pointer) {
@@ -30,20 +25,17 @@ bool XPTR_isUsable(const XPTR* pointer) {
 }
 
 std::int32_t XPTR_equals(const XPTR* a, const XPTR* b) {
-    if (refused(a == nullptr || b == nullptr, XPTR_error)) {
-        return 0;
-    }
-    return a->x == b->x && a->y == b->y && a->buttons == b->buttons &&
+    return !refused(a == nullptr || b == nullptr, XPTR_error) && a->x == b->x && a->y == b->y &&
+                   a->buttons == b->buttons &&
                    std::equal(std::begin(a->reserved), std::end(a->reserved), std::begin(b->reserved))
                ? 1
                : 0;
 }
 
 void XPTR_copy(const XPTR* src, XPTR* dst) {
-    if (refused(src == nullptr || dst == nullptr, XPTR_error)) {
-        return;
+    if (!refused(src == nullptr || dst == nullptr, XPTR_error)) {
+        *dst = *src;
     }
-    *dst = *src;
 }
 
 XPTR* XPTR_clone(const XPTR* src) {

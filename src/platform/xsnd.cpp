@@ -5,7 +5,6 @@
 #include "platform/xsnd.h"
 
 #include "foundation/list.h"
-#include "foundation/memory.h"
 #include "foundation/record.h"
 #include "foundation/report.h"
 #include "foundation/wrap.h"
@@ -32,27 +31,19 @@ bool configure(XSND* sound) {
            accepts(DspRequest::speed, &sound->rate) && accepts(DspRequest::blockSize, &sound->blockSize);
 }
 
-/// Makes a block of that size in place of the one before; false without memory, which leaves that one.
-bool takeBlock(XSND* sound, std::int32_t bytes) {
-    const std::int32_t samples = bytes / 2;
-    auto* const block = allocateArray<std::int16_t>(samples);
-    if (block == nullptr) {
-        return false;
+/// Makes a block of that size in place of the one before; without memory it reports and that one stays.
+void takeBlock(XSND* sound, std::int32_t bytes) {
+    if (replaceArray(sound, XSND_error, &XSND::block, &XSND::blockSamples, bytes / 2)) {
+        sound->blockSize = bytes;
     }
-    delete[] sound->block;
-    sound->block = block;
-    sound->blockSize = bytes;
-    sound->blockSamples = samples;
-    return true;
 }
 
-/// Opens the device and makes the block that it asks for; false when any of it fails.
-bool openDevice(XSND* sound) {
+/// Opens the device and makes the block that it asks for; reports when any of it fails.
+void openDevice(XSND* sound) {
     sound->fd = DSP_open(sound->device);
-    if (sound->fd < 0 || !configure(sound)) {
-        return false;
+    if (!refused(sound->fd < 0 || !configure(sound), XSND_error)) {
+        takeBlock(sound, sound->blockSize);
     }
-    return takeBlock(sound, sound->blockSize);
 }
 
 /// Moves the next values of the head into the block and returns their number: a whole block, or what is left,
@@ -99,9 +90,7 @@ XSND* XSND_new() {
         return nullptr;
     }
     sound->queue = LIST_new();
-    if (!openDevice(sound)) {
-        XSND_error();
-    }
+    openDevice(sound);
     return sound;
 }
 
@@ -126,16 +115,13 @@ void XSND_setFrameRate(XSND* sound, std::int32_t framesPerSecond) {
         return;
     }
     const std::int32_t bytes = sound->block != nullptr ? DSP_frameRate(sound->fd, framesPerSecond) : 0;
-    if (bytes > 0 && !takeBlock(sound, bytes)) {
-        XSND_error();
+    if (bytes > 0) {
+        takeBlock(sound, bytes);
     }
 }
 
 const char* XSND_name(const XSND* sound) {
-    if (refused(sound == nullptr, XSND_error)) {
-        return nullptr;
-    }
-    return "";
+    return refused(sound == nullptr, XSND_error) ? nullptr : "";
 }
 
 std::int32_t XSND_flush(const XSND* sound) {
@@ -146,10 +132,7 @@ std::int32_t XSND_flush(const XSND* sound) {
 }
 
 std::int32_t XSND_isReady(const XSND* sound, std::int32_t word) {
-    if (refused(sound == nullptr || word == 0, XSND_error)) {
-        return 0;
-    }
-    return 1;
+    return refused(sound == nullptr || word == 0, XSND_error) ? 0 : 1;
 }
 
 void XSND_delete(XSND** handle) {

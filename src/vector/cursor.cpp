@@ -28,31 +28,27 @@ void CURSOR_set(CURSOR* cursor, const void* base, std::int32_t count, std::int32
 }
 
 void CURSOR_setIndex(CURSOR* cursor, std::int32_t value) {
-    if (refused(cursor == nullptr || cursor->count <= 0, CURSOR_error)) {
-        return;
+    if (!refused(cursor == nullptr || cursor->count <= 0, CURSOR_error)) {
+        cursor->index = positiveModulo(value, cursor->count);
     }
-    cursor->index = positiveModulo(value, cursor->count);
 }
 
 void CURSOR_advance(CURSOR* cursor) {
-    if (refused(cursor == nullptr, CURSOR_error)) {
-        return;
+    if (!refused(cursor == nullptr, CURSOR_error)) {
+        CURSOR_setIndex(cursor, wrapAdd(cursor->index, cursor->step));
     }
-    CURSOR_setIndex(cursor, wrapAdd(cursor->index, cursor->step));
 }
 
 void CURSOR_save(CURSOR* cursor) {
-    if (refused(cursor == nullptr, CURSOR_error)) {
-        return;
+    if (!refused(cursor == nullptr, CURSOR_error)) {
+        cursor->savedIndex = cursor->index;
     }
-    cursor->savedIndex = cursor->index;
 }
 
 void CURSOR_restore(CURSOR* cursor) {
-    if (refused(cursor == nullptr, CURSOR_error)) {
-        return;
+    if (!refused(cursor == nullptr, CURSOR_error)) {
+        cursor->index = cursor->savedIndex;
     }
-    cursor->index = cursor->savedIndex;
 }
 
 const void* CURSOR_current(const CURSOR* cursor) {

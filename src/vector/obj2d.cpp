@@ -76,11 +76,9 @@ OBJ2D* OBJ2D_new() {
 }
 
 void OBJ2D_addSegment(OBJ2D* obj, SEG2D* segment) {
-    if (refused(!isWhole(obj) || segment == nullptr || segment->a == nullptr || segment->b == nullptr,
+    if (refused(!isWhole(obj) || segment == nullptr || segment->a == nullptr || segment->b == nullptr ||
+                    !makeRoom(obj->segments, 1) || !makeRoom(obj->points, 2),
                 OBJ2D_error)) {
-        return;
-    }
-    if (refused(!makeRoom(obj->segments, 1) || !makeRoom(obj->points, 2), OBJ2D_error)) {
         return;
     }
     LIST_append(obj->segments, segment);

@@ -4,7 +4,6 @@
 // The drawings' text format, read as a stream of tokens. Lines matter only to comments and to the four
 // keywords that take the rest of theirs. Nothing is an error: what has no meaning is skipped.
 #include "foundation/list.h"
-#include "foundation/memory.h"
 #include "foundation/report.h"
 #include "foundation/text.h"
 #include "vector/obj2d.h"
@@ -188,13 +187,9 @@ void readName(Parser& parser) {
     if (parser.open == nullptr) {
         return; // it names the file
     }
-    char* name = nullptr;
-    if (!line.empty()) {
-        name = allocateArray<char>(static_cast<std::int64_t>(line.size()) + 1);
-        if (refused(name == nullptr, OBJ2D_error)) {
-            return;
-        }
-        std::copy(line.begin(), line.end(), name);
+    char* const name = line.empty() ? nullptr : newText(line);
+    if (refused(name == nullptr && !line.empty(), OBJ2D_error)) {
+        return;
     }
     delete[] parser.open->name;
     parser.open->name = name;

@@ -12,12 +12,6 @@ namespace velm {
 const IDENTITY VEC2D_identity = makeIdentity("VEC2D", "ZENDORAK", "CODE", "20150503", "C");
 std::uint8_t VEC2D_verbose = 1;
 
-namespace {
-
-constexpr std::int32_t sineFraction = 15; ///< fraction bits of a sine table entry
-
-} // namespace
-
 VEC2D* VEC2D_new() {
     return newRecord<VEC2D>(VEC2D_error);
 }
@@ -47,6 +41,7 @@ void VEC2D_rotate(VEC2D* point, std::int32_t angle) {
     if (angle == 0) {
         return;
     }
+    constexpr std::int32_t sineFraction = 15; // bits of a sine table entry
     const std::int32_t s = SINE_entry(angle);
     const std::int32_t c = SINE_entry(wrapAdd(angle, SINE_quarter));
     const std::int32_t x = wrapSub(wrapMul(point->x, c), wrapMul(point->y, s)) >> sineFraction;
@@ -56,10 +51,9 @@ void VEC2D_rotate(VEC2D* point, std::int32_t angle) {
 }
 
 std::int32_t VEC2D_lengthSquared(const VEC2D* point) {
-    if (refused(point == nullptr, VEC2D_error)) {
-        return -1;
-    }
-    return wrapAdd(wrapMul(point->x, point->x), wrapMul(point->y, point->y));
+    return refused(point == nullptr, VEC2D_error)
+               ? -1
+               : wrapAdd(wrapMul(point->x, point->x), wrapMul(point->y, point->y));
 }
 
 void VEC2D_delete(VEC2D** handle) {

@@ -70,7 +70,6 @@ TEST(Backmove, MixesWithWhatStandsThere) {
     EXPECT_EQ(drawn(BACKMOVE_draw), std::pair(0x402010U, 0U));
     EXPECT_EQ(drawn(BACKMOVE_drawOver), std::pair(0x402010U, 0xF00010U));
     EXPECT_EQ(drawn(BACKMOVE_drawAdd), std::pair(0xFF2020U, 0xF00010U));
-    EXPECT_EQ(drawn(BACKMOVE_drawAverage), std::pair(0x981010U, 0x780008U));
 }
 
 TEST(Backmove, RefusesWhatItCannotShow) {

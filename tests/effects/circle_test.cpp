@@ -143,7 +143,6 @@ TEST(Circle, NestsFadeAndInterfere) {
     EXPECT_EQ(column(CIRCLE_draw), (Row{c, 0, 0, 0, c, 0, 0, 0, c}));
     EXPECT_EQ(column(CIRCLE_drawAdd), (Row{c, 0, 0, 0, 0x606060, 0, 0, 0, 0x404040}));
     EXPECT_EQ(column(CIRCLE_drawXor), (Row{c, 0, 0, 0, 0, c, c, c, c}));
-    EXPECT_EQ(column(CIRCLE_drawDiscs), Row(9, c));
 }
 
 } // namespace

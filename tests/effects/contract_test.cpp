@@ -25,7 +25,7 @@ TEST(Contract, BACKMOVEAndSINESCAN) {
     const auto show = [&picture](BACKMOVE* back) { BACKMOVE_setPicture(back, picture); };
     const auto place = [&picture](SINESCAN* scan) { scan->source = picture, scan->x = 48, scan->y = 32; };
     expectContract<BACKMOVE>(
-        {BACKMOVE_new, BACKMOVE_delete, BACKMOVE_randomize, BACKMOVE_advance, BACKMOVE_drawAverage, show},
+        {BACKMOVE_new, BACKMOVE_delete, BACKMOVE_randomize, BACKMOVE_advance, BACKMOVE_draw, show},
         BACKMOVE_verbose, "BACKMOVE error", 1);
     expectContract<SINESCAN>(
         {SINESCAN_new, SINESCAN_delete, SINESCAN_randomize, SINESCAN_advance, SINESCAN_draw, place},

@@ -20,10 +20,11 @@ void replaceKept(const void* memory, void* with) {
     }
 }
 
-void* allocateCounted(std::size_t size) {
+void* allocateCounted(std::size_t size, std::align_val_t alignment = {}) {
     ++allocations;
     const bool isRefused = allocations == failingAllocation || (isRefusedNow != nullptr && isRefusedNow());
-    void* const memory = isRefused ? nullptr : std::malloc(size == 0 ? 1 : size);
+    const auto unit = std::max(static_cast<std::size_t>(alignment), alignof(std::max_align_t));
+    void* const memory = isRefused ? nullptr : std::aligned_alloc(unit, (size / unit + 1) * unit);
     replaceKept(nullptr, memory);
     return memory;
 }
@@ -56,6 +57,9 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
     return allocateCounted(size);
 }
+void* operator new[](std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
+    return allocateCounted(size, alignment);
+}
 void operator delete(void* memory) noexcept {
     release(memory);
 }
@@ -66,6 +70,9 @@ void operator delete(void* memory, std::size_t) noexcept {
     release(memory);
 }
 void operator delete[](void* memory, std::size_t) noexcept {
+    release(memory);
+}
+void operator delete[](void* memory, std::align_val_t) noexcept {
     release(memory);
 }
 

@@ -37,9 +37,11 @@ TEST_F(SceneTest, ThePointerPictureFollowsTheRealPointer) {
     const Picture picture(IMG_fromPNM(assets::pointer.bytes, assets::pointer.size));
     waitForScene();
     const int places[][2] = {{20, 110}, {200, 90}, {60, 180}};
-    for (const auto& [x, y] : places) {
+    for (const auto& place : places) {
+        const int x = place[0];
+        const int y = place[1];
         session->movePointer(x + border, y + border);
-        EXPECT_TRUE(eventually([&, x = x, y = y] { return shows(picture, x, y); })) << x << ", " << y;
+        EXPECT_TRUE(eventually([&] { return shows(picture, x, y); })) << x << ", " << y;
     }
 }
 

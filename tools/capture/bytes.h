@@ -8,6 +8,7 @@
 #pragma once
 
 #include "foundation/byte_order.h"
+#include "platform/gain.h"
 
 #include <cstddef>
 #include <cstring>
@@ -26,6 +27,13 @@ std::vector<std::byte> lowByteFirst(std::span<const Word> words) {
         next += sizeof turned;
     }
     return bytes;
+}
+
+/// The bytes of samples that are multiplied as GAIN_apply does.
+inline std::vector<std::byte> louderBytes(std::span<const std::int16_t> samples, double factor) {
+    std::vector<std::int16_t> louder(samples.begin(), samples.end());
+    GAIN_apply(louder, factor);
+    return lowByteFirst<std::int16_t>(louder);
 }
 
 } // namespace velm

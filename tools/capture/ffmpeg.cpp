@@ -6,7 +6,9 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <iterator>
 #include <spawn.h>
+#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,7 +17,7 @@ namespace velm {
 namespace {
 
 /// Starts a program with `input` as its standard input: 0 or an error's number.
-int spawn(pid_t& child, std::vector<std::string>& words, int input, const std::vector<int>& descriptors) {
+int spawn(pid_t& child, std::vector<std::string> words, int input, const std::vector<int>& descriptors) {
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
@@ -51,14 +53,14 @@ Ffmpeg::~Ffmpeg() {
     }
 }
 
-bool Ffmpeg::start(std::vector<std::string> arguments, const std::vector<int>& descriptors) {
-    arguments.insert(arguments.begin(), {"ffmpeg", "-nostdin", "-loglevel", "quiet", "-xerror", "-y"});
+bool Ffmpeg::start(const std::string& arguments, const std::vector<int>& descriptors) {
+    std::istringstream words("ffmpeg -nostdin -loglevel quiet -xerror -y " + arguments);
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) {
         return false;
     }
     const HeldSignals held;
-    const int error = spawn(child, arguments, ends[0], descriptors);
+    const int error = spawn(child, {std::istream_iterator<std::string>(words), {}}, ends[0], descriptors);
     close(ends[0]);
     if (error != 0) {
         child = 0;

@@ -4,7 +4,7 @@
 // ffmpeg as a child of this process. It is quiet, because the one line that a failure gets is ours.
 //
 //     Ffmpeg encoder;
-//     encoder.start({"-i", "-", ...}, {fileno(file)});
+//     encoder.start("-i - ...", {fileno(file)});
 //     encoder.feed(bytes);
 //     const bool done = encoder.wait();
 #pragma once
@@ -25,8 +25,9 @@ public:
     Ffmpeg(const Ffmpeg&) = delete;
     Ffmpeg& operator=(const Ffmpeg&) = delete;
 
-    /// Starts it; it inherits the descriptors. False, and errno, when it is not installed or cannot start.
-    bool start(std::vector<std::string> arguments, const std::vector<int>& descriptors);
+    /// Starts it with arguments that spaces part; it inherits the descriptors. False, and errno, when it is
+    /// not installed or cannot start.
+    bool start(const std::string& arguments, const std::vector<int>& descriptors);
 
     /// Writes to its standard input; false when it has left.
     bool feed(std::span<const std::byte> bytes);

@@ -34,13 +34,10 @@ Film::Film(std::string finalPath, const FilmLook& look)
 bool Film::startEncoder(std::int32_t scale) {
     const std::string size = std::to_string(256 * scale);
     const std::string rate = std::to_string(framesPerSecond);
-    return ffmpeg.start({"-f",         "rawvideo",    "-pixel_format",
-                         "bgr0",       "-video_size", "256x256",
-                         "-framerate", rate,          "-i",
-                         "-",          "-vf",         "scale=" + size + ":" + size + ":flags=neighbor",
-                         "-c:v",       "libx264",     "-crf",
-                         "16",         "-pix_fmt",    "yuv420p",
-                         "-f",         "mp4",         pictures.descriptorPath()},
+    return ffmpeg.start("-f rawvideo -pixel_format bgr0 -video_size 256x256 -framerate " + rate +
+                            " -i - -vf scale=" + size + ":" + size +
+                            ":flags=neighbor -c:v libx264 -crf 16 -pix_fmt yuv420p -f mp4 " +
+                            pictures.descriptorPath(),
                         {fileno(pictures.stream())});
 }
 
@@ -88,27 +85,10 @@ void Film::finish(std::int64_t micros) {
 }
 
 bool Film::join() {
-    return ffmpeg.start({"-i",
-                         pictures.descriptorPath(),
-                         "-f",
-                         "s16le",
-                         "-ar",
-                         "44100",
-                         "-ac",
-                         "1",
-                         "-i",
-                         samples.descriptorPath(),
-                         "-c:v",
-                         "copy",
-                         "-c:a",
-                         "aac",
-                         "-b:a",
-                         "160k",
-                         "-movflags",
-                         "+faststart",
-                         "-f",
-                         "mp4",
-                         film.descriptorPath()},
+    return ffmpeg.start("-i " + pictures.descriptorPath() + " -f s16le -ar 44100 -ac 1 -i " +
+                            samples.descriptorPath() +
+                            " -c:v copy -c:a aac -b:a 160k -movflags +faststart -f mp4 " +
+                            film.descriptorPath(),
                         {fileno(pictures.stream()), fileno(samples.stream()), fileno(film.stream())}) &&
            ffmpeg.wait();
 }

@@ -15,31 +15,19 @@
 namespace velm {
 
 /// All words, one frame after the other.
-class RawFrames : public Output {
+class RawFrames : public FileOutput {
 public:
-    explicit RawFrames(const std::string& path) : file(path) {}
+    using FileOutput::FileOutput;
 
     void frame(const Frame& frame) override { file.write(frame.bytes); }
-    void finish(std::int64_t) override { file.finish(); }
-    [[nodiscard]] OutputState state() const override { return file.state(); }
-    [[nodiscard]] const std::string& name() const override { return file.name(); }
-
-private:
-    OutputFile file;
 };
 
 /// A line a frame: its number and the CRC-32 of its bytes.
-class Checksums : public Output {
+class Checksums : public FileOutput {
 public:
-    explicit Checksums(const std::string& path) : file(path) {}
+    using FileOutput::FileOutput;
 
     void frame(const Frame& frame) override;
-    void finish(std::int64_t) override { file.finish(); }
-    [[nodiscard]] OutputState state() const override { return file.state(); }
-    [[nodiscard]] const std::string& name() const override { return file.name(); }
-
-private:
-    OutputFile file;
 };
 
 /// A P6 file a frame, in a folder that is made if it is not there.

@@ -47,4 +47,17 @@ private:
     OutputState status = OutputState::open;
 };
 
+/// An output that is one such file.
+class FileOutput : public Output {
+public:
+    explicit FileOutput(const std::string& path) : file(path) {}
+
+    void finish(std::int64_t) override { file.finish(); }
+    [[nodiscard]] OutputState state() const override { return file.state(); }
+    [[nodiscard]] const std::string& name() const override { return file.name(); }
+
+protected:
+    OutputFile file;
+};
+
 } // namespace velm

@@ -54,8 +54,7 @@ bool Recorder::isReady() const {
 }
 
 void Recorder::frame(const IMG& img) {
-    const std::size_t count = static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height);
-    const std::vector<std::byte> bytes = lowByteFirst<std::uint32_t>(std::span(img.pixels, count));
+    const std::vector<std::byte> bytes = lowByteFirst<std::uint32_t>(pixelsOf(img));
     const Frame frame{++frames, img, bytes, headless.micros};
     for (const auto& output : outputs) {
         if (isOpen(output)) {

@@ -3,7 +3,6 @@
 #include "capture/soundtrack.h"
 
 #include "capture/bytes.h"
-#include "platform/gain.h"
 
 #include <algorithm>
 #include <unistd.h>
@@ -37,10 +36,8 @@ bool Soundtrack::finish(std::int64_t samples) {
 }
 
 bool Soundtrack::write(std::span<const std::int16_t> samples) {
-    std::vector<std::int16_t> louder(samples.begin(), samples.end());
-    GAIN_apply(louder, factor);
-    const std::vector<std::byte> bytes = lowByteFirst<std::int16_t>(louder);
-    written += static_cast<std::int64_t>(louder.size());
+    const std::vector<std::byte> bytes = louderBytes(samples, factor);
+    written += static_cast<std::int64_t>(samples.size());
     return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
 }
 

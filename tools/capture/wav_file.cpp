@@ -3,19 +3,16 @@
 #include "capture/wav_file.h"
 
 #include "capture/bytes.h"
-#include "platform/gain.h"
 
 namespace velm {
 
 WavFile::WavFile(const std::string& path, std::uint64_t mostDataBytes, double gain)
-    : file(path), room(wavRoomFor(mostDataBytes)), factor(gain) {
+    : FileOutput(path), room(wavRoomFor(mostDataBytes)), factor(gain) {
     file.write(wavHeader(0, room));
 }
 
 void WavFile::sound(const Block& block) {
-    std::vector<std::int16_t> samples(block.samples.begin(), block.samples.end());
-    GAIN_apply(samples, factor);
-    const std::vector<std::byte> bytes = lowByteFirst<std::int16_t>(samples);
+    const std::vector<std::byte> bytes = louderBytes(block.samples, factor);
     file.write(bytes);
     dataBytes += bytes.size();
 }

@@ -28,18 +28,15 @@ WavRoom wavRoomFor(std::uint64_t mostDataBytes);
 /// becomes an RF64 (EBU Tech 3306); a smaller one leaves the room unused, in a chunk that readers skip.
 std::vector<std::byte> wavHeader(std::uint64_t dataBytes, WavRoom room);
 
-class WavFile : public Output {
+class WavFile : public FileOutput {
 public:
     /// Samples are multiplied by `gain`, as GAIN_apply does.
     WavFile(const std::string& path, std::uint64_t mostDataBytes, double gain);
 
     void sound(const Block& block) override;
     void finish(std::int64_t micros) override;
-    [[nodiscard]] OutputState state() const override { return file.state(); }
-    [[nodiscard]] const std::string& name() const override { return file.name(); }
 
 private:
-    OutputFile file;
     WavRoom room;
     double factor;
     std::uint64_t dataBytes = 0;

@@ -6,6 +6,7 @@
 #include "foundation/owned.h"
 #include "foundation/sine.h"
 #include "image/img.h"
+#include "image/rgb888.h"
 #include "paint/files.h"
 #include "paint/paint.h"
 #include "paint/shading.h"
@@ -71,6 +72,14 @@ struct Face {
     std::function<void(IMG&, char, std::int32_t, std::int32_t)> draw;
 };
 
+/// Writes a line of text from (x, y) on.
+void write(IMG& img, const Face& face, const std::string& text, std::int32_t x, std::int32_t y) {
+    for (const char character : text) {
+        face.draw(img, character, x, y);
+        x += face.width;
+    }
+}
+
 /// All printable characters, then words.
 Picture specimen(const Face& face) {
     const std::vector<std::string> lines = {
@@ -82,11 +91,7 @@ Picture specimen(const Face& face) {
     Picture img = makePicture(face.width * columns, face.height * static_cast<std::int32_t>(lines.size()));
     std::int32_t y = 0;
     for (const std::string& line : lines) {
-        std::int32_t x = 0;
-        for (const char character : line) {
-            face.draw(*img, character, x, y);
-            x += face.width;
-        }
+        write(*img, face, line, 0, y);
         y += face.height;
     }
     return img;
@@ -122,11 +127,7 @@ Picture family(const std::vector<std::pair<Face, std::string>>& faces) {
     Picture img = makePicture(width, height);
     std::int32_t y = gap;
     for (const auto& [face, text] : faces) {
-        std::int32_t x = gap;
-        for (const char character : text) {
-            face.draw(*img, character, x, y);
-            x += face.width;
-        }
+        write(*img, face, text, gap, y);
         y += face.height + gap;
     }
     return img;
@@ -235,7 +236,7 @@ Picture angleSheet(const LIST* drawings, std::int32_t first, std::int32_t count)
         drawing->angle = static_cast<std::uint32_t>(i % angles * SINE_tableLength / angles);
         drawing->position->x = i % (angles * columns) * room + room / 2;
         drawing->position->y = i / (angles * columns) * room + room / 2;
-        OBJ2D_setColour(drawing, blended(hue((first * angles + i) * 14), 0xFFFFFF, whole / 2));
+        OBJ2D_setColour(drawing, blended(RGB888_hue((first * angles + i) * 14), 0xFFFFFF, whole / 2));
         OBJ2D_draw(drawing, sheet);
     }
     return sheet;

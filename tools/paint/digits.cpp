@@ -94,12 +94,12 @@ void drawBars(IMG& img, std::int32_t top, std::uint32_t lit) {
 } // namespace
 
 Picture paintDigitsA() {
-    constexpr std::int32_t hueStep = hueTurn / decimalDigits;
+    constexpr std::int32_t hueStep = RGB888_hueCount / decimalDigits;
     Picture column = makePicture(cell, cell * digits);
     for (std::int32_t digit = 0; digit < digits; ++digit) {
         const Picture shape = boldDigit(digit);
         // A little white brings the dark blues up to the light of the other hues.
-        const std::uint32_t colour = blended(hue(digit * hueStep + hueTurn / 3), 0xFFFFFF, 60);
+        const std::uint32_t colour = blended(RGB888_hue(digit * hueStep + RGB888_hueCount / 3), 0xFFFFFF, 60);
         for (std::int32_t i = 0; i < cell * cell; ++i) {
             const std::int32_t x = i % cell;
             const std::int32_t y = i / cell;

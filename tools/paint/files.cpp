@@ -19,10 +19,6 @@ std::string header(const char* magic, const std::string& title, const IMG& img, 
            std::to_string(img.height) + "\n" + range;
 }
 
-std::size_t pixelCount(const IMG& img) {
-    return static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height);
-}
-
 char byteOf(std::uint32_t value) {
     return static_cast<char>(static_cast<unsigned char>(value));
 }
@@ -56,7 +52,7 @@ bool writePng(const std::string& path, const IMG& img, const IMG* coverage) {
 bool writeBitmap(const std::string& path, const std::string& title, const IMG& img, Ink ink) {
     std::string bytes = header("P4", title, img, "");
     const std::uint32_t flip = ink == Ink::clearBits ? 0xFF : 0x00;
-    for (std::size_t first = 0; first < pixelCount(img); first += 8) {
+    for (std::size_t first = 0; first < pixelsOf(img).size(); first += 8) {
         std::uint32_t bits = 0;
         for (std::size_t i = 0; i < 8; ++i) {
             bits = (bits << 1) | (img.pixels[first + i] != 0 ? 1U : 0U);
@@ -68,16 +64,15 @@ bool writeBitmap(const std::string& path, const std::string& title, const IMG& i
 
 bool writeGrey(const std::string& path, const std::string& title, const IMG& img) {
     std::string bytes = header("P5", title, img, "255\n");
-    for (std::size_t i = 0; i < pixelCount(img); ++i) {
-        bytes += byteOf(img.pixels[i]);
+    for (const std::uint32_t pixel : pixelsOf(img)) {
+        bytes += byteOf(pixel);
     }
     return writeFile(path, bytes);
 }
 
 bool writeColour(const std::string& path, const std::string& title, const IMG& img) {
     std::string bytes = header("P6", title, img, "255\n");
-    for (std::size_t i = 0; i < pixelCount(img); ++i) {
-        const std::uint32_t pixel = img.pixels[i];
+    for (const std::uint32_t pixel : pixelsOf(img)) {
         bytes += byteOf(pixel >> 16);
         bytes += byteOf(pixel >> 8);
         bytes += byteOf(pixel);

@@ -8,15 +8,11 @@
 // digits from column 3 to 12. Everything is built about the middle of the columns, between 7 and 8.
 #include "paint/strokes.h"
 
-#include <array>
-
 namespace velm::paint {
 
 namespace {
 
-constexpr char firstGlyph = ' ';
-
-constexpr std::array<std::string_view, 95> glyphs = {
+constexpr Glyphs glyphs = {
     "",                                                                                    // space
     "71 81 88 78 71, 7B 8B 8C 7C 7B",                                                      // !
     "41 51 54 44 41, A1 B1 B4 A4 A1",                                                      // "
@@ -120,7 +116,7 @@ constexpr std::array<std::string_view, 95> glyphs = {
 } // namespace
 
 std::string_view mediumGlyph(char character) {
-    return glyphs[static_cast<std::size_t>(character - firstGlyph)];
+    return glyphOf(glyphs, character);
 }
 
 } // namespace velm::paint

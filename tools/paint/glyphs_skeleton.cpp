@@ -6,15 +6,11 @@
 // row 11, descenders reach row 14, digits are as wide as small letters. Column 7 is the middle.
 #include "paint/strokes.h"
 
-#include <array>
-
 namespace velm::paint {
 
 namespace {
 
-constexpr char firstGlyph = ' ';
-
-constexpr std::array<std::string_view, 95> glyphs = {
+constexpr Glyphs glyphs = {
     "",                                                    // space
     "71 77, 7A 7B",                                        // !
     "41 44, A1 A4",                                        // "
@@ -115,7 +111,7 @@ constexpr std::array<std::string_view, 95> glyphs = {
 } // namespace
 
 std::string_view skeletonGlyph(char character) {
-    return glyphs[static_cast<std::size_t>(character - firstGlyph)];
+    return glyphOf(glyphs, character);
 }
 
 bool isCrowded(char character) {

@@ -6,15 +6,11 @@
 // small letters. Column 3 is the middle.
 #include "paint/strokes.h"
 
-#include <array>
-
 namespace velm::paint {
 
 namespace {
 
-constexpr char firstGlyph = ' ';
-
-constexpr std::array<std::string_view, 95> glyphs = {
+constexpr Glyphs glyphs = {
     "",                                                    // space
     "30 34, 36",                                           // !
     "20 22, 40 42",                                        // "
@@ -115,7 +111,7 @@ constexpr std::array<std::string_view, 95> glyphs = {
 } // namespace
 
 std::string_view smallGlyph(char character) {
-    return glyphs[static_cast<std::size_t>(character - firstGlyph)];
+    return glyphOf(glyphs, character);
 }
 
 } // namespace velm::paint

@@ -31,9 +31,7 @@ constexpr std::int32_t tall = 36;     ///< the letters, in units
 /// A polyline, its points in pixels from (x, y).
 void drawPath(IMG& img, const std::vector<Point>& points, std::int32_t x, std::int32_t y, std::int32_t pen) {
     Strokes strokes;
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        strokes.push_back({points[i - 1], points[i], i == 1});
-    }
+    appendPolyline(strokes, points);
     drawStrokes(img, strokes, x, y, pen, pen, white);
 }
 
@@ -134,7 +132,7 @@ Picture paintStrip() {
     constexpr std::array<std::int32_t, 8> roundness = {120, 200, 256, 256, 236, 200, 150, 90};
     Picture strip = makePicture(8, 128);
     for (std::int32_t y = 0; y < strip->height; ++y) {
-        const std::uint32_t colour = hue(y * hueTurn / strip->height);
+        const std::uint32_t colour = RGB888_hue(y * RGB888_hueCount / strip->height);
         for (std::int32_t x = 0; x < strip->width; ++x) {
             const std::uint32_t lit = x == 2 ? blended(colour, white, 150) : colour;
             IMG_putPixel(strip, x, y, RGB888_dim(lit, roundness[static_cast<std::size_t>(x)]));

@@ -138,7 +138,7 @@ void paintSide(IMG& img, std::int32_t x, std::int32_t y, std::int32_t w, std::ui
 /// From the left edge to the right one; the last tower takes what room is left.
 void paintTowers(IMG& img, const Layer& layer, bool outlined) {
     constexpr std::int32_t firstHue = 200;
-    constexpr std::int32_t hueStep = hueTurn / width;
+    constexpr std::int32_t hueStep = RGB888_hueCount / width;
     std::int32_t x = outlined ? 1 : 0;
     for (std::int32_t i = 0; x + layer.narrowest <= width; ++i) {
         const std::int32_t wanted =
@@ -146,7 +146,8 @@ void paintTowers(IMG& img, const Layer& layer, bool outlined) {
         const std::int32_t w = x + wanted + layer.narrowest > width ? width - x : wanted;
         const std::int32_t tall = between(layer.lowest, layer.highest, scattered(layer.seed, i));
         const std::int32_t y = shore - tall;
-        const std::uint32_t edge = outlined ? RGB888_dim(hue(x * hueStep + firstHue), 230) : layer.windows;
+        const std::uint32_t edge =
+            outlined ? RGB888_dim(RGB888_hue(x * hueStep + firstHue), 230) : layer.windows;
         if (outlined) {
             paintSide(img, x, y, w, edge);
         }

@@ -24,26 +24,6 @@ std::int32_t threshold(std::int32_t x, std::int32_t y) {
 
 } // namespace
 
-std::uint32_t hue(std::int32_t place) {
-    const std::int32_t wrapped = ((place % hueTurn) + hueTurn) % hueTurn;
-    const auto rise = static_cast<std::uint32_t>(wrapped & 255);
-    const std::uint32_t fall = 255 - rise;
-    switch (wrapped >> 8) {
-    case 0:
-        return 0x00FF00 | rise;
-    case 1:
-        return 0x0000FF | (fall << 8);
-    case 2:
-        return 0x0000FF | (rise << 16);
-    case 3:
-        return 0xFF0000 | fall;
-    case 4:
-        return 0xFF0000 | (rise << 8);
-    default:
-        return 0x00FF00 | (fall << 16);
-    }
-}
-
 std::uint32_t blended(std::uint32_t from, std::uint32_t to, std::int32_t amount) {
     return RGB888_mix(from, to, static_cast<std::uint32_t>(std::clamp(amount, 0, whole)));
 }

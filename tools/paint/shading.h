@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// What the pictures share: the hue circle, ordered dithering, scattered numbers.
+// What the pictures share: mixed colours, ordered dithering, scattered numbers.
 //
 //     const std::uint32_t pixel = dither({0x100030, 0xFF40A0, 8}, amount, x, y);
 #pragma once
@@ -10,11 +10,7 @@
 
 namespace velm::paint {
 
-constexpr std::int32_t hueTurn = 1536; ///< steps of the hue circle: green, cyan, blue, magenta, red, yellow
-constexpr std::int32_t whole = 256;    ///< an amount of 1
-
-/// The pure colour at a place on the hue circle; any number.
-std::uint32_t hue(std::int32_t place);
+constexpr std::int32_t whole = 256; ///< an amount of 1
 
 /// Between two colours, amount 0 to 256, clamped.
 std::uint32_t blended(std::uint32_t from, std::uint32_t to, std::int32_t amount);

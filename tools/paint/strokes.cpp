@@ -12,6 +12,8 @@ std::int32_t digitValue(char digit) {
     return std::isdigit(static_cast<unsigned char>(digit)) != 0 ? digit - '0' : digit - 'A' + 10;
 }
 
+} // namespace
+
 void appendPolyline(Strokes& strokes, const std::vector<Point>& points) {
     if (points.size() == 1) {
         strokes.push_back({points[0], points[0], true});
@@ -20,8 +22,6 @@ void appendPolyline(Strokes& strokes, const std::vector<Point>& points) {
         strokes.push_back({points[i - 1], points[i], i == 1});
     }
 }
-
-} // namespace
 
 Strokes parseStrokes(std::string_view shorthand) {
     Strokes strokes;

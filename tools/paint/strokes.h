@@ -9,6 +9,7 @@
 
 #include "image/img.h"
 
+#include <array>
 #include <string_view>
 #include <vector>
 
@@ -28,13 +29,23 @@ struct Segment {
 
 using Strokes = std::vector<Segment>;
 
-/// The segments of a shorthand, in writing order. A polyline of one point is a dot: a segment of length 0.
+/// Appends the segments of a polyline. One point alone is a dot: a segment of length 0.
+void appendPolyline(Strokes& strokes, const std::vector<Point>& points);
+
+/// The segments of a shorthand, in writing order.
 Strokes parseStrokes(std::string_view shorthand);
 
 /// Draws with a rectangular pen: the w by h pixels whose top left corner is each point of the line, all moved
 /// by (x, y).
 void drawStrokes(IMG& img, const Strokes& strokes, std::int32_t x, std::int32_t y, std::int32_t w,
                  std::int32_t h, std::uint32_t colour);
+
+/// The shorthands of the printable characters, the space first.
+using Glyphs = std::array<std::string_view, 95>;
+
+constexpr std::string_view glyphOf(const Glyphs& glyphs, char character) {
+    return glyphs[static_cast<std::size_t>(character - ' ')];
+}
 
 /// The shorthand of a printable character on the 16 x 16 grid, one line a stroke: "" for the space.
 std::string_view skeletonGlyph(char character);

@@ -14,21 +14,22 @@ namespace velm {
 
 namespace {
 
-int makeMemory() {
-    const int file = memfd_create("velm4030-live", MFD_CLOEXEC);
-    if (file < 0 || ftruncate(file, sizeof(Channel)) != 0) {
+void leaveIf(bool hasFailed) {
+    if (hasFailed) {
         std::perror("velm4030-live");
         std::exit(EXIT_FAILURE);
     }
+}
+
+int makeMemory() {
+    const int file = memfd_create("velm4030-live", MFD_CLOEXEC);
+    leaveIf(file < 0 || ftruncate(file, sizeof(Channel)) != 0);
     return file;
 }
 
 Channel* makeChannel(int file) {
     void* const memory = mmap(nullptr, sizeof(Channel), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
-    if (memory == MAP_FAILED) {
-        std::perror("velm4030-live");
-        std::exit(EXIT_FAILURE);
-    }
+    leaveIf(memory == MAP_FAILED);
     return new (memory) Channel{};
 }
 

@@ -18,6 +18,7 @@
 #include "foundation/memory.h"
 #include "foundation/owned.h" // IWYU pragma: export
 
+#include <algorithm>
 #include <cstdint>
 
 namespace velm {
@@ -83,6 +84,14 @@ template <std::int32_t frames, typename Cast>
 void playScrollText(Cast& cast, std::int32_t frame) {
     constexpr std::int32_t slope = 40;
     cast.scroll.draw(curveStay(frame, 0, frames, slope));
+}
+
+/// An act of every cast: the frame comes out of the dark, and goes back there from frame `leaves` on, by
+/// `speed` of 256 a frame.
+template <std::int32_t leaves, std::int32_t speed, typename Cast>
+void playDark(Cast&, std::int32_t frame) {
+    const std::int32_t lost = std::max((24 - frame) * 11, (frame - leaves) * speed);
+    IMG_subColour(demo.screen, static_cast<std::uint32_t>(std::clamp(lost, 0, 255)) * 0x010101U);
 }
 
 /// Plays a scene: in every frame the acts whose time it is, in the table's order, then the pointer and the

@@ -43,12 +43,19 @@ void drawBoldCaption(LFONT* pen, const Caption& caption) {
     }
 }
 
-void typeBoldCaption(LFONT* pen, Caption caption, std::int32_t frame, std::int32_t begin, std::int32_t end) {
+void typeCaptions(std::span<const TypedCaption> captions, std::int32_t frame, std::int32_t hue) {
     constexpr std::int32_t framesOfLetter = 2;
-    caption.typed = (frame - begin) / framesOfLetter;
-    caption.first = std::max(frame - end, 0);
-    if (caption.first < std::min(caption.typed, static_cast<std::int32_t>(caption.text.size()))) {
-        drawBoldCaption(pen, caption);
+    for (const TypedCaption& line : captions) {
+        const std::int32_t first = std::max(frame - line.end, 0);
+        const std::int32_t typed = (frame - line.begin) / framesOfLetter;
+        if (first < std::min(typed, static_cast<std::int32_t>(line.text.size()))) {
+            drawBoldCaption(demo.textSmall, {.text = line.text,
+                                             .y = line.y,
+                                             .scale = 2,
+                                             .colour = RGB888_average(curveHue(hue + line.hue), 0xFFFFFF),
+                                             .first = first,
+                                             .typed = typed});
+        }
     }
 }
 

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <span>
 #include <string_view>
 
 namespace velm {
@@ -34,9 +35,14 @@ void drawCaption(LFONT* pen, const Caption& caption);
 /// strokes of the small pen take two pixels.
 void drawBoldCaption(LFONT* pen, const Caption& caption);
 
-/// The same, typed from frame `begin` on, a letter in two frames, and taken away from frame `end` on, a
-/// letter a frame.
-void typeBoldCaption(LFONT* pen, Caption caption, std::int32_t frame, std::int32_t begin, std::int32_t end);
+/// Twice as large and in pale colours, typed from frame `begin` on, a letter in two frames, and taken away
+/// from frame `end` on, a letter a frame.
+struct TypedCaption {
+    std::string_view text;
+    std::int32_t y, begin, end;
+    std::int32_t hue = 0; ///< to be added to that of the frame
+};
+void typeCaptions(std::span<const TypedCaption> captions, std::int32_t frame, std::int32_t hue);
 
 /// For as long as it lives a pen may be changed: afterwards it stands as before, and writes all glyphs in the
 /// colour of the first that has one. nullptr is no pen.

@@ -17,7 +17,7 @@
 
 namespace velm {
 
-inline constexpr std::int32_t curveFull = 256; ///< the weight of all of it
+inline constexpr std::int32_t curveFull = RGB888_fullWeight; ///< the weight of all of it
 
 /// 0 up to frame `first`, 256 from frame `last` on, a straight line between them; first < last.
 constexpr std::int32_t curveRise(std::int32_t frame, std::int32_t first, std::int32_t last) {
@@ -54,7 +54,7 @@ constexpr std::uint32_t curveMix(std::uint32_t from, std::uint32_t to, std::int3
 
 /// A colour out of the dark.
 constexpr std::uint32_t curveDim(std::uint32_t colour, std::int32_t weight) {
-    return curveMix(0, colour, weight);
+    return RGB888_dim(colour, weight);
 }
 
 /// A colour of the hue ramp, which goes round without an end.

@@ -28,11 +28,10 @@ inline constexpr std::int32_t lensSamples = 4; ///< pixels of an enlarged pictur
 
 /// Where a lens looks, in pixels of the original.
 struct Lens {
-    std::int32_t x, y;       ///< what stands in the middle, 16.16
-    std::int32_t zoom = 256; ///< screen pixels across one of the picture, 8.8, 128 or more
-    std::int32_t angle = 0;  ///< 1/1024 turns
-    std::int32_t others =
-        256; ///< brightness of the mirror images above and below, 0 black .. 256 as they are
+    std::int32_t x, y;         ///< what stands in the middle, 16.16
+    std::int32_t zoom = 256;   ///< screen pixels across one of the picture, 8.8, 128 or more
+    std::int32_t angle = 0;    ///< 1/1024 turns
+    std::int32_t others = 256; ///< brightness of the mirror images above and below, 0 black .. 256
 };
 
 /// Covers the target with an enlarged picture, whose sides are powers of two, and its mirror images to all

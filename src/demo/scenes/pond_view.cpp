@@ -72,6 +72,9 @@ PondView::PondView() {
     if (moon != nullptr) {
         paintMoon(moon);
     }
+    if (bendColumns != nullptr) {
+        bendColumns->y = top;
+    }
     for (std::int32_t i = 0; i < 256; ++i) {
         edge[static_cast<std::size_t>(i)] = curveEase(std::min(i, 255 - i), 0, border);
     }
@@ -167,7 +170,6 @@ void PondView::draw(IMG* target) {
     IMG_copy(sky, view);
     drawMoon();
     for (std::int32_t y = 0; y < surface->height; ++y) {
-
         const std::uint32_t colour = curveMix(farWater, nearWater, curveRise(y, 0, surface->height));
         IMG_drawHLine(surface, colour, y, 0, surface->width - 1);
     }

@@ -66,12 +66,7 @@ private:
     Picture surface{IMG_newSized(256, 256 - top)};            ///< the water, flat
     Picture bent{IMG_newSized(256, 256 - top)};               ///< the water, its rows bent
     Owned<DISTX_delete> bendRows = makeBend<DISTX_new, DISTX_delete>(surface, 0, 14, 29);
-    Owned<DISTY_delete> bendColumns{DISTY_new(), [this](DISTY& made) {
-                                        made.source = bent;
-                                        made.y = top;
-                                        made.wave.speed = 11;
-                                        made.wave.offsetStep = 7;
-                                    }};
+    Owned<DISTY_delete> bendColumns = makeBend<DISTY_new, DISTY_delete>(bent, 0, 11, 7);
     std::array<std::int32_t, 256> edge{}; ///< light of a column of window or plane, 0 at the edges, 0..256
 };
 

@@ -48,17 +48,19 @@ void drawFigure(std::int32_t angle) {
     if (pen == nullptr) {
         return;
     }
+    LFONT_place(pen, x, y, magnification);
     pen->character = settings.largeTextIndex;
     pen->angle = angle;
-    pen->scale->x = magnification;
-    pen->scale->y = magnification;
-    pen->position->x = x;
-    pen->position->y = y;
     LFONT_drawCharRandomColour(pen);
 }
 
 void drawFrame(std::int32_t frame) {
-    drawScrollText();
+    if (settings.rastersOn != 0) {
+        VELM4030_rasterLayer();
+    }
+    if (settings.scrollOn != 0) {
+        VELM4030_scrollLayer();
+    }
     VELM4030_dotsLayer();
     drawFigure(frames - frame);
     VELM4030_mouseLayer();

@@ -16,7 +16,6 @@
 #include "image/imgfx.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
 namespace velm {
@@ -227,16 +226,11 @@ void drawNightfall(Flight& flight, std::int32_t frame) {
 }
 
 void drawCaptions(Flight&, std::int32_t frame) {
-    constexpr struct {
-        std::string_view text;
-        std::int32_t begin, end;
-    } captions[] = {
-        {"LIGHTS OFF", 8, 70}, {"HOLD ON", 92, 165}, {"LOOK AHEAD", 400, 470}, {"ANOTHER SKY", 580, 690}};
-    for (const auto& line : captions) {
-        const std::uint32_t colour = RGB888_average(curveHue(coolHue(4 * frame)), 0xFFFFFF);
-        typeBoldCaption(demo.textSmall, {.text = line.text, .y = 36, .scale = 2, .colour = colour}, frame,
-                        line.begin, line.end);
-    }
+    constexpr TypedCaption captions[] = {{"LIGHTS OFF", 36, 8, 70},
+                                         {"HOLD ON", 36, 92, 165},
+                                         {"LOOK AHEAD", 36, 400, 470},
+                                         {"ANOTHER SKY", 36, 580, 690}};
+    typeCaptions(captions, frame, coolHue(4 * frame));
 }
 
 constexpr Act<Flight> acts[] = {{0, frames, fly},

@@ -170,7 +170,6 @@ void drawRibbons(const Garden& garden, const Braided& braid, Draw drawOne, Advan
                  std::int32_t frame) {
     constexpr std::int32_t amplitude = 210;
     constexpr std::int32_t dimmed = 110; // where the flower is the hero
-
     constexpr std::int32_t step = 6;
     const std::int32_t weight = std::max(presence(hero, frame), presence(Hero::bloom, frame));
     const bool blooms = frame >= static_cast<std::int32_t>(Hero::bloom) * seasonFrames;

@@ -223,12 +223,6 @@ void drawWorld(Particles& particles, std::int32_t frame) {
                 .shineX = (frame - glassBreaks) % barFrames * shineSpeed});
 }
 
-/// In from the dark, and out into it.
-void dim(Particles&, std::int32_t frame) {
-    const std::int32_t lost = std::max((24 - frame) * 11, (frame - darkens) * 8);
-    IMG_subColour(demo.screen, static_cast<std::uint32_t>(std::clamp(lost, 0, 255)) * 0x010101U);
-}
-
 constexpr Act<Particles> acts[] = {{0, frames, runWater},
                                    {firesBegin, firesEnd, lightFires},
                                    {embersBegin, embersEnd, lightEmbers},
@@ -239,7 +233,7 @@ constexpr Act<Particles> acts[] = {{0, frames, runWater},
                                    {glassBreaks, frames, drawWorld, breakGlass},
                                    {0, glassBreaks, drawWorld},
                                    {0, frames, drawPipe},
-                                   {0, frames, dim}};
+                                   {0, frames, playDark<darkens, 8>}};
 
 } // namespace
 

@@ -10,6 +10,7 @@
 #include "demo/scenes/caption.h"
 #include "demo/scenes/pond_view.h"
 #include "effects/circle.h"
+#include "foundation/fixed.h"
 #include "foundation/sine.h"
 
 #include <algorithm>
@@ -19,7 +20,6 @@ namespace velm {
 namespace {
 
 constexpr std::int32_t frames = 900;
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
 
 constexpr char text[] = "VELM 4030";
 constexpr std::int32_t letters = sizeof text - 1;
@@ -51,7 +51,6 @@ void prepareWord(LOGOFLY& word) {
 
 void prepareDrops(CIRCLE& drops) {
     constexpr std::int32_t count = 40;
-
     drops.largest = 118;
     CIRCLE_setCount(&drops, count);
     for (std::int32_t i = 0; i < drops.count; ++i) {
@@ -69,7 +68,6 @@ void prepareBands(CIRCLE& bands) {
 struct Pond {
     ScrollText scroll{208};
     PondView view;
-
     Owned<LOGOFLY_delete> word{LOGOFLY_new(), [this](LOGOFLY& made) {
                                    prepareWord(made);
                                    made.target = view.above;
@@ -83,7 +81,7 @@ struct Pond {
 CIRCLE_BODY& dropRing(Pond& pond, std::int32_t x, std::uint32_t colour) {
     CIRCLE_BODY& body = pond.drops->bodies[pond.nextDrop];
     pond.nextDrop = (pond.nextDrop + 1) % pond.drops->count;
-    body = {PondView::planeX(x) * one, PondView::planeY() * one, 0, 0, 0, 5 * one / 4, colour};
+    body = {PondView::planeX(x) * fixedOne, PondView::planeY() * fixedOne, 0, 0, 0, 5 * fixedOne / 4, colour};
     return body;
 }
 
@@ -140,15 +138,15 @@ void callRingsBack(Pond& pond, std::int32_t frame) {
     if (frame % every == 0) {
         const std::int32_t hue = curveBetween(violet, gold, curveRise(frame, returnBegin, burst - 60));
         CIRCLE_BODY& body = dropRing(pond, middle, curveHue(hue, 190));
-        body.radius = pond.drops->largest * one - 1;
-        body.growth = -5 * one / 2;
+        body.radius = pond.drops->largest * fixedOne - 1;
+        body.growth = -5 * fixedOne / 2;
     }
 }
 
 void spreadGold(Pond& pond, std::int32_t frame) {
     constexpr std::int32_t every = 6;
     if ((frame - burst) % every == 0) {
-        dropRing(pond, middle, curveHue(gold)).growth = 3 * one;
+        dropRing(pond, middle, curveHue(gold)).growth = 3 * fixedOne;
     }
 }
 
@@ -176,9 +174,9 @@ void drawBands(Pond& pond, std::int32_t frame) {
     for (std::int32_t i = 0; i < pond.bands->count; ++i) {
         CIRCLE_BODY& body = pond.bands->bodies[i];
         const std::int32_t half = i * SINE_tableLength / 2;
-        body.x = (middle + SINE_scaled(80, 5 * frame + half)) * one;
-        body.y = (middle + SINE_scaled(60, 7 * frame + half)) * one;
-        body.radius = (spacing * pond.bands->rings + frame % (2 * spacing)) * one;
+        body.x = (middle + SINE_scaled(80, 5 * frame + half)) * fixedOne;
+        body.y = (middle + SINE_scaled(60, 7 * frame + half)) * fixedOne;
+        body.radius = (spacing * pond.bands->rings + frame % (2 * spacing)) * fixedOne;
         body.colour = curveHue(560 + SINE_scaled(110, 4 * frame), weight / 3); // blue to violet
     }
     IMG_fill(pond.view.bands, 0);
@@ -214,7 +212,6 @@ void drawWord(Pond& pond, std::int32_t frame) {
     for (std::int32_t i = 0; i < 4; ++i) {
         stamp(i % 2 * 3 - 1, i / 2 * 3 - 1, outline);
     }
-
     for (std::int32_t i = 0; i < 4; ++i) {
         stamp(i % 2, i / 2, light);
     }
@@ -241,7 +238,6 @@ constexpr Act<Pond> acts[] = {{firstDrop, firstDrop + 20, beginWithADrop},
                               {firstHop - hopFrames, night, hop},
                               {returnBegin, lastCall, callRingsBack},
                               {burst, burst + 60, spreadGold},
-
                               {0, frames, drawDrops},
                               {ribbonBegin, ribbonEnd, drawRibbon},
                               {bandsBegin, bandsEnd, drawBands},

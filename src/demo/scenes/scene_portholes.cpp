@@ -14,6 +14,7 @@
 #include "demo/scenes/letters.h"
 #include "effects/backmove.h"
 #include "effects/circle.h"
+#include "foundation/fixed.h"
 #include "foundation/sine.h"
 
 #include <algorithm>
@@ -24,7 +25,6 @@ namespace velm {
 namespace {
 
 constexpr std::int32_t frames = 750;
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
 constexpr std::int32_t holeCount = 6;
 
 constexpr std::int32_t cityBegin = barFrames / 6;
@@ -78,11 +78,11 @@ void prepareHoops(CIRCLE& hoops) {
 
 struct Portholes {
     Picture city{doubled(demo.pictureWide)};
-    World planets{demo.pictureB, ringedPlanet};                    ///< the other world while flagS is set
-    World evening{demo.pictureA, sunset};                          ///< the other world while it is clear
-    Owned<BACKMOVE_delete> near = makeGround(city, one, 0, 24, 0); ///< the city, dark
+    World planets{demo.pictureB, ringedPlanet}; ///< the other world while flagS is set
+    World evening{demo.pictureA, sunset};       ///< the other world while it is clear
+    Owned<BACKMOVE_delete> near = makeGround(city, fixedOne, 0, 24, 0); ///< the city, dark
     Owned<BACKMOVE_delete> far =
-        makeGround(planets.tile, -3 * one / 2, one, 40, 30); ///< the other world, bright
+        makeGround(planets.tile, -3 * fixedOne / 2, fixedOne, 40, 30); ///< the other world, bright
     Owned<CIRCLE_delete> holes{CIRCLE_new(), [](CIRCLE& made) { CIRCLE_setCount(&made, holeCount); }};
     Owned<CIRCLE_delete> hoops{CIRCLE_new(), prepareHoops}; ///< fly past during the fall
     CopperLetters letters;
@@ -115,15 +115,15 @@ void moveHole(CIRCLE_BODY& body, std::int32_t hole, std::int32_t frame) {
     const std::int32_t angle =
         hole * SINE_tableLength / (holeCount - 1) + 3 * frame / 2 + faster * faster / 48 - SINE_quarter;
     const std::int32_t way = curveBetween(0, 88, curveEase(frame, opens, opens + 50)) + flung;
-    body.x = (middle + SINE_cosineScaled(way, angle)) * one;
-    body.y = (middle + SINE_scaled(way, angle)) * one;
+    body.x = (middle + SINE_cosineScaled(way, angle)) * fixedOne;
+    body.y = (middle + SINE_scaled(way, angle)) * fixedOne;
     const std::int32_t size = breathing(27, hole, frame) + flung / 5;
-    body.radius = (size * curveEase(frame, opens, opens + 40) >> 8) * one;
+    body.radius = (size * curveEase(frame, opens, opens + 40) >> 8) * fixedOne;
 }
 
 void moveHoles(Portholes& show, std::int32_t frame) {
     CIRCLE_BODY* const bodies = show.holes->bodies;
-    bodies[0] = {middle * one, middle * one, 0, 0, radiusOfFirst(frame) * one, 0, 0};
+    bodies[0] = {middle * fixedOne, middle * fixedOne, 0, 0, radiusOfFirst(frame) * fixedOne, 0, 0};
     for (std::int32_t i = 1; i < show.holes->count; ++i) {
         bodies[i].speedX = bodies[i].speedY = 0;
         moveHole(bodies[i], i, frame);
@@ -144,8 +144,10 @@ void drawCity(Portholes& show, std::int32_t frame) {
 /// Remembers where the eye looks: from here it falls.
 void enterFall(Portholes& show) {
     const BACKMOVE& far = *show.far;
-    show.eye.x = static_cast<std::int32_t>(far.x) + (SINE_scaled(far.reachX, far.pathX.phase) + middle) * one;
-    show.eye.y = static_cast<std::int32_t>(far.y) + (SINE_scaled(far.reachY, far.pathY.phase) + middle) * one;
+    show.eye.x =
+        static_cast<std::int32_t>(far.x) + (SINE_scaled(far.reachX, far.pathX.phase) + middle) * fixedOne;
+    show.eye.y =
+        static_cast<std::int32_t>(far.y) + (SINE_scaled(far.reachY, far.pathY.phase) + middle) * fixedOne;
 }
 
 /// Draws the other world as the fall shows it.
@@ -156,7 +158,7 @@ void drawFall(Portholes& show, std::int32_t frame) {
     const std::int32_t away = curveEase(frame, irisBegin, irisEnd);
     const std::int32_t left = curveFull - curveEase(frame, swellBegin, arrival);
     const auto placeOf = [left](std::int32_t from, std::int32_t to, std::int32_t period) {
-        return to * one - nearestWay(from, to, period) / curveFull * left;
+        return to * fixedOne - nearestWay(from, to, period) / curveFull * left;
     };
     Lens lens;
     lens.x = placeOf(show.eye.x, world.sight.x, show.far->picture->width);
@@ -213,7 +215,8 @@ void drawHoops(Portholes& show, std::int32_t frame) {
     const std::int32_t weight = curveStay(frame, swellBegin + 10, irisBegin, 60) * 3 / 4;
     const std::int32_t step = show.hoops->spacing;
     const std::int32_t radius = show.hoops->largest - step + 3 * frame % step;
-    show.hoops->bodies[0] = {middle * one, middle * one, 0, 0, radius * one, 0, curveHue(4 * frame, weight)};
+    constexpr std::int32_t centre = middle * fixedOne;
+    show.hoops->bodies[0] = {centre, centre, 0, 0, radius * fixedOne, 0, curveHue(4 * frame, weight)};
     CIRCLE_drawAdd(show.hoops, demo.screen);
 }
 
@@ -260,19 +263,12 @@ void drawBobbingLetters(Portholes&, std::int32_t frame) {
 }
 
 void drawCaptions(Portholes&, std::int32_t frame) {
-    constexpr struct {
-        std::string_view text;
-        std::int32_t y, begin, end, hue;
-    } captions[] = {{"A CITY", 28, 50, 165, 300},
-                    {"WITHOUT END", 232, 70, 160, 400},
-                    {"AND WAYS", 28, 185, 256, 200},
-                    {"TO LEAVE IT", 232, 200, 256, 300},
-                    {"WELCOME", 40, arrival + 20, irisBegin - 5, 1200}};
-    for (const auto& line : captions) {
-        const std::uint32_t colour = RGB888_average(curveHue(line.hue + frame), 0xFFFFFF);
-        typeBoldCaption(demo.textSmall, {.text = line.text, .y = line.y, .scale = 2, .colour = colour}, frame,
-                        line.begin, line.end);
-    }
+    constexpr TypedCaption captions[] = {{"A CITY", 28, 50, 165, 300},
+                                         {"WITHOUT END", 232, 70, 160, 400},
+                                         {"AND WAYS", 28, 185, 256, 200},
+                                         {"TO LEAVE IT", 232, 200, 256, 300},
+                                         {"WELCOME", 40, arrival + 20, irisBegin - 5, 1200}};
+    typeCaptions(captions, frame, frame);
 }
 
 constexpr Act<Portholes> acts[] = {{0, frames, moveHoles},

@@ -14,7 +14,6 @@
 #include "effects/sinescan.h"
 #include "foundation/sine.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string_view>
@@ -260,12 +259,6 @@ void drawBow(Theatre&, std::int32_t frame) {
     drawLettersAt(middle - lettersWidth / 2, top + 36);
 }
 
-/// In from the dark, and out into it.
-void dim(Theatre&, std::int32_t frame) {
-    const std::int32_t lost = std::max((24 - frame) * 11, (frame - darkens) * 6);
-    IMG_subColour(demo.screen, static_cast<std::uint32_t>(std::clamp(lost, 0, 255)) * 0x010101U);
-}
-
 constexpr Act<Theatre> acts[] = {{twist.opening.begins, twist.opening.ends, drawColumn},
                                  {stretch.opening.begins, stretch.opening.ends, drawRubber, stretchRubber},
                                  {wave.opening.begins, wave.opening.ends, drawBanner, hoistBanner},
@@ -278,7 +271,7 @@ constexpr Act<Theatre> acts[] = {{twist.opening.begins, twist.opening.ends, draw
                                  {0, frames, drawProscenium},
                                  {0, frames, drawHeads},
                                  {0, frames, playScrollText<frames>},
-                                 {0, frames, dim}};
+                                 {0, frames, playDark<darkens, 6>}};
 
 } // namespace
 

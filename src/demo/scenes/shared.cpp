@@ -77,15 +77,6 @@ void dropShared() {
     dropMesh(demo.meshView);
 }
 
-void drawScrollText() {
-    if (settings.rastersOn != 0) {
-        VELM4030_rasterLayer();
-    }
-    if (settings.scrollOn != 0) {
-        VELM4030_scrollLayer();
-    }
-}
-
 ScrollText::ScrollText(std::int32_t y) {
     VELM4030_rasterSetup();
     VELM4030_scrollSetup();
@@ -99,19 +90,20 @@ ScrollText::ScrollText(std::int32_t y) {
 void ScrollText::draw(std::int32_t weight) {
     constexpr std::uint32_t grey = 0x010101;
     const std::int32_t darker = 255 - std::clamp(weight, 0, 255);
-    if (darker == 0 || bars == nullptr) {
-        drawScrollText();
-        return;
-    }
+    const bool isDarker = darker > 0 && bars != nullptr;
     if (settings.rastersOn != 0) {
         VELM4030_rasterLayer();
     }
-    IMG_copy(demo.rasterTarget, bars);
-    IMG_subColour(demo.rasterTarget, static_cast<std::uint32_t>(darker) * grey);
+    if (isDarker) {
+        IMG_copy(demo.rasterTarget, bars);
+        IMG_subColour(demo.rasterTarget, static_cast<std::uint32_t>(darker) * grey);
+    }
     if (settings.scrollOn != 0) {
         VELM4030_scrollLayer();
     }
-    IMG_copy(bars, demo.rasterTarget);
+    if (isDarker) {
+        IMG_copy(bars, demo.rasterTarget);
+    }
 }
 
 } // namespace velm

@@ -20,9 +20,6 @@ bool isStocked();
 /// The next set-up makes it anew.
 void dropShared();
 
-/// The bars and the scroll text, each while its key leaves it on.
-void drawScrollText();
-
 /// The bars and the scroll text, made where they are missing; the text waves about another row for as long as
 /// this lives. It begins with the next line of prose: a scene is too short for the ornaments and the keys
 /// before it.
@@ -31,7 +28,8 @@ public:
     explicit ScrollText(std::int32_t y = VELM4030_scrollY);
     ~ScrollText() { VELM4030_placeScroll(VELM4030_scrollY); }
 
-    /// The bars and the text, darker from a weight of 256 down to black at 0.
+    /// The bars and the text, each while its key leaves it on, darker from a weight of 256 down to black at
+    /// 0.
     void draw(std::int32_t weight);
 
     ScrollText(const ScrollText&) = delete;

@@ -3,6 +3,7 @@
 #include "demo/scenes/words_cast.h"
 
 #include "effects/line_text.h"
+#include "foundation/fixed.h"
 #include "foundation/sine.h"
 
 #include <algorithm>
@@ -11,7 +12,6 @@ namespace velm {
 
 namespace {
 
-constexpr std::int32_t one = 1 << 16; // 1.0 in 16.16
 constexpr std::int32_t worldRadius = 102;
 constexpr std::int32_t latitudeStep = 76; // 1/1024 turns from circle to circle
 
@@ -40,10 +40,10 @@ Line makeLine(std::int32_t i) {
         "A LINE - A LINE - A LINE - A LINE - A WAVE ~ A WAVE ~ A WAVE ~ A WAVE ~ ";
     const bool isTold = i == WordsCast::lineCount / 2;
     return Line(LSCROLL_new(), [=](LSCROLL& line) {
-        prepareScroll(line, isTold ? told : murmured, isTold ? 7 * one : 4 * one);
+        prepareScroll(line, isTold ? told : murmured, isTold ? 7 * fixedOne : 4 * fixedOne);
         const std::int32_t y = centreY + (i - WordsCast::lineCount / 2) * 78;
         LSCROLL_setLine(&line, -16, y, 272, y);
-        line.scale = isTold ? 3 * one / 2 : one;
+        line.scale = isTold ? 3 * fixedOne / 2 : fixedOne;
         line.hueStep = 20;
         line.lift = {.speed = 10, .offsetStep = isTold ? 84 : 56};
         line.lift.phase = 300 * i;
@@ -88,7 +88,7 @@ Body makeRow(std::int32_t i) {
     constexpr const char* texts[WordsCast::rowCount] = {"= = = = = = = = = ", "THE CIRCLE STOOD UP * ",
                                                         "A CYLINDER * A TOWER * ", "OF TURNING LETTERS * ",
                                                         "= = = = = = = = = "};
-    return makeBody(texts[i], LSCRLXYZ_SHAPE::cylinder, 88, i % 2 == 0 ? 2 * one : -2 * one);
+    return makeBody(texts[i], LSCRLXYZ_SHAPE::cylinder, 88, i % 2 == 0 ? 2 * fixedOne : -2 * fixedOne);
 }
 
 /// Circle `i` of the world from the north, which turns as fast as the others.
@@ -97,15 +97,16 @@ Body makeCircle(std::int32_t i) {
                                                            "THE SPRING BECAME A WORLD * ",
                                                            "TURNING * EVERYTHING ", "AT ONCE * AT ONCE * "};
     const std::int32_t radius = circleRadius(i);
-    return makeBody(texts[i], LSCRLXYZ_SHAPE::cylinder, radius, 3 * one * radius / worldRadius);
+    return makeBody(texts[i], LSCRLXYZ_SHAPE::cylinder, radius, 3 * fixedOne * radius / worldRadius);
 }
 
 } // namespace
 
 WordsCast::WordsCast()
-    : ring(makeRing("THE WAVE BIT ITS TAIL: A CIRCLE * ", 98, 2 * one)),
-      innerRing(makeRing("ROUND AND ROUND * ", 52, -3 * one / 2)),
-      screw(makeBody("THE TOWER LET GO: A SPRING * UP AND DOWN * ", LSCRLXYZ_SHAPE::screw, 84, 4 * one)) {
+    : ring(makeRing("THE WAVE BIT ITS TAIL: A CIRCLE * ", 98, 2 * fixedOne)),
+      innerRing(makeRing("ROUND AND ROUND * ", 52, -3 * fixedOne / 2)),
+      screw(
+          makeBody("THE TOWER LET GO: A SPRING * UP AND DOWN * ", LSCRLXYZ_SHAPE::screw, 84, 4 * fixedOne)) {
     for (std::int32_t i = 0; i < lineCount; ++i) {
         lines[i] = makeLine(i);
     }
