@@ -4,7 +4,8 @@
 #
 # ./test.sh: installs what is missing, builds everything twice, optimised and under the sanitizers, and runs the tests of
 # both builds side by side. CTest's summary of all of them comes last.
-# ./test.sh whole: the same, and each scene from beginning to end under the sanitizers, too, which is two minutes more.
+# ./test.sh whole: the same, and under the sanitizers each scene from beginning to end, the painter, and the library's headers
+# one by one, too, which is two minutes more.
 # ./test.sh web: the pages alone, in Chromium: the demo's against what velm4030-capture gives, and those of the kit.
 set -euo pipefail
 CDPATH="" cd -- "$(dirname -- "$0")"

@@ -35,7 +35,7 @@ bool isAtMusic() {
 
 /// Glyphs are made alike, and so are instruments: of those, primes give each kind of allocation its turn.
 bool isChosen() {
-    return search.allocations % (isAtLineFonts() ? sparing * 197 : isAtMusic() ? sparing * 23 : 1) == 0;
+    return search.allocations % (sparing * (isAtLineFonts() ? 197 : isAtMusic() ? 23 : 1)) == 0;
 }
 
 void becomeChild(std::FILE* said) {
@@ -98,7 +98,7 @@ void conclude(int status, void*) {
     // After the clock come only the sound's block and what the scene makes.
     const bool areMostEnds = search.ends > search.runs;
     const bool isExpected = areMostEnds == (search.shortage == Shortage::forGood);
-    _exit(isEscape && isExpected && search.ends > 10 && search.faults == 0 ? 0 : 1);
+    _exit(isEscape && isExpected && search.ends * sparing > 4 && search.faults == 0 ? 0 : 1);
 }
 
 [[noreturn]] void searchProgram(Shortage shortage) {

@@ -153,7 +153,9 @@ TEST_F(ProgrammeTest, GoesToAPlaceAndOnFromThere) {
     EXPECT_EQ(playParts(programme, 4), "jbca") << "the last word counts";
 }
 
-TEST_F(ProgrammeTest, ScenesFadeIntoEachOtherAndAFewGetALength) {
+constexpr std::uint32_t fade = 15; ///< frames
+
+TEST_F(ProgrammeTest, AFewScenesGetALength) {
     PROGRAMME programme = programmeOf({SCENE_find("extra-1"), &a, SCENE_find("default")});
     const auto framesOfPart = [&programme] {
         const std::uint32_t before = demo.fps->frameCount;
@@ -161,7 +163,6 @@ TEST_F(ProgrammeTest, ScenesFadeIntoEachOtherAndAFewGetALength) {
         EXPECT_EQ(demo.framesLeft, 0);
         return demo.fps->frameCount - before;
     };
-    constexpr std::uint32_t fade = 15;
     const auto endsOnABar = [&framesOfPart](std::uint32_t most) {
         const std::uint32_t frames = framesOfPart();
         EXPECT_EQ(framesIntoBar(), 0);
@@ -171,7 +172,9 @@ TEST_F(ProgrammeTest, ScenesFadeIntoEachOtherAndAFewGetALength) {
     endsOnABar(750 + fade);
     EXPECT_EQ(framesOfPart(), 0U) << "what is black already does not fade";
     endsOnABar(900 + fade);
+}
 
+TEST_F(ProgrammeTest, ScenesFadeIntoEachOther) {
     const SCENE white = {"white", "", [] { pressAt(headless.frames + 1, ' '), runWhite(); }};
     PROGRAMME fading = programmeOf({&white, &a});
     std::vector<std::uint32_t> corners;

@@ -190,8 +190,8 @@ int runTool(const std::vector<std::string>& arguments, const Environment& enviro
     return Child(arguments, environment).waitForExit();
 }
 
-void pauseBriefly() {
-    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+void pauseFor(double seconds) {
+    std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
 }
 
 double secondsNow() {

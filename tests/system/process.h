@@ -73,7 +73,8 @@ private:
 /// Runs a program to its end and gives its status.
 int runTool(const std::vector<std::string>& arguments, const Environment& environment);
 
-/// Calls `holds` until it is true; false after `seconds`.
+/// Calls `holds` until it is true; false after `seconds`. Between two calls it rests, for longer than they
+/// take: who waits leaves the processor to those that are waited for.
 template <typename Condition>
 bool eventually(Condition holds, double seconds = 60);
 
@@ -82,17 +83,20 @@ bool eventually(Condition holds, double seconds = 60);
 template <typename Count>
 bool standsStill(const Child& program, Count count);
 
-void pauseBriefly();
+void pauseFor(double seconds);
 double secondsNow();
 
 template <typename Condition>
 bool eventually(Condition holds, double seconds) {
+    constexpr double least = 0.002;
+    constexpr double most = 0.1;
     const double end = secondsNow() + seconds;
-    while (!holds()) {
-        if (secondsNow() > end) {
+    for (double begin = secondsNow(); !holds(); begin = secondsNow()) {
+        const double now = secondsNow();
+        if (now > end) {
             return false;
         }
-        pauseBriefly();
+        pauseFor(std::clamp(3 * (now - begin), least, most));
     }
     return true;
 }

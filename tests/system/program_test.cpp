@@ -129,7 +129,7 @@ TEST_F(ProgramTest, APauseRestsAndNothingPilesUpInIt) {
     pause();
     const double before = demo.processorSeconds();
     const double begin = secondsNow();
-    usleep(2000000);
+    pauseFor(2);
     EXPECT_LT((demo.processorSeconds() - before) / (secondsNow() - begin), VELM_IS_SANITIZED ? 0.2 : 0.05);
     EXPECT_TRUE(demo.isRunning());
     const long kilobytes = demo.peakKilobytes();
@@ -137,7 +137,7 @@ TEST_F(ProgramTest, APauseRestsAndNothingPilesUpInIt) {
     motion.type = MotionNotify;
     for (int burst = 0; burst < 60; ++burst) {
         session->send(session->findDemo(), motion, PointerMotionMask, 5000);
-        usleep(30000); // a mouse, however fast, lets the program come to its turn
+        pauseFor(0.03); // a mouse, however fast, lets the program come to its turn
     }
     const std::size_t pictures = puts().size();
     session->press("p");

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "pulse_server.h"
 
+#include "foundation/byte_order.h"
+
 namespace velm::test {
 
 namespace {
@@ -20,10 +22,11 @@ double energy(const std::int16_t* begin) {
 
 Sound readSound(const std::string& path, std::size_t headerBytes) {
     const std::string bytes = contents(path);
-    Sound sound;
-    for (std::size_t i = headerBytes; i + 1 < bytes.size(); i += 2) {
-        sound.push_back(static_cast<std::int16_t>(static_cast<unsigned char>(bytes[i]) |
-                                                  static_cast<unsigned char>(bytes[i + 1]) << 8));
+    const std::size_t begin = std::min(headerBytes, bytes.size());
+    Sound sound((bytes.size() - begin) / 2);
+    for (std::size_t i = 0; i < sound.size(); ++i) {
+        std::memcpy(&sound[i], &bytes[begin + 2 * i], 2);
+        sound[i] = lowByteFirst(sound[i]);
     }
     return sound;
 }
