@@ -31,7 +31,7 @@ case ${1:-} in
     *) echo "usage: ./test.sh [whole|web]" >&2 && exit 2 ;;
 esac
 packaging/need.sh "${test_packages[@]}"
-echo "On two cores this builds for some eight minutes the first time and takes 800 MB in build/; the tests take five."
+echo "On two cores this builds for some eight minutes the first time and takes 800 MB in build/; the tests take four."
 for preset in release sanitize; do
     echo "Building $preset"
     cmake --preset "$preset" >/dev/null
