@@ -11,7 +11,6 @@
 #pragma once
 
 #include "demo/scenes/acts.h"
-#include "foundation/sine.h"
 
 #include <array>
 #include <cstdint>
