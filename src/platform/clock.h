@@ -15,7 +15,7 @@ namespace velm {
 /// Microseconds of the wall clock when the program first asked, plus what has passed since. Never runs back.
 std::int64_t CLOCK_now();
 
-/// What CLOCK_now gives on a machine that goes by the system's clock.
+/// What CLOCK_now returns on a machine that goes by the system's clock.
 std::int64_t CLOCK_steady();
 
 /// Sleeps for `micros` (> 0) microseconds; a signal may end it early.
