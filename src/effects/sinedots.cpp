@@ -121,7 +121,9 @@ std::uint32_t colourTimes(std::uint32_t colour, std::int64_t times) {
 SINEDOTS* SINEDOTS_new() {
     return newRecord<SINEDOTS>(SINEDOTS_error, SINEDOTS_delete, [](SINEDOTS& dots) {
         SINEDOTS_setCount(&dots, dots.count);
-        SINEDOTS_randomize(&dots);
+        if (dots.dots != nullptr) {
+            SINEDOTS_randomize(&dots);
+        }
         return dots.dots != nullptr;
     });
 }

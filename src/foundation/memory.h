@@ -4,8 +4,8 @@
 // The one way to memory: zeroed, never throwing, sizes multiplied in one place that checks for overflow. All
 // of it goes through `operator new(std::nothrow)`, which a test replaces to make the nth allocation fail.
 //
-//     IMG* img = allocateRecord<IMG>();                        // free with delete
-//     char* text = allocateArray<char>(n);                     // free with delete[]
+//     IMG* img = allocateRecord<IMG>();                          // free with delete
+//     char* text = allocateArray<char>(n);                       // free with delete[]
 //     std::uint32_t* pixels = allocateAligned<std::uint32_t>(n); // free with freeAligned
 #pragma once
 

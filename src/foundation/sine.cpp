@@ -143,7 +143,9 @@ SINE* SINE_clone(const SINE* src) {
         return nullptr;
     }
     SINE* const clone = SINE_new();
-    SINE_copy(src, clone);
+    if (clone != nullptr) {
+        SINE_copy(src, clone);
+    }
     return clone;
 }
 
