@@ -9,7 +9,7 @@
 #include "foundation/wrap.h"
 
 #include <algorithm>
-#include <cmath>
+#include <bit>
 #include <cstdlib>
 #include <numeric>
 
@@ -41,19 +41,68 @@ void combine(SAMPLE* a, const SAMPLE* b, Operation operation) {
     });
 }
 
-/// Divides by any number but 0 and -1, quickly in bulk. The value, half a unit farther from 0, times the
-/// reciprocal: the half keeps the product off the whole numbers by more than a double's rounding, so
-/// truncating it is exact.
-struct Divider {
-    double reciprocal;
+// A truncated quotient is a product with a factor that is a little more than the exact one, in magnitude:
+// what divides stays at or above its quotient, and the rest stays below the next one, as long as the value
+// times the excess, with that of the product's rounding, is less than 1.
 
-    explicit Divider(std::int32_t divisor) : reciprocal(1.0 / static_cast<double>(divisor)) {}
+/// Divides by any number but 0 and -1, quickly in bulk.
+struct Divider {
+    double factor; ///< 1 / divisor and a little
+
+    explicit Divider(std::int32_t divisor) : factor((1 + 0x1p-50) / divisor) {}
 
     std::int32_t quotient(std::int32_t value) const {
-        const auto exact = static_cast<double>(value);
-        return static_cast<std::int32_t>((exact + std::copysign(0.5, exact)) * reciprocal);
+        return static_cast<std::int32_t>(static_cast<double>(value) * factor);
     }
 };
+
+/// value * n / d in half the width, for values whose products with n stay within 2^21.
+struct Ratio {
+    static constexpr std::int64_t block = 64;
+    float factor;        ///< n / d and a little
+    std::uint32_t reach; ///< a power of two, or 0: for values from -reach to reach - 1
+
+    Ratio(std::int32_t n, std::int32_t d) : factor(static_cast<float>((1 + 0x1p-23) * n / d)) {
+        const auto scale = static_cast<std::uint64_t>(std::max(std::abs(std::int64_t{n}), std::int64_t{1}));
+        reach = static_cast<std::uint32_t>(std::bit_floor((std::uint64_t{1} << 21) / scale));
+    }
+
+    std::int32_t quotient(std::int32_t value) const {
+        return static_cast<std::int32_t>(static_cast<float>(value) * factor);
+    }
+
+    /// For a whole block of values.
+    bool isExactFor(const std::int32_t* values) const {
+        std::uint32_t aboveLeast = 0; // the bits of all of them
+        for (std::int64_t i = 0; i < block; ++i) {
+            aboveLeast |= static_cast<std::uint32_t>(values[i]) + reach;
+        }
+        return aboveLeast < 2 * reach;
+    }
+};
+
+/// use(i, values[i] * n / d) for so many values, in order.
+template <typename Use>
+void forEachQuotient(const std::int32_t* values, std::int64_t length, std::int32_t n, std::int32_t d,
+                     Use use) {
+    runWide([=, ratio = Ratio(n, d), divider = Divider(d)] {
+        std::int64_t first = 0;
+        for (; first + Ratio::block <= length; first += Ratio::block) {
+            if (ratio.isExactFor(values + first)) {
+                for (std::int64_t i = first; i < first + Ratio::block; ++i) {
+                    use(i, ratio.quotient(values[i]));
+                }
+            } else {
+                for (std::int64_t i = first; i < first + Ratio::block; ++i) {
+                    use(i, divider.quotient(wrapMul(values[i], n)));
+                }
+            }
+        }
+        for (; first < length; ++first) {
+            use(first, divider.quotient(wrapMul(values[first], n)));
+        }
+    });
+}
 
 /// operation(...operation(first, second)..., last) of a sample that has values.
 template <typename Operation>
@@ -76,16 +125,15 @@ void SAMPLE_multiply(SAMPLE* a, const SAMPLE* b) {
 }
 
 void SAMPLE_mixScaled(SAMPLE* a, const SAMPLE* b, std::int32_t n, std::int32_t d) {
-    if (refused(d == 0, SAMPLE_error)) {
+    if (refused(d == 0 || !hasData(a) || !hasData(b), SAMPLE_error)) {
         return;
     }
     if (d == -1) {
         combine(a, b, [n](std::int32_t x, std::int32_t y) { return wrapSub(x, wrapMul(y, n)); });
         return;
     }
-    combine(a, b, [n, divider = Divider(d)](std::int32_t x, std::int32_t y) {
-        return wrapAdd(x, divider.quotient(wrapMul(y, n)));
-    });
+    forEachQuotient(b->data, std::min(a->length, b->length), n, d,
+                    [to = a->data](std::int64_t i, std::int32_t part) { to[i] = wrapAdd(to[i], part); });
 }
 
 void SAMPLE_mixFixed(SAMPLE* a, const SAMPLE* b, std::int32_t f) {
@@ -98,14 +146,15 @@ void SAMPLE_scale(SAMPLE* sample, std::int32_t factor) {
 }
 
 void SAMPLE_divide(SAMPLE* sample, std::int32_t divisor) {
-    if (refused(divisor == 0, SAMPLE_error)) {
+    if (refused(divisor == 0 || !hasData(sample), SAMPLE_error)) {
         return;
     }
     if (divisor == -1) {
         SAMPLE_scale(sample, -1);
         return;
     }
-    change(sample, [divider = Divider(divisor)](std::int32_t value) { return divider.quotient(value); });
+    forEachQuotient(sample->data, sample->length, 1, divisor,
+                    [data = sample->data](std::int64_t i, std::int32_t quotient) { data[i] = quotient; });
 }
 
 void SAMPLE_shiftRight(SAMPLE* sample, std::int32_t count) {

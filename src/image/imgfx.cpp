@@ -60,10 +60,7 @@ void IMGFX_opaqueBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t 
 
 void IMGFX_addBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,
                    std::int32_t dstY, std::int32_t w, std::int32_t h) {
-    combine(src, dst, {srcX, srcY, dstX, dstY, w, h},
-            [](const std::uint32_t* from, std::uint32_t* to, std::int64_t n) {
-                combineBytes(from, to, n, byteSum);
-            });
+    combine(src, dst, {srcX, srcY, dstX, dstY, w, h}, addBytes);
 }
 
 void IMGFX_averageBlit(const IMG* src, IMG* dst, std::int32_t srcX, std::int32_t srcY, std::int32_t dstX,

@@ -228,8 +228,8 @@ void IMGFX_glare(const IMG* src, IMG* dst, std::int32_t shift) {
                 to[x + i] = from[x + i];
             }
             around[count + 1] = x + count < src->width ? dimmed(from[x + count]) : 0;
-            combineBytes(around, to + x, count, byteSum);
-            combineBytes(around + 2, to + x, count, byteSum);
+            addBytes(around, to + x, count);
+            addBytes(around + 2, to + x, count);
         }
     });
 }

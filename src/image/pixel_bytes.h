@@ -4,12 +4,19 @@
 // What saturates is quickest byte by byte, many at a time: the rules for one channel, and the loops that
 // apply them to rows of pixels. The result's top bytes are 0, as everywhere.
 //
-//     combineBytes(from, to, width, byteSum); // to[i] = RGB888_add(from[i], to[i])
+//     addBytes(from, to, width);               // to[i] = RGB888_add(from[i], to[i])
+//     combineBytes(colour, to, width, byteSum); // to[i] = RGB888_add(colour, to[i])
 #pragma once
+
+#include "foundation/wide.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
 
 namespace velm {
 
@@ -59,6 +66,42 @@ void combineBytes(const std::uint32_t* from, std::uint32_t* to, std::int64_t cou
             b[first + k] = rule(a[first + k], b[first + k]) & keptBytes[static_cast<std::size_t>(k)];
         }
     });
+}
+
+#if defined(__x86_64__)
+
+/// addBytes for the whole blocks of 16 pixels on registers of 256 bits, and how many pixels those were. The
+/// processor saturates in one instruction, for which g++ takes three.
+[[gnu::target("avx2")]] inline std::int64_t addWholeBlocks(const std::uint32_t* from, std::uint32_t* to,
+                                                           std::int64_t count) {
+    constexpr std::int64_t block = 16;
+    constexpr std::int64_t inRegister = 8;
+    const __m256i kept = _mm256_set1_epi32(0xFFFFFF);
+    const std::int64_t whole = count - count % block;
+    for (std::int64_t first = 0; first < whole; first += block) {
+        for (std::int64_t i = first; i < first + block; i += inRegister) {
+            const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from + i));
+            auto* const b = reinterpret_cast<__m256i*>(to + i);
+            _mm256_storeu_si256(b, _mm256_and_si256(_mm256_adds_epu8(a, _mm256_loadu_si256(b)), kept));
+        }
+    }
+    return whole;
+}
+
+#else
+
+inline std::int64_t addWholeBlocks(const std::uint32_t*, std::uint32_t*, std::int64_t) {
+    return 0;
+}
+
+#endif
+
+/// combineBytes(from, to, count, byteSum), quicker. Where a write changes what is read later, it is just
+/// that.
+inline void addBytes(const std::uint32_t* from, std::uint32_t* to, std::int64_t count) {
+    const bool readsItsOwn = from < to && to < from + count;
+    const std::int64_t done = wideRegisters && !readsItsOwn ? addWholeBlocks(from, to, count) : 0;
+    combineBytes(from + done, to + done, count - done, byteSum);
 }
 
 /// to[i] = rule(colour, to[i]) for each channel of `count` pixels.

@@ -96,10 +96,19 @@ TEST(Sample, ArithmeticEqualsThePlainRule) {
     for (std::uint32_t seed = 1; seed <= 1000 && !HasFatalFailure(); ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         Images engine(seed);
-        const auto draw = [&engine] { return randomValues(engine, engine.number(0, 70)); };
+        // Every other round, all values but one or none are such as a sound has, at any volume: what is
+        // computed in blocks takes each on its own way.
+        const bool isQuiet = seed % 2 == 0;
+        const auto draw = [&engine, isQuiet] {
+            List values = randomValues(engine, engine.number(0, isQuiet ? 300 : 70));
+            for (std::size_t i = isQuiet ? 0 : values.size(); i < values.size(); ++i) {
+                values[i] = engine.number(0, 400) == 0 ? values[i] : values[i] % 0x8000;
+            }
+            return values;
+        };
         const List a = draw();
         const List b = draw();
-        const std::int32_t n = randomValues(engine, 1)[0];
+        const std::int32_t n = isQuiet ? engine.number(-1000, 1000) : randomValues(engine, 1)[0];
         const std::int32_t d = engine.number(0, 1) == 0 ? engine.number(1, 9) : engine.number(INT32_MIN, -1);
         const auto low = [](std::int64_t product) {
             return std::int64_t{static_cast<std::int32_t>(static_cast<std::uint32_t>(product))};
