@@ -18,11 +18,12 @@ using Call = std::int32_t (*)(OssThread&);
 using Clock = std::chrono::steady_clock;
 
 struct OssThread {
-    std::mutex
-        mutex; ///< guards `call` and `isLeft`; the rest belongs to the thread while a call is under way
+    std::mutex mutex; ///< guards the next four; the rest belongs to the thread while a call is under way
     std::condition_variable changed;
-    Call call = nullptr; ///< nullptr while none is under way
-    bool isLeft = false; ///< nobody waits any more
+    Call call = nullptr;   ///< nullptr while none is under way
+    bool isLeft = false;   ///< no call will come any more
+    bool isClosed = false; ///< the thread has nothing left to do
+    bool isAlone = false;  ///< nobody waits for it to be closed, so the record is the thread's
     Clock::time_point since;
     std::int32_t device = -1;
     std::int32_t answer = -1;
@@ -44,7 +45,7 @@ void make(OssThread* thread, Call call) {
     thread->changed.notify_all();
 }
 
-/// The thread itself. It owns the record once it is left.
+/// The thread itself.
 void serve(OssThread* thread) {
     std::unique_lock lock(thread->mutex);
     const auto isNeeded = [thread] { return thread->call != nullptr || thread->isLeft; };
@@ -59,7 +60,14 @@ void serve(OssThread* thread) {
     lock.unlock();
     OSS_close(thread->device);
     delete[] thread->block;
-    delete thread;
+    lock.lock();
+    thread->isClosed = true;
+    thread->changed.notify_all();
+    const bool isAlone = thread->isAlone;
+    lock.unlock();
+    if (isAlone) {
+        delete thread;
+    }
 }
 
 /// Signals are the program's own thread's: they end its sleeps.
@@ -141,11 +149,20 @@ std::int32_t OSS_device(const OssThread* thread) {
 }
 
 void OSS_leave(OssThread** handle) {
+    constexpr OssDuration closePatience{250};
     OssThread* const thread = *handle;
     *handle = nullptr;
-    const std::lock_guard lock(thread->mutex);
+    std::unique_lock lock(thread->mutex);
+    const bool isIdle = thread->call == nullptr;
     thread->isLeft = true;
     thread->changed.notify_all();
+    thread->isAlone =
+        !isIdle || !thread->changed.wait_for(lock, closePatience, [thread] { return thread->isClosed; });
+    const bool isAlone = thread->isAlone;
+    lock.unlock();
+    if (!isAlone) {
+        delete thread;
+    }
 }
 
 } // namespace velm

@@ -43,7 +43,9 @@ std::int32_t OSS_answer(const OssThread* thread, std::int32_t* word);
 /// The descriptor of the device, negative when it is not open. No call may be under way.
 std::int32_t OSS_device(const OssThread* thread);
 
-/// Stores nullptr in the handle. The thread closes the device and ends, after the call under way.
+/// Stores nullptr in the handle. The thread closes the device and ends, after the call under way. When there
+/// is none, this waits for it a quarter of a second at most: a program that ends must not take a sound
+/// server's library away from under its thread.
 void OSS_leave(OssThread** handle);
 
 } // namespace velm
