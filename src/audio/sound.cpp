@@ -64,6 +64,15 @@ const SAMPLE* requireSineTable() {
     return sineTable;
 }
 
+/// data[i] = sign * data[axis - i] from one index to before another, all beyond half of the axis.
+void mirror(std::int32_t* data, std::int32_t axis, std::int32_t begin, std::int32_t end, std::int32_t sign) {
+    runWide([=, from = data + axis] {
+        for (std::int32_t i = begin; i < end; ++i) {
+            data[i] = sign * from[-i];
+        }
+    });
+}
+
 /// One cycle of a square wave: full scale up, 0, full scale down, 0. `next` is where the last cycle ended.
 void squareCycle(SAMPLE* sample, std::int32_t phase, std::int32_t period, std::int32_t& next) {
     const std::int32_t begin = phase >> fractionBits;
@@ -81,13 +90,63 @@ std::int32_t drawNoise() {
     return (chance() & 0xFFFF) + lowest;
 }
 
-/// Multiplies by the line from `start` by 32767 in direction `sign`, and scales back.
-///
-/// What SAMPLE_ramp over the whole sample stores, SAMPLE_multiply multiplies by and SAMPLE_shiftRight scales
-/// back, in one pass and without the ramp: before index i the line has moved by (i * height + bias) / width,
-/// rounded down. Half a unit on top of the dividend keeps the quotient off the whole numbers by more than a
-/// double's rounding, so slope and offset have the same result.
-void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
+/// The gains of a fade: the line from `start` by 32767 in direction `sign` that SAMPLE_ramp stores over a
+/// whole sample. Before index i, which is not 0, it has moved by (i * height + bias) / width, rounded down.
+/// Half a unit on top of the dividend keeps the quotient off the whole numbers by more than a double's
+/// rounding, so slope and offset have the same result.
+struct FadeLine {
+    std::int32_t start, sign;
+    double slope = 0, offset = 0;
+
+    FadeLine(std::int32_t first, std::int32_t direction, std::int32_t width) : start(first), sign(direction) {
+        constexpr std::int32_t height = highest;
+        const bool steep = width <= height;
+        const std::int32_t bias = steep ? height / 2 - height + width - 1 : width - width / 2;
+        if (width > 0) {
+            slope = double{height} / width;
+            offset = (bias + 0.5) / width;
+        }
+    }
+
+    std::int32_t gain(std::int32_t i) const {
+        return start + sign * static_cast<std::int32_t>(i * slope + offset);
+    }
+};
+
+std::int32_t scaled(std::int32_t value, std::int32_t gain) {
+    return wrapMul(value, gain) >> fractionBits;
+}
+
+void fadeOnce(std::int32_t* data, std::int32_t length, const FadeLine& line) {
+    runWide([=] {
+        for (std::int32_t i = 1; i < length; ++i) {
+            data[i] = scaled(data[i], line.gain(i));
+        }
+    });
+}
+
+/// The same so many times; the gains of a block stay at hand from time to time.
+void fadeTimes(std::int32_t* data, std::int32_t length, const FadeLine& line, std::int32_t times) {
+    runWide([=] {
+        constexpr std::int32_t block = 512;
+        for (std::int32_t first = 1, count = 0; first < length; first += count) {
+            count = std::min(block, length - first);
+            std::int32_t gains[block];
+            for (std::int32_t i = 0; i < count; ++i) {
+                gains[i] = line.gain(first + i);
+            }
+            for (std::int32_t time = 0; time < times; ++time) {
+                for (std::int32_t i = 0; i < count; ++i) {
+                    data[first + i] = scaled(data[first + i], gains[i]);
+                }
+            }
+        }
+    });
+}
+
+/// Multiplies by the line and scales back, so many times: what SAMPLE_ramp, SAMPLE_multiply and
+/// SAMPLE_shiftRight do, in one pass.
+void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign, std::int32_t times) {
     if (refused(sample == nullptr, SOUND_error)) {
         return;
     }
@@ -98,23 +157,12 @@ void fade(SAMPLE* sample, std::int32_t start, std::int32_t sign) {
         SAMPLE_shiftRight(sample, fractionBits);
         return;
     }
-    std::int32_t* const data = sample->data;
-    data[0] = wrapMul(data[0], start) >> fractionBits;
-    const std::int32_t width = sample->length - 1;
-    if (width == 0) {
-        return;
+    for (std::int32_t time = 0; time < times; ++time) {
+        sample->data[0] = scaled(sample->data[0], start);
     }
-    constexpr std::int32_t height = highest;
-    const bool steep = width <= height;
-    const std::int32_t bias = steep ? height / 2 - height + width - 1 : width - width / 2;
-    const double slope = double{height} / width;
-    const double offset = (bias + 0.5) / width;
-    runWide([=] {
-        for (std::int32_t i = 1; i <= width; ++i) {
-            const auto moved = static_cast<std::int32_t>(i * slope + offset);
-            data[i] = wrapMul(data[i], start + sign * moved) >> fractionBits;
-        }
-    });
+    const FadeLine line(start, sign, sample->length - 1);
+    times == 1 ? fadeOnce(sample->data, sample->length, line)
+               : fadeTimes(sample->data, sample->length, line, times);
 }
 
 /// Multiplies by a gain that starts at `gain` and moves by 32768 over the whole sample, in direction `sign`.
@@ -126,7 +174,7 @@ void runGain(SAMPLE* sample, std::int32_t gain, std::int32_t sign) {
     const std::int32_t step = fullMove / sample->length;
     std::int32_t moved = 0;
     for (std::int32_t i = 0; i < sample->length; ++i) {
-        sample->data[i] = wrapMul(sample->data[i], gain) >> fractionBits;
+        sample->data[i] = scaled(sample->data[i], gain);
         moved += step;
         gain += sign * (moved >> fractionBits);
         moved &= highest;
@@ -144,15 +192,20 @@ void SOUND_sine(SAMPLE* sample, std::int32_t frequency) {
         return;
     }
     // A whole number of hertz moves the phase by whole entries, so it needs no fraction, and comes back to 0
-    // after a whole number of values: from there on the wave is a copy of itself.
+    // after a whole number of values: from there on the wave is a copy of itself. From a quarter of a second
+    // on it is its own mirror image, the way the table is.
+    constexpr std::int32_t half = SAMPLE_rate / 2;
     const std::int32_t period = SAMPLE_rate / std::gcd(frequency, SAMPLE_rate);
-    const std::int32_t fresh = std::min(sample->length, period);
+    const std::int32_t once = std::min(sample->length, period);
+    const std::int32_t fresh = std::min(once, half / 2 + 1);
     for (std::int32_t i = 0, phase = 0; i < fresh; phase -= SAMPLE_rate) {
         for (; i < fresh && phase < SAMPLE_rate; phase += frequency) {
             sample->data[i++] = table->data[phase];
         }
     }
-    for (std::int32_t done = fresh; done < sample->length; done += period) {
+    mirror(sample->data, half, fresh, std::min(once, half + 1), frequency % 2 == 0 ? -1 : 1);
+    mirror(sample->data, SAMPLE_rate, half + 1, once, -1);
+    for (std::int32_t done = once; done < sample->length; done += period) {
         std::copy_n(sample->data, std::min(period, sample->length - done), sample->data + done);
     }
 }
@@ -192,11 +245,15 @@ void SOUND_noise(SAMPLE* sample, std::int32_t rate) {
 }
 
 void SOUND_fadeOut(SAMPLE* sample) {
-    fade(sample, highest, -1);
+    SOUND_fadeOutTimes(sample, 1);
+}
+
+void SOUND_fadeOutTimes(SAMPLE* sample, std::int32_t times) {
+    fade(sample, highest, -1, times);
 }
 
 void SOUND_fadeIn(SAMPLE* sample) {
-    fade(sample, 0, 1);
+    fade(sample, 0, 1, 1);
 }
 
 void SOUND_decay(SAMPLE* sample) {

@@ -35,6 +35,8 @@ void SOUND_noise(SAMPLE* sample, std::int32_t rate);
 /// Multiplies by the line from 32767 at the first value to 0 at the last, then shifts right by 15. On a
 /// sample without values SAMPLE reports the line.
 void SOUND_fadeOut(SAMPLE* sample);
+/// The same so many times, in one pass over the memory.
+void SOUND_fadeOutTimes(SAMPLE* sample, std::int32_t times);
 /// The same with the line from 0 to 32767.
 void SOUND_fadeIn(SAMPLE* sample);
 

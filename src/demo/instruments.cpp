@@ -50,16 +50,10 @@ SAMPLE* newInstrument(std::int32_t length) {
     return instrument;
 }
 
-void fadeTimes(SAMPLE* sample, std::int32_t times) {
-    for (std::int32_t i = 0; i < times; ++i) {
-        SOUND_fadeOut(sample);
-    }
-}
-
 /// Normalises, fades and hands the instrument over.
 void finish(MUSIC* music, SAMPLE* instrument, std::int32_t peak, std::int32_t fades) {
     SAMPLE_normalize(instrument, peak);
-    fadeTimes(instrument, fades);
+    SOUND_fadeOutTimes(instrument, fades);
     MUSIC_addInstrument(music, instrument);
 }
 
@@ -84,7 +78,7 @@ void addSineWithNoise(MUSIC* music, SAMPLE* scratch) {
         SOUND_fadeOut(instrument);
         for (const std::int32_t octave : {3, 4}) {
             SOUND_noise(scratch, note(i) << octave);
-            fadeTimes(scratch, 6);
+            SOUND_fadeOutTimes(scratch, 6);
             SAMPLE_add(instrument, scratch);
         }
         finish(music, instrument, 22000 - 200 * i, 1);
@@ -107,9 +101,9 @@ void addSquareWithNoise(MUSIC* music, SAMPLE* scratch) {
             SOUND_fadeOut(scratch);
             SAMPLE_add(instrument, scratch);
             SOUND_noise(scratch, note(i) << octave);
-            fadeTimes(scratch, 3);
+            SOUND_fadeOutTimes(scratch, 3);
         }
-        fadeTimes(scratch, 2);
+        SOUND_fadeOutTimes(scratch, 2);
         SAMPLE_add(instrument, scratch);
         finish(music, instrument, 28000 - 300 * i, 5);
     }
@@ -122,10 +116,10 @@ void addNoiseHat(MUSIC* music, SAMPLE* scratch) {
     for (std::int32_t i = 84; i < 96; ++i) {
         SAMPLE* const instrument = newInstrument(quarterSecond);
         SOUND_square(instrument, spikes);
-        fadeTimes(instrument, 5);
+        SOUND_fadeOutTimes(instrument, 5);
         for (const std::int32_t rate : {SAMPLE_rate, SAMPLE_rate / 2}) {
             SOUND_noise(scratch, rate);
-            fadeTimes(scratch, 5);
+            SOUND_fadeOutTimes(scratch, 5);
             SAMPLE_add(instrument, scratch);
         }
         SAMPLE_shiftRight(instrument, 2);

@@ -22,10 +22,13 @@ TEST(Sound, SineKeepsItsPitchExactly) {
         ASSERT_EQ(period->data[SAMPLE_rate / 2 - i], period->data[i]);
         ASSERT_EQ(period->data[SAMPLE_rate - i], -period->data[i]);
     }
-    const Sample high{List(1000)};
-    SOUND_sine(high, 44099);
-    for (std::int32_t i = 0; i < 1000; ++i) {
-        ASSERT_EQ(high->data[i], -period->data[i]) << "one hertz below the rate runs backwards";
+    for (const std::int32_t frequency : {2, 3, 440, 7351, 22050, 44099}) {
+        const Sample wave{List(SAMPLE_rate * 3 / 2)};
+        SOUND_sine(wave, frequency);
+        for (std::int32_t i = 0; i < wave->length; ++i) {
+            const std::int64_t phase = std::int64_t{i} * frequency % SAMPLE_rate;
+            ASSERT_EQ(wave->data[i], period->data[phase]) << frequency << " Hz at " << i;
+        }
     }
 }
 
@@ -109,6 +112,10 @@ void compareFades(std::uint32_t seed) {
             SAMPLE_shiftRight(plain, 15);
             out ? SOUND_fadeOut(s) : SOUND_fadeIn(s);
             ASSERT_EQ(SAMPLE_equals(s, plain), 1) << length << " values, out " << out << ", seed " << seed;
+            SOUND_fadeOutTimes(s, 2);
+            SOUND_fadeOut(plain);
+            SOUND_fadeOut(plain);
+            ASSERT_EQ(SAMPLE_equals(s, plain), 1) << length << " values twice more, seed " << seed;
         }
     }
 }
