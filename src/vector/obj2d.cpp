@@ -44,18 +44,28 @@ bool makeRoom(LIST* list, std::int32_t more) {
     return true;
 }
 
-/// The end of a segment where the object draws it.
-VEC2D posed(const OBJ2D& obj, const VEC2D& end) {
-    VEC2D point = end;
-    point.x = wrapMul(point.x, obj.scale->x);
-    point.y = wrapMul(point.y, obj.scale->y);
-    if (obj.angle != 0) {
-        VEC2D_rotate(&point, static_cast<std::int32_t>(obj.angle));
+/// Where an object draws the ends of its segments.
+struct Pose {
+    VEC2D position, scale;
+    std::int32_t angle;
+
+    explicit Pose(const OBJ2D& obj)
+        : position(*obj.position), scale(*obj.scale), angle(static_cast<std::int32_t>(obj.angle)) {}
+
+    VEC2D of(const VEC2D& end) const {
+        const VEC2D point = {wrapMul(end.x, scale.x), wrapMul(end.y, scale.y), end.colour};
+        return moved(angle == 0 ? point : turned(point));
     }
-    point.x = wrapAdd(point.x, obj.position->x);
-    point.y = wrapAdd(point.y, obj.position->y);
-    return point;
-}
+
+    VEC2D turned(VEC2D point) const {
+        VEC2D_rotate(&point, angle);
+        return point;
+    }
+
+    VEC2D moved(VEC2D point) const {
+        return {wrapAdd(point.x, position.x), wrapAdd(point.y, position.y), point.colour};
+    }
+};
 
 } // namespace
 
@@ -130,14 +140,15 @@ void OBJ2D_draw(const OBJ2D* obj, IMG* img) {
     if (refused(!isWhole(obj) || img == nullptr, OBJ2D_error)) {
         return;
     }
+    const Pose pose(*obj);
     for (std::int32_t i = obj->segments->count - 1; i >= 0; --i) {
         const SEG2D* segment = segmentAt(*obj, i);
         if (segment == nullptr || segment->a == nullptr || segment->b == nullptr) {
             OBJ2D_error();
             continue;
         }
-        const VEC2D a = posed(*obj, *segment->a);
-        const VEC2D b = posed(*obj, *segment->b);
+        const VEC2D a = pose.of(*segment->a);
+        const VEC2D b = pose.of(*segment->b);
         IMG_drawLine(img, a.x, a.y, b.x, b.y, a.colour);
     }
 }

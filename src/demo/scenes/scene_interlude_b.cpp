@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <utility>
 
 namespace velm {
 
@@ -63,11 +64,15 @@ void colourView() {
     // VELM4030_meshHuesStretch: one expects a row's links to share its hue; the rows are counted as if right
     // and down links alternated, while all right links come first, so the bands stretch over the mesh.
     const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
+    std::array<std::uint32_t, mostColumns> colours; // of two rows that follow each other
     for (std::int32_t q = 0; q < 2 * settings.meshRows; ++q) {
         const std::int32_t rowHue = wrapAdd(wrapMul(10, frame), columns() * (q / 2) / 4);
         for (std::int32_t c = 0; c < columns(); ++c) {
-            const std::int32_t hue = wrapAdd(rowHue, settings.meshRows * c / 4) % hueCount;
-            const auto colour = static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
+            std::uint32_t& colour = colours[static_cast<std::size_t>(c)];
+            if (q % 2 == 0) {
+                const std::int32_t hue = wrapAdd(rowHue, settings.meshRows * c / 4) % hueCount;
+                colour = static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
+            }
             if (SEG2D* const segment = segmentOf(demo.meshView, columns() * q + c); segment != nullptr) {
                 segment->a->colour = colour;
                 segment->b->colour = colour;
@@ -76,9 +81,10 @@ void colourView() {
     }
 }
 
-/// Draws the mesh as the frame before deformed it.
+/// Draws the mesh as the frame before deformed it. Mesh and view take turns instead of being copied: every
+/// colour of the view and every point of the mesh are about to be written anew.
 void drawMesh() {
-    OBJ2D_copy(demo.mesh, demo.meshView);
+    std::swap(demo.mesh, demo.meshView);
     colourView();
     demo.meshView->position->x =
         settings.windowWidth / 2 + (columns() + settings.meshRows) * settings.meshStepX / 2;
