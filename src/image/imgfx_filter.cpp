@@ -34,11 +34,11 @@ void readRow(const IMG& img, std::int64_t first, std::int64_t y, std::span<std::
     const bool hasRow = y >= 0 && y < img.height;
     const std::int64_t begin = hasRow ? std::clamp<std::int64_t>(-first, 0, size) : size;
     const std::int64_t end = std::clamp<std::int64_t>(img.width - first, begin, size);
-    std::fill(to.begin(), to.begin() + begin, 0);
+    std::fill_n(to.data(), begin, 0);
     if (begin < end) {
-        std::copy_n(img.pixels + y * img.width + first + begin, end - begin, to.begin() + begin);
+        std::copy_n(img.pixels + y * img.width + first + begin, end - begin, to.data() + begin);
     }
-    std::fill(to.begin() + end, to.end(), 0);
+    std::fill_n(to.data() + end, size - end, 0);
 }
 
 constexpr std::int64_t filterBlock = 256; ///< pixels that are filtered at a time
