@@ -4,6 +4,10 @@
 // The tutorial's effect on the demo's screen.
 #include "demo/demo_run.h"
 #include "demo/scenes.h"
+#include "effects/plasma.h"
+#include "foundation/chance.h"
+#include "support/flashes.h"
+#include "support/images.h"
 #include "support/owned.h"
 
 #include <set>
@@ -27,6 +31,22 @@ TEST(Tutorial, TheSceneShowsAMovingSeaUntilSpace) {
         EXPECT_GT(frame.size(), 100U);
     }
     EXPECT_GT(std::set(middles.begin(), middles.end()).size(), 10U);
+}
+
+// Whatever came before the scene and drew random numbers, the sea is harmless.
+TEST(Tutorial, NoSeaFlashes) {
+    const Picture shown(IMG_newSized(256, 256));
+    for (const std::uint32_t seed : {3U, 4U, 6U, 24U, 29U}) {
+        chanceSeed(seed);
+        const Owned<PLASMA_delete> sea(PLASMA_new());
+        FlashMeter meter;
+        for (std::int32_t frame = 0; frame < 300; ++frame) {
+            PLASMA_advance(sea);
+            PLASMA_draw(sea, shown);
+            meter.frame(*shown);
+        }
+        EXPECT_LE(meter.worst(60).flashes, 3) << "seed " << seed;
+    }
 }
 
 } // namespace

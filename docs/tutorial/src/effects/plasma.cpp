@@ -16,9 +16,9 @@ std::uint8_t PLASMA_verbose = 0;
 
 namespace {
 
-/// One of -4..-1 and 1..4; draws the size first, then the sign.
-std::int32_t drawStep() {
-    const std::int32_t size = chance() % 4 + 1;
+/// One of -most..-1 and 1..most; draws the size first, then the sign.
+std::int32_t drawStep(std::int32_t most) {
+    const std::int32_t size = chance() % most + 1;
     const std::int32_t sign = 2 * (chance() % 2) - 1;
     return sign * size;
 }
@@ -34,6 +34,9 @@ std::uint32_t channelAt(std::int32_t place, std::int32_t phase) {
 constexpr std::int32_t bendShift = 6;
 /// Three waves together reach 98298, so the ring is gone through three times from trough to crest.
 constexpr std::int32_t heightShift = 8;
+
+constexpr std::int32_t fastest = 2; ///< twice as fast, some seas flash more than three times a second
+constexpr std::int32_t steepest = 4;
 
 } // namespace
 
@@ -51,9 +54,9 @@ void PLASMA_randomize(PLASMA* plasma) {
     }
     for (PLASMA_WAVE& wave : plasma->waves) {
         wave.phase = chance() & SINE_tableMask;
-        wave.speed = drawStep();
-        wave.across = drawStep();
-        wave.down = drawStep();
+        wave.speed = drawStep(fastest);
+        wave.across = drawStep(steepest);
+        wave.down = drawStep(steepest);
     }
     // Less than a third of a turn apart, the channels share a dark stretch of the ring.
     constexpr std::int32_t thirdTurn = SINE_tableLength / 3;

@@ -23,7 +23,7 @@ inline constexpr std::int32_t PLASMA_colourCount = 256;
 /// Angles in 1/1024 turns.
 struct PLASMA_WAVE {
     std::int32_t phase;  ///< at pixel (0, 0), 0..1023; random
-    std::int32_t speed;  ///< added to `phase` a frame; random, -4..-1 and 1..4
+    std::int32_t speed;  ///< added to `phase` a frame; random, -2, -1, 1 or 2
     std::int32_t across; ///< added from pixel to pixel; random, -4..-1 and 1..4
     std::int32_t down;   ///< added from row to row; random, -4..-1 and 1..4
 };
