@@ -66,9 +66,9 @@ const SAMPLE* requireSineTable() {
 
 /// data[i] = sign * data[axis - i] from one index to before another, all beyond half of the axis.
 void mirror(std::int32_t* data, std::int32_t axis, std::int32_t begin, std::int32_t end, std::int32_t sign) {
-    runWide([=, from = data + axis] {
+    runWide([=] {
         for (std::int32_t i = begin; i < end; ++i) {
-            data[i] = sign * from[-i];
+            data[i] = sign * data[axis - i];
         }
     });
 }
