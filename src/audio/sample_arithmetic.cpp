@@ -30,15 +30,19 @@ void change(SAMPLE* sample, Operation operation) {
     });
 }
 
+/// How far both reach, where both have data; otherwise -1, reported.
+std::int32_t commonLength(const SAMPLE* a, const SAMPLE* b) {
+    return refused(!hasData(a) || !hasData(b), SAMPLE_error) ? -1 : std::min(a->length, b->length);
+}
+
 /// a[i] = operation(a[i], b[i]) as far as both reach; reported when one has no data.
 template <typename Operation>
 void combine(SAMPLE* a, const SAMPLE* b, Operation operation) {
-    if (refused(!hasData(a) || !hasData(b), SAMPLE_error)) {
-        return;
+    if (const std::int32_t length = commonLength(a, b); length > 0) {
+        runWide([to = a->data, from = b->data, length, operation] {
+            std::transform(to, to + length, from, to, operation);
+        });
     }
-    runWide([to = a->data, from = b->data, length = std::min(a->length, b->length), operation] {
-        std::transform(to, to + length, from, to, operation);
-    });
 }
 
 // A truncated quotient is a product with a factor that is a little more than the exact one, in magnitude:
@@ -81,26 +85,33 @@ struct Ratio {
     }
 };
 
-/// use(i, values[i] * n / d) for so many values, in order.
-template <typename Use>
-void forEachQuotient(const std::int32_t* values, std::int64_t length, std::int32_t n, std::int32_t d,
-                     Use use) {
-    runWide([=, ratio = Ratio(n, d), divider = Divider(d)] {
+/// to[i] += from[i] * n / d for so many values, on any processor.
+void addQuotients(std::int32_t* to, const std::int32_t* from, std::int64_t length, std::int32_t n,
+                  Divider divider) {
+    for (std::int64_t i = 0; i < length; ++i) {
+        to[i] = wrapAdd(to[i], divider.quotient(wrapMul(from[i], n)));
+    }
+}
+
+/// The same, block by block, where the values allow it.
+void addRatios(std::int32_t* to, const std::int32_t* from, std::int64_t length, std::int32_t n,
+               std::int32_t d) {
+    if (!wideRegisters) {
+        addQuotients(to, from, length, n, Divider(d));
+        return;
+    }
+    runOnWideRegisters([=, ratio = Ratio(n, d), divider = Divider(d)] {
         std::int64_t first = 0;
         for (; first + Ratio::block <= length; first += Ratio::block) {
-            if (ratio.isExactFor(values + first)) {
-                for (std::int64_t i = first; i < first + Ratio::block; ++i) {
-                    use(i, ratio.quotient(values[i]));
-                }
-            } else {
-                for (std::int64_t i = first; i < first + Ratio::block; ++i) {
-                    use(i, divider.quotient(wrapMul(values[i], n)));
-                }
+            if (!ratio.isExactFor(from + first)) {
+                addQuotients(to + first, from + first, Ratio::block, n, divider);
+                continue;
+            }
+            for (std::int64_t i = first; i < first + Ratio::block; ++i) {
+                to[i] = wrapAdd(to[i], ratio.quotient(from[i]));
             }
         }
-        for (; first < length; ++first) {
-            use(first, divider.quotient(wrapMul(values[first], n)));
-        }
+        addQuotients(to + first, from + first, length - first, n, divider);
     });
 }
 
@@ -125,15 +136,16 @@ void SAMPLE_multiply(SAMPLE* a, const SAMPLE* b) {
 }
 
 void SAMPLE_mixScaled(SAMPLE* a, const SAMPLE* b, std::int32_t n, std::int32_t d) {
-    if (refused(d == 0 || !hasData(a) || !hasData(b), SAMPLE_error)) {
+    if (refused(d == 0, SAMPLE_error)) {
         return;
     }
     if (d == -1) {
         combine(a, b, [n](std::int32_t x, std::int32_t y) { return wrapSub(x, wrapMul(y, n)); });
         return;
     }
-    forEachQuotient(b->data, std::min(a->length, b->length), n, d,
-                    [to = a->data](std::int64_t i, std::int32_t part) { to[i] = wrapAdd(to[i], part); });
+    if (const std::int32_t length = commonLength(a, b); length > 0) {
+        addRatios(a->data, b->data, length, n, d);
+    }
 }
 
 void SAMPLE_mixFixed(SAMPLE* a, const SAMPLE* b, std::int32_t f) {
@@ -146,15 +158,14 @@ void SAMPLE_scale(SAMPLE* sample, std::int32_t factor) {
 }
 
 void SAMPLE_divide(SAMPLE* sample, std::int32_t divisor) {
-    if (refused(divisor == 0 || !hasData(sample), SAMPLE_error)) {
+    if (refused(divisor == 0, SAMPLE_error)) {
         return;
     }
     if (divisor == -1) {
         SAMPLE_scale(sample, -1);
         return;
     }
-    forEachQuotient(sample->data, sample->length, 1, divisor,
-                    [data = sample->data](std::int64_t i, std::int32_t quotient) { data[i] = quotient; });
+    change(sample, [divider = Divider(divisor)](std::int32_t value) { return divider.quotient(value); });
 }
 
 void SAMPLE_shiftRight(SAMPLE* sample, std::int32_t count) {

@@ -96,12 +96,18 @@ inline std::int64_t addWholeBlocks(const std::uint32_t*, std::uint32_t*, std::in
 
 #endif
 
-/// combineBytes(from, to, count, byteSum), quicker. Where a write changes what is read later, it is just
-/// that.
+/// combineBytes(from, to, count, byteSum), once for all who need it.
+[[gnu::noinline]] inline void addPlainly(const std::uint32_t* from, std::uint32_t* to, std::int64_t count) {
+    combineBytes(from, to, count, byteSum);
+}
+
+/// The same, quicker where the processor can and no write changes what is read later.
 inline void addBytes(const std::uint32_t* from, std::uint32_t* to, std::int64_t count) {
     const bool readsItsOwn = from < to && to < from + count;
     const std::int64_t done = wideRegisters && !readsItsOwn ? addWholeBlocks(from, to, count) : 0;
-    combineBytes(from + done, to + done, count - done, byteSum);
+    if (done < count) {
+        addPlainly(from + done, to + done, count - done);
+    }
 }
 
 /// to[i] = rule(colour, to[i]) for each channel of `count` pixels.
