@@ -19,7 +19,7 @@ test_web() {
     cmake --build --preset release --target velm4030-capture velm_dev -- --quiet
     cmake --preset web >/dev/null
     cmake --build --preset web -- --quiet
-    npm install --prefix build/web --no-save --no-audit --no-fund --silent axe-core@4.14.1
+    npm install --prefix build/web --no-save --no-audit --no-fund --loglevel error axe-core@4.14.1
     exec ctest --preset web
 }
 

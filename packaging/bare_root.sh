@@ -18,6 +18,12 @@ root=$(mktemp -d)
 trap 'rm -rf --one-file-system "$root"' EXIT
 mmdebstrap --quiet --variant=apt --include=git,ca-certificates "$suite" "$root"
 cp /etc/resolv.conf "$root/etc/resolv.conf"
+# npm trusts there whom it trusts here.
+trusted=
+if [ -n "${NODE_EXTRA_CA_CERTS:-}" ]; then
+    cp "$NODE_EXTRA_CA_CERTS" "$root/root/trusted.pem"
+    trusted=NODE_EXTRA_CA_CERTS=/root/trusted.pem
+fi
 git clone -q --bare . "$root/srv/velm4030.git"
 
 cat >"$root/root/hour.sh" <<'END'
@@ -52,6 +58,6 @@ END
 # Processes of the root end with it; its mounts, too.
 # shellcheck disable=SC2016
 in_root='mount --rbind /dev "$1/dev" && mount -t proc proc "$1/proc" && mount -t sysfs sysfs "$1/sys" &&
-    exec env -i HOME=/root LANG=C.UTF-8 PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin:/usr/games \
+    exec env -i $2 HOME=/root LANG=C.UTF-8 PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin:/usr/games \
         chroot "$1" bash /root/hour.sh'
-unshare --mount --pid --fork bash -c "$in_root" bash "$root" | tee "$folder/$suite.log"
+unshare --mount --pid --fork bash -c "$in_root" bash "$root" "$trusted" | tee "$folder/$suite.log"
