@@ -37,7 +37,8 @@ function(velm_page target)
   target_link_options(${target} PRIVATE
     -sMODULARIZE=1 -sEXPORT_NAME=makeVelm -sENVIRONMENT=web -sFILESYSTEM=0 -sINVOKE_RUN=0 -sALLOW_MEMORY_GROWTH=1
     -sEXPORTED_FUNCTIONS=${exports} -sEXPORTED_RUNTIME_METHODS=callMain,UTF8ToString,stringToUTF8
-    -sASYNCIFY=1 -sASYNCIFY_IMPORTS=browserWaitForDisplay,browserWait -sASYNCIFY_STACK_SIZE=16384 ${waits})
+    -sASYNCIFY=1 -sASYNCIFY_IMPORTS=browserWaitForDisplay,browserWait -sASYNCIFY_STACK_SIZE=16384 ${waits}
+    -sTOTAL_STACK=5242880) # newer emscripten gives 65536 by itself
   set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}"
     LINK_DEPENDS "${machine}/browser.js")
 
