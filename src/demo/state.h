@@ -96,7 +96,7 @@ struct DemoState {
     std::int32_t dirSelection; ///< the selected entry of dirListing
     BALL3D* ball;              ///< made by the first interlude A
     OBJ2D* mesh;               ///< the grid of interlude B, made by its first run
-    OBJ2D* meshView;           ///< its coloured copy, drawn
+    OBJ2D* meshView;           ///< its segments, placed in the window
     SINEDOTS* dots;            ///< exists while the default scene runs
     std::int32_t framesLeft;   ///< after so many frames the scene ends as if Space was pressed; 0: by itself
     std::uint8_t control;      ///< controlExit, controlNextPart

@@ -24,13 +24,11 @@ void walkLine(std::int64_t major, std::int64_t minor, std::int64_t alongStep, st
     std::int64_t place = 0;
     for (std::int64_t left = major; left >= 0; --left) {
         plot(place);
-        // Both ways on are computed, and one is chosen without a jump: a processor guesses wrongly at every
-        // other one.
+        // Without a jump, for a processor guesses wrongly at every other one.
         const std::int64_t straight = error - minor;
-        const std::int64_t aside = error + (major - minor);
-        const std::int64_t stepAside = place + (alongStep + acrossStep);
-        place = straight < 0 ? stepAside : place + alongStep;
-        error = straight < 0 ? aside : straight;
+        const std::int64_t isAside = straight >> 63; // all bits or none
+        place += alongStep + (acrossStep & isAside);
+        error = straight + (major & isAside);
     }
 }
 

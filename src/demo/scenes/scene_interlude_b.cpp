@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <utility>
 
 namespace velm {
 
@@ -36,7 +35,7 @@ SEG2D* segmentOf(const OBJ2D* obj, std::int32_t index) {
     return static_cast<SEG2D*>(LIST_get(obj->segments, index));
 }
 
-/// Two segments a cell: its link to the right and its link down.
+/// Two segments a cell: its link to the right and its link down. The view poses the mesh's own segments.
 void makeMesh() {
     const std::int32_t count = 2 * settings.meshRows * columns();
     demo.mesh = OBJ2D_new();
@@ -48,7 +47,10 @@ void makeMesh() {
         }
         (void)segment.release(); // the mesh has taken it over
     }
-    demo.meshView = OBJ2D_clone(demo.mesh);
+    demo.meshView = demo.mesh == nullptr ? nullptr : OBJ2D_new();
+    for (std::int32_t i = 0; demo.meshView != nullptr && i < count; ++i) {
+        OBJ2D_addSegment(demo.meshView, segmentOf(demo.mesh, i));
+    }
 }
 
 /// Draws a wave anew: each field takes chance() AND its mask, plus its least value.
@@ -64,16 +66,18 @@ void colourView() {
     // VELM4030_meshHuesStretch: one expects a row's links to share its hue; the rows are counted as if right
     // and down links alternated, while all right links come first, so the bands stretch over the mesh.
     const auto frame = static_cast<std::int32_t>(demo.fps->frameCount);
+    const std::int32_t width = columns();
+    const std::int32_t height = settings.meshRows;
     std::array<std::uint32_t, mostColumns> colours; // of two rows that follow each other
-    for (std::int32_t q = 0; q < 2 * settings.meshRows; ++q) {
-        const std::int32_t rowHue = wrapAdd(wrapMul(10, frame), columns() * (q / 2) / 4);
-        for (std::int32_t c = 0; c < columns(); ++c) {
+    for (std::int32_t q = 0; q < 2 * height; ++q) {
+        const std::int32_t rowHue = wrapAdd(wrapMul(10, frame), width * (q / 2) / 4);
+        for (std::int32_t c = 0; c < width; ++c) {
             std::uint32_t& colour = colours[static_cast<std::size_t>(c)];
             if (q % 2 == 0) {
-                const std::int32_t hue = wrapAdd(rowHue, settings.meshRows * c / 4) % hueCount;
+                const std::int32_t hue = wrapAdd(rowHue, height * c / 4) % hueCount;
                 colour = static_cast<std::uint32_t>(SAMPLE_get(demo.hueRamp, hue));
             }
-            if (SEG2D* const segment = segmentOf(demo.meshView, columns() * q + c); segment != nullptr) {
+            if (SEG2D* const segment = segmentOf(demo.meshView, width * q + c); segment != nullptr) {
                 segment->a->colour = colour;
                 segment->b->colour = colour;
             }
@@ -81,10 +85,8 @@ void colourView() {
     }
 }
 
-/// Draws the mesh as the frame before deformed it. Mesh and view take turns instead of being copied: every
-/// colour of the view and every point of the mesh are about to be written anew.
+/// Draws the mesh as the frame before deformed it.
 void drawMesh() {
-    std::swap(demo.mesh, demo.meshView);
     colourView();
     demo.meshView->position->x =
         settings.windowWidth / 2 + (columns() + settings.meshRows) * settings.meshStepX / 2;
@@ -119,6 +121,7 @@ void joinPoints(std::int32_t index, GridPoint from, GridPoint to) {
 /// Lays the segments between the lifted points: all links to the right first, then all links down. The last
 /// of a row or column links a point to itself.
 void deformMesh() {
+    const std::int32_t width = columns();
     const std::int32_t rows = settings.meshRows;
     std::array<GridRow, 2> lifted; // this row and the next, in turns
     liftRow(lifted[0], 0);
@@ -129,11 +132,11 @@ void deformMesh() {
         if (!isLast) {
             liftRow(next, r + 1);
         }
-        for (std::int32_t c = 0; c < columns(); ++c) {
+        for (std::int32_t c = 0; c < width; ++c) {
             const auto at = static_cast<std::size_t>(c);
-            const GridPoint right = points[static_cast<std::size_t>(std::min(c + 1, columns() - 1))];
-            joinPoints(columns() * r + c, points[at], right);
-            joinPoints(columns() * (rows + r) + c, points[at], isLast ? points[at] : next[at]);
+            const GridPoint right = points[static_cast<std::size_t>(std::min(c + 1, width - 1))];
+            joinPoints(width * r + c, points[at], right);
+            joinPoints(width * (rows + r) + c, points[at], isLast ? points[at] : next[at]);
         }
     }
 }

@@ -21,11 +21,13 @@ void drop(Record*& record, void (*deleteRecord)(Record**)) {
     }
 }
 
-void dropMesh(OBJ2D*& mesh) {
-    if (mesh != nullptr) {
-        OBJ2D_deleteSegments(mesh);
-        OBJ2D_delete(&mesh);
+/// Mesh and view have the same segments.
+void dropMesh() {
+    if (demo.mesh != nullptr) {
+        OBJ2D_deleteSegments(demo.mesh);
     }
+    drop(demo.mesh, OBJ2D_delete);
+    drop(demo.meshView, OBJ2D_delete);
 }
 
 /// True for a line that is read rather than looked at: long, and made of letters for the most part.
@@ -73,8 +75,7 @@ void dropShared() {
     drop(demo.rastersSecond, RASTER_delete);
     drop(demo.palette, SAMPLE_delete);
     drop(demo.ball, BALL3D_delete);
-    dropMesh(demo.mesh);
-    dropMesh(demo.meshView);
+    dropMesh();
 }
 
 ScrollText::ScrollText(std::int32_t y) {
