@@ -23,7 +23,6 @@ namespace velm::test {
 struct Put {
     std::uint32_t brightest; ///< the largest of its pixels
     double milliseconds;     ///< since the process began
-    double worked;           ///< those of them in which it had a processor
 };
 
 /// The finished program, started on a server of its own with the spy preloaded.
@@ -40,9 +39,8 @@ protected:
         std::vector<Put> all;
         std::string word;
         double milliseconds = 0;
-        double worked = 0;
-        while (log >> word >> milliseconds >> worked) {
-            all.push_back({static_cast<std::uint32_t>(std::stoul(word, nullptr, 16)), milliseconds, worked});
+        while (log >> word >> milliseconds) {
+            all.push_back({static_cast<std::uint32_t>(std::stoul(word, nullptr, 16)), milliseconds});
         }
         return all;
     }
@@ -57,19 +55,6 @@ protected:
     [[nodiscard]] Child anotherDemo() const {
         std::filesystem::resize_file(spyLog, 0);
         return {{VELM_PROGRAM}, spied(server.display(), spyLog, additions)};
-    }
-
-    /// The smallest `time` of the first pictures of five starts: a busy machine or a cold disk spoils some.
-    double leastToFirstPicture(double Put::*time) {
-        double least = eventually([this] { return !puts().empty(); }) ? puts().front().*time : 1e9;
-        demo.signal(SIGKILL);
-        demo.waitForExit();
-        for (int start = 1; start < 5; ++start) {
-            const Child again = anotherDemo();
-            EXPECT_TRUE(eventually([this] { return !puts().empty(); })) << again.errors();
-            least = std::min(least, puts().front().*time);
-        }
-        return least;
     }
 
     /// Waits until no picture comes any more.
