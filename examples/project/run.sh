@@ -18,8 +18,15 @@ build() {
     }
 }
 
+# Ends unless the program is there, which comes with the Debian package.
+need() { # PROGRAM PACKAGE
+    command -v "$1" >/dev/null || { echo "This needs $2; as root: apt-get install $2" >&2 && exit 1; }
+}
+
 film() {
     local work
+    need ffmpeg ffmpeg
+    build
     work=$(mktemp -d)
     # shellcheck disable=SC2064
     trap "rm -r '$work'" EXIT
@@ -33,7 +40,7 @@ page() {
     local library
     library=$(command -v velm4030-new) || { echo 'Where is libvelm? VELM_PREFIX=FOLDER tells.' >&2 && exit 1; }
     library=$(dirname "$(dirname "$(realpath "$library")")")
-    command -v em++ >/dev/null || { echo 'This needs emscripten; as root: apt-get install emscripten' >&2 && exit 1; }
+    need em++ emscripten
     # Debian's emscripten has parts of its own in the system's folder for node.
     export NODE_PATH=/usr/share/nodejs${NODE_PATH:+:$NODE_PATH}
     build build/page --toolchain "$library/share/velm4030/web/emscripten.cmake"
@@ -44,7 +51,7 @@ case ${1:-play} in
 play) build && exec "build/@NAME@" ;;
 live) exec velm4030-live src/main.cpp src/rings.cpp ;;
 test) build && ctest --test-dir build --output-on-failure ;;
-film) build && film "${2:-10}" ;;
+film) film "${2:-10}" ;;
 page) page ;;
 *) sed -n '2,/^set/{/^# /s/^# //p}' "$0" >&2 && exit 2 ;;
 esac
