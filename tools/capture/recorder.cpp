@@ -54,8 +54,8 @@ bool Recorder::isReady() const {
 }
 
 void Recorder::frame(const IMG& img) {
-    const std::vector<std::byte> bytes = lowByteFirst<std::uint32_t>(pixelsOf(img));
-    const Frame frame{++frames, img, bytes, headless.micros};
+    std::vector<std::uint32_t> turned;
+    const Frame frame{++frames, img, bytesOf<std::uint32_t>(pixelsOf(img), turned), headless.micros};
     for (const auto& output : outputs) {
         if (isOpen(output)) {
             output->frame(frame);

@@ -36,9 +36,9 @@ bool Soundtrack::finish(std::int64_t samples) {
 }
 
 bool Soundtrack::write(std::span<const std::int16_t> samples) {
-    const std::vector<std::byte> bytes = louderBytes(samples, factor);
-    written += static_cast<std::int64_t>(samples.size());
-    return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    const std::vector<std::int16_t> words = louderWords(samples, factor);
+    written += static_cast<std::int64_t>(words.size());
+    return std::fwrite(words.data(), sizeof words[0], words.size(), file) == words.size();
 }
 
 bool Soundtrack::addSilenceUpTo(std::int64_t samples) {

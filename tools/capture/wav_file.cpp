@@ -12,9 +12,9 @@ WavFile::WavFile(const std::string& path, std::uint64_t mostDataBytes, double ga
 }
 
 void WavFile::sound(const Block& block) {
-    const std::vector<std::byte> bytes = louderBytes(block.samples, factor);
-    file.write(bytes);
-    dataBytes += bytes.size();
+    const std::vector<std::int16_t> words = louderWords(block.samples, factor);
+    file.write(std::as_bytes(std::span(words)));
+    dataBytes += block.samples.size_bytes();
 }
 
 void WavFile::finish(std::int64_t) {
