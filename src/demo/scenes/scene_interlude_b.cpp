@@ -50,6 +50,9 @@ void makeMesh() {
     demo.meshView = demo.mesh == nullptr ? nullptr : OBJ2D_new();
     for (std::int32_t i = 0; demo.meshView != nullptr && i < count; ++i) {
         OBJ2D_addSegment(demo.meshView, segmentOf(demo.mesh, i));
+        if (demo.meshView->segments->count == i) {
+            OBJ2D_delete(&demo.meshView); // there is no room for it in the view
+        }
     }
 }
 
