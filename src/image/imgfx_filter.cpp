@@ -11,8 +11,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <limits>
 #include <span>
+#include <type_traits>
 
 namespace velm {
 
@@ -28,8 +29,10 @@ bool canFilter(const IMG* src, const IMG* dst) {
     return !refused(!canBlit(src, dst) || src == dst || src->pixels == dst->pixels, IMGFX_error);
 }
 
-/// The pixels from `first` on of row y; what lies outside the image is black.
-void readRow(const IMG& img, std::int64_t first, std::int64_t y, std::span<std::uint32_t> to) {
+/// The pixels from `first` on of row y; what lies outside the image is black. Not a part of every loop that
+/// calls it, which are many: it copies, as memcpy does.
+[[gnu::noinline]] void readRow(const IMG& img, std::int64_t first, std::int64_t y,
+                               std::span<std::uint32_t> to) {
     const auto size = static_cast<std::int64_t>(to.size());
     const bool hasRow = y >= 0 && y < img.height;
     const std::int64_t begin = hasRow ? std::clamp<std::int64_t>(-first, 0, size) : size;
@@ -45,15 +48,20 @@ constexpr std::int64_t filterBlock = 256; ///< pixels that are filtered at a tim
 
 /// Calls filter(y, destination row, pixels) for the rows and pixels that src and dst share, or reports.
 template <typename Filter>
-void filterRows(const IMG* src, IMG* dst, Filter filter) {
+void filterRowsPlainly(const IMG* src, IMG* dst, Filter filter) {
     if (!canFilter(src, dst)) {
         return;
     }
-    runWide([=, width = std::min(src->width, dst->width), height = std::min(src->height, dst->height)] {
-        for (std::int64_t y = 0; y < height; ++y) {
-            filter(y, dst->pixels + y * dst->width, width);
-        }
-    });
+    const std::int32_t width = std::min(src->width, dst->width);
+    for (std::int64_t y = 0; y < std::min(src->height, dst->height); ++y) {
+        filter(y, dst->pixels + y * dst->width, width);
+    }
+}
+
+/// The same on wide registers, where there are some.
+template <typename Filter>
+void filterRows(const IMG* src, IMG* dst, Filter filter) {
+    runWide([=] { filterRowsPlainly(src, dst, filter); });
 }
 
 /// Asks for the memory of the block after x, so that it is there when its turn comes.
@@ -102,76 +110,103 @@ constexpr std::uint32_t keptBits(std::uint32_t shift) {
     return (0xFFU >> shift) * 0x010101U;
 }
 
-/// The channels of a block's pixels, a word each.
-using Channels = std::array<std::uint32_t, filterBlock * pixelBytes>;
-
-/// The channels of `count` pixels from `first` on of row y.
-void readChannels(const IMG& img, std::int64_t first, std::int64_t y, std::int64_t count, Channels& to) {
-    std::uint32_t pixels[filterBlock];
-    readRow(img, first, y, std::span(pixels, static_cast<std::size_t>(count)));
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(pixels);
-    for (std::int64_t k = 0; k < count * pixelBytes; ++k) {
-        to[static_cast<std::size_t>(k)] = bytes[k];
+/// The channels of `count` pixels from `first` on of row y: the image's own, or, where there are none,
+/// `copy`.
+const std::uint8_t* channelsAt(const IMG& img, std::int64_t first, std::int64_t y, std::int64_t count,
+                               std::span<std::uint32_t> copy) {
+    if (first >= 0 && first + count <= img.width) {
+        return reinterpret_cast<const std::uint8_t*>(img.pixels + y * img.width + first);
     }
+    readRow(img, first, y, copy.first(static_cast<std::size_t>(count)));
+    return reinterpret_cast<const std::uint8_t*>(copy.data());
 }
 
-/// Two channels in one number, which is added up as they are: what one borrows from the other it gives back.
-std::uint64_t pairAt(const Channels& channels, std::int64_t pair) {
-    std::uint64_t both = 0;
-    std::memcpy(&both, &channels[static_cast<std::size_t>(2 * pair)], sizeof both);
-    return both;
-}
+/// Sums of a block, channel by channel. A lane is as wide as the largest of them.
+template <typename Lane>
+using Sums = std::array<Lane, filterBlock * pixelBytes>;
 
-void setPair(Channels& channels, std::int64_t pair, std::uint64_t both) {
-    std::memcpy(&channels[static_cast<std::size_t>(2 * pair)], &both, sizeof both);
-}
-
-/// The sums of 2 * radius + 1 pixels, channel by channel, as they slide along a row.
-class SlidingSums {
-public:
-    SlidingSums(const IMG& img, std::int64_t row, std::int64_t radius) : source(img), y(row), reach(radius) {
-        for (std::int64_t x = 0; x < std::min<std::int64_t>(reach, img.width); x += filterBlock) {
-            const std::int64_t count = std::min<std::int64_t>(filterBlock, reach - x);
-            Channels entering;
-            readChannels(source, x, y, count, entering);
-            for (std::int64_t i = 0; i < count; ++i) {
-                first += pairAt(entering, 2 * i);
-                second += pairAt(entering, 2 * i + 1);
-            }
-        }
-    }
-
-    /// The sums around `count` pixels from x on, block after block: each is the one before, plus what comes
-    /// in, less what goes.
-    void slide(std::int64_t x, std::int64_t count, Channels& sums) {
-        Channels leaving;
-        readChannels(source, x + reach, y, count, sums);
-        readChannels(source, x - reach - 1, y, count, leaving);
-        for (std::int64_t i = 0; i < 2 * count; i += 2) {
-            first += pairAt(sums, i) - pairAt(leaving, i);
-            second += pairAt(sums, i + 1) - pairAt(leaving, i + 1);
-            setPair(sums, i, first);
-            setPair(sums, i + 1, second);
-        }
-    }
-
-private:
-    const IMG& source;
+/// The sums of the pixels of a row that are at most `reach` away, channel by channel, as they slide along it:
+/// each is the one before, plus what comes in, less what goes. They begin at -reach, where all is black yet.
+template <typename Lane>
+struct SlidingSums {
+    const IMG& img;
     std::int64_t y, reach;
-    std::uint64_t first = 0, second = 0;
+    std::array<Lane, pixelBytes> sum{};
+
+    /// The sums of `count` pixels from x on, where those before ended.
+    void slide(std::int64_t x, std::int64_t count, Sums<Lane>& sums) {
+        std::uint32_t copies[2][filterBlock];
+        const std::uint8_t* const entering = channelsAt(img, x + reach, y, count, copies[0]);
+        const std::uint8_t* const leaving = channelsAt(img, x - reach - 1, y, count, copies[1]);
+        Lane* const to = sums.data();
+        for (std::int64_t k = 0; k < count * pixelBytes; ++k) {
+            to[k] = static_cast<Lane>(entering[k] - leaving[k]);
+        }
+        addUp(to, count);
+    }
+
+    /// Puts the sums of all so far in place of what changes from pixel to pixel.
+    void addUp(Lane* changes, std::int64_t count) {
+        std::array<Lane, pixelBytes> running = sum;
+#pragma GCC unroll 8
+        for (std::int64_t i = 0; i < count; ++i) {
+            for (std::size_t c = 0; c < pixelBytes; ++c) {
+                running[c] = static_cast<Lane>(running[c] + changes[c]);
+                changes[c] = running[c];
+            }
+            changes += pixelBytes;
+        }
+        sum = running;
+    }
 };
 
-/// sum / taps, rounded down: the sum and a half times the reciprocal. The half keeps the quotient, at most
-/// 255, off the whole numbers by more than the rounding of a float.
-void storeMeans(const Channels& sums, float reciprocal, std::uint32_t* to, std::int64_t count) {
+/// Divides sums by a number of taps. The reciprocal is cut, so that its product with a sum gives the quotient
+/// or one less, which the remainder tells.
+template <typename Lane>
+struct Mean {
+    Lane taps, reciprocal;
+
+    explicit Mean(std::int32_t count)
+        : taps(static_cast<Lane>(count)),
+          reciprocal(static_cast<Lane>(std::numeric_limits<Lane>::max() / taps)) {}
+
+    Lane operator()(Lane sum) const {
+        using Product = std::conditional_t<sizeof(Lane) == 2, std::uint32_t, std::uint64_t>;
+        const auto below = static_cast<Lane>(Product{sum} * reciprocal >> (8 * sizeof(Lane)));
+        const auto rest = static_cast<Lane>(sum - below * taps);
+        return static_cast<Lane>(below + (rest >= taps ? 1 : 0));
+    }
+};
+
+template <typename Lane>
+void storeMeans(const Sums<Lane>& sums, Mean<Lane> mean, std::uint32_t* to, std::int64_t count) {
     auto* const bytes = reinterpret_cast<std::uint8_t*>(to);
-    forEachBlock(count, [&sums, bytes, reciprocal](std::int64_t first, std::int64_t size) {
+    forEachBlock(count, [&sums, bytes, mean](std::int64_t first, std::int64_t size) {
         for (std::int64_t k = 0; k < size; ++k) {
-            const auto sum = static_cast<std::int32_t>(sums[static_cast<std::size_t>(first + k)]);
-            const auto mean = static_cast<std::int32_t>((static_cast<float>(sum) + 0.5F) * reciprocal);
-            bytes[first + k] = static_cast<std::uint8_t>(mean) & keptBytes[static_cast<std::size_t>(k)];
+            const Lane channel = mean(sums[static_cast<std::size_t>(first + k)]);
+            bytes[first + k] = static_cast<std::uint8_t>(channel) & keptBytes[static_cast<std::size_t>(k)];
         }
     });
+}
+
+/// The filter that stores the means of 2 * radius + 1 pixels of a row.
+template <typename Lane>
+auto meansOf(const IMG* src, std::int32_t radius) {
+    return [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
+        const Mean<Lane> mean(2 * radius + 1);
+        SlidingSums<Lane> sliding{*src, y, radius};
+        std::int64_t count = 0;
+        for (std::int64_t x = -radius; x < width; x += count) {
+            count = std::min<std::int64_t>(filterBlock, (x < 0 ? 0 : width) - x);
+            Sums<Lane> sums;
+            sliding.slide(x, count, sums);
+            if (x >= 0) {
+                expectBlock(src->pixels + y * src->width, x, width);
+                expectBlock(to, x, width);
+                storeMeans(sums, mean, to + x, count);
+            }
+        }
+    };
 }
 
 } // namespace
@@ -200,18 +235,12 @@ void IMGFX_blurRadius(const IMG* src, IMG* dst, std::int32_t radius) {
     if (refused(radius < 0 || radius > IMGFX_largestRadius, IMGFX_error)) {
         return;
     }
-    filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
-        const float reciprocal = 1.0F / static_cast<float>(2 * radius + 1);
-        SlidingSums sliding(*src, y, radius);
-        for (std::int64_t x = 0; x < width; x += filterBlock) {
-            const std::int64_t count = std::min<std::int64_t>(filterBlock, width - x);
-            expectBlock(src->pixels + y * src->width, x, width);
-            expectBlock(to, x, width);
-            Channels sums;
-            sliding.slide(x, count, sums);
-            storeMeans(sums, reciprocal, to + x, count);
-        }
-    });
+    constexpr std::int32_t mostOf16Bits = 128; // 257 taps of 255
+    if (radius <= mostOf16Bits) {
+        filterRows(src, dst, meansOf<std::uint16_t>(src, radius));
+    } else {
+        filterRowsPlainly(src, dst, meansOf<std::uint32_t>(src, radius)); // hardly worth another loop
+    }
 }
 
 void IMGFX_glare(const IMG* src, IMG* dst, std::int32_t shift) {

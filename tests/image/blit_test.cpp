@@ -236,9 +236,15 @@ TEST(Filters, TheWidestBlurIsExact) {
     const Picture white(IMG_newSized(5000, 1));
     const Picture blurred(IMG_clone(white));
     IMG_fill(white, 0xFFFFFE);
-    IMGFX_blurRadius(white, blurred, IMGFX_largestRadius);
-    EXPECT_EQ(blurred->pixels[2500], 0xFFFFFEU) << "no sum overflows, no quotient is rounded up";
-    EXPECT_EQ(blurred->pixels[0], (0xFF * 1024 / 2047) * 0x010100U + 0xFE * 1024 / 2047);
+    for (const std::int32_t radius : {128, 129, IMGFX_largestRadius}) {
+        IMGFX_blurRadius(white, blurred, radius);
+        EXPECT_EQ(blurred->pixels[2500], 0xFFFFFEU) << "no sum overflows, no quotient is rounded up";
+        const auto half = [radius](std::uint32_t channel) {
+            return channel * static_cast<std::uint32_t>(radius + 1) /
+                   static_cast<std::uint32_t>(2 * radius + 1);
+        };
+        EXPECT_EQ(blurred->pixels[0], half(0xFF) * 0x010100U + half(0xFE));
+    }
     IMG_fill(blurred, 7);
     for (const std::int32_t radius : {-1, IMGFX_largestRadius + 1}) {
         IMGFX_blurRadius(white, blurred, radius);
