@@ -11,9 +11,7 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <span>
-#include <type_traits>
 
 namespace velm {
 
@@ -110,8 +108,8 @@ constexpr std::uint32_t keptBits(std::uint32_t shift) {
     return (0xFFU >> shift) * 0x010101U;
 }
 
-/// The channels of `count` pixels from `first` on of row y: the image's own, or, where there are none,
-/// `copy`.
+/// The channels of `count` pixels from `first` on of row y: the image's own, or those of `copy` where some
+/// lie outside.
 const std::uint8_t* channelsAt(const IMG& img, std::int64_t first, std::int64_t y, std::int64_t count,
                                std::span<std::uint32_t> copy) {
     if (first >= 0 && first + count <= img.width) {
@@ -160,21 +158,37 @@ struct SlidingSums {
     }
 };
 
-/// Divides sums by a number of taps. The reciprocal is cut, so that its product with a sum gives the quotient
-/// or one less, which the remainder tells.
+/// Divides the sums of so many taps by their number.
 template <typename Lane>
-struct Mean {
-    Lane taps, reciprocal;
+struct Mean;
+
+/// The reciprocal is cut, so that its product with a sum gives the quotient or one less, which the remainder
+/// tells.
+template <>
+struct Mean<std::uint16_t> {
+    std::uint16_t taps, reciprocal;
 
     explicit Mean(std::int32_t count)
-        : taps(static_cast<Lane>(count)),
-          reciprocal(static_cast<Lane>(std::numeric_limits<Lane>::max() / taps)) {}
+        : taps(static_cast<std::uint16_t>(count)), reciprocal(static_cast<std::uint16_t>(0xFFFF / count)) {}
 
-    Lane operator()(Lane sum) const {
-        using Product = std::conditional_t<sizeof(Lane) == 2, std::uint32_t, std::uint64_t>;
-        const auto below = static_cast<Lane>(Product{sum} * reciprocal >> (8 * sizeof(Lane)));
-        const auto rest = static_cast<Lane>(sum - below * taps);
-        return static_cast<Lane>(below + (rest >= taps ? 1 : 0));
+    std::uint16_t operator()(std::uint16_t sum) const {
+        const auto below = static_cast<std::uint16_t>(std::uint32_t{sum} * reciprocal >> 16);
+        const auto rest = static_cast<std::uint16_t>(sum - below * taps);
+        return static_cast<std::uint16_t>(below + (rest >= taps ? 1 : 0));
+    }
+};
+
+/// A float still has the wider sums exactly. Half a unit on top keeps the quotient, at most 255, off the
+/// whole numbers by more than its rounding.
+template <>
+struct Mean<std::uint32_t> {
+    float reciprocal;
+
+    explicit Mean(std::int32_t count) : reciprocal(1.0F / static_cast<float>(count)) {}
+
+    std::int32_t operator()(std::uint32_t sum) const {
+        const auto whole = static_cast<float>(static_cast<std::int32_t>(sum));
+        return static_cast<std::int32_t>((whole + 0.5F) * reciprocal);
     }
 };
 
@@ -183,8 +197,9 @@ void storeMeans(const Sums<Lane>& sums, Mean<Lane> mean, std::uint32_t* to, std:
     auto* const bytes = reinterpret_cast<std::uint8_t*>(to);
     forEachBlock(count, [&sums, bytes, mean](std::int64_t first, std::int64_t size) {
         for (std::int64_t k = 0; k < size; ++k) {
-            const Lane channel = mean(sums[static_cast<std::size_t>(first + k)]);
-            bytes[first + k] = static_cast<std::uint8_t>(channel) & keptBytes[static_cast<std::size_t>(k)];
+            const auto at = static_cast<std::size_t>(k);
+            const auto channel = mean(sums[static_cast<std::size_t>(first) + at]);
+            bytes[first + k] = static_cast<std::uint8_t>(channel) & keptBytes[at];
         }
     });
 }
