@@ -5,7 +5,7 @@
 // everywhere.
 //
 //     std::vector<std::uint32_t> turned;
-//     file.write(bytesOf(pixels, turned));
+//     file.write(bytesOf<std::uint32_t>(pixels, turned));
 #pragma once
 
 #include "foundation/byte_order.h"
