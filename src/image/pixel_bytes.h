@@ -20,16 +20,18 @@
 
 namespace velm {
 
+// The rules are types of their own: a loop calls one of them and no other, which becomes a part of it.
+
 /// min(255, a + b): as much of b as a leaves room for.
-constexpr std::uint8_t byteSum(std::uint8_t a, std::uint8_t b) {
+inline constexpr auto byteSum = [](std::uint8_t a, std::uint8_t b) {
     const auto room = static_cast<std::uint8_t>(~a);
     return static_cast<std::uint8_t>(a + (b < room ? b : room));
-}
+};
 
 /// max(0, b - a): b without as much of a as it has.
-constexpr std::uint8_t byteRest(std::uint8_t a, std::uint8_t b) {
+inline constexpr auto byteRest = [](std::uint8_t a, std::uint8_t b) {
     return static_cast<std::uint8_t>(b - (a < b ? a : b));
-}
+};
 
 /// So many pixels are taken at a time: a loop of a known length, over which the top bytes' mask repeats.
 inline constexpr std::int64_t pixelBlock = 64;
