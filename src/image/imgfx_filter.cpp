@@ -3,11 +3,12 @@
 //
 // The filters of IMGFX: every pixel of one image is made of a pixel of another and of its neighbours.
 #include "foundation/report.h"
-#include "foundation/wide.h"
+#include "image/channel_mean.h"
 #include "image/clip.h"
 #include "image/img.h"
 #include "image/imgfx.h"
 #include "image/pixel_bytes.h"
+#include "image/wide_filters.h"
 
 #include <algorithm>
 #include <array>
@@ -42,56 +43,60 @@ bool canFilter(const IMG* src, const IMG* dst) {
     std::fill_n(to.data() + end, size - end, 0);
 }
 
+/// Calls filter(y, destination row, pixels) for the rows and pixels that src and dst share.
+template <typename Filter>
+void filterRows(const IMG& src, IMG& dst, Filter filter) {
+    const std::int32_t width = std::min(src.width, dst.width);
+    for (std::int64_t y = 0; y < std::min(src.height, dst.height); ++y) {
+        filter(y, dst.pixels + y * dst.width, width);
+    }
+}
+
 constexpr std::int64_t filterBlock = 256; ///< pixels that are filtered at a time
 
-/// Calls filter(y, destination row, pixels) for the rows and pixels that src and dst share, or reports.
+/// Calls filter(x, y, destination pixels, count) for every block of the same rows.
 template <typename Filter>
-void filterRowsPlainly(const IMG* src, IMG* dst, Filter filter) {
-    if (!canFilter(src, dst)) {
-        return;
-    }
-    const std::int32_t width = std::min(src->width, dst->width);
-    for (std::int64_t y = 0; y < std::min(src->height, dst->height); ++y) {
-        filter(y, dst->pixels + y * dst->width, width);
-    }
-}
-
-/// The same on wide registers, where there are some.
-template <typename Filter>
-void filterRows(const IMG* src, IMG* dst, Filter filter) {
-    runWide([=] { filterRowsPlainly(src, dst, filter); });
-}
-
-/// Asks for the memory of the block after x, so that it is there when its turn comes.
-void expectBlock(const std::uint32_t* row, std::int64_t x, std::int64_t width) {
-    constexpr std::int64_t cacheLine = 16; // pixels
-    for (std::int64_t i = x + filterBlock; i < std::min(x + 2 * filterBlock, width); i += cacheLine) {
-        __builtin_prefetch(row + i);
-    }
-}
-
-/// Stores tap(at) in every pixel that src and dst share, or reports. at(dx, dy) is the source pixel that far
-/// away, black outside. What is read is a copy of a block and of the pixels around it: a store that lies a
-/// whole page away from a load would hold it up.
-template <std::int32_t reachX, std::int32_t reachY, typename Tap>
-void filterPixels(const IMG* src, IMG* dst, Tap tap) {
-    filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
-        std::uint32_t around[2 * reachY + 1][filterBlock + reachX + reachX];
+void filterBlocks(const IMG& src, IMG& dst, Filter filter) {
+    filterRows(src, dst, [&filter](std::int64_t y, std::uint32_t* to, std::int64_t width) {
         for (std::int64_t x = 0; x < width; x += filterBlock) {
-            const std::int64_t count = std::min<std::int64_t>(filterBlock, width - x);
-            expectBlock(src->pixels + y * src->width, x, width);
-            expectBlock(to, x, width);
-            for (std::int32_t dy = -reachY; dy <= reachY; ++dy) {
-                readRow(*src, x - reachX, y + dy,
-                        std::span(around[reachY + dy], static_cast<std::size_t>(count + reachX + reachX)));
-            }
-            for (std::int64_t i = 0; i < count; ++i) {
-                to[x + i] = tap([&around, i](std::int32_t dx, std::int32_t dy) {
-                    return around[reachY + dy][reachX + i + dx];
-                });
-            }
+            filter(x, y, to + x, std::min(filterBlock, width - x));
         }
     });
+}
+
+/// What a neighbour keeps that is shifted down: only the bits of its own channel.
+constexpr std::uint32_t keptBits(std::uint32_t shift) {
+    return (0xFFU >> shift) * 0x010101U;
+}
+
+/// A copy of a block and of so many pixels on either side of it. To read the image itself would take longer:
+/// a store that lies a whole page away from a load holds it up.
+template <std::int64_t reach>
+struct Around {
+    std::uint32_t pixels[filterBlock + reach + reach];
+    std::int64_t size;
+
+    Around(const IMG& img, std::int64_t x, std::int64_t y, std::int64_t count) : size(count + reach + reach) {
+        readRow(img, x - reach, y, std::span(pixels, static_cast<std::size_t>(size)));
+    }
+
+    void shiftDown(std::uint32_t bits) {
+        std::transform(pixels, pixels + size, pixels,
+                       [bits, kept = keptBits(bits)](std::uint32_t pixel) { return (pixel >> bits) & kept; });
+    }
+};
+
+/// Stores tap(at) in every pixel that src and dst share. at(dx) is the pixel of src that far away in the row,
+/// black outside.
+template <std::int64_t reach, typename Tap>
+void filterPixels(const IMG& src, IMG& dst, Tap tap) {
+    filterBlocks(src, dst,
+                 [&src, tap](std::int64_t x, std::int64_t y, std::uint32_t* to, std::int64_t count) {
+                     const Around<reach> around(src, x, y, count);
+                     for (std::int64_t i = 0; i < count; ++i) {
+                         to[i] = tap([&around, i](std::int64_t dx) { return around.pixels[reach + i + dx]; });
+                     }
+                 });
 }
 
 /// sum(bytes of the pixels) >> 3 per channel, at most eight pixels. A sum of every other byte has room: 11
@@ -101,11 +106,6 @@ std::uint32_t eighthOf(Sum sum) {
     const std::uint32_t green = sum(evenBytes);
     const std::uint32_t redBlue = sum(allBytes) - green;
     return ((redBlue >> 3) & redBlueLanes) | ((green >> 3) & greenLane);
-}
-
-/// What a shifted neighbour keeps: only the bits that its own channel shifted down.
-constexpr std::uint32_t keptBits(std::uint32_t shift) {
-    return (0xFFU >> shift) * 0x010101U;
 }
 
 /// The channels of `count` pixels from `first` on of row y: the image's own, or those of `copy` where some
@@ -158,33 +158,12 @@ struct SlidingSums {
     }
 };
 
-/// Divides the sums of so many taps by their number.
-template <typename Lane>
-struct Mean;
-
-/// The reciprocal is cut, so that its product with a sum gives the quotient or one less, which the remainder
-/// tells.
-template <>
-struct Mean<std::uint16_t> {
-    std::uint16_t taps, reciprocal;
-
-    explicit Mean(std::int32_t count)
-        : taps(static_cast<std::uint16_t>(count)), reciprocal(static_cast<std::uint16_t>(0xFFFF / count)) {}
-
-    std::uint16_t operator()(std::uint16_t sum) const {
-        const auto below = static_cast<std::uint16_t>(std::uint32_t{sum} * reciprocal >> 16);
-        const auto rest = static_cast<std::uint16_t>(sum - below * taps);
-        return static_cast<std::uint16_t>(below + (rest >= taps ? 1 : 0));
-    }
-};
-
-/// A float still has the wider sums exactly. Half a unit on top keeps the quotient, at most 255, off the
-/// whole numbers by more than its rounding.
-template <>
-struct Mean<std::uint32_t> {
+/// ChannelMean for more channels. A float still has their sums exactly. Half a unit on top keeps the
+/// quotient, at most 255, off the whole numbers by more than its rounding.
+struct WideMean {
     float reciprocal;
 
-    explicit Mean(std::int32_t count) : reciprocal(1.0F / static_cast<float>(count)) {}
+    explicit WideMean(std::int32_t count) : reciprocal(1.0F / static_cast<float>(count)) {}
 
     std::int32_t operator()(std::uint32_t sum) const {
         const auto whole = static_cast<float>(static_cast<std::int32_t>(sum));
@@ -192,8 +171,8 @@ struct Mean<std::uint32_t> {
     }
 };
 
-template <typename Lane>
-void storeMeans(const Sums<Lane>& sums, Mean<Lane> mean, std::uint32_t* to, std::int64_t count) {
+template <typename Lane, typename Mean>
+void storeMeans(const Sums<Lane>& sums, Mean mean, std::uint32_t* to, std::int64_t count) {
     auto* const bytes = reinterpret_cast<std::uint8_t*>(to);
     forEachBlock(count, [&sums, bytes, mean](std::int64_t first, std::int64_t size) {
         for (std::int64_t k = 0; k < size; ++k) {
@@ -205,19 +184,17 @@ void storeMeans(const Sums<Lane>& sums, Mean<Lane> mean, std::uint32_t* to, std:
 }
 
 /// The filter that stores the means of 2 * radius + 1 pixels of a row.
-template <typename Lane>
-auto meansOf(const IMG* src, std::int32_t radius) {
-    return [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
-        const Mean<Lane> mean(2 * radius + 1);
-        SlidingSums<Lane> sliding{*src, y, radius};
+template <typename Lane, typename Mean>
+auto meansOf(const IMG& src, std::int32_t radius) {
+    return [&src, radius](std::int64_t y, std::uint32_t* to, std::int64_t width) {
+        const Mean mean(2 * radius + 1);
+        SlidingSums<Lane> sliding{src, y, radius};
         std::int64_t count = 0;
         for (std::int64_t x = -radius; x < width; x += count) {
             count = std::min<std::int64_t>(filterBlock, (x < 0 ? 0 : width) - x);
             Sums<Lane> sums;
             sliding.slide(x, count, sums);
             if (x >= 0) {
-                expectBlock(src->pixels + y * src->width, x, width);
-                expectBlock(to, x, width);
                 storeMeans(sums, mean, to + x, count);
             }
         }
@@ -227,71 +204,77 @@ auto meansOf(const IMG* src, std::int32_t radius) {
 } // namespace
 
 void IMGFX_blur(const IMG* src, IMG* dst) {
+    if (!canFilter(src, dst) || wideBlur(*src, *dst)) {
+        return;
+    }
     // IMGFX_blurDarkensEdges: one expects the edge pixels to repeat outside; what lies there counts as black,
     // and the demo's blurred frames have dark sides.
-    filterPixels<2, 0>(src, dst, [](auto at) {
+    filterPixels<2>(*src, *dst, [](auto at) {
         return eighthOf([&](std::uint32_t bytes) {
-            return (at(-2, 0) & bytes) + (at(-1, 0) & bytes) + 4 * (at(0, 0) & bytes) + (at(1, 0) & bytes) +
-                   (at(2, 0) & bytes);
+            return (at(-2) & bytes) + (at(-1) & bytes) + 4 * (at(0) & bytes) + (at(1) & bytes) +
+                   (at(2) & bytes);
         });
     });
 }
 
 void IMGFX_blur7(const IMG* src, IMG* dst) {
-    filterPixels<3, 0>(src, dst, [](auto at) {
+    if (!canFilter(src, dst) || wideBlur7(*src, *dst)) {
+        return;
+    }
+    filterPixels<3>(*src, *dst, [](auto at) {
         return eighthOf([&](std::uint32_t bytes) {
-            return (at(-3, 0) & bytes) + (at(-2, 0) & bytes) + (at(-1, 0) & bytes) + 2 * (at(0, 0) & bytes) +
-                   (at(1, 0) & bytes) + (at(2, 0) & bytes) + (at(3, 0) & bytes);
+            return (at(-3) & bytes) + (at(-2) & bytes) + (at(-1) & bytes) + 2 * (at(0) & bytes) +
+                   (at(1) & bytes) + (at(2) & bytes) + (at(3) & bytes);
         });
     });
 }
 
 void IMGFX_blurRadius(const IMG* src, IMG* dst, std::int32_t radius) {
-    if (refused(radius < 0 || radius > IMGFX_largestRadius, IMGFX_error)) {
+    if (refused(radius < 0 || radius > IMGFX_largestRadius, IMGFX_error) || !canFilter(src, dst) ||
+        wideBlurRadius(*src, *dst, radius)) {
         return;
     }
-    constexpr std::int32_t mostOf16Bits = 128; // 257 taps of 255
-    if (radius <= mostOf16Bits) {
-        filterRows(src, dst, meansOf<std::uint16_t>(src, radius));
+    if (2 * radius < ChannelMean::mostChannels) {
+        filterRows(*src, *dst, meansOf<std::uint16_t, ChannelMean>(*src, radius));
     } else {
-        filterRowsPlainly(src, dst, meansOf<std::uint32_t>(src, radius)); // hardly worth another loop
+        filterRows(*src, *dst, meansOf<std::uint32_t, WideMean>(*src, radius));
     }
 }
 
 void IMGFX_glare(const IMG* src, IMG* dst, std::int32_t shift) {
     const std::uint32_t bits = static_cast<std::uint32_t>(shift) & 31U;
-    const auto dimmed = [bits, kept = keptBits(bits)](std::uint32_t pixel) { return (pixel >> bits) & kept; };
-    filterRows(src, dst, [=](std::int64_t y, std::uint32_t* to, std::int64_t width) {
-        const std::uint32_t* const from = src->pixels + y * src->width;
-        for (std::int64_t x = 0; x < width; x += filterBlock) {
-            const std::int64_t count = std::min<std::int64_t>(filterBlock, width - x);
-            std::uint32_t around[filterBlock + 2]; // from the pixel on the left of the block on
-            around[0] = x > 0 ? dimmed(from[x - 1]) : 0;
-            for (std::int64_t i = 0; i < count; ++i) {
-                around[i + 1] = dimmed(from[x + i]);
-                to[x + i] = from[x + i];
-            }
-            around[count + 1] = x + count < src->width ? dimmed(from[x + count]) : 0;
-            addBytes(around, to + x, count);
-            addBytes(around + 2, to + x, count);
-        }
+    if (!canFilter(src, dst) || wideGlare(*src, *dst, bits)) {
+        return;
+    }
+    filterBlocks(*src, *dst, [=](std::int64_t x, std::int64_t y, std::uint32_t* to, std::int64_t count) {
+        Around<1> row(*src, x, y, count);
+        std::copy_n(row.pixels + 1, count, to);
+        row.shiftDown(bits);
+        addBytes(row.pixels, to, count);
+        addBytes(row.pixels + 2, to, count);
     });
 }
 
 void IMGFX_glare8(const IMG* src, IMG* dst, std::int32_t shift) {
     const std::uint32_t bits = static_cast<std::uint32_t>(shift) & 31U;
-    filterPixels<1, 1>(src, dst, [bits, kept = keptBits(bits)](auto at) {
-        // Nine channels need 12 bits of the 16 that each has.
-        std::uint32_t redBlue = at(0, 0) & redBlueLanes;
-        std::uint32_t green = at(0, 0) & greenLane;
-        const auto add = [&](std::uint32_t neighbour) {
-            redBlue += (neighbour >> bits) & kept & redBlueLanes;
-            green += (neighbour >> bits) & kept & greenLane;
-        };
-        add(at(-1, -1)), add(at(0, -1)), add(at(1, -1)), add(at(-1, 0));
-        add(at(1, 0)), add(at(-1, 1)), add(at(0, 1)), add(at(1, 1));
-        return std::min(redBlue & 0xFFFF0000U, 0xFF0000U) | std::min(green, greenLane) |
-               std::min(redBlue & 0xFFFFU, 0xFFU);
+    if (!canFilter(src, dst) || wideGlare8(*src, *dst, bits)) {
+        return;
+    }
+    filterBlocks(*src, *dst, [=](std::int64_t x, std::int64_t y, std::uint32_t* to, std::int64_t count) {
+        Around<1> above(*src, x, y - 1, count);
+        Around<1> row(*src, x, y, count);
+        Around<1> below(*src, x, y + 1, count);
+        std::copy_n(row.pixels + 1, count, to);
+        above.shiftDown(bits);
+        row.shiftDown(bits);
+        below.shiftDown(bits);
+        addBytes(above.pixels + 1, to, count);
+        addBytes(below.pixels + 1, to, count);
+        // The columns on both sides.
+        addBytes(above.pixels, row.pixels, row.size);
+        addBytes(below.pixels, row.pixels, row.size);
+        addBytes(row.pixels, to, count);
+        addBytes(row.pixels + 2, to, count);
     });
 }
 

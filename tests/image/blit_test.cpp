@@ -3,6 +3,7 @@
 //
 // Every loop that runs over whole rows against the plain rule, pixel by pixel, on random images and
 // rectangles.
+#include "image/channel_mean.h"
 #include "image/imgfx.h"
 #include "support/owned.h"
 
@@ -177,15 +178,15 @@ TEST(Fill, RectanglesAndLinesEqualThePlainRule) {
 }
 
 /// Compares a filter with a rule on random images. The rule makes one channel of a pixel from at(dx, dy), the
-/// same channel of the pixels around it.
+/// same channel of the pixels around it. Every other image is filtered with a strength of up to `strongest`.
 template <typename Filter, typename Rule>
-void compareFilter(Filter fast, Rule rule) {
+void compareFilter(Filter fast, Rule rule, std::int32_t strongest = 31) {
     for (std::uint32_t seed = 1; seed <= rounds / 10; ++seed) {
         Images images(seed);
         const Picture src(images.image());
         const Picture actual(images.image());
         const Picture expected(IMG_clone(actual));
-        const std::int32_t strength = images.number(0, 1) * images.number(0, 31);
+        const std::int32_t strength = images.number(0, 1) * images.number(0, strongest);
         fast(src, actual, strength);
         for (std::int32_t i = 0; i < src->width * src->height; ++i) {
             std::uint32_t pixel = 0;
@@ -215,9 +216,12 @@ TEST(Filters, EqualThePlainRule) {
                   [](const auto& at, std::int32_t) { return (rowSum(at, 2) + 3 * at(0, 0)) >> 3; });
     compareFilter([](const IMG* src, IMG* dst, std::int32_t) { IMGFX_blur7(src, dst); },
                   [](const auto& at, std::int32_t) { return (rowSum(at, 3) + at(0, 0)) >> 3; });
-    compareFilter(IMGFX_blurRadius, [](const auto& at, std::int32_t radius) {
-        return rowSum(at, radius) / static_cast<std::uint32_t>(2 * radius + 1);
-    });
+    compareFilter(
+        IMGFX_blurRadius,
+        [](const auto& at, std::int32_t radius) {
+            return rowSum(at, radius) / static_cast<std::uint32_t>(2 * radius + 1);
+        },
+        140);
     compareFilter(IMGFX_glare, [](const auto& at, std::int32_t shift) {
         return at(0, 0) + (at(-1, 0) >> shift) + (at(1, 0) >> shift);
     });
@@ -230,6 +234,15 @@ TEST(Filters, EqualThePlainRule) {
         }
         return sum;
     });
+}
+
+TEST(Filters, MeansOfChannelsAreExact) {
+    for (std::int32_t count = 1; count <= ChannelMean::mostChannels; ++count) {
+        const ChannelMean mean(count);
+        for (std::int32_t sum = 0; sum <= 255 * count; ++sum) {
+            ASSERT_EQ(mean(static_cast<std::uint16_t>(sum)), sum / count) << sum << " / " << count;
+        }
+    }
 }
 
 TEST(Filters, TheWidestBlurIsExact) {
