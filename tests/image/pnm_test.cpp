@@ -66,6 +66,19 @@ TEST(Pnm, ReadsAllSixTypesAndRefusesThemCutShort) {
     }
 }
 
+TEST(Pnm, SamplesOfEveryWidthBecomePixels) {
+    for (std::uint32_t seed = 0; seed < 80; ++seed) {
+        Images images(seed); // on one kind of processor or the other
+        const auto width = static_cast<std::int32_t>(seed % 40 + 1);
+        const Picture expected(images.image(width, 1));
+        std::string file = "P6 " + std::to_string(width) + " 1 255\n";
+        std::for_each_n(expected->pixels, width, [&file](std::uint32_t pixel) {
+            file += {static_cast<char>(pixel >> 16), static_cast<char>(pixel >> 8), static_cast<char>(pixel)};
+        });
+        EXPECT_EQ(difference(Picture(decode(file)), expected), "") << width;
+    }
+}
+
 TEST(Pnm, HeaderTokens) {
     EXPECT_EQ(decoded("P6 1 1 255#abc"), "1x1: 616263") << "the separator is not looked at";
     EXPECT_EQ(decoded("P5\x80\xFF\x7F 1 1 255\na"), "1x1: 616161") << "only printable bytes make tokens";
