@@ -22,13 +22,15 @@ void walkLine(std::int64_t major, std::int64_t minor, std::int64_t alongStep, st
     // which pixel every half step of every drawing falls on. So the error counts from 1.
     std::int64_t error = (major >> 1) - 1;
     std::int64_t place = 0;
+    const std::int64_t bothSteps = alongStep + acrossStep;
     for (std::int64_t left = major; left >= 0; --left) {
         plot(place);
-        // Without a jump, for a processor guesses wrongly at every other one.
+        // Either error is there before it is chosen, so that compilers need no jump, which a processor would
+        // guess wrongly at every other one.
         const std::int64_t straight = error - minor;
-        const std::int64_t isAside = straight >> 63; // all bits or none
-        place += alongStep + (acrossStep & isAside);
-        error = straight + (major & isAside);
+        const std::int64_t aside = error + (major - minor);
+        place += straight < 0 ? bothSteps : alongStep;
+        error = straight < 0 ? aside : straight;
     }
 }
 
