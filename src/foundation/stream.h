@@ -3,7 +3,7 @@
 //
 // Copies to memory that somebody else reads, another process or a device, and copies too large for the
 // caches. Where the processor can, they go past its caches: what stood there is not fetched before it is
-// written over, and nothing that this process needs again is pushed out.
+// written over, and nothing that this process needs again is pushed out. And memory that is asked for early.
 //
 //     streamCopy(row, pixels, bytes);
 //     streamEnd();                          // before the other one is told
@@ -22,17 +22,33 @@
 
 namespace velm {
 
+/// Asks for the memory that comes soon after this, so that it is there when its turn comes. Where nothing
+/// comes, nothing happens.
+inline void expectAfter(const void* memory) {
+    constexpr std::uintptr_t soon = 1024; // bytes
+    __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(memory) + soon));
+}
+
 #if defined(__SSE2__)
 
 /// Copies `count` bytes, which must not overlap.
 inline void streamCopy(char* to, const char* from, std::size_t count) {
     constexpr std::size_t step = sizeof(__m128i);
-    const std::size_t before = std::min(count, -reinterpret_cast<std::uintptr_t>(to) % step);
-    std::memcpy(to, from, before);
-    std::size_t i = before;
-    for (; i + step <= count; i += step) {
+    constexpr std::size_t lineBytes = 64; // of the caches
+    const auto copyStep = [to, from](std::size_t i) {
         _mm_stream_si128(reinterpret_cast<__m128i*>(to + i),
                          _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + i)));
+    };
+    std::size_t i = std::min(count, -reinterpret_cast<std::uintptr_t>(to) % step);
+    std::memcpy(to, from, i);
+    for (; i + lineBytes <= count; i += lineBytes) {
+        expectAfter(from + i);
+        for (std::size_t k = 0; k < lineBytes; k += step) {
+            copyStep(i + k);
+        }
+    }
+    for (; i + step <= count; i += step) {
+        copyStep(i);
     }
     std::memcpy(to + i, from + i, count - i);
 }

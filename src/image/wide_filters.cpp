@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "image/wide_filters.h"
 
+#include "foundation/stream.h"
 #include "foundation/wide.h"
 #include "image/channel_mean.h"
 #include "image/img.h"
@@ -30,12 +31,6 @@ struct Row {
 Row sourceRow(const IMG& img, std::int64_t y) {
     const bool isInside = y >= 0 && y < img.height;
     return {img.pixels + (isInside ? y * img.width : 0), isInside ? img.width : 0};
-}
-
-/// Asks for the memory that comes soon after a pixel, so that it is there when its turn comes.
-inline void expectAfter(const std::uint32_t* pixel) {
-    constexpr std::uintptr_t soon = 1024; // bytes; where an image ends, nothing comes of it
-    __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(pixel) + soon));
 }
 
 /// All bits of the lanes whose number is less than `count`.
