@@ -53,11 +53,14 @@ Row sourceRow(const IMG& img, std::int64_t y) {
     return _mm256_andnot_si256(firstLanes(before), _mm256_permutevar8x32_epi32(pixels, lanes));
 }
 
-[[gnu::target("avx2")]] inline Eight pixelsAt(Row row, std::int64_t x) {
-    if (x < 0 || x + eight > row.width) {
-        return edgePixels(row, x);
-    }
+/// The pixels from x on, which lie in the row.
+[[gnu::target("avx2")]] inline Eight wholeAt(Row row, std::int64_t x) {
     return _mm256_loadu_si256(reinterpret_cast<const Eight*>(row.pixels + x));
+}
+
+/// The pixels from x on; what lies outside the row is black.
+[[gnu::target("avx2")]] inline Eight pixelsAt(Row row, std::int64_t x) {
+    return x < 0 || x + eight > row.width ? edgePixels(row, x) : wholeAt(row, x);
 }
 
 /// Stores those of the pixels from x on that a row of such a width has.
@@ -184,10 +187,13 @@ struct Column {
 
 /// Sums of the channels of the pixels that are at most `reach` away, in 16 bits each, as they slide along a
 /// row.
-struct SlidingSums {
-    Row row;
-    std::int64_t reach;
-    Eight sum; ///< of the last pixel, four times
+class SlidingSums {
+public:
+    /// They begin with `sum` in every channel, where all that they reach is black yet.
+    [[gnu::target("avx2")]] SlidingSums(Row along, std::int64_t distance, std::uint16_t sum)
+        : row(along), reach(distance),
+          inside(static_cast<std::uint64_t>(std::max<std::int64_t>(along.width - 2 * distance - eight, 0))),
+          last(_mm256_set1_epi16(static_cast<std::int16_t>(sum))) {}
 
     /// Of eight pixels: the first and second, fifth and sixth; the third and fourth, seventh and eighth.
     struct Eights {
@@ -196,8 +202,14 @@ struct SlidingSums {
 
     /// The sums of the pixels from x on, eight after those of the call before.
     [[gnu::target("avx2")]] Eights slideTo(std::int64_t x) {
-        const Eight entering = pixelsAt(row, x + reach);
-        const Eight leaving = pixelsAt(row, x - reach - 1);
+        const std::int64_t begin = x - reach - 1;
+        const std::int64_t end = x + reach;
+        return static_cast<std::uint64_t>(begin) < inside ? slide(wholeAt(row, end), wholeAt(row, begin))
+                                                          : slide(pixelsAt(row, end), pixelsAt(row, begin));
+    }
+
+private:
+    [[gnu::target("avx2")]] Eights slide(Eight entering, Eight leaving) {
         const Eight plusMinus = _mm256_set1_epi16(static_cast<std::int16_t>(0xFF01)); // bytes 1 and -1
         // What changes from pixel to pixel, and what has changed since the first of four pixels came.
         Eight first = _mm256_maddubs_epi16(_mm256_unpacklo_epi8(entering, leaving), plusMinus);
@@ -206,14 +218,20 @@ struct SlidingSums {
         second = _mm256_add_epi16(second, _mm256_slli_si256(second, 8));
         second = _mm256_add_epi16(second, _mm256_unpackhi_epi64(first, first));
         // The upper four go on where the lower four ended.
-        const Eight lower = _mm256_permute4x64_epi64(second, 0x55);
-        const Eight onTop = _mm256_blend_epi32(_mm256_setzero_si256(), lower, 0xF0);
+        const Eight ends = _mm256_unpackhi_epi64(second, second);
+        const Eight onTop = _mm256_permute2x128_si256(ends, ends, 0x08);
         first = _mm256_add_epi16(first, onTop);
         second = _mm256_add_epi16(second, onTop);
-        const Eights sums = {_mm256_add_epi16(first, sum), _mm256_add_epi16(second, sum)};
-        sum = _mm256_add_epi16(sum, _mm256_permute4x64_epi64(second, 0xFF));
+        const Eights sums = {_mm256_add_epi16(first, last), _mm256_add_epi16(second, last)};
+        last = _mm256_add_epi16(last, _mm256_permute4x64_epi64(second, 0xFF));
         return sums;
     }
+
+    Row row;
+    std::int64_t reach;
+    std::uint64_t
+        inside; ///< so many places has the pixel that leaves when those that enter lie in the row, too
+    Eight last; ///< the sum of the last pixel, four times
 };
 
 [[gnu::target("avx2")]] void blur(const IMG& src, IMG& dst) {
@@ -234,13 +252,13 @@ struct SlidingSums {
     const std::int64_t begin = -(radius + eight - 1) / eight * eight; // all is black yet
     for (std::int64_t y = 0; y < std::min(src.height, dst.height); ++y) {
         std::uint32_t* const to = dst.pixels + y * dst.width;
-        SlidingSums sums{sourceRow(src, y), radius,
-                         _mm256_set1_epi16(static_cast<std::int16_t>(mean.addend))};
+        const Row row = sourceRow(src, y);
+        SlidingSums sums(row, radius, mean.addend);
         for (std::int64_t x = begin; x < 0; x += eight) {
             sums.slideTo(x);
         }
         for (std::int64_t x = 0; x < width; x += eight) {
-            expectAfter(sums.row.pixels + x);
+            expectAfter(row.pixels + x);
             expectAfter(to + x);
             const auto [first, second] = sums.slideTo(x);
             const Eight firstMeans = _mm256_srl_epi16(_mm256_mulhi_epu16(first, reciprocal), shift);
