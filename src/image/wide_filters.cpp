@@ -229,9 +229,8 @@ private:
 
     Row row;
     std::int64_t reach;
-    std::uint64_t
-        inside; ///< so many places has the pixel that leaves when those that enter lie in the row, too
-    Eight last; ///< the sum of the last pixel, four times
+    std::uint64_t inside; ///< so many places has what leaves while what enters lies in the row
+    Eight last;           ///< the sum of the last pixel, four times
 };
 
 [[gnu::target("avx2")]] void blur(const IMG& src, IMG& dst) {
