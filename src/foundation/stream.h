@@ -3,12 +3,14 @@
 //
 // Copies to memory that somebody else reads, another process or a device, and copies too large for the
 // caches. Where the processor can, they go past its caches: what stood there is not fetched before it is
-// written over, and nothing that this process needs again is pushed out. And memory that is asked for early.
+// written over, and nothing that this process needs again is pushed out. Also asks for memory early.
 //
 //     streamCopy(row, pixels, bytes);
 //     streamEnd();                          // before the other one is told
 //
 //     copyApart(img.pixels, other, count); // streams when that is quicker
+//
+//     expectAfter(row + x);                 // what comes a little later is fetched by then
 #pragma once
 
 #include <algorithm>
@@ -22,8 +24,8 @@
 
 namespace velm {
 
-/// Asks for the memory that comes soon after this, so that it is there when its turn comes. Where nothing
-/// comes, nothing happens.
+/// Asks for the memory that comes soon after this, so that it is there when its turn comes. The
+/// address need not exist.
 inline void expectAfter(const void* memory) {
     constexpr std::uintptr_t soon = 1024; // bytes
     __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(memory) + soon));

@@ -12,8 +12,8 @@
 
 namespace velm {
 
-/// Divides sums of `count` channels by their number, and rounds down. The reciprocal has as many bits as 16
-/// hold. It is rounded up where that makes no quotient larger; else down, and the sum is one larger.
+/// Divides sums of `count` channels by their number, and rounds down. The reciprocal fills 16 bits. It is
+/// rounded up where that makes no quotient larger; else down, and one is added to the sum.
 struct ChannelMean {
     static constexpr std::int32_t mostChannels = 257; ///< whose sum 16 bits hold
 

@@ -43,9 +43,9 @@ void IMGFX_blur(const IMG* src, IMG* dst);
 /// Seven taps along the row: (the six neighbours + 2 * centre) >> 3. Edges and images as with IMGFX_blur.
 void IMGFX_blur7(const IMG* src, IMG* dst);
 
-/// The mean, rounded down, of the 2 * radius + 1 pixels around each pixel of a row; a radius of 0 copies. The
-/// radius, 0..IMGFX_largestRadius, does not change the cost up to 128, beyond which it is about three times
-/// as much; other radii are reported. Edges and images as with IMGFX_blur.
+/// The mean, rounded down, of the 2 * radius + 1 pixels around each pixel of a row; a radius of 0 copies.
+/// Radii up to 128 cost the same, larger ones about three times as much; one outside 0..IMGFX_largestRadius
+/// is reported. Edges and images as with IMGFX_blur.
 void IMGFX_blurRadius(const IMG* src, IMG* dst, std::int32_t radius);
 
 /// Three taps along the row: min(255, centre + (left >> shift) + (right >> shift)), shift 0..31. `src` and

@@ -38,7 +38,7 @@ bool canFilter(const IMG* src, const IMG* dst) {
     const std::int64_t end = std::clamp<std::int64_t>(img.width - first, begin, size);
     std::fill_n(to.data(), begin, 0);
     if (begin < end) {
-        std::copy_n(img.pixels + y * img.width + first + begin, end - begin, to.data() + begin);
+        std::copy_n(img.pixels + (y * img.width + first + begin), end - begin, to.data() + begin);
     }
     std::fill_n(to.data() + end, size - end, 0);
 }
@@ -69,7 +69,7 @@ constexpr std::uint32_t keptBits(std::uint32_t shift) {
     return (0xFFU >> shift) * 0x010101U;
 }
 
-/// A copy of a block and of so many pixels on either side of it. To read the image itself would take longer:
+/// A copy of a block and of `reach` pixels on either side of it. To read the image itself would take longer:
 /// a store that lies a whole page away from a load holds it up.
 template <std::int64_t reach>
 struct Around {

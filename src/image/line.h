@@ -25,8 +25,8 @@ void walkLine(std::int64_t major, std::int64_t minor, std::int64_t alongStep, st
     const std::int64_t bothSteps = alongStep + acrossStep;
     for (std::int64_t left = major; left >= 0; --left) {
         plot(place);
-        // Either error is there before it is chosen, so that compilers need no jump, which a processor would
-        // guess wrongly at every other one.
+        // Both errors are there before one is chosen, so that the compiler can do without a jump, which
+        // processors would guess wrongly at every other step.
         const std::int64_t straight = error - minor;
         const std::int64_t aside = error + (major - minor);
         place += straight < 0 ? bothSteps : alongStep;

@@ -20,7 +20,7 @@
 
 namespace velm {
 
-// The rules are types of their own: a loop calls one of them and no other, which becomes a part of it.
+// Each rule has a type of its own, so that the compiler makes it a part of the loop that calls it.
 
 /// min(255, a + b): as much of b as a leaves room for.
 inline constexpr auto byteSum = [](std::uint8_t a, std::uint8_t b) {

@@ -39,7 +39,7 @@ Row sourceRow(const IMG& img, std::int64_t y) {
                               _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7));
 }
 
-/// The pixels from x on of which some lie outside the row, and are black.
+/// As pixelsAt, where some of the pixels lie outside the row.
 [[gnu::target("avx2"), gnu::noinline]] Eight edgePixels(Row row, std::int64_t x) {
     if (x <= -eight || x >= row.width) {
         return _mm256_setzero_si256();
@@ -111,7 +111,7 @@ template <typename Taps>
 }
 
 /// The processor's mean of two bytes is rounded up. The mean of the neighbours' means and of the centre is
-/// right where none of the four was rounded, and one too much where any was.
+/// right where none of the four means was rounded, and one too much where any was.
 struct BlurTaps {
     [[gnu::target("avx2")]] Eight operator()(Eight before, Eight here, Eight after) const {
         const Eight a = leftOf<2>(before, here);
@@ -172,12 +172,12 @@ struct GlareTaps {
     }
 };
 
-/// A pixel of a row and what lies above and below it.
-struct Column {
-    Eight bright; ///< the pixel, with its neighbours dimmed
-    Eight dim;    ///< all three dimmed
+/// Eight pixels of a row, and those above and below them.
+struct Columns {
+    Eight bright; ///< the pixels, and what is above and below added dimmed
+    Eight dim;    ///< the same, all three dimmed
 
-    [[gnu::target("avx2")]] Column(Row above, Row row, Row below, std::int64_t x, Dimmer dimmed) {
+    [[gnu::target("avx2")]] Columns(Row above, Row row, Row below, std::int64_t x, Dimmer dimmed) {
         const Eight pixels = pixelsAt(row, x);
         const Eight neighbours = _mm256_adds_epu8(dimmed(pixelsAt(above, x)), dimmed(pixelsAt(below, x)));
         bright = _mm256_adds_epu8(pixels, neighbours);
@@ -191,8 +191,8 @@ class SlidingSums {
 public:
     /// They begin with `sum` in every channel, where all that they reach is black yet.
     [[gnu::target("avx2")]] SlidingSums(Row along, std::int64_t distance, std::uint16_t sum)
-        : row(along), reach(distance),
-          inside(static_cast<std::uint64_t>(std::max<std::int64_t>(along.width - 2 * distance - eight, 0))),
+        : row(along), reach(distance), wholeBegins(static_cast<std::uint64_t>(
+                                           std::max<std::int64_t>(along.width - 2 * distance - eight, 0))),
           last(_mm256_set1_epi16(static_cast<std::int16_t>(sum))) {}
 
     /// Of eight pixels: the first and second, fifth and sixth; the third and fourth, seventh and eighth.
@@ -204,8 +204,9 @@ public:
     [[gnu::target("avx2")]] Eights slideTo(std::int64_t x) {
         const std::int64_t begin = x - reach - 1;
         const std::int64_t end = x + reach;
-        return static_cast<std::uint64_t>(begin) < inside ? slide(wholeAt(row, end), wholeAt(row, begin))
-                                                          : slide(pixelsAt(row, end), pixelsAt(row, begin));
+        return static_cast<std::uint64_t>(begin) < wholeBegins
+                   ? slide(wholeAt(row, end), wholeAt(row, begin))
+                   : slide(pixelsAt(row, end), pixelsAt(row, begin));
     }
 
 private:
@@ -229,8 +230,8 @@ private:
 
     Row row;
     std::int64_t reach;
-    std::uint64_t inside; ///< so many places has what leaves while what enters lies in the row
-    Eight last;           ///< the sum of the last pixel, four times
+    std::uint64_t wholeBegins; ///< both ends lie in the row where what leaves begins at 0 up to here
+    Eight last;                ///< the sum of the last pixel, four times
 };
 
 [[gnu::target("avx2")]] void blur(const IMG& src, IMG& dst) {
@@ -280,11 +281,11 @@ private:
         const Row below = sourceRow(src, y + 1);
         std::uint32_t* const to = dst.pixels + y * dst.width;
         Eight before = _mm256_setzero_si256();
-        Column here(above, row, below, 0, dimmed);
+        Columns here(above, row, below, 0, dimmed);
         for (std::int64_t x = 0; x < width; x += eight) {
             expectAfter(below.pixels + x);
             expectAfter(to + x);
-            const Column after(above, row, below, x + eight, dimmed);
+            const Columns after(above, row, below, x + eight, dimmed);
             const Eight sides =
                 _mm256_adds_epu8(leftOf<1>(before, here.dim), rightOf<1>(here.dim, after.dim));
             storePixels(to, x, width, clean(_mm256_adds_epu8(here.bright, sides)));

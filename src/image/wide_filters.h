@@ -21,7 +21,7 @@ struct IMG;
 bool wideBlur(const IMG& src, IMG& dst);
 bool wideBlur7(const IMG& src, IMG& dst);
 
-/// False, too, for a radius above 128: 16 bits hold the sums of 257 channels.
+/// The radius is 0 or more. False, too, for one above 128: 16 bits hold the sums of 257 channels.
 bool wideBlurRadius(const IMG& src, IMG& dst, std::int32_t radius);
 
 /// The neighbours are shifted down by `bits`, 0..31.

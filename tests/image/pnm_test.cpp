@@ -66,9 +66,9 @@ TEST(Pnm, ReadsAllSixTypesAndRefusesThemCutShort) {
     }
 }
 
-TEST(Pnm, SamplesOfEveryWidthBecomePixels) {
+TEST(Pnm, RowsOfEveryWidthAreDecoded) {
     for (std::uint32_t seed = 0; seed < 80; ++seed) {
-        Images images(seed); // on one kind of processor or the other
+        Images images(seed); // the seed chooses the kind of processor
         const auto width = static_cast<std::int32_t>(seed % 40 + 1);
         const Picture expected(images.image(width, 1));
         std::string file = "P6 " + std::to_string(width) + " 1 255\n";
