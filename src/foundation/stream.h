@@ -24,8 +24,8 @@
 
 namespace velm {
 
-/// Asks for the memory that comes soon after this, so that it is there when its turn comes. The
-/// address need not exist.
+/// Asks for the memory that comes soon after this, so that it is there when its turn comes. There need not
+/// be any.
 inline void expectAfter(const void* memory) {
     constexpr std::uintptr_t soon = 1024; // bytes
     __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(memory) + soon));

@@ -4,7 +4,8 @@
 // Loops that use the widest registers of the processor that they meet. A loop is written once, plainly, so
 // that the compiler vectorises it; it is compiled twice, for every processor and for those with registers of
 // 256 bits, and chosen between when it runs. Only whole numbers and single operations on doubles are
-// computed, so both give the same bits.
+// computed, so both give the same bits. What no compiler makes of a plain loop stands beside it, written for
+// those registers: image/wide_filters.h.
 //
 //     runWide([=] {
 //         for (std::int32_t i = 0; i < count; ++i) {

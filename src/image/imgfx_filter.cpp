@@ -64,11 +64,6 @@ void filterBlocks(const IMG& src, IMG& dst, Filter filter) {
     });
 }
 
-/// What a neighbour keeps that is shifted down: only the bits of its own channel.
-constexpr std::uint32_t keptBits(std::uint32_t shift) {
-    return (0xFFU >> shift) * 0x010101U;
-}
-
 /// A copy of a block and of `reach` pixels on either side of it. To read the image itself would take longer:
 /// a store that lies a whole page away from a load holds it up.
 template <std::int64_t reach>

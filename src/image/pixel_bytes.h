@@ -20,6 +20,11 @@
 
 namespace velm {
 
+/// What a pixel keeps that is shifted down by 0..31: only the bits of its own channel.
+constexpr std::uint32_t keptBits(std::uint32_t shift) {
+    return (0xFFU >> shift) * 0x010101U;
+}
+
 // Each rule has a type of its own, so that the compiler makes it a part of the loop that calls it.
 
 /// min(255, a + b): as much of b as a leaves room for.

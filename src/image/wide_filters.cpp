@@ -6,6 +6,7 @@
 #include "foundation/wide.h"
 #include "image/channel_mean.h"
 #include "image/img.h"
+#include "image/pixel_bytes.h"
 
 #include <algorithm>
 
@@ -156,7 +157,7 @@ struct Dimmer {
 
     [[gnu::target("avx2")]] explicit Dimmer(std::uint32_t shift)
         : bits(_mm_cvtsi32_si128(static_cast<std::int32_t>(shift))),
-          kept(_mm256_set1_epi32(static_cast<std::int32_t>((0xFFU >> shift) * 0x010101U))) {}
+          kept(_mm256_set1_epi32(static_cast<std::int32_t>(keptBits(shift)))) {}
 
     [[gnu::target("avx2")]] Eight operator()(Eight pixels) const {
         return _mm256_and_si256(_mm256_srl_epi32(pixels, bits), kept);
@@ -187,10 +188,10 @@ struct Columns {
 
 /// Sums of the channels of the pixels that are at most `reach` away, in 16 bits each, as they slide along a
 /// row.
-class SlidingSums {
+class WideSums {
 public:
     /// They begin with `sum` in every channel, where all that they reach is black yet.
-    [[gnu::target("avx2")]] SlidingSums(Row along, std::int64_t distance, std::uint16_t sum)
+    [[gnu::target("avx2")]] WideSums(Row along, std::int64_t distance, std::uint16_t sum)
         : row(along), reach(distance), wholeBegins(static_cast<std::uint64_t>(
                                            std::max<std::int64_t>(along.width - 2 * distance - eight, 0))),
           last(_mm256_set1_epi16(static_cast<std::int16_t>(sum))) {}
@@ -253,7 +254,7 @@ private:
     for (std::int64_t y = 0; y < std::min(src.height, dst.height); ++y) {
         std::uint32_t* const to = dst.pixels + y * dst.width;
         const Row row = sourceRow(src, y);
-        SlidingSums sums(row, radius, mean.addend);
+        WideSums sums(row, radius, mean.addend);
         for (std::int64_t x = begin; x < 0; x += eight) {
             sums.slideTo(x);
         }
