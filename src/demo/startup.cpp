@@ -10,6 +10,7 @@
 #include "effects/partixel.h"
 #include "foundation/asset.h"
 #include "foundation/chance.h"
+#include "foundation/heap.h"
 #include "image/imgfx.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ constexpr std::uint32_t firstSeed = 8810;
 constexpr std::uint32_t secondSeed = 273880913;
 constexpr std::uint32_t ownGeneratorSeed = 0x6789ABCD;
 constexpr std::int32_t startRate = 30;
+constexpr std::size_t startMemory = 24 << 20; // instruments 15 MiB, pictures 3, and some to spare
 
 IMG* decodeInverted(const ASSET& asset) {
     IMG* const img = assets::decode(asset);
@@ -105,6 +107,7 @@ void makeClock() {
 } // namespace
 
 void VELM4030_init() {
+    reserveHeap(startMemory);
     openDevices();
     makeScreen();
     demo.keyTable = KBD_new();
