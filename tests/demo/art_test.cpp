@@ -138,36 +138,5 @@ TEST(Faces, LettersStandOnCommonLinesAndDigitsAreOfEqualWidth) {
     }
 }
 
-TEST(Faces, MediumStrokesAreTwoPixelsThick) {
-    const Face face = lineFace("medium", assets::font_medium, 16);
-    for (const char c : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789")) {
-        const auto& cell = face.cells[static_cast<std::size_t>(c)];
-        const auto isLit = [&](std::size_t i) { return i < cell.size() && cell[i] != 0; };
-        std::int32_t thin = 0; // as the ends of a diagonal are
-        for (std::size_t i = 0; i < cell.size(); ++i) {
-            const bool isThick = (isLit(i - 1) || isLit(i + 1)) && (isLit(i - 16) || isLit(i + 16));
-            thin += isLit(i) && !isThick ? 1 : 0;
-        }
-        EXPECT_LE(thin, 4) << c;
-    }
-}
-
-TEST(Faces, AccentsTakeLittleOfTheirCapitals) {
-    const Face face = sheetFace("sheet", assets::font_sheet, 16, 16);
-    constexpr std::string_view plain = "AEIOUNY";
-    constexpr std::string_view accented = "\xC0\xC9\xCC\xD2\xDA\xD1\xDD";
-    for (std::size_t i = 0; i < plain.size(); ++i) {
-        const Extent letter = extentOf(face, plain[i]);
-        const Extent both = extentOf(face, accented[i]);
-        EXPECT_EQ(both.bottom, letter.bottom) << plain[i];
-        EXPECT_EQ(both.right - both.left, letter.right - letter.left) << plain[i];
-        const auto& cell = face.cells[static_cast<unsigned char>(accented[i])];
-        const auto gap = std::find(cell.begin() + 32, cell.begin() + 48, 0xFFFFFF);
-        EXPECT_EQ(gap, cell.begin() + 48) << plain[i] << " touches its accent";
-        EXPECT_TRUE(std::any_of(gap, gap + 16, [](auto pixel) { return pixel != 0; }))
-            << plain[i] << " is low";
-    }
-}
-
 } // namespace
 } // namespace velm::test

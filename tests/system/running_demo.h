@@ -14,16 +14,11 @@
 #include "x11_session.h"
 
 #include <csignal>
+#include <iterator>
 #include <optional>
 #include <unistd.h>
 
 namespace velm::test {
-
-/// One picture that the program sent to its window.
-struct Put {
-    std::uint32_t brightest; ///< the largest of its pixels
-    double milliseconds;     ///< since the process began
-};
 
 /// The finished program, started on a server of its own with the spy preloaded.
 class RunningDemo : public testing::Test {
@@ -33,16 +28,11 @@ protected:
 
     void TearDown() override { std::filesystem::remove(spyLog); }
 
-    /// Every picture that the program has sent so far.
-    [[nodiscard]] std::vector<Put> puts() const {
+    /// The largest pixel of every picture that the program has sent so far.
+    [[nodiscard]] std::vector<std::uint32_t> puts() const {
         std::ifstream log(spyLog);
-        std::vector<Put> all;
-        std::string word;
-        double milliseconds = 0;
-        while (log >> word >> milliseconds) {
-            all.push_back({static_cast<std::uint32_t>(std::stoul(word, nullptr, 16)), milliseconds});
-        }
-        return all;
+        log >> std::hex;
+        return {std::istream_iterator<std::uint32_t>(log), {}};
     }
 
     /// Waits until the demo runs its scene and has the keyboard.

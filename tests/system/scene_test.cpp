@@ -56,12 +56,12 @@ TEST_F(SceneTest, SpaceWalksToTheNextScene) {
         session->press("space");
         const bool fades = eventually(
             [&] {
-                const std::vector<Put> all = puts();
+                const std::vector<std::uint32_t> all = puts();
                 std::size_t black = 0;
                 for (std::size_t k = before; k < all.size(); ++k) {
-                    black += all[k].brightest == 0 ? 1 : 0;
+                    black += all[k] == 0 ? 1 : 0;
                 }
-                return black >= 31 && all.back().brightest != 0;
+                return black >= 31 && all.back() != 0;
             },
             4);
         faded += fades ? 1 : 0;

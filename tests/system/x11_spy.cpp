@@ -2,25 +2,15 @@
 // SPDX-License-Identifier: MIT
 //
 // Preloaded into the demo: writes a line to the file that VELM_SPY names for every picture sent to the
-// server, the largest of its pixels (of 32 bits) in hexadecimal and the milliseconds since the process began.
+// server, the largest of its pixels (of 32 bits) in hexadecimal.
 #include <X11/Xlib.h>
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
-#include <time.h>
 
 namespace {
-
-double milliseconds() {
-    timespec now{};
-    clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
-/// When the library was loaded.
-const double begin = milliseconds();
 
 void note(const XImage* image, unsigned int width, unsigned int height) {
     static std::FILE* const log = std::fopen(std::getenv("VELM_SPY"), "a");
@@ -33,7 +23,7 @@ void note(const XImage* image, unsigned int width, unsigned int height) {
         const auto* const pixels = reinterpret_cast<const std::uint32_t*>(image->data);
         brightest = *std::max_element(pixels, pixels + width * height);
     }
-    std::fprintf(log, "%06x %.1f\n", brightest, milliseconds() - begin);
+    std::fprintf(log, "%06x\n", brightest);
     std::fflush(log);
 }
 
