@@ -58,7 +58,7 @@ TEST(PlayKeys, KeepThePictureShowTheKeysAndTheVolumeAndNeverTouchTheFrame) {
     const std::size_t before = contents(stage.spyLog).size();
     stage.session.press("Right");
     EXPECT_TRUE(
-        eventually([&] { return contents(stage.spyLog).find("\n000000 ", before) != std::string::npos; }));
+        eventually([&] { return contents(stage.spyLog).find("\n000000\n", before) != std::string::npos; }));
 }
 
 TEST(PlayKeys, ThatAreHeldActOnce) {
