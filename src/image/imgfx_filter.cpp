@@ -184,10 +184,10 @@ auto meansOf(const IMG& src, std::int32_t radius) {
     return [&src, radius](std::int64_t y, std::uint32_t* to, std::int64_t width) {
         const Mean mean(2 * radius + 1);
         SlidingSums<Lane> sliding{src, y, radius};
+        Sums<Lane> sums{};
         std::int64_t count = 0;
         for (std::int64_t x = -radius; x < width; x += count) {
             count = std::min<std::int64_t>(filterBlock, (x < 0 ? 0 : width) - x);
-            Sums<Lane> sums;
             sliding.slide(x, count, sums);
             if (x >= 0) {
                 storeMeans(sums, mean, to + x, count);
