@@ -6,6 +6,8 @@
 namespace velm::test {
 namespace {
 
+using namespace std::string_literals;
+
 /// Reads exactly these bytes: they stand at the end of a heap block of their own, so that a sanitizer sees a
 /// read past them.
 IMG* decode(const std::string& bytes) {
@@ -44,13 +46,13 @@ std::string decoded(const std::string& bytes) {
     return described(decode(bytes));
 }
 
-TEST(Pnm, ReadsAllSixTypesAndRefusesThemCutShort) {
+TEST(Pnm, IMG_bitmapSetIsWhiteAndAllSixTypesAreReadOrRefusedWhenCutShort) {
     const std::string pictures[][2] = {
         {"P1 8 1 00000001", "8x1: 000000 000000 000000 000000 000000 000000 000000 FFFFFF"},
         {"P2\n2 1\n255\n7 8", "2x1: 070707 080808"},
         {"P3 1 2 255 1 2 3 4,5,6", "1x2: 010203 040506"},
         {"P4 8 1\n\x01", "8x1: 000000 000000 000000 000000 000000 000000 000000 FFFFFF"},
-        {std::string("P5 2 1 255\n\0\x80", 13), "2x1: 000000 808080"},
+        {"P5 2 1 255\n\0\x80"s, "2x1: 000000 808080"},
         {"P6\n# a comment\n1 1\n# and another\n255\nabc", "1x1: 616263"}};
     for (const auto& [bytes, expected] : pictures) {
         const bool isText = bytes[1] <= '3';
@@ -79,36 +81,27 @@ TEST(Pnm, RowsOfEveryWidthAreDecoded) {
     }
 }
 
-TEST(Pnm, HeaderTokens) {
-    EXPECT_EQ(decoded("P6 1 1 255#abc"), "1x1: 616263") << "the separator is not looked at";
-    EXPECT_EQ(decoded("P5\x80\xFF\x7F 1 1 255\na"), "1x1: 616161") << "only printable bytes make tokens";
-    EXPECT_EQ(decoded("P5 1 1 Pa"), "1x1: 616161") << "a second P is a number without digits";
-    EXPECT_EQ(decoded("9 1 P4\n\x80\x80").substr(0, 4), "9x1:") << "a width before the type is not rounded";
-}
-
-TEST(Pnm, IMG_maximumIgnored) {
-    EXPECT_EQ(decoded("P2 1 1 15 15 "), "1x1: 0F0F0F");
-    EXPECT_EQ(decoded("P3 1 1 65535 1 2 3"), "1x1: 010203");
-    EXPECT_EQ(decoded("P5 1 1 1\n\x01"), "1x1: 010101");
-}
-
-TEST(Pnm, IMG_bitmapSetIsWhite) {
-    EXPECT_EQ(decoded("P1 8 1 01000000"), "8x1: 000000 FFFFFF 000000 000000 000000 000000 000000 000000");
-    EXPECT_EQ(decoded("P4 8 1\n\x41"), "8x1: 000000 FFFFFF 000000 000000 000000 000000 000000 FFFFFF");
-}
-
-TEST(Pnm, IMG_bitmapWidthRoundsUp) {
-    const Picture img(decode(std::string("P4 10 2\n\xFF\x3F\x00\xC0", 12)));
-    ASSERT_TRUE(img != nullptr && img->width == 16 && img->height == 2);
-    EXPECT_EQ(IMG_getPixel(img, 15, 0), 0xFFFFFFU) << "fill bits are pixels";
-    EXPECT_EQ(IMG_getPixel(img, 8, 0), 0U);
-    EXPECT_EQ(decoded("P1 1 1 10000000").substr(0, 11), "8x1: FFFFFF");
-}
-
-TEST(Pnm, IMG_samplesSpill) {
-    EXPECT_EQ(decoded("P2 1 1 9 257 "), "1x1: 1010101");
-    EXPECT_EQ(decoded("P2 2 1 255 65536 4294967297"), "2x1: 1010000 010101") << "modulo 2^32";
-    EXPECT_EQ(decoded("P3 1 1 255 0 256 1 "), "1x1: 010001");
+TEST(Pnm, OdditiesAreKept) {
+    const std::string pictures[][3] = {
+        {"the separator is not looked at", "P6 1 1 255#abc", "1x1: 616263"},
+        {"only printable bytes make tokens", "P5\x80\xFF\x7F 1 1 255\na", "1x1: 616161"},
+        {"a second P is a number without digits", "P5 1 1 Pa", "1x1: 616161"},
+        {"a width before the type is not rounded", "9 1 P4\n\x41\x80",
+         "9x1: 000000 FFFFFF 000000 000000 000000 000000 000000 FFFFFF FFFFFF"},
+        {"IMG_maximumIgnored", "P2 1 1 15 15 ", "1x1: 0F0F0F"},
+        {"IMG_maximumIgnored", "P3 1 1 65535 1 2 3", "1x1: 010203"},
+        {"IMG_maximumIgnored", "P5 1 1 1\n\x01", "1x1: 010101"},
+        {"IMG_bitmapWidthRoundsUp", "P1 1 1 10000000",
+         "8x1: FFFFFF 000000 000000 000000 000000 000000 000000 000000"},
+        {"IMG_bitmapWidthRoundsUp: fill bits are pixels", "P4 2 2\n\x81\0"s,
+         "8x2: FFFFFF 000000 000000 000000 000000 000000 000000 FFFFFF"
+         " 000000 000000 000000 000000 000000 000000 000000 000000"},
+        {"IMG_samplesSpill", "P2 1 1 9 257 ", "1x1: 1010101"},
+        {"IMG_samplesSpill modulo 2^32", "P2 2 1 255 65536 4294967297", "2x1: 1010000 010101"},
+        {"IMG_samplesSpill", "P3 1 1 255 0 256 1 ", "1x1: 010001"}};
+    for (const auto& [oddity, bytes, expected] : pictures) {
+        EXPECT_EQ(decoded(bytes), expected) << oddity;
+    }
 }
 
 TEST(Pnm, RefusesWhatIsMalformedOrHostile) {
@@ -140,52 +133,40 @@ TEST(Pnm, RandomBytesNeverCrash) {
     EXPECT_GT(pictures, 100U);
 }
 
-class PnmFile : public testing::Test {
-protected:
-    [[nodiscard]] std::string path(const char* name) const { return folder / name; }
-
+TEST(Pnm, WritesP6ToTheByte) {
     const TemporaryFolder folder;
-};
-
-TEST_F(PnmFile, WritesP6ToTheByte) {
+    const std::string path = folder / "a.ppm";
     const Picture img(IMG_newSized(2, 1));
     img->pixels[0] = 0x0A0D00;
     img->pixels[1] = 0xFF8001;
-    ASSERT_EQ(IMG_writePPM(img, path("a.ppm").c_str()), 1);
-    EXPECT_EQ(contents(path("a.ppm")),
-              std::string("P6\n# VELM(c)Q.V.N.\n2 1\n255\n") + std::string("\x0A\x0D\x00\xFF\x80\x01", 6));
-    EXPECT_EQ(IMG_writePPM(img, path("missing/a.ppm").c_str()), 0);
+    ASSERT_EQ(IMG_writePPM(img, path.c_str()), 1);
+    EXPECT_EQ(contents(path), "P6\n# VELM(c)Q.V.N.\n2 1\n255\n\x0A\x0D\0\xFF\x80\x01"s);
+    EXPECT_EQ(IMG_writePPM(img, (folder / "missing/a.ppm").c_str()), 0);
     if (std::filesystem::exists("/dev/full")) {
         EXPECT_EQ(IMG_writePPM(img, "/dev/full"), 0);
     }
     for (const auto& [width, height] : {std::pair(0, 3), {3, 0}}) {
         IMG_setSize(img, width, height);
-        EXPECT_EQ(IMG_writePPM(img, path("a.ppm").c_str()), 0);
+        EXPECT_EQ(IMG_writePPM(img, path.c_str()), 0);
     }
 }
 
 /// Their tools read what we write, and we read what they write, in every format.
-TEST_F(PnmFile, AgreesWithNetpbm) {
-    const Picture img(noise(24, 9, 11));
-    ASSERT_EQ(IMG_writePPM(img, path("ours.ppm").c_str()), 1);
-    const std::string convert =
-        "cd " + folder.path +
-        " && pnmtoplainpnm ours.ppm > p3 && ppmtoppm < p3 > p6 && ppmtopgm ours.ppm > p5"
-        " && pnmtoplainpnm p5 > p2 && pamthreshold -simple p5 | pamtopnm > p4"
-        " && pnmtoplainpnm p4 > p1";
+TEST(Pnm, AgreesWithNetpbm) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(IMG_writePPM(Picture(noise(24, 9, 11)), (folder / "ours").c_str()), 1);
+    const std::string convert = "cd " + folder.path +
+                                " && pnmtoplainpnm ours > p3 && ppmtoppm < p3 > p6 && ppmtopgm ours > p5"
+                                " && pnmtoplainpnm p5 > p2 && pamthreshold -simple p5 | pamtopnm > p4"
+                                " && pnmtoplainpnm p4 > p1";
     ASSERT_EQ(std::system(convert.c_str()), 0) << "netpbm is missing";
-    const auto read = [this](const char* name) { return decode(contents(path(name))); };
-    for (const char* name : {"p3", "p6"}) {
-        const Picture theirs(read(name));
-        ASSERT_NE(theirs, nullptr) << name;
-        EXPECT_EQ(difference(theirs, img), "") << name;
-    }
-    const char* pairs[][2] = {{"p5", "p2"}, {"p4", "p1"}};
-    for (const auto& [binary, text] : pairs) {
-        const Picture first(read(binary));
-        const Picture second(read(text));
-        ASSERT_TRUE(first != nullptr && second != nullptr) << binary;
-        EXPECT_EQ(difference(first, second), "") << binary;
+    const auto read = [&folder](const char* name) { return decode(contents(folder / name)); };
+    const char* const pairs[][2] = {{"ours", "p3"}, {"ours", "p6"}, {"p5", "p2"}, {"p4", "p1"}};
+    for (const auto& [one, other] : pairs) {
+        const Picture first(read(one));
+        const Picture second(read(other));
+        ASSERT_TRUE(first != nullptr && second != nullptr) << other;
+        EXPECT_EQ(difference(first, second), "") << other;
     }
 }
 

@@ -56,6 +56,13 @@ std::string difference(const IMG* actual, const IMG* expected) {
     return "";
 }
 
+std::string rowText(const IMG* img, std::int32_t y) {
+    std::string text;
+    std::transform(rowOf(*img, y), rowOf(*img, y + 1), std::back_inserter(text),
+                   [](std::uint32_t pixel) { return pixel == 0 ? '.' : static_cast<char>(pixel); });
+    return text;
+}
+
 std::int32_t lit(const IMG* img) {
     const std::int64_t size = std::int64_t{img->width} * img->height;
     return static_cast<std::int32_t>(size - std::count(img->pixels, img->pixels + size, 0U));

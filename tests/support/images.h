@@ -39,8 +39,21 @@ private:
     std::mt19937 engine;
 };
 
+/// Stores rule(x, y, the pixel there) in every pixel, row after row.
+template <typename Rule>
+void paint(IMG* img, Rule rule) {
+    for (std::int32_t y = 0; y < img->height; ++y) {
+        for (std::int32_t x = 0; x < img->width; ++x) {
+            rowOf(*img, y)[x] = rule(x, y, rowOf(*img, y)[x]);
+        }
+    }
+}
+
 /// "" when both have the same size and pixels, else the first difference.
 std::string difference(const IMG* actual, const IMG* expected);
+
+/// The pixels of a row as characters, '.' for black ones.
+std::string rowText(const IMG* img, std::int32_t y);
 
 /// Pixels that are not black.
 std::int32_t lit(const IMG* img);
