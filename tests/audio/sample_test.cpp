@@ -153,31 +153,29 @@ TEST(Sample, SAMPLE_rampStopsShortAndSAMPLE_rampKeepsValuesInPlace) {
     EXPECT_EQ(values(s), (List{9, 9, 100, 83, 50, 16}));
     SAMPLE_ramp(s, 4, -1, 0, 1);
     EXPECT_EQ(values(s), (List{-1, 0, 0, 1, 1, 16}));
+    SAMPLE_ramp(s, 0, 21, 1, 22), SAMPLE_ramp(s, 2, 5, 3, 9);
+    EXPECT_EQ(values(s), (List{21, 21, 5, 7, 1, 16}));
     SAMPLE_setLength(s, 11025);
     SAMPLE_ramp(s, 0, 32767, 11024, 0);
     EXPECT_EQ(s->data[11024], 1);
 }
 
-TEST(Sample, RampsFollowTheStepwiseRule) {
+TEST(Sample, RampsAreTheFirstPixelsOfALinesColumns) {
     Images engine(2);
     const Sample s;
+    const Picture line(IMG_newSized(61, 101));
     for (int round = 0; round < 3000; ++round) {
-        const std::int32_t width = engine.number(1, 60);
-        const std::int32_t from = engine.number(-100, 100);
-        const std::int32_t to = engine.number(-100, 100);
+        const std::int32_t width = engine.number(2, 60);
+        const std::int32_t from = engine.number(0, 100);
+        const std::int32_t to = engine.number(0, 100);
         SAMPLE_setLength(s, width + 1);
         SAMPLE_ramp(s, 0, from, width, to);
-        const std::int32_t height = std::abs(to - from);
-        const bool steep = width <= height;
-        std::int32_t error = (steep ? height : width) >> 1;
-        std::int32_t y = from;
-        for (std::int32_t i = 0; i <= width; ++i) {
-            ASSERT_EQ(s->data[i], y) << from << " to " << to << " over " << width << ", index " << i;
-            for (error -= steep ? 0 : height; steep ? error > 0 : error < 1;
-                 error += steep ? -width : width) {
-                y += to > from ? 1 : -1;
+        IMG_fill(line, 0);
+        IMG_drawLine(line, 0, from, width, to, 1);
+        for (std::int32_t x = 0, y = from; x <= width; ++x) {
+            for (; y != to && IMG_getPixel(line, x, y) == 0; y += to > from ? 1 : -1) {
             }
-            error += steep ? height : 0;
+            ASSERT_EQ(s->data[x], y) << from << " to " << to << " over " << width << ", index " << x;
         }
     }
 }

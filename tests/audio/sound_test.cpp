@@ -17,7 +17,6 @@ TEST(Sound, SineKeepsItsPitchExactly) {
     SOUND_sine(period, 1);
     EXPECT_EQ(period->data[1], 4);
     EXPECT_EQ(period->data[7350], 28377);
-    EXPECT_EQ(period->data[36750], -28377);
     for (std::int32_t i = 1; i < SAMPLE_rate / 2; ++i) {
         ASSERT_EQ(period->data[SAMPLE_rate / 2 - i], period->data[i]);
         ASSERT_EQ(period->data[SAMPLE_rate - i], -period->data[i]);
