@@ -11,13 +11,11 @@ namespace {
 
 /// Every pixel by itself, from the frames that have passed since the place (0, 0).
 std::uint32_t plain(const BACKMOVE& back, std::int32_t frames, std::int32_t x, std::int32_t y) {
-    const auto wave = [](std::int32_t angle, std::int32_t reach) {
-        return (SINE_entry(angle) * reach) >> 15;
-    };
-    const std::int32_t across = wave(back.pathX.phase, back.reachX) +
-                                wave(back.ripple.phase + back.ripple.offsetStep * y, back.rippleReach);
-    const std::int32_t row = positiveModulo(
-        ((frames * back.speedY) >> 16) + wave(back.pathY.phase, back.reachY) + y, back.picture->height);
+    const std::int32_t across = SINE_scaled(back.reachX, back.pathX.phase) +
+                                SINE_scaled(back.rippleReach, back.ripple.phase + back.ripple.offsetStep * y);
+    const std::int32_t row =
+        positiveModulo(((frames * back.speedY) >> 16) + SINE_scaled(back.reachY, back.pathY.phase) + y,
+                       back.picture->height);
     const std::int32_t band = row * back.depths / back.picture->height;
     // Far enough to the right that cutting the quotient off rounds down.
     const std::int64_t whole = std::int64_t{back.depths} * back.picture->width << 24;
@@ -44,9 +42,9 @@ TEST(Backmove, WrapsInBothDirectionsAsThePlainRule) {
                 const Picture actual(noise(50, 40, 5));
                 const Picture expected(noise(50, 40, 6));
                 BACKMOVE_draw(back, actual);
-                for (std::int32_t i = 0; i < 50 * 40; ++i) {
-                    expected->pixels[i] = plain(*back, frame, i % 50, i / 50) & 0xFFFFFF;
-                }
+                paint(expected, [&](std::int32_t x, std::int32_t y, std::uint32_t) {
+                    return plain(*back, frame, x, y) & 0xFFFFFF;
+                });
                 ASSERT_EQ(difference(actual, expected), "")
                     << width << "x" << height << ", depths " << depths << ", frame " << frame;
             }

@@ -8,33 +8,11 @@ namespace {
 
 using Fill = Owned<FILL_delete>;
 
-/// A square of `size` pixels with white walls and one black corridor that winds from the corner to the
-/// middle.
-IMG* spiral(std::int32_t size) {
-    IMG* maze = IMG_newSized(size, size);
-    IMG_fill(maze, 0xFFFFFF);
-    constexpr std::int32_t ways[][2] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    std::int32_t length = size - 1;
-    for (std::int32_t turn = 0; length > 0; ++turn) {
-        const auto& way = ways[turn % 4];
-        IMG_fillRect(maze, std::min(x, x + way[0] * length), std::min(y, y + way[1] * length),
-                     std::abs(way[0] * length) + 1, std::abs(way[1] * length) + 1, 0);
-        x += way[0] * length;
-        y += way[1] * length;
-        length -= turn >= 2 && turn % 2 == 0 ? 2 : 0;
-    }
-    return maze;
-}
-
 /// Walls here and there on a black ground.
 IMG* rubble(std::int32_t width, std::int32_t height, std::uint32_t seed) {
     Images random(seed);
     IMG* img = IMG_newSized(width, height);
-    for (std::int32_t i = 0; i < width * height; ++i) {
-        img->pixels[i] = random.number(0, 99) < 38 ? 0x808080 : 0;
-    }
+    paint(img, [&](auto...) { return random.number(0, 99) < 38 ? 0x808080U : 0U; });
     return img;
 }
 
@@ -44,8 +22,7 @@ void plainFlood(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t from, st
     while (!open.empty()) {
         const auto [column, row] = open.back();
         open.pop_back();
-        const bool inside = column >= 0 && row >= 0 && column < img->width && row < img->height;
-        if (inside && IMG_getPixel(img, column, row) == from) {
+        if (contains(*img, column, row) && IMG_getPixel(img, column, row) == from) {
             IMG_putPixel(img, column, row, colour);
             open.insert(open.end(),
                         {{column - 1, row}, {column + 1, row}, {column, row - 1}, {column, row + 1}});
@@ -55,8 +32,8 @@ void plainFlood(IMG* img, std::int32_t x, std::int32_t y, std::uint32_t from, st
 
 TEST(Fill, PoursStepByStepIntoTheSameArea) {
     const Fill fill(FILL_new());
-    for (std::uint32_t seed = 0; seed < 40; ++seed) {
-        const Picture walls(seed == 0 ? spiral(99) : rubble(4 + static_cast<int>(seed) * 5, 50, seed));
+    for (std::uint32_t seed = 1; seed < 40; ++seed) {
+        const Picture walls(rubble(4 + static_cast<int>(seed) * 5, 50, seed));
         const Picture plain(IMG_clone(walls));
         const Picture poured(IMG_clone(walls));
         FILL_begin(fill, walls);

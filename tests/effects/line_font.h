@@ -29,14 +29,7 @@ struct PixelPen {
     LFONT* operator->() const { return pen; }
 
     /// What stands in a row of the target, '.' where nothing was drawn.
-    [[nodiscard]] std::string row(std::int32_t y) const {
-        std::string text;
-        for (std::int32_t x = 0; x < target->width; ++x) {
-            const std::uint32_t pixel = IMG_getPixel(target, x, y);
-            text += pixel == 0 ? '.' : static_cast<char>(pixel);
-        }
-        return text;
-    }
+    [[nodiscard]] std::string row(std::int32_t y) const { return rowText(target, y); }
 
     Picture target;
     Objects font;

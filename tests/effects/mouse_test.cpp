@@ -26,11 +26,7 @@ struct Mouse : testing::Test {
 
 TEST_F(Mouse, MOUSE_drawGoesOnAndMOUSE_cloneGivesNothing) {
     const Picture expected(noise(32, 32, 2));
-    for (std::int32_t i = 0; i < 16 * 16; ++i) {
-        if (image->pixels[i] != 0) {
-            IMG_putPixel(expected, 30 + i % 16, -2 + i / 16, image->pixels[i]);
-        }
-    }
+    IMG_blit(image, expected, 0, 0, 30, -2, 16, 16);
     MOUSE_draw(mouse);
     EXPECT_EQ(difference(target, expected), "");
     EXPECT_EQ(MOUSE_clone(mouse), nullptr);

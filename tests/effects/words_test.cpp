@@ -56,9 +56,7 @@ TEST(Lscroll, WrapsBothWays) {
                 expected[10 + ((along + one / 2) >> 16)] = static_cast<std::uint32_t>((k % 7 + 7) % 7) + 1;
             }
         }
-        for (std::int32_t x = 0; x < 64; ++x) {
-            ASSERT_EQ(IMG_getPixel(pen.target, x, 4), expected[x]) << "moved by " << moved << ", at " << x;
-        }
+        ASSERT_TRUE(std::equal(expected, expected + 64, rowOf(*pen.target, 4))) << "moved by " << moved;
     }
 }
 
@@ -137,10 +135,22 @@ TEST(Lscrlxyz, ShowsTheFarSideDimAndFromBehind) {
     EXPECT_EQ(difference(pen.target, Picture(IMG_newSized(200, 200))), "");
 }
 
-TEST(Wordzoom, SendsWordByWordAndEnds) {
-    const PixelPen pen(64, 64);
-    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
-    zoom->glyphs = pen->glyphs;
+struct Wordzoom : testing::Test {
+    Wordzoom() { zoom->glyphs = pen->glyphs; }
+
+    /// Brings one word to full size, without a drift.
+    void write(const char* word) const {
+        WORDZOOM_setText(zoom, word);
+        WORDZOOM_advance(zoom);
+        zoom->flights[0].scale = one;
+        zoom->flights[0].driftX = zoom->flights[0].driftY = 0;
+    }
+
+    PixelPen pen{64, 64};
+    Owned<WORDZOOM_delete> zoom{WORDZOOM_new()};
+};
+
+TEST_F(Wordzoom, SendsWordByWordAndEnds) {
     zoom->loop = 0;
     zoom->interval = 3;
     WORDZOOM_setText(zoom, " ONE\n\nTHREE  A ");
@@ -169,17 +179,11 @@ TEST(Wordzoom, SendsWordByWordAndEnds) {
     }
 }
 
-TEST(Wordzoom, DragsEightCopiesAtMost) {
-    const PixelPen pen(64, 64);
-    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
-    zoom->glyphs = pen->glyphs;
+TEST_F(Wordzoom, DragsEightCopiesAtMost) {
     zoom->x = zoom->y = 32;
     zoom->cell = 60;
     zoom->middle = 0;
-    WORDZOOM_setText(zoom, "AB");
-    WORDZOOM_advance(zoom);
-    zoom->flights[0].scale = one;
-    zoom->flights[0].driftX = zoom->flights[0].driftY = 0;
+    write("AB");
     const auto litBy = [&](std::int32_t echoes) {
         zoom->echoes = echoes;
         IMG_fill(pen.target, 0);
@@ -192,18 +196,12 @@ TEST(Wordzoom, DragsEightCopiesAtMost) {
     EXPECT_EQ(litBy(40), 18) << "more would come out on the other side";
 }
 
-TEST(Wordzoom, WritesUprightAtFullSize) {
-    const PixelPen pen(9, 3);
-    const Numbers numbers;
-    const Owned<WORDZOOM_delete> zoom(WORDZOOM_new());
-    makePlain<WORDZOOM>(zoom, pen, numbers);
-    WORDZOOM_setText(zoom, "ABC");
-    WORDZOOM_advance(zoom);
-    zoom->flights[0].scale = one;
-    zoom->flights[0].driftX = zoom->flights[0].driftY = zoom->echoes = 0;
+TEST_F(Wordzoom, WritesUprightAtFullSize) {
     zoom->cell = 2;
     zoom->middle = 1;
     zoom->x = 4, zoom->y = 2;
+    zoom->echoes = 0;
+    write("ABC");
     WORDZOOM_draw(zoom, pen.target);
     for (std::int32_t x = 0; x < 9; ++x) {
         EXPECT_EQ(IMG_getPixel(pen.target, x, 1) != 0, x == 1 || x == 3 || x == 5) << x;
