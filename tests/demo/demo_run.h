@@ -20,7 +20,6 @@ namespace velm::test {
 struct StartupRecord {
     bool wasEarly = false; ///< neither fonts nor music existed when the first picture was shown
     RANDOM generator{};
-    std::int32_t targetRate = 0;
 };
 
 /// Starts the demo, the first time it is called in this process.
@@ -33,7 +32,6 @@ inline const StartupRecord& startDemo() {
         VELM4030_init();
         headless.onFrame = nullptr;
         first.generator = *demo.random;
-        first.targetRate = demo.fps->targetRate;
         return first;
     }();
     return record;

@@ -11,7 +11,7 @@ namespace velm::test {
 namespace {
 
 /// What the scenes of these tests say when they run.
-std::vector<std::string> played;
+std::string played;
 PROGRAMME* keyed = nullptr;
 
 /// Frames of a picture that is white all over, until something ends them.
@@ -29,9 +29,9 @@ constexpr SCENE keyedScene(std::string_view name) {
     return {name, "", [] { (keys(*keyed), ...), runWhite(); }};
 }
 
-const SCENE a = {"a", "", [] { played.emplace_back("a"); }};
-const SCENE b = {"b", "", [] { played.emplace_back("b"); }};
-const SCENE c = {"c", "", [] { played.emplace_back("c"); }};
+const SCENE a = {"a", "", [] { played += 'a'; }};
+const SCENE b = {"b", "", [] { played += 'b'; }};
+const SCENE c = {"c", "", [] { played += 'c'; }};
 
 PROGRAMME programmeOf(std::initializer_list<const SCENE*> scenes) {
     PROGRAMME programme;
@@ -47,11 +47,7 @@ std::string playParts(PROGRAMME& programme, int count) {
     for (int i = 0; i < count; ++i) {
         PROGRAMME_playPart(programme);
     }
-    std::string names;
-    for (const std::string& name : played) {
-        names += name;
-    }
-    return names;
+    return played;
 }
 
 class ProgrammeTest : public testing::Test {
@@ -142,7 +138,7 @@ TEST_F(ProgrammeTest, AKeyBetweenTwoScenesEndsNoneOfThem) {
 
 TEST_F(ProgrammeTest, GoesToAPlaceAndOnFromThere) {
     static const SCENE jumping = {"j", "", [] {
-                                      played.emplace_back("j");
+                                      played += 'j';
                                       PROGRAMME_goTo(*keyed, 3), PROGRAMME_goTo(*keyed, 2);
                                       runWhite();
                                   }};
