@@ -4,8 +4,6 @@
 // The finished program with sound devices that block or lie.
 #include "running_demo.h"
 
-#include <sys/stat.h>
-
 namespace velm::test {
 namespace {
 
@@ -27,21 +25,9 @@ protected:
     }
 };
 
-/// A pipe that nobody reads: to open it waits until somebody does.
-struct Fifo {
-    std::string path = temporaryFile();
-    Fifo() {
-        std::filesystem::remove(path);
-        mkfifo(path.c_str(), 0600);
-    }
-    ~Fifo() { std::filesystem::remove(path); }
-    Fifo(const Fifo&) = delete;
-    Fifo& operator=(const Fifo&) = delete;
-};
-
-class DeviceThatNeverOpens : private Fifo, public FaultyDevice {
+class DeviceThatNeverOpens : public FaultyDevice {
 protected:
-    DeviceThatNeverOpens() : FaultyDevice(Fifo::path) {}
+    DeviceThatNeverOpens() : FaultyDevice("closed") {}
 };
 
 TEST_F(DeviceThatNeverOpens, CostsTheSoundAlone) {

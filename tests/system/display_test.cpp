@@ -3,6 +3,7 @@
 //
 // The window modules against a real X server, at the depth that VELM_TEST_DEPTH names.
 #include "platform/xdpy.h"
+#include "platform/xkbd.h"
 #include "platform/xptr.h"
 #include "process.h"
 #include "support/owned.h"
@@ -145,6 +146,25 @@ TEST_F(DisplayTest, TheSystemPointerIsInvisibleOverTheWindowOnly) {
     }));
     session.movePointer(400, 400);
     EXPECT_TRUE(eventually([&] { return session.cursorIsVisible(); }));
+}
+
+TEST_F(DisplayTest, TheArrowsOfAnyKeymapHaveTheirCodesAndNoOtherKeyDoes) {
+    XKBD* const keyboard = XKBD_new();
+    session.movePointer(128, 128);
+    const std::pair<const char*, std::int32_t> keys[] = {{"Down", XKBD_down},
+                                                         {"KP_Down", XKBD_down},
+                                                         {"KP_Enter", 0}, // it has the code of an arrow
+                                                         {"Up", XKBD_up},
+                                                         {"KP_Up", XKBD_up}};
+    for (const auto& [key, keycode] : keys) {
+        keyboard->keycode = -1;
+        session.press(key);
+        EXPECT_TRUE(eventually([&] {
+            XKBD_poll(keyboard);
+            return keyboard->keycode != -1;
+        }));
+        EXPECT_EQ(keyboard->keycode, keycode) << key;
+    }
 }
 
 } // namespace

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The VELM4030 developers
 // SPDX-License-Identifier: MIT
 //
-// Preloaded into the demo: a sound device with a fault, which VELM_DEVICE names. "huge" asks for blocks of
-// two gigabytes, "hanging" never takes one; anything else is the path of a file to open in place of
-// "/dev/dsp".
+// Preloaded into the demo: a sound device with a fault, which VELM_DEVICE names. "closed" never opens,
+// "huge" asks for blocks of two gigabytes, "hanging" never takes one.
 #include <cstdarg>
 #include <cstdint>
 #include <cstdlib>
@@ -32,8 +31,8 @@ extern "C" int open(const char* path, int flags, ...) {
     if (std::strcmp(path, "/dev/dsp") != 0) {
         return real(path, flags, mode);
     }
-    if (fault() != "huge" && fault() != "hanging") {
-        return real(fault().data(), flags, mode);
+    while (fault() == "closed") {
+        pause();
     }
     return device = real("/dev/null", flags, mode);
 }

@@ -14,7 +14,6 @@
 #include "x11_session.h"
 
 #include <csignal>
-#include <iterator>
 #include <optional>
 #include <unistd.h>
 
@@ -28,11 +27,10 @@ protected:
 
     void TearDown() override { std::filesystem::remove(spyLog); }
 
-    /// The largest pixel of every picture that the program has sent so far.
-    [[nodiscard]] std::vector<std::uint32_t> puts() const {
+    /// The largest pixel of every picture that the program has sent so far, in hexadecimal.
+    [[nodiscard]] std::vector<std::string> puts() const {
         std::ifstream log(spyLog);
-        log >> std::hex;
-        return {std::istream_iterator<std::uint32_t>(log), {}};
+        return {std::istream_iterator<std::string>(log), {}};
     }
 
     /// Waits until the demo runs its scene and has the keyboard.
