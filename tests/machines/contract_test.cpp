@@ -11,6 +11,7 @@
 #include "platform/xptr.h"
 #include "platform/xsnd.h"
 #include "process.h"
+#include "pulse_server.h"
 #include "support/owned.h"
 
 #include <csignal>
@@ -152,21 +153,21 @@ TEST_F(MachineTest, TellsWhichOfThreeButtonsAreHeld) {
             << " is not " << buttons << " and the bit that is left alone";
     };
     for (const int button : {1, 2, 3}) {
-        hands().hold(button);
+        hands().setButton(button, true);
         expectButtons(1 << (button - 1));
         pointer->buttons = 8;
         XPTR_query(pointer);
         EXPECT_EQ(pointer->buttons, 8 | 1 << (button - 1)) << "a query tells what is, not what has come";
-        hands().letGo(button);
+        hands().setButton(button, false);
         expectButtons(0);
     }
-    hands().hold(1);
+    hands().setButton(1, true);
     expectButtons(1);
-    hands().hold(3);
+    hands().setButton(3, true);
     expectButtons(5);
-    hands().letGo(1);
+    hands().setButton(1, false);
     expectButtons(4);
-    hands().letGo(3);
+    hands().setButton(3, false);
     expectButtons(0);
 }
 
@@ -275,10 +276,8 @@ protected:
         for (std::int32_t i = 0; i < SAMPLE_rate; ++i) {
             SAMPLE_append(bar, random.number(-9000, 9000));
         }
-        for (SAMPLE* const sample :
-             {static_cast<SAMPLE*>(silence), static_cast<SAMPLE*>(bar), static_cast<SAMPLE*>(silence)}) {
-            LIST_append(sound->queue, sample);
-        }
+        LIST_append(sound->queue, silence), LIST_append(sound->queue, bar);
+        LIST_append(sound->queue, silence);
     }
 
     /// Plays as the demo does, a block a frame, until so many frames are over or the queue is.
@@ -305,16 +304,13 @@ protected:
 
     /// True when a stretch of the noise was heard: a machine under load may miss some.
     [[nodiscard]] bool isHeard() const {
-        const std::vector<std::int16_t> heard = hands().heard();
+        const Sound heard = hands().heard();
         constexpr std::int32_t length = 1000;
-        for (std::int32_t at = 0; at + length <= bar->length; at += 4 * length) {
-            const auto near = [](std::int32_t a, std::int32_t b) { return std::abs(a - b) <= 1; };
-            const std::int32_t* const stretch = bar->data + at;
-            if (std::search(heard.begin(), heard.end(), stretch, stretch + length, near) != heard.end()) {
-                return true;
-            }
+        bool isFound = false;
+        for (std::int32_t at = 0; !isFound && at + length <= bar->length; at += 4 * length) {
+            isFound = contains(heard, Sound(bar->data + at, bar->data + at + length), 0);
         }
-        return false;
+        return isFound;
     }
 
     Owned<SAMPLE_delete> bar{SAMPLE_new()};
@@ -323,7 +319,7 @@ protected:
 };
 
 TEST_F(MachineSoundTest, WhatTheDeviceTakesIsHeard) {
-    hands().bringSound();
+    hands().setSound(true);
     open();
     ASSERT_GE(sound->fd, 0);
     EXPECT_EQ(sound->blockSamples, sound->blockSize / 2);
@@ -334,7 +330,7 @@ TEST_F(MachineSoundTest, WhatTheDeviceTakesIsHeard) {
 }
 
 TEST_F(MachineSoundTest, TheBlockFollowsTheFrameRateWhereTheDeviceLetsIt) {
-    hands().bringSound();
+    hands().setSound(true);
     open();
     ASSERT_GE(sound->fd, 0);
     for (const std::int32_t rate : {60, 30, 60}) {
@@ -351,7 +347,7 @@ TEST_F(MachineSoundTest, TheBlockFollowsTheFrameRateWhereTheDeviceLetsIt) {
 }
 
 TEST_F(MachineSoundTest, WithoutADeviceNothingWaits) {
-    hands().takeSoundAway();
+    hands().setSound(false);
     open();
     XSND_setFrameRate(sound, 60);
     EXPECT_LT(usualWait(100), quick);
@@ -364,12 +360,12 @@ TEST_F(MachineSoundTest, WithoutADeviceNothingWaits) {
 }
 
 TEST_F(MachineSoundTest, ADeviceThatIsLostCostsOnlySilence) {
-    hands().bringSound();
+    hands().setSound(true);
     open();
     ASSERT_GE(sound->fd, 0);
     constexpr int second = 30;
     play(second);
-    hands().takeSoundAway();
+    hands().setSound(false);
     EXPECT_LT(usualWait(2 * second), quick);
 }
 

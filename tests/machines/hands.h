@@ -23,21 +23,19 @@ public:
 
     /// Presses a key and lets it go: a letter, "Escape", "Up".
     virtual void press(const std::string& key) = 0;
-    /// Presses the window's close button.
-    virtual void pressClose() = 0;
+    /// Presses the window's close button, where the window is the machine's to close.
+    virtual void pressClose() { press("Escape"); }
 
     /// Moves the pointer to a pixel of the picture.
     virtual void point(int x, int y) = 0;
     /// Holds a button, 1 to 3, or lets it go.
-    virtual void hold(int button) = 0;
-    virtual void letGo(int button) = 0;
+    virtual void setButton(int button, bool isHeld) = 0;
 
     /// The 256 x 256 pixels that can be seen now, row by row; empty without a window.
     [[nodiscard]] virtual std::vector<std::uint32_t> seen() = 0;
 
     /// From now on there is a sound device, or none.
-    virtual void bringSound() = 0;
-    virtual void takeSoundAway() = 0;
+    virtual void setSound(bool isThere) = 0;
     /// Every sample that was heard since it was brought.
     [[nodiscard]] virtual std::vector<std::int16_t> heard() = 0;
 

@@ -24,29 +24,24 @@ public:
         const char text = key == "Escape" ? escape : key.size() == 1 ? key[0] : '\0';
         headless.keys.push_back({headless.frames, text, key == "Up" ? XKBD_up : anyKeycode});
     }
-    void pressClose() override { press("Escape"); } // it has no window, so nothing else to close
 
     void point(int x, int y) override {
         place.x = x;
         place.y = y;
         tell();
     }
-    void hold(int button) override {
-        place.buttons |= 1 << (button - 1);
-        tell();
-    }
-    void letGo(int button) override {
-        place.buttons &= ~(1 << (button - 1));
+    void setButton(int button, bool isHeld) override {
+        const int bit = 1 << (button - 1);
+        place.buttons = isHeld ? place.buttons | bit : place.buttons & ~bit;
         tell();
     }
 
     std::vector<std::uint32_t> seen() override { return picture; }
 
-    void bringSound() override {
-        headless.hasSound = true;
+    void setSound(bool isThere) override {
+        headless.hasSound = isThere;
         sound.clear();
     }
-    void takeSoundAway() override { headless.hasSound = false; }
     std::vector<std::int16_t> heard() override { return sound; }
 
     void tidy() override { picture.clear(); }

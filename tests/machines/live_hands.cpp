@@ -25,19 +25,15 @@ public:
     void press(const std::string& key) override {
         key == "Escape" ? side.press("\x1b", 0) : key == "Up" ? side.press("", XKBD_up) : side.press(key, 0);
     }
-    void pressClose() override { press("Escape"); } // the window's own is not the program's to know
 
     void point(int x, int y) override {
         pointer.x = x;
         pointer.y = y;
         side.point(pointer);
     }
-    void hold(int button) override {
-        pointer.buttons |= 1 << (button - 1);
-        side.point(pointer);
-    }
-    void letGo(int button) override {
-        pointer.buttons &= ~(1 << (button - 1));
+    void setButton(int button, bool isHeld) override {
+        const int bit = 1 << (button - 1);
+        pointer.buttons = isHeld ? pointer.buttons | bit : pointer.buttons & ~bit;
         side.point(pointer);
     }
 
@@ -46,14 +42,10 @@ public:
         return picture;
     }
 
-    void bringSound() override {
+    void setSound(bool isThere) override {
         const std::lock_guard lock(mutex);
-        hasSound = true;
+        hasSound = isThere;
         sound.clear();
-    }
-    void takeSoundAway() override {
-        const std::lock_guard lock(mutex);
-        hasSound = false;
     }
     std::vector<std::int16_t> heard() override {
         const std::lock_guard lock(mutex);

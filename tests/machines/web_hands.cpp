@@ -22,11 +22,9 @@ public:
         : key == "Up"   ? WEB_press("", XKBD_up)
                         : WEB_press(key.c_str(), 1);
     }
-    void pressClose() override { press("Escape"); } // a page that is closed is gone
 
     void point(int x, int y) override { WEB_point(x, y); }
-    void hold(int button) override { WEB_button(button, true); }
-    void letGo(int button) override { WEB_button(button, false); }
+    void setButton(int button, bool isHeld) override { WEB_button(button, isHeld); }
 
     std::vector<std::uint32_t> seen() override {
         std::vector<std::uint32_t> pixels;
@@ -37,11 +35,10 @@ public:
         return pixels;
     }
 
-    void bringSound() override {
-        hasSound = true;
+    void setSound(bool isThere) override {
+        hasSound = isThere;
         sound.clear();
     }
-    void takeSoundAway() override { hasSound = false; }
     std::vector<std::int16_t> heard() override { return sound; }
 
     void tidy() override { canvas.clear(); }

@@ -32,8 +32,9 @@ public:
         const Place place = picture();
         session.movePointer(place.x + x * place.scale, place.y + y * place.scale);
     }
-    void hold(int button) override { session.clickDown(button); }
-    void letGo(int button) override { session.clickUp(button); }
+    void setButton(int button, bool isHeld) override {
+        session.xdotool({isHeld ? "mousedown" : "mouseup", std::to_string(button)});
+    }
 
     std::vector<std::uint32_t> seen() override {
         const Place place = picture();
@@ -53,12 +54,11 @@ public:
         return all;
     }
 
-    void bringSound() override {
-        sound.startServer();
-        EXPECT_TRUE(eventually([this] { return !sound.recorded().empty(); })) << "nobody listens";
-    }
-    void takeSoundAway() override {
-        if (sound.pulseaudio != nullptr) {
+    void setSound(bool isThere) override {
+        if (isThere) {
+            sound.startServer();
+            EXPECT_TRUE(eventually([this] { return !sound.recorded().empty(); })) << "nobody listens";
+        } else if (sound.pulseaudio != nullptr) {
             sound.pulseaudio->signal(9);
         }
     }

@@ -71,10 +71,10 @@ protected:
         return static_cast<double>(last - first) / (secondsNow() - begin);
     }
     /// Child processes of the window that are there, dead ones, too.
-    [[nodiscard]] std::size_t children() const {
-        std::ifstream list("/proc/" + std::to_string(live->id()) + "/task/" + std::to_string(live->id()) +
-                           "/children");
-        return static_cast<std::size_t>(std::distance(std::istream_iterator<int>(list), {}));
+    [[nodiscard]] std::vector<std::string> children() const {
+        const std::string id = std::to_string(live->id());
+        std::ifstream list("/proc/" + id + "/task/" + id + "/children");
+        return {std::istream_iterator<std::string>(list), {}};
     }
     [[nodiscard]] std::size_t countIn(const fs::path& place) const {
         return static_cast<std::size_t>(std::distance(fs::recursive_directory_iterator(place), {}));
@@ -114,7 +114,6 @@ TEST_F(Live, WhatFailsCostsTheNewVersionAlone) {
     EXPECT_TRUE(says("ended with status 3"));
     save(7);
     EXPECT_TRUE(shows(7)) << live->output() << live->errors();
-    std::printf("%s", live->output().c_str());
 }
 
 TEST_F(Live, TheTutorialsFirstFilePlays) {
@@ -123,7 +122,6 @@ TEST_F(Live, TheTutorialsFirstFilePlays) {
     EXPECT_TRUE(says("undefined reference to `main'"));
     fs::copy_file(VELM_TUTORIAL, folder / "main.cpp", fs::copy_options::overwrite_existing);
     EXPECT_TRUE(eventually([&] { return live->output().find("playing") != std::string::npos; }, 60));
-    std::printf("the tutorial: %s", live->output().c_str());
     live->signal(SIGTERM);
     EXPECT_EQ(live->waitForExit(), 0) << live->output() << live->errors();
 }
@@ -259,7 +257,7 @@ TEST_F(Live, TwentySavesInARowLeaveNothingBehind) {
     ASSERT_TRUE(shows(2));
     const std::size_t files = countIn(folder);
     const std::size_t open = descriptors();
-    EXPECT_EQ(children(), 2U) << "the seen one and the one before";
+    EXPECT_EQ(children().size(), 2U) << "the seen one and the one before";
     for (int number = 11; number <= 30; ++number) {
         save(number, number % 4 == 0 ? "no C++" : "");
         if (number % 5 == 0) {
@@ -268,18 +266,15 @@ TEST_F(Live, TwentySavesInARowLeaveNothingBehind) {
     }
     EXPECT_TRUE(shows(30)) << live->output() << live->errors();
     EXPECT_TRUE(eventually([&] {
-        return children() == 2 && descriptors() == open && countIn(folder) == files;
-    })) << children()
+        return children().size() == 2 && descriptors() == open && countIn(folder) == files;
+    })) << children().size()
         << " children, " << descriptors() << " descriptors, " << countIn(folder) << " files";
-    const std::string path =
-        "/proc/" + std::to_string(live->id()) + "/task/" + std::to_string(live->id()) + "/children";
-    std::ifstream list(path);
-    const std::vector<int> programs{std::istream_iterator<int>(list), {}};
+    const std::vector<std::string> programs = children();
     live->signal(SIGTERM);
     EXPECT_EQ(live->waitForExit(), 0);
     EXPECT_EQ(countIn(folder), 1U) << "the source alone";
-    for (const int program : programs) {
-        EXPECT_FALSE(fs::exists("/proc/" + std::to_string(program)));
+    for (const std::string& program : programs) {
+        EXPECT_FALSE(fs::exists("/proc/" + program));
     }
 }
 

@@ -8,6 +8,7 @@
 #include <random>
 #include <stdexcept>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -138,8 +139,10 @@ Child::~Child() {
 }
 
 bool Child::isRunning() {
-    if (!ended && waitpid(pid, &status, WNOHANG) == pid) {
+    rusage used{};
+    if (!ended && wait4(pid, &status, WNOHANG, &used) == pid) {
         ended = true;
+        peak = std::max(peak, used.ru_maxrss);
     }
     if (!ended) {
         peak = std::max(peak, statusOf(pid, "VmHWM:")); // which it has no more once it is dead

@@ -38,7 +38,7 @@ public:
 
     [[nodiscard]] std::string output() const { return contents(outputPath); }
     [[nodiscard]] std::string errors() const { return contents(errorPath); }
-    /// The most resident memory that it had when it was last seen running.
+    /// The most resident memory that it has had; while it runs, up to when it was last seen running.
     [[nodiscard]] long peakKilobytes() const { return peak; }
     /// The processor time that it and its own children that still run have used, in seconds.
     [[nodiscard]] double processorSeconds() const;

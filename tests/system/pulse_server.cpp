@@ -11,11 +11,7 @@ namespace {
 constexpr std::size_t windowLength = 400;
 
 double energy(const std::int16_t* begin) {
-    double sum = 0;
-    for (std::size_t i = 0; i < windowLength; ++i) {
-        sum += static_cast<double>(begin[i]) * begin[i];
-    }
-    return sum;
+    return std::inner_product(begin, begin + windowLength, begin, 0.0);
 }
 
 } // namespace
@@ -46,16 +42,11 @@ bool isSilent(const Sound& sound) {
     return std::all_of(sound.begin(), sound.end(), [](std::int16_t s) { return s == 0; });
 }
 
-std::size_t find(const Sound& recording, const Sound& stretch, std::size_t from) {
+bool contains(const Sound& recording, const Sound& stretch, std::size_t from) {
     constexpr int tolerance = 1;
     const auto near = [](std::int16_t a, std::int16_t b) { return std::abs(a - b) <= tolerance; };
     const auto begin = recording.begin() + static_cast<std::ptrdiff_t>(std::min(from, recording.size()));
-    return static_cast<std::size_t>(
-        std::search(begin, recording.end(), stretch.begin(), stretch.end(), near) - recording.begin());
-}
-
-bool contains(const Sound& recording, const Sound& stretch, std::size_t from) {
-    return find(recording, stretch, from) != recording.size();
+    return std::search(begin, recording.end(), stretch.begin(), stretch.end(), near) != recording.end();
 }
 
 void PulseServer::startServer() {

@@ -26,9 +26,8 @@ Sound loudestWindow(const Sound& sound);
 /// True when it holds nothing but zeros.
 bool isSilent(const Sound& sound);
 
-/// Where the stretch stands in the recording from an index on, give or take the rounding of a server's
-/// volume; the recording's length when it does not.
-std::size_t find(const Sound& recording, const Sound& stretch, std::size_t from);
+/// True when the stretch stands in the recording from an index on, give or take the rounding of a server's
+/// volume.
 bool contains(const Sound& recording, const Sound& stretch, std::size_t from);
 
 class PulseServer {

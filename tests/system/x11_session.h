@@ -37,8 +37,6 @@ public:
     /// Real key presses and pointer moves, through the server's test extension.
     void press(const std::string& key) const { xdotool({"key", key}); }
     void movePointer(int x, int y) const { xdotool({"mousemove", std::to_string(x), std::to_string(y)}); }
-    void clickDown(int button) const { xdotool({"mousedown", std::to_string(button)}); }
-    void clickUp(int button) const { xdotool({"mouseup", std::to_string(button)}); }
 
     /// Sends the window an event, over and over, and waits until the server has passed them on.
     void send(::Window window, XEvent event, long mask, int times = 1) const;
